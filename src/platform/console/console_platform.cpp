@@ -1,0 +1,58 @@
+#include "platform/console/console_platform.h"
+
+#include <cstdio>
+#include <ctime>
+
+#include "platform/codepage.h"
+#include "platform/text.h"
+
+namespace telarium {
+namespace {
+
+volatile std::sig_atomic_t interruzione = 0;
+
+void SegnaInterruzione(int) {
+  interruzione = 1;
+}
+
+}  // namespace
+
+Risposta UtenteConsole::MostraMessaggio(const Messaggio& messaggio) {
+  const std::string riga = AUtf8(SenzaInterruzioni(messaggio.testo)) + "\n";
+  std::fwrite(riga.data(), 1, riga.size(), stderr);
+  const bool siNo =
+      messaggio.pulsanti == Pulsanti::SiNo || messaggio.pulsanti == Pulsanti::SiNoAnnulla;
+  return siNo ? Risposta::Si : Risposta::Ok;
+}
+
+std::optional<std::string> UtenteConsole::ChiediTesto(const std::string&) {
+  return std::nullopt;
+}
+
+Risposta UtenteConsole::ChiediVicoloCieco(const std::string& testo) {
+  MostraMessaggio({.testo = testo});
+  return risposte_.vicoloCieco;
+}
+
+bool UtenteConsole::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) {
+  return !interruzione && avanzamento.tentativo <= risposte_.tentativi;
+}
+
+void AscoltaInterruzione() {
+  std::signal(SIGINT, SegnaInterruzione);
+}
+
+std::chrono::year_month_day MacchinaConsole::Oggi() {
+  const std::time_t adesso = std::time(nullptr);
+  std::tm locale{};
+  ::localtime_r(&adesso, &locale);
+  return std::chrono::year(locale.tm_year + 1900) /
+         std::chrono::month(static_cast<unsigned>(locale.tm_mon) + 1) /
+         std::chrono::day(static_cast<unsigned>(locale.tm_mday));
+}
+
+std::error_code MacchinaConsole::EseguiComando(const Percorso&, const std::vector<std::string>&) {
+  return std::make_error_code(std::errc::not_supported);
+}
+
+}  // namespace telarium

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <csignal>
+#include <cstdint>
+#include <exception>
+
+#include "platform/common/random_source.h"
+#include "platform/platform.h"
+
+// The platform of `telar`: messages go to standard error, answers come from the command line.
+namespace telarium {
+
+/// Thrown by TerminaProgramma, for `main` to end with exit status 1.
+class ProgrammaTerminato : public std::exception {
+ public:
+  const char* what() const noexcept override { return "programma terminato"; }
+};
+
+/// What the command line says of a fill.
+struct RispostePerEstrazione {
+  Risposta vicoloCieco = Risposta::Si;
+  std::int64_t tentativi = 1000;  // starts of the clearing step before it is given up
+};
+
+/// Each message is one line of UTF-8 on standard error, line breaks as blanks. Questions get the
+/// answer that goes on: OK, or Yes.
+class UtenteConsole : public Utente {
+ public:
+  void ImpostaRisposte(const RispostePerEstrazione& risposte) { risposte_ = risposte; }
+
+  Risposta MostraMessaggio(const Messaggio& messaggio) override;
+  std::optional<std::string> ChiediTesto(const std::string& richiesta) override;
+  Risposta ChiediVicoloCieco(const std::string& testo) override;
+  /// False when Ctrl+C was pressed (see AscoltaInterruzione) or the attempts are used up.
+  bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
+  void FormaPuntatore(int) override {}
+  void SegnaleAcustico() override {}
+  void CediAiMessaggi() override {}
+
+ private:
+  RispostePerEstrazione risposte_;
+};
+
+/// From now on Ctrl+C no longer ends the process: it sets a flag that ContinuaEstrazione reads.
+void AscoltaInterruzione();
+
+/// Clock and random numbers. The console opens no programs, keeps no settings and sends no mail.
+class MacchinaConsole : public Macchina {
+ public:
+  std::chrono::year_month_day Oggi() override;
+  double Casuale() override { return casuali_.Prossimo(); }
+  std::error_code EseguiComando(const Percorso&, const std::vector<std::string>&) override;
+  bool Apri(const std::string&) override { return false; }
+  bool ApriInWord(const Percorso&) override { return false; }
+  bool PreparaMail(const Mail&) override { return false; }
+  std::optional<std::string> Preleva(const std::string&) override { return std::nullopt; }
+  std::optional<std::string> LeggiImpostazione(const std::string&) override { return std::nullopt; }
+  void ScriviImpostazione(const std::string&, const std::string&) override {}
+
+ private:
+  SorgenteCasuale casuali_;
+};
+
+class PiattaformaConsole : public Piattaforma {
+ public:
+  UtenteConsole& ChiUsa() override { return utente_; }
+  Macchina& Sistema() override { return macchina_; }
+  Superficie* FinestraPrincipale() override { return nullptr; }
+  void Termina() override { throw ProgrammaTerminato(); }
+
+ private:
+  UtenteConsole utente_;
+  MacchinaConsole macchina_;
+};
+
+}  // namespace telarium

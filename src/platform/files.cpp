@@ -1,0 +1,249 @@
+#include "platform/files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/codepage.h"
+#include "platform/descriptor.h"
+#include "platform/text.h"
+
+namespace telarium {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::error_code UltimoErrore() {
+  return {errno, std::generic_category()};
+}
+
+std::error_code ScriviTutto(int file, std::string_view contenuto) {
+  while (!contenuto.empty()) {
+    const ssize_t scritti = ::write(file, contenuto.data(), contenuto.size());
+    if (scritti < 0 && errno == EINTR) continue;
+    if (scritti < 0) return UltimoErrore();
+    contenuto.remove_prefix(static_cast<std::size_t>(scritti));
+  }
+  return {};
+}
+
+std::error_code ScriviDirettamente(const Percorso& nome, std::string_view contenuto) {
+  Descrittore file(::open(nome.c_str(), O_WRONLY | O_CLOEXEC));
+  if (!file) return UltimoErrore();
+  return ScriviTutto(file.Numero(), contenuto);
+}
+
+// The rights that the new file shall have: those of the file that it replaces, or the usual ones.
+mode_t DirittiPer(const Percorso& nome) {
+  struct stat stato {};
+  if (::stat(nome.c_str(), &stato) == 0) return stato.st_mode & 07777;
+  const mode_t maschera = ::umask(0);
+  ::umask(maschera);
+  return 0666 & ~maschera;
+}
+
+// A file beside the one to be written, removed again unless it took that one's place.
+class FileAccanto {
+ public:
+  FileAccanto(const Percorso& definitivo, const Percorso& accanto) : definitivo_(definitivo) {
+    accanto.empty() ? CreaConNomeNuovo() : Crea(accanto);
+  }
+
+  ~FileAccanto() {
+    if (!nome_.empty()) ::unlink(nome_.c_str());
+  }
+
+  FileAccanto(const FileAccanto&) = delete;
+  FileAccanto& operator=(const FileAccanto&) = delete;
+
+  std::error_code Scrivi(std::string_view contenuto, Permanenza permanenza) {
+    if (!file_) return UltimoErrore();
+    if (const auto errore = ScriviTutto(file_.Numero(), contenuto)) return errore;
+    if (::fchmod(file_.Numero(), DirittiPer(definitivo_)) != 0) return UltimoErrore();
+    if (permanenza == Permanenza::SulDisco && ::fsync(file_.Numero()) != 0) return UltimoErrore();
+    return file_.Chiudi();
+  }
+
+  std::error_code PrendiIlPosto() {
+    if (::rename(nome_.c_str(), definitivo_.c_str()) != 0) return UltimoErrore();
+    nome_.clear();
+    return {};
+  }
+
+ private:
+  void CreaConNomeNuovo() {
+    const std::string nome = Unisci('.', definitivo_.filename().string(), ".XXXXXX");
+    std::string modello = (definitivo_.parent_path() / nome).string();
+    file_ = Descrittore(::mkostemp(modello.data(), O_CLOEXEC));
+    if (file_) nome_ = modello;
+  }
+
+  void Crea(const Percorso& nome) {
+    ::unlink(nome.c_str());
+    file_ = Descrittore(::open(nome.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (file_) nome_ = nome;
+  }
+
+  Percorso definitivo_;
+  Percorso nome_;
+  Descrittore file_;
+};
+
+// The rename itself reaches the disk with the folder. A file system that cannot do this has done
+// all it can.
+void FissaCartella(const Percorso& cartella) {
+  Descrittore aperta(::open(cartella.empty() ? "." : cartella.c_str(), O_RDONLY | O_CLOEXEC));
+  if (aperta) ::fsync(aperta.Numero());
+}
+
+std::string InMaiuscole(const Percorso& nome) {
+  if (const auto testo = DaUtf8Esatto(nome.string())) return Maiuscole(*testo);
+  return nome.string();  // a name that the code page cannot write is compared by its bytes
+}
+
+bool CorrispondeAlModello(std::string_view nome, std::string_view modello) {
+  if (modello.empty()) return nome.empty();
+  if (modello.front() == '*') {
+    return CorrispondeAlModello(nome, modello.substr(1)) ||
+           (!nome.empty() && CorrispondeAlModello(nome.substr(1), modello));
+  }
+  return !nome.empty() && (modello.front() == '?' || modello.front() == nome.front()) &&
+         CorrispondeAlModello(nome.substr(1), modello.substr(1));
+}
+
+bool EsisteFile(const Percorso& nome) {
+  std::error_code errore;
+  const auto stato = fs::status(nome, errore);
+  return fs::exists(stato) && !fs::is_directory(stato);
+}
+
+template <class Condizione>
+std::vector<Percorso> NomiDiFile(const Percorso& cartella, Condizione condizione) {
+  std::vector<Percorso> nomi;
+  std::error_code errore;
+  const fs::path aperta = cartella.empty() ? fs::path(".") : cartella;
+  for (fs::directory_iterator voce(aperta, errore), fine; !errore && voce != fine;
+       voce.increment(errore)) {
+    std::error_code ignorato;
+    const Percorso nome = voce->path().filename();
+    if (condizione(nome) && !voce->is_directory(ignorato)) nomi.push_back(nome);
+  }
+  std::sort(nomi.begin(), nomi.end());
+  return nomi;
+}
+
+}  // namespace
+
+EsitoLettura LeggiFile(const Percorso& nome, std::size_t massimo, std::string& contenuto) {
+  contenuto.clear();
+  Descrittore file(::open(nome.c_str(), O_RDONLY | O_CLOEXEC));
+  struct stat stato {};
+  if (!file) {
+    const bool assente = errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG;
+    return assente ? EsitoLettura::Assente : EsitoLettura::Illeggibile;
+  }
+  if (::fstat(file.Numero(), &stato) != 0) return EsitoLettura::Illeggibile;
+  if (S_ISDIR(stato.st_mode)) return EsitoLettura::Assente;
+  if (S_ISREG(stato.st_mode) && static_cast<std::size_t>(stato.st_size) > massimo) {
+    return EsitoLettura::TroppoGrande;
+  }
+  // One byte more than the file should have, so that a file of the told size ends in one read.
+  std::size_t letti = 0;
+  contenuto.resize(S_ISREG(stato.st_mode) ? static_cast<std::size_t>(stato.st_size) + 1 : 65536);
+  for (;;) {
+    const ssize_t n = ::read(file.Numero(), contenuto.data() + letti, contenuto.size() - letti);
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) {
+      contenuto.resize(n == 0 ? letti : 0);
+      return n == 0 ? EsitoLettura::Letto : EsitoLettura::Illeggibile;
+    }
+    letti += static_cast<std::size_t>(n);
+    if (letti > massimo) {
+      contenuto.clear();
+      return EsitoLettura::TroppoGrande;
+    }
+    if (letti == contenuto.size()) contenuto.resize(std::min(2 * letti, massimo + 1));
+  }
+}
+
+std::error_code ScriviFile(const Percorso& nome, std::string_view contenuto, Permanenza permanenza,
+                           const Percorso& accanto) {
+  std::error_code errore;
+  const auto stato = fs::status(nome, errore);
+  if (fs::is_directory(stato)) return std::make_error_code(std::errc::is_a_directory);
+  if (fs::exists(stato) && !fs::is_regular_file(stato)) return ScriviDirettamente(nome, contenuto);
+
+  // Behind a symbolic link lies the file that the user means.
+  Percorso definitivo = fs::exists(stato) ? fs::canonical(nome, errore) : nome;
+  if (definitivo.empty()) definitivo = nome;
+  FileAccanto nuovo(definitivo, accanto);
+  if ((errore = nuovo.Scrivi(contenuto, permanenza))) return errore;
+  if ((errore = nuovo.PrendiIlPosto())) return errore;
+  if (permanenza == Permanenza::SulDisco) FissaCartella(definitivo.parent_path());
+  return {};
+}
+
+std::string DescrizioneErrore(const std::error_code& errore) {
+  struct Voce {
+    std::errc codice;
+    std::string_view testo;
+  };
+  constexpr Voce voci[] = {
+      {std::errc::no_space_on_device, "il disco è pieno"_cp},
+      {std::errc::permission_denied, "manca il permesso"_cp},
+      {std::errc::operation_not_permitted, "manca il permesso"_cp},
+      {std::errc::read_only_file_system, "il disco è di sola lettura"_cp},
+      {std::errc::no_such_file_or_directory, "il file o la cartella non esiste"_cp},
+      {std::errc::not_a_directory, "il percorso non è una cartella"_cp},
+      {std::errc::is_a_directory, "il nome è quello di una cartella"_cp},
+      {std::errc::file_too_large, "il file è troppo grande"_cp},
+      {std::errc::filename_too_long, "il nome è troppo lungo"_cp},
+  };
+  for (const auto& [codice, testo] : voci) {
+    if (errore == codice) return std::string(testo);
+  }
+  return "errore di sistema " + std::to_string(errore.value());
+}
+
+std::optional<Percorso> TrovaFile(const Percorso& cartella, const Percorso& nome) {
+  const Percorso esatto = cartella / nome;
+  if (EsisteFile(esatto)) return esatto;
+  if (nome.filename().empty()) return std::nullopt;
+  const std::string cercato = InMaiuscole(nome.filename());
+  const auto trovati = NomiDiFile(esatto.parent_path(), [&](const Percorso& presente) {
+    return InMaiuscole(presente) == cercato;
+  });
+  if (trovati.empty()) return std::nullopt;
+  return esatto.parent_path() / trovati.front();
+}
+
+Percorso PercorsoNellaCartella(const Percorso& cartella, const Percorso& nome) {
+  return TrovaFile(cartella, nome).value_or(cartella / nome);
+}
+
+std::vector<Percorso> ElencaFile(const Percorso& cartella, std::string_view modello) {
+  const std::string capitali = Maiuscole(modello);
+  return NomiDiFile(cartella, [&](const Percorso& nome) {
+    return CorrispondeAlModello(InMaiuscole(nome), capitali);
+  });
+}
+
+std::string TestoPercorso(const Percorso& nome) {
+  return DaUtf8(nome.string());
+}
+
+CartellaTemporanea::CartellaTemporanea() {
+  std::error_code errore;
+  std::string modello = (fs::temp_directory_path(errore) / "telarium-XXXXXX").string();
+  if (!errore && ::mkdtemp(modello.data())) nome_ = modello;
+}
+
+CartellaTemporanea::~CartellaTemporanea() {
+  std::error_code ignorato;
+  if (!nome_.empty()) fs::remove_all(nome_, ignorato);
+}
+
+}  // namespace telarium

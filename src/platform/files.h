@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+// Files for one operation: nothing stays open between two calls.
+namespace telarium {
+
+using Percorso = std::filesystem::path;
+
+enum class EsitoLettura {
+  Letto,
+  Assente,       // there is no file of that name (a folder is none)
+  Illeggibile,   // there is one, but it cannot be read
+  TroppoGrande,  // more bytes than the caller takes
+};
+
+/// Reads a whole file of at most `massimo` bytes. `contenuto` is empty unless the outcome is Letto.
+[[nodiscard]] EsitoLettura LeggiFile(const Percorso& nome, std::size_t massimo,
+                                     std::string& contenuto);
+
+/// Whether a written file must survive a power cut at once or may lag behind.
+enum class Permanenza { SulDisco, Provvisoria };
+
+/// Writes a whole file: beside it first, then renamed over it, so that a failure at any moment
+/// leaves what was there. A device or pipe is written to directly. Gives the system's error, 0 for
+/// none. `accanto` is the name to write under until then, in the same folder; a file of that name
+/// is removed first. Without one a new name is made.
+[[nodiscard]] std::error_code ScriviFile(const Percorso& nome, std::string_view contenuto,
+                                         Permanenza permanenza = Permanenza::SulDisco,
+                                         const Percorso& accanto = {});
+
+/// What an error of the file system means, in Italian, as the end of a sentence.
+std::string DescrizioneErrore(const std::error_code& errore);
+
+/// The file of that name in a folder, whatever the case of its letters: the exact name before all
+/// others, else the first in the order of the bytes. `nome` may hold folders, which are taken as
+/// they stand; an absolute `nome` leaves the folder out. None when there is no such file.
+std::optional<Percorso> TrovaFile(const Percorso& cartella, const Percorso& nome);
+
+/// TrovaFile, or where it finds nothing the name in the folder as it stands: for opening and
+/// making.
+Percorso PercorsoNellaCartella(const Percorso& cartella, const Percorso& nome);
+
+/// The names of the files of a folder that match a pattern with "*" and "?", whatever their case,
+/// in the order of the bytes. An unreadable folder gives none.
+std::vector<Percorso> ElencaFile(const Percorso& cartella, std::string_view modello);
+
+/// A file name as text for a message or a page: in the code page, "?" for what that cannot write.
+std::string TestoPercorso(const Percorso& nome);
+
+/// A folder under the system's temporary folder, with its contents removed at the end of its life.
+class CartellaTemporanea {
+ public:
+  CartellaTemporanea();
+  ~CartellaTemporanea();
+  CartellaTemporanea(const CartellaTemporanea&) = delete;
+  CartellaTemporanea& operator=(const CartellaTemporanea&) = delete;
+
+  /// Empty when the system gave none.
+  const Percorso& Nome() const { return nome_; }
+
+ private:
+  Percorso nome_;
+};
+
+}  // namespace telarium

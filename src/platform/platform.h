@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/machine.h"
+#include "platform/surface.h"
+#include "platform/user.h"
+
+namespace telarium {
+
+/// The one object that stands between the core and the machine. `main` or a test fixture sets it.
+class Piattaforma {
+ public:
+  virtual ~Piattaforma() = default;
+
+  virtual Utente& ChiUsa() = 0;
+  virtual Macchina& Sistema() = 0;
+
+  /// The surface of the main window; null where there is no window.
+  virtual Superficie* FinestraPrincipale() = 0;
+
+  /// Ends the program: the process in the desktop, by an exception in tests and in `telar`. What
+  /// comes behind the call never runs.
+  virtual void Termina() = 0;
+};
+
+/// Sets the platform of this process; null takes it away. The caller keeps it alive.
+void ImpostaPiattaforma(Piattaforma* piattaforma);
+
+/// The platform in use. To ask for one before it is set is a programming error.
+Piattaforma& LaPiattaforma();
+
+inline Utente& ChiUsa() {
+  return LaPiattaforma().ChiUsa();
+}
+inline Macchina& Sistema() {
+  return LaPiattaforma().Sistema();
+}
+inline Superficie* FinestraPrincipale() {
+  return LaPiattaforma().FinestraPrincipale();
+}
+[[noreturn]] void TerminaProgramma();
+
+/// Shows a message with an OK button.
+void Avvisa(std::string testo, std::string titolo = {}, Icona icona = Icona::Nessuna);
+
+}  // namespace telarium

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/files.h"
+
+// Which folder is the program folder, and how a new user's one gets its contents.
+namespace telarium {
+
+struct SceltaCartella {
+  Percorso cartella;
+  /// The user's own folder gets what is missing from the installed data; a folder that was named,
+  /// or that lies beside the executable, is used as it is.
+  bool daRiempire = false;
+};
+
+/// The program folder: the one that the environment variable TELARIUM_CARTELLA names; else the
+/// folder of the executable when telarium.INI lies in it; else $XDG_DATA_HOME/telarium (or
+/// ~/.local/share/telarium). Always an absolute path; empty when none of them can be formed.
+SceltaCartella ScegliCartellaProgramma();
+
+/// The folder of the running executable; empty when the system does not tell.
+Percorso CartellaEseguibile();
+
+/// Where the installed data lie, seen from the executable.
+Percorso CartellaDatiInstallati();
+
+/// Copies into `cartella` each file below `installati` that is missing there, whatever the case of
+/// its name, and makes folders as needed. Nothing that exists is written over. Gives the files that
+/// could not be copied.
+std::vector<Percorso> RiempiCartella(const Percorso& installati, const Percorso& cartella);
+
+}  // namespace telarium

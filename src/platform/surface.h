@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace telarium {
+
+/// A 24-bit colour value with red in the low byte.
+using Colore = std::int32_t;
+
+inline constexpr Colore ColoreNero = 0x000000;
+inline constexpr Colore ColoreBianco = 0xFFFFFF;
+
+/// What the core draws on: the main window, the printer, a picture, a recorder in tests.
+/// Coordinates and text measures are in the surface's own units, pixels on a window; type sizes are
+/// in points.
+class Superficie {
+ public:
+  virtual ~Superficie() = default;
+
+  virtual double LarghezzaSuperficie() const = 0;
+  virtual double AltezzaSuperficie() const = 0;
+  virtual void Pulisci() = 0;
+
+  /// The outline of a rectangle, and a filled one with an outline in the same colour. Both corners
+  /// belong to it.
+  virtual void Riquadro(double x1, double y1, double x2, double y2, Colore colore) = 0;
+  virtual void RiquadroPieno(double x1, double y1, double x2, double y2, Colore colore) = 0;
+
+  /// Typeface by name, size in points, bold: they hold for measures and texts until set again.
+  virtual void Carattere(std::string_view nome) = 0;
+  virtual void CorpoCarattere(double punti) = 0;
+  virtual double CorpoCarattere() const = 0;
+  virtual void Grassetto(bool grassetto) = 0;
+  virtual bool Grassetto() const = 0;
+
+  /// Extent of a text in the current type.
+  virtual double LarghezzaTesto(std::string_view testo) const = 0;
+  virtual double AltezzaTesto(std::string_view testo) const = 0;
+
+  /// The left top corner of the next text.
+  virtual void Posizione(double x, double y) = 0;
+  virtual double PosizioneX() const = 0;
+  virtual double PosizioneY() const = 0;
+
+  /// Writes a text in black from the current position, which moves to the end of it.
+  virtual void Scrivi(std::string_view testo) = 0;
+
+  /// Whether what is drawn stays on the surface, or is put on the screen alone, at once. Only a
+  /// window tells the two apart.
+  virtual void DisegnoPersistente([[maybe_unused]] bool persistente) {}
+};
+
+}  // namespace telarium

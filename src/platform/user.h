@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace telarium {
+
+enum class Pulsanti { Ok, OkAnnulla, SiNo, SiNoAnnulla };
+enum class Risposta { Ok, Annulla, Si, No };
+enum class Icona { Nessuna, Informazione, Domanda, Avviso, Stop };
+
+/// A message box. Without a title of its own it has the application's.
+struct Messaggio {
+  std::string testo;
+  std::string titolo = {};
+  Pulsanti pulsanti = Pulsanti::Ok;
+  Icona icona = Icona::Nessuna;
+};
+
+/// How far an automatic fill has come.
+struct AvanzamentoEstrazione {
+  std::int64_t tentativo = 0;  // starts of the clearing step so far, from 1
+  int slotPresi = 0;
+  int slotTotali = 0;
+};
+
+/// The person at the machine, as the core speaks to them.
+class Utente {
+ public:
+  virtual ~Utente() = default;
+
+  /// Shows a message box and gives the button that closed it.
+  virtual Risposta MostraMessaggio(const Messaggio& messaggio) = 0;
+
+  /// Asks for a line of text in an input box. None when the user gave up; it may be empty.
+  virtual std::optional<std::string> ChiediTesto(const std::string& richiesta) = 0;
+
+  /// Puts a dead end of the fill before the user: Si accepts it, No starts anew, Annulla stops.
+  virtual Risposta ChiediVicoloCieco(const std::string& testo) = 0;
+
+  /// Called at each slot and each restart of a fill. False: the user wants it to stop.
+  virtual bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) = 0;
+
+  /// Gives the mouse pointer the shape of a value of PuntatoreMouse.
+  virtual void FormaPuntatore(int forma) = 0;
+
+  virtual void SegnaleAcustico() = 0;
+
+  /// Lets the message loop run once.
+  virtual void CediAiMessaggi() = 0;
+};
+
+}  // namespace telarium
