@@ -1,0 +1,228 @@
+#include "model/crossword_file.h"
+
+#include <charconv>
+#include <optional>
+
+#include "model/words.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
+
+namespace telarium {
+namespace {
+
+constexpr int Spostamento = 26;  // of the cell characters of a grid line
+constexpr std::string_view SegnoColori = "[Colori caselle]";
+constexpr std::string_view MessaggioLettura = "Errore di lettura del file!";
+constexpr std::string_view MessaggioScrittura = "Errore di scrittura del file!";
+
+// --- Reading. Each step gives false for a read error, whose message is the caller's. ---
+
+bool LeggiRiga(LettoreDiRighe& righe, std::string_view& riga) {
+  // A NUL byte is in no text: the file is some other program's.
+  return righe.Prossima(riga) && riga.find('\0') == std::string_view::npos;
+}
+
+bool LeggiIntestazione(LettoreDiRighe& righe) {
+  for (int i = 1; i <= RigheIntestazione; ++i) {
+    std::string_view riga;
+    if (!LeggiRiga(righe, riga)) return false;
+    Schema(i) = riga;
+  }
+  return true;
+}
+
+// Sets the size from line 4; both numbers 0, and false, when it is none that the state has room
+// for.
+bool PrendiDimensioni() {
+  const auto dal = [](std::size_t carattere) {
+    const std::string_view riga = Schema(4);
+    return ValoreNumerico(riga.substr(std::min(carattere - 1, riga.size())));
+  };
+  const int colonne = dal(14);
+  const int righe = dal(17);
+  const bool valide = colonne >= 1 && colonne <= MaxColonne && righe >= 1 && righe <= MaxRighe;
+  NumColonne = static_cast<std::int16_t>(valide ? colonne : 0);
+  NumRighe = static_cast<std::int16_t>(valide ? righe : 0);
+  return valide;
+}
+
+bool LeggiGriglia(LettoreDiRighe& righe) {
+  for (int i = 1 + RigheIntestazione; i <= NumRighe + RigheIntestazione; ++i) {
+    std::string_view letta;
+    if (!LeggiRiga(righe, letta)) return false;
+    std::string& riga = Schema(i);
+    riga = letta;
+    for (std::size_t p = 0; p < riga.size(); p += 2) {
+      const int codice = static_cast<unsigned char>(riga[p]) - Spostamento;
+      if (codice <= 0) return false;  // no cell character has that code
+      riga[p] = static_cast<char>(codice);
+    }
+  }
+  return true;
+}
+
+bool PrendiDefinizione(std::string_view riga) {
+  const auto numero = [riga](std::size_t da, std::size_t caratteri) {
+    return da < riga.size() ? ValoreNumerico(riga.substr(da, caratteri)) : 0;
+  };
+  const int colonna = numero(0, 3);
+  const int rigaGriglia = numero(3, 3);
+  const int direzione = numero(6, 1);
+  const bool alSuoPosto = colonna >= 1 && colonna <= MaxColonne && rigaGriglia >= 1 &&
+                          rigaGriglia <= MaxRighe &&
+                          (direzione == Orizzontale || direzione == Verticale);
+  if (alSuoPosto) {
+    Definizione(colonna, rigaGriglia, direzione) =
+        riga.substr(std::min<std::size_t>(8, riga.size()));
+  }
+  return alSuoPosto;
+}
+
+// Reads the clues up to the colour mark, or to the end of a file without one.
+bool LeggiDefinizioni(LettoreDiRighe& righe) {
+  while (!righe.Finito()) {
+    std::string_view riga;
+    if (!LeggiRiga(righe, riga)) return false;
+    if (riga.size() == SegnoColori.size() && Maiuscole(riga) == Maiuscole(SegnoColori)) return true;
+    if (!PrendiDefinizione(riga)) return false;
+  }
+  return true;
+}
+
+// Takes the next number off a stream of numbers between blanks and line ends.
+std::optional<Colore> PrendiNumero(std::string_view& resto) {
+  resto.remove_prefix(std::min(resto.find_first_not_of(" \r\n"), resto.size()));
+  Colore valore = 0;
+  const auto [fine, errore] = std::from_chars(resto.data(), resto.data() + resto.size(), valore);
+  if (errore != std::errc()) return std::nullopt;
+  resto.remove_prefix(static_cast<std::size_t>(fine - resto.data()));
+  return valore;
+}
+
+void LeggiColori(std::string_view resto) {
+  for (int c = 1; c <= NumColonne; ++c) {
+    for (int r = 1; r <= NumRighe; ++r) {
+      const auto colore = PrendiNumero(resto);
+      if (!colore) return;
+      ColoreCasella(c, r) = *colore;
+    }
+  }
+}
+
+// --- Writing ---
+
+void AggiungiRiga(std::string& testo, std::string_view riga) {
+  testo += riga;
+  testo += "\r\n";
+}
+
+// A grid line as the file holds it; none when a cell character has no code left after the shift.
+std::optional<std::string> RigaSpostata(std::string riga) {
+  for (std::size_t p = 0; p < riga.size(); p += 2) {
+    if (p + 1 < riga.size()) riga[p + 1] = riga[p] == CellaNera ? CellaNera : CellaVuota;
+    const int codice = static_cast<unsigned char>(riga[p]) + Spostamento;
+    if (codice > 255) return std::nullopt;
+    riga[p] = static_cast<char>(codice);
+  }
+  return riga;
+}
+
+std::string InTreCaratteri(int numero) {
+  const std::string cifre = std::to_string(numero);
+  return std::string(3 - cifre.size(), ' ') + cifre;
+}
+
+void AggiungiDefinizioni(std::string& testo) {
+  for (int c = 1; c <= NumColonne; ++c) {
+    for (int r = 1; r <= NumRighe; ++r) {
+      for (const int d : Direzioni) {
+        const std::string& definizione = Definizione(c, r, d);
+        if (definizione.empty() || !IniziaParola({c, r}, d)) continue;
+        // The format has no escape for a line break inside a clue.
+        AggiungiRiga(testo, Unisci(InTreCaratteri(c), InTreCaratteri(r), d, '-',
+                                   SenzaInterruzioni(definizione)));
+      }
+    }
+  }
+}
+
+void AggiungiColori(std::string& testo) {
+  AggiungiRiga(testo, SegnoColori);
+  for (int c = 1; c <= NumColonne; ++c) {
+    for (int r = 1; r <= NumRighe; ++r)
+      testo += FormaDiStampa(ColoreCasella(c, r));
+    testo += "\r\n";
+  }
+}
+
+std::optional<std::string> TestoDelFile() {
+  std::string testo;
+  for (int i = 1; i <= NumRighe + RigheIntestazione; ++i) {
+    const auto riga =
+        i > RigheIntestazione ? RigaSpostata(Schema(i)) : SenzaInterruzioni(Schema(i));
+    if (!riga) return std::nullopt;
+    AggiungiRiga(testo, *riga);
+  }
+  AggiungiDefinizioni(testo);
+  AggiungiColori(testo);
+  return testo;
+}
+
+bool LeggiDa(const Percorso& percorso, const Percorso& nomeMostrato) {
+  std::string contenuto;
+  switch (LeggiFile(percorso, MaxByteCruciverba, contenuto)) {
+    case EsitoLettura::Letto:
+      return InterpretaCruciverba(contenuto);
+    case EsitoLettura::Assente:
+      Avvisa(Unisci("Errore: Cruciverba  ", TestoPercorso(nomeMostrato),
+                    "  Non trovato! Esecuzione terminata."),
+             "Telarium", Icona::Informazione);
+      TerminaProgramma();
+    case EsitoLettura::Illeggibile:
+    case EsitoLettura::TroppoGrande:
+      break;
+  }
+  Avvisa(std::string(MessaggioLettura));
+  return false;
+}
+
+}  // namespace
+
+bool InterpretaCruciverba(std::string_view contenuto) {
+  LettoreDiRighe righe(contenuto);
+  const auto erroreDiLettura = [] {
+    Avvisa(std::string(MessaggioLettura));
+    return false;
+  };
+  if (!LeggiIntestazione(righe)) return erroreDiLettura();
+  if (!PrendiDimensioni()) {
+    Avvisa("Formato del file non valido! Esecuzione terminata");
+    return false;
+  }
+  if (!LeggiGriglia(righe) || !LeggiDefinizioni(righe)) return erroreDiLettura();
+  LeggiColori(righe.Resto());
+  return true;
+}
+
+bool LeggiCruciverba(const Percorso& nome) {
+  return LeggiDa(CartellaProgramma / nome, nome);
+}
+
+bool ApriCruciverba(const Percorso& nome) {
+  SvuotaCruciverba();
+  return LeggiDa(nome, nome);
+}
+
+bool ScriviCruciverba(const Percorso& nome, Permanenza permanenza) {
+  const auto testo = TestoDelFile();
+  if (testo && !ScriviFile(nome, *testo, permanenza)) return true;
+  Avvisa(std::string(MessaggioScrittura));
+  return false;
+}
+
+void ScriviDimensioni(int colonne, int righe) {
+  Schema(4).resize(13, ' ');
+  Schema(4) += Unisci(DueCifre(colonne), 'x', DueCifre(righe));
+}
+
+}  // namespace telarium

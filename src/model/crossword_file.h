@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string_view>
+
+#include "model/state.h"
+
+// The crossword file (.tlrm) and the snapshot: 8-bit text, each line ended by CR LF, no signature.
+//
+//   lines           content
+//   4               Schema lines 1 to 4 in the clear; only line 4 is interpreted: columns from
+//                   character 14, rows from character 17 ("Dimensioni : 15x13")
+//   NumRighe        a row of n cells in 2n characters: at 2c-1 the cell character with its code
+//                   raised by 26, at 2c "*" for a black cell and "." for a white one
+//   0 or more       a clue: column in 3 characters and row in 3, right-aligned, direction 1 or 2,
+//                   "-", and the text to the end of the line. By columns, in them by rows
+//   1               "[Colori caselle]" (in any case when read)
+//   NumColonne      the ColoreCasella values of one column, top row first, in print form
+//
+// A file may end before the mark; a short colour part leaves the other colours as they were.
+namespace telarium {
+
+/// No crossword comes near this size: 1,590 cells with two clues of 60 characters are some 220 KB.
+inline constexpr std::size_t MaxByteCruciverba = 16u << 20;
+
+/// Reads the file `nome` of the program folder (or an absolute `nome`) into Schema, NumColonne,
+/// NumRighe and those entries of Definizione and ColoreCasella that it names; clears nothing. A
+/// missing file ends the program, any other failure shows its message and gives false: what was
+/// read until then stays, and after a bad size both numbers are 0.
+bool LeggiCruciverba(const Percorso& nome);
+
+/// Opens a crossword for the user, by its path as given: SvuotaCruciverba, then as LeggiCruciverba.
+bool ApriCruciverba(const Percorso& nome);
+
+/// What LeggiCruciverba does with the contents of a file.
+bool InterpretaCruciverba(std::string_view contenuto);
+
+/// Writes the crossword to a path as given; the clues follow TipoCasella as the last redraw left
+/// it. The state stays as it is. A failure shows its message, gives false and leaves the old file.
+[[nodiscard]] bool ScriviCruciverba(const Percorso& nome,
+                                    Permanenza permanenza = Permanenza::SulDisco);
+
+/// The header line with the size, from NumColonne and NumRighe: what it held before character 14
+/// stays.
+void ScriviDimensioni(int colonne, int righe);
+
+}  // namespace telarium

@@ -1,0 +1,128 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "model/table.h"
+#include "platform/files.h"
+#include "platform/surface.h"
+
+// The one current crossword and what is shared about it. There is one thread, and every routine
+// reads and writes these variables directly. Tables count from 1: (column, row), (column, row,
+// direction).
+namespace telarium {
+
+inline constexpr int MaxColonne = 53;
+inline constexpr int MaxRighe = 30;
+inline constexpr int RigheSchema = 350;  // lines of Schema, of which NumRighe + 4 have a meaning
+inline constexpr int RigheIntestazione = 4;  // row r of the grid is line r + 4 of Schema
+
+/// Flags of the shared state: 0 and -1, tested for not 0.
+using Booleano16 = std::int16_t;
+inline constexpr Booleano16 Falso = 0;
+inline constexpr Booleano16 Vero = -1;
+
+// Directions of a word.
+inline constexpr int Orizzontale = 1;
+inline constexpr int Verticale = 2;
+
+// Cell characters. Any other is the letter of a white cell.
+inline constexpr char CellaNera = '*';
+inline constexpr char CellaVuota = '.';
+/// A cell that the running fill has emptied, in LetteraCasella only.
+inline constexpr char CellaSvuotata = ' ';
+
+using AsseColonne = Indici<1, MaxColonne>;
+using AsseRighe = Indici<1, MaxRighe>;
+using AsseDirezioni = Indici<Orizzontale, Verticale>;
+
+// --- The grid as text: the primary copy ---
+
+/// Line 1 author, 2 date, 3 kind, 4 size; from line 5 on one line per grid row. In a row line cell
+/// c has its character at 2c-1 and a companion mark at 2c ("*" black, "." else), which decides
+/// nothing and may be out of date.
+extern Tabella<std::string, Indici<1, RigheSchema>> Schema;
+extern std::int16_t NumColonne;  // 0 while there is no crossword
+extern std::int16_t NumRighe;    // 0 while there is no crossword
+/// Path of the crossword file; empty: no crossword; NomeMaiSalvato: never saved.
+extern Percorso NomeCruciverba;
+extern Booleano16 SchemaModificato;
+
+// --- Primary side tables ---
+
+/// The clue of the word that starts at the cell in that direction; empty if it has none.
+extern Tabella<std::string, AsseColonne, AsseRighe, AsseDirezioni> Definizione;
+/// Fill colour of a black cell; 0 is plain black. No effect on white cells.
+extern Tabella<Colore, AsseColonne, AsseRighe> ColoreCasella;
+
+// --- Derived from Schema by RicalcolaCaselle ---
+
+extern Tabella<char, AsseColonne, AsseRighe> LetteraCasella;
+/// 0 black, 1 white without a start, 2 horizontal start, 3 vertical start, 5 both. There is no 4.
+extern Tabella<std::int16_t, AsseColonne, AsseRighe> TipoCasella;
+/// Clue number of a start cell, from 1 in reading order; 0 elsewhere.
+extern Tabella<std::int16_t, AsseColonne, AsseRighe> NumeroCasella;
+/// The characters from the cell to the end of its run in that direction: the whole word at a start
+/// cell, empty where no white cell follows.
+extern Tabella<std::string, AsseColonne, AsseRighe, AsseDirezioni> ParolaCasella;
+
+// --- Position and mode ---
+
+extern std::int16_t
+    LatoCasella;               // side of a cell as last drawn, in pixels; 0 before the first redraw
+extern std::int16_t OrigineX;  // left and top of the grid on the main window, in pixels
+extern std::int16_t OrigineY;
+/// What the mouse does on the grid. Only 1 (editing) and -1 (print preview) are ever tested.
+extern std::int16_t ModoGriglia;
+/// Shape of the mouse pointer: 0 arrow, 1 arrow after a search, 2 cross (white-cell tool), 4 icon
+/// (black-cell tool), 7 vertical word, 9 horizontal word, 11 hourglass, 99 custom. Set it through
+/// ImpostaPuntatoreMouse, which keeps the visible shape in step.
+extern std::int16_t PuntatoreMouse;
+
+// --- Settings of the drawing ---
+
+/// Typeface of the letters; the routines that use it take an empty one for "Arial".
+extern std::string NomeFont;
+extern std::int16_t AltezzaCaratteri;  // type size of the letters, percent of the cell side
+extern std::int16_t DistanzaDaCentro;  // shift of the letter down from the centre, percent likewise
+
+// --- Folders ---
+
+/// Program folder; empty until it is known. File names that a routine forms itself are looked for
+/// here.
+extern Percorso CartellaProgramma;
+/// Where the snapshot lies; empty: in the program folder.
+extern Percorso CartellaIstantanea;
+
+inline constexpr const char* NomeMaiSalvato = "NuovoCruciverba.tlrm";
+inline constexpr const char* NomeIstantanea = "_tlma_32.tmp";
+
+/// Path of the snapshot, the crossword file through which windows hand the crossword on.
+Percorso PercorsoIstantanea();
+
+/// Puts every shared variable, also those that a subsystem owns, as at program start.
+void AzzeraStato();
+
+/// Empties all clues, as a new crossword needs it.
+void SvuotaDefinizioni();
+
+/// Empties clues, colours and the derived tables, so that a crossword that is opened shows nothing
+/// of an earlier one. Cells that its file does not hold count as empty white ones.
+void SvuotaCruciverba();
+
+/// Sets PuntatoreMouse and the visible shape.
+void ImpostaPuntatoreMouse(int forma);
+
+/// Registers, by its construction at program start, what AzzeraStato does for the variables that a
+/// subsystem owns: one static object beside their definitions.
+class AzzeramentoDiSottosistema {
+ public:
+  explicit AzzeramentoDiSottosistema(void (*azzera)());
+
+ private:
+  friend void AzzeraStato();
+  void (*azzera_)();
+  const AzzeramentoDiSottosistema* prossimo_;
+};
+
+}  // namespace telarium

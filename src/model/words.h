@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+
+#include "model/state.h"
+
+// The words of the grid: runs of at least two white cells in a row or a column.
+namespace telarium {
+
+struct Casella {
+  int colonna = 0;
+  int riga = 0;
+};
+
+/// A word of the grid, named by its start cell and its direction.
+struct Slot {
+  Casella inizio;
+  int direzione = Orizzontale;
+  int lunghezza = 0;  // in cells
+
+  /// The k-th cell of the word, k from 1.
+  Casella Cella(int k) const {
+    return direzione == Orizzontale ? Casella{inizio.colonna + k - 1, inizio.riga}
+                                    : Casella{inizio.colonna, inizio.riga + k - 1};
+  }
+};
+
+inline constexpr std::array<int, 2> Direzioni = {Orizzontale, Verticale};
+
+/// The other direction.
+constexpr int Traversa(int direzione) {
+  return direzione == Orizzontale ? Verticale : Orizzontale;
+}
+
+/// Sets LetteraCasella, TipoCasella, NumeroCasella and ParolaCasella of all cells of the current
+/// grid from Schema. Entries outside the grid, and letters that a short row line does not hold,
+/// stay as they were.
+void RicalcolaCaselle();
+
+/// Whether, by TipoCasella, a word starts at the cell in that direction.
+bool IniziaParola(Casella casella, int direzione);
+
+/// The word that starts at the cell in that direction; its length is that of ParolaCasella.
+Slot SlotDa(Casella casella, int direzione);
+
+/// Calls `visita` with each word of the grid: by rows, in a row by columns, at a cell the
+/// horizontal word before the vertical one.
+template <class Visita>
+void PerOgniParola(Visita visita) {
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c) {
+      for (const int d : Direzioni) {
+        if (IniziaParola({c, r}, d)) visita(SlotDa({c, r}, d));
+      }
+    }
+  }
+}
+
+/// Writes the character of a cell into its row line of Schema; the companion mark stays as it is. A
+/// line that is too short for the cell is first made longer by empty white cells.
+void ScriviInSchema(Casella casella, char carattere);
+
+}  // namespace telarium
