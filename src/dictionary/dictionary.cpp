@@ -1,0 +1,75 @@
+#include "dictionary/dictionary.h"
+
+#include <algorithm>
+#include <array>
+
+#include "dictionary/dictionary_file.h"
+#include "platform/platform.h"
+
+namespace telarium {
+
+namespace {
+constexpr const char* DizionarioIniziale = "LessicoItaliano.dat";
+}
+
+Percorso NomeDizionario = DizionarioIniziale;
+std::int16_t LinguaDizionario = 1;
+Tabella<std::int32_t, AsseLunghezze> OffsetLunghezza("OffsetLunghezza");
+Tabella<std::int32_t, AsseLunghezze> ContaLunghezza("ContaLunghezza");
+
+namespace {
+
+void AzzeraDizionario() {
+  NomeDizionario = DizionarioIniziale;
+  LinguaDizionario = 1;
+  OffsetLunghezza.Riempi(0);
+  ContaLunghezza.Riempi(0);
+}
+
+const AzzeramentoDiSottosistema azzeramento(AzzeraDizionario);
+
+using Intestazione = std::array<char, PrimaPosizione - 1>;
+
+// The number in the field of the header that begins at a position. Bytes past the end of a short
+// file are zero here and so give 0.
+std::int32_t Campo(const Intestazione& intestazione, int posizione) {
+  return ValoreNumerico({intestazione.data() + posizione - 1, ByteCampo});
+}
+
+}  // namespace
+
+Percorso PercorsoDizionario() {
+  return PercorsoNellaCartella(CartellaProgramma, NomeDizionario);
+}
+
+bool ApriDizionario() {
+  if (!TrovaFile(CartellaProgramma, NomeDizionario)) {
+    Avvisa("Errore fatale! non trovato file di vocabolario: " + TestoPercorso(NomeDizionario));
+    TerminaProgramma();
+  }
+  const FileDizionario file(PercorsoDizionario());
+  Intestazione intestazione{};
+  file.Leggi(1, intestazione.data(), intestazione.size());
+  for (int lunghezza = MinLunghezza; lunghezza <= MaxLunghezza; ++lunghezza) {
+    const std::int32_t inizio = Campo(intestazione, PosizioneVoce(lunghezza));
+    const std::int32_t fine = Campo(intestazione, PosizioneVoce(lunghezza) + ByteCampo);
+    OffsetLunghezza(lunghezza - MinLunghezza) = inizio;
+    ContaLunghezza(lunghezza - MinLunghezza) = (fine - inizio) / lunghezza;
+  }
+  if (!file.Aperto()) AvvisaDizionarioIlleggibile();
+  return file.Aperto();
+}
+
+std::string LeggiParola(std::int16_t numero, int lunghezza) {
+  const FileDizionario file(PercorsoDizionario());
+  std::string parola(static_cast<std::size_t>(lunghezza), ' ');
+  const std::int64_t inizio = OffsetLunghezza(lunghezza - MinLunghezza);
+  file.Leggi(inizio + (std::int64_t{numero} - 1) * lunghezza, parola.data(), parola.size());
+  return parola;
+}
+
+void AvvisaDizionarioIlleggibile() {
+  Avvisa(Unisci("Impossibile leggere il dizionario: ", TestoPercorso(NomeDizionario)));
+}
+
+}  // namespace telarium

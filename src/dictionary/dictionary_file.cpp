@@ -1,0 +1,24 @@
+#include "dictionary/dictionary_file.h"
+
+#include <fcntl.h>
+
+namespace telarium {
+
+FileDizionario::FileDizionario(const Percorso& nome)
+    : descrittore_(::open(nome.c_str(), O_RDONLY | O_CLOEXEC)) {}
+
+std::size_t FileDizionario::Leggi(std::int64_t posizione, char* destinazione,
+                                  std::size_t byte) const {
+  if (!Aperto() || posizione < 1) return 0;
+  std::size_t letti = 0;
+  while (letti < byte) {
+    const ssize_t n = ::pread(descrittore_.Numero(), destinazione + letti, byte - letti,
+                              posizione - 1 + static_cast<std::int64_t>(letti));
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) break;
+    letti += static_cast<std::size_t>(n);
+  }
+  return letti;
+}
+
+}  // namespace telarium

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "platform/descriptor.h"
+#include "platform/files.h"
+
+namespace telarium {
+
+/// A dictionary file open for reading, for the time of one operation.
+class FileDizionario {
+ public:
+  /// Opens the file; Aperto tells whether it could be.
+  explicit FileDizionario(const Percorso& nome);
+
+  bool Aperto() const { return static_cast<bool>(descrittore_); }
+
+  /// Reads up to `byte` bytes from a 1-based position on and gives how many there were: fewer at
+  /// the end of the file, none for a position before its first byte.
+  std::size_t Leggi(std::int64_t posizione, char* destinazione, std::size_t byte) const;
+
+ private:
+  Descrittore descrittore_;
+};
+
+}  // namespace telarium

@@ -1,0 +1,104 @@
+#include "dictionary/dictionary_writer.h"
+
+#include <algorithm>
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include "platform/codepage.h"
+#include "platform/descriptor.h"
+
+namespace telarium {
+namespace {
+
+constexpr std::size_t ByteBanner = 199;
+// The zero blocks that are laid down before the words end here, so that no file is shorter.
+constexpr std::size_t MinByteFile = 455;
+
+std::string Intestazione() {
+  std::string immagine =
+      "Vocabolario della lingua italiana per parole crociate e giochi di lettere"
+      " Zanotti Graziella";
+  immagine.resize(ByteBanner, ' ');
+  immagine.resize(PrimaPosizione - 1, '\0');
+  return immagine;
+}
+
+// Puts the position of the next byte of the image into a field of the table.
+void MettiCampo(std::string& immagine, int posizione) {
+  const std::string numero = Unisci(' ', immagine.size() + 1);
+  immagine.replace(static_cast<std::size_t>(posizione) - 1, ByteCampo,
+                   std::string(ByteCampo - numero.size(), ' ') + numero);
+}
+
+bool DaScrivere(const std::vector<std::string>& lista, std::size_t i, int lunghezza) {
+  const bool ripetuta = i > 0 && lista[i] == lista[i - 1];
+  return !ripetuta && lista[i].size() == static_cast<std::size_t>(lunghezza);
+}
+
+void ContaParole(const ListeDiParole& liste, EsitoDizionario& esito) {
+  for (std::size_t l = 0; l < liste.size(); ++l) {
+    for (std::size_t i = 0; i < liste[l].size(); ++i) {
+      if (DaScrivere(liste[l], i, MinLunghezza + static_cast<int>(l))) ++esito.parole[l];
+    }
+  }
+}
+
+// Why the format has no room for that many words; empty when it has.
+std::string Eccesso(const EsitoDizionario& esito) {
+  std::int64_t posizione = PrimaPosizione;
+  for (std::size_t l = 0; l < esito.parole.size(); ++l) {
+    const int lunghezza = MinLunghezza + static_cast<int>(l);
+    if (esito.parole[l] > MaxParole) {
+      return Unisci(esito.parole[l], " parole di ", lunghezza,
+                    " lettere, e ne sono ammesse al massimo ", MaxParole);
+    }
+    posizione += std::int64_t{esito.parole[l]} * lunghezza;
+  }
+  if (posizione <= MaxPosizione) return {};
+  return Unisci("il file supererebbe la posizione ", MaxPosizione);
+}
+
+void AggiungiSezione(std::string& immagine, int lunghezza, const std::vector<std::string>& lista) {
+  MettiCampo(immagine, PosizioneVoce(lunghezza));
+  for (std::size_t i = 0; i < lista.size(); ++i) {
+    if (DaScrivere(lista, i, lunghezza)) immagine += lista[i];
+  }
+  MettiCampo(immagine, PosizioneVoce(lunghezza) + ByteCampo);
+}
+
+std::string Immagine(const ListeDiParole& liste, const EsitoDizionario& esito) {
+  std::string immagine = Intestazione();
+  for (std::size_t l = 0; l < liste.size(); ++l) {
+    if (esito.parole[l] > 0)
+      AggiungiSezione(immagine, MinLunghezza + static_cast<int>(l), liste[l]);
+  }
+  immagine.resize(std::max(immagine.size(), MinByteFile), '\0');
+  return immagine;
+}
+
+// Every writer of a folder uses the one name LESSICO.new, so only one of them writes at a time.
+Descrittore BloccaCartella(const Percorso& cartella) {
+  Descrittore aperta(::open(cartella.empty() ? "." : cartella.c_str(), O_RDONLY | O_CLOEXEC));
+  if (aperta) ::flock(aperta.Numero(), LOCK_EX);
+  return aperta;
+}
+
+}  // namespace
+
+EsitoDizionario ScriviDizionario(const Percorso& nome, const ListeDiParole& liste) {
+  EsitoDizionario esito;
+  const auto nonScritto = [&](std::string_view perche) {
+    esito.errore = Unisci("Impossibile scrivere il dizionario ", TestoPercorso(nome.filename()),
+                          ": ", perche, '.');
+    return esito;
+  };
+  ContaParole(liste, esito);
+  if (const std::string eccesso = Eccesso(esito); !eccesso.empty()) return nonScritto(eccesso);
+  const Descrittore blocco = BloccaCartella(nome.parent_path());
+  const auto errore = ScriviFile(nome, Immagine(liste, esito), Permanenza::SulDisco,
+                                 nome.parent_path() / "LESSICO.new");
+  if (errore) return nonScritto(DescrizioneErrore(errore));
+  return esito;
+}
+
+}  // namespace telarium

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "dictionary/word_list.h"
+
+namespace telarium {
+
+/// What became of a dictionary to be written.
+struct EsitoDizionario {
+  /// Why nothing was replaced, for the user; empty when the file is written.
+  std::string errore;
+  /// Words written, by length less 3.
+  std::array<int, MaxLunghezza - MinLunghezza + 1> parole{};
+};
+
+/// Writes a dictionary from its lists, each in its order; a word that equals the one before it, or
+/// that has another length than its list, is skipped. The file is written as LESSICO.new beside
+/// `nome` and renamed over it when it is complete. More than 32,767 words of one length, or a file
+/// past position 9,999,999, are refused before anything is written.
+EsitoDizionario ScriviDizionario(const Percorso& nome, const ListeDiParole& liste);
+
+}  // namespace telarium

@@ -1,0 +1,93 @@
+#include "dictionary/word_list.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/codepage.h"
+
+namespace telarium {
+namespace {
+
+// The capitals that the letters from a code point on are written with when they lose their accents,
+// one entry each; "-" marks one that is no accented letter.
+struct Piegatura {
+  char32_t primo;
+  std::string_view lettere;
+};
+
+// clang-format off
+constexpr Piegatura Piegature[] = {
+    //       0       8       16      24
+    {0xC0,  "AAAAAA" "\1" "CEEEEIIII" "-" "NOOOOO" "-" "OUUUUY" "-" "\3"    // capitals, sharp s
+            "AAAAAA" "\1" "CEEEEIIII" "-" "NOOOOO" "-" "OUUUUY" "-" "Y"},   // small letters
+    {0x100, "AAAAAACCCCCCCCDDDDEEEEEEEEEEGGGGGGGGHHHHIIIIIIIIII" "\4\4"
+            "JJKK" "-" "LLLLLLLLLLNNNNNNN" "--" "OOOOOO" "\2\2"
+            "RRRRRRSSSSSSSSTTTTTTUUUUUUUUUUUUWWYYYZZZZZZS"},
+};
+// clang-format on
+// Letters that are written with two: the control characters of the table above are their numbers.
+constexpr std::string_view Doppie[] = {"", "AE", "OE", "SS", "IJ"};
+
+std::string_view Piegata(char32_t carattere) {
+  for (const auto& [primo, lettere] : Piegature) {
+    if (carattere < primo || carattere - primo >= lettere.size()) continue;
+    const std::size_t posto = carattere - primo;
+    if (lettere[posto] == '-') return {};
+    if (lettere[posto] < ' ') return Doppie[static_cast<std::size_t>(lettere[posto])];
+    return lettere.substr(posto, 1);
+  }
+  return {};
+}
+
+bool AccentoCombinato(char32_t carattere) {
+  return carattere >= 0x300 && carattere <= 0x36F;
+}
+
+// The word of a line as a dictionary holds it; none when it has no place there.
+std::optional<std::string> ParolaDellaLista(std::string_view riga) {
+  std::string parola;
+  while (!riga.empty()) {
+    const auto carattere = EstraiCarattereUtf8(riga);
+    if (!carattere) return std::nullopt;
+    if (*carattere < 0x80) {
+      parola += Maiuscola(static_cast<char>(*carattere));
+      if (parola.back() < 'A' || parola.back() > 'Z') return std::nullopt;
+    } else if (const std::string_view piegata = Piegata(*carattere); !piegata.empty()) {
+      parola += piegata;
+    } else if (!AccentoCombinato(*carattere)) {
+      return std::nullopt;
+    }
+    if (parola.size() > MaxLunghezza) return std::nullopt;
+  }
+  if (!LunghezzaAmmessa(static_cast<int>(parola.size()))) return std::nullopt;
+  return parola;
+}
+
+std::string_view SenzaSpaziAiLati(std::string_view riga) {
+  const std::size_t primo = riga.find_first_not_of(" \t");
+  if (primo == std::string_view::npos) return {};
+  return riga.substr(primo, riga.find_last_not_of(" \t") - primo + 1);
+}
+
+}  // namespace
+
+void AggiungiLista(std::string_view utf8, ListeDiParole& liste) {
+  constexpr std::string_view SegnoUtf8 = "\xEF\xBB\xBF";  // some editors begin a file with it
+  if (utf8.starts_with(SegnoUtf8)) utf8.remove_prefix(SegnoUtf8.size());
+  LettoreDiRighe righe(utf8);
+  std::string_view riga;
+  while (righe.Prossima(riga)) {
+    if (auto parola = ParolaDellaLista(SenzaSpaziAiLati(riga))) {
+      liste[parola->size() - MinLunghezza].push_back(std::move(*parola));
+    }
+  }
+}
+
+void OrdinaListe(ListeDiParole& liste) {
+  for (auto& lista : liste) {
+    std::sort(lista.begin(), lista.end());
+    lista.erase(std::unique(lista.begin(), lista.end()), lista.end());
+  }
+}
+
+}  // namespace telarium

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dictionary/dictionary.h"
+
+// Plain word lists, from which dictionaries are built.
+namespace telarium {
+
+/// Words by their length less 3.
+using ListeDiParole = std::array<std::vector<std::string>, MaxLunghezza - MinLunghezza + 1>;
+
+/// Takes a list in UTF-8, one word a line, to `liste`: in capitals, accents folded ("È" to "E", "Œ"
+/// to "OE"). A word with any other character than A to Z, or of a length outside 3 to 15, is left
+/// out.
+void AggiungiLista(std::string_view utf8, ListeDiParole& liste);
+
+/// Sorts each list by character code and drops doubled words.
+void OrdinaListe(ListeDiParole& liste);
+
+}  // namespace telarium
