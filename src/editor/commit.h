@@ -1,0 +1,14 @@
+#pragma once
+
+// How a change reaches the grid: through the snapshot file, in the form in which a file holds it.
+namespace telarium {
+
+/// Commits a change made in Schema: writes the snapshot, reads it back, redraws. When the snapshot
+/// cannot be written (its message shows) the older one is not read back, so that the change stays.
+void ConsolidaSchema();
+
+/// Takes over the crossword that a dialog left in the snapshot: reads it and redraws. Nothing
+/// happens while NomeCruciverba is empty.
+void RiprendiSchema();
+
+}  // namespace telarium

@@ -1,0 +1,182 @@
+#include "fill/word_choice.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "dictionary/word_pattern.h"
+#include "platform/platform.h"
+
+namespace telarium {
+
+Tabella<std::int16_t, Indici<1, MaxParole>> Candidati("Candidati");
+std::int16_t NumCandidati = 0;
+Tabella<std::int16_t, Indici<0, MaxColonne>> DistanzaSu("DistanzaSu");
+Tabella<std::int16_t, Indici<0, MaxColonne>> DistanzaSinistra("DistanzaSinistra");
+
+namespace {
+
+void AzzeraScelta() {
+  Candidati.Riempi(0);
+  NumCandidati = 0;
+  DistanzaSu.Riempi(0);
+  DistanzaSinistra.Riempi(0);
+}
+
+const AzzeramentoDiSottosistema azzeramento(AzzeraScelta);
+
+void AggiungiCandidato(int numero) {
+  Candidati(++NumCandidati) = static_cast<std::int16_t>(numero);
+}
+
+// Finds the occurrences of one character in a block, in rising order.
+class Occorrenze {
+ public:
+  Occorrenze(const char* inizio, const char* fine, char carattere)
+      : fine_(fine), carattere_(carattere) {
+    CercaDa(inizio);
+  }
+
+  /// The first occurrence at or behind a place; the end of the block when there is none. Places
+  /// must rise from call to call.
+  const char* DaQui(const char* posto) {
+    if (prossima_ < posto) CercaDa(posto);
+    return prossima_;
+  }
+
+ private:
+  void CercaDa(const char* posto) {
+    const void* trovata = std::memchr(posto, carattere_, static_cast<std::size_t>(fine_ - posto));
+    prossima_ = trovata ? static_cast<const char*>(trovata) : fine_;
+  }
+
+  const char* fine_;
+  char carattere_;
+  const char* prossima_ = nullptr;
+};
+
+// Takes the words without Q and H: stretches of them between one such letter and the next, since
+// looking at every letter of every word is what takes the time.
+void PrendiSenzaQH(const BloccoDiParole& blocco) {
+  const char* const fine = blocco.Parola(blocco.quante);
+  Occorrenze q(blocco.inizio, fine, 'Q');
+  Occorrenze h(blocco.inizio, fine, 'H');
+  for (int i = 0; i < blocco.quante;) {
+    const char* const prossima = std::min(q.DaQui(blocco.Parola(i)), h.DaQui(blocco.Parola(i)));
+    const int esclusa = static_cast<int>((prossima - blocco.inizio) / blocco.lunghezza);
+    for (; i < esclusa; ++i)
+      AggiungiCandidato(blocco.primoNumero + i);
+    ++i;
+  }
+}
+
+void PrendiAdatte(const BloccoDiParole& blocco, const ModelloParola& modello) {
+  modello.PerOgniAdatta(blocco, [&](int i) {
+    AggiungiCandidato(blocco.primoNumero + i);
+    return true;
+  });
+}
+
+bool Nera(Casella casella) {
+  return TipoCasella(casella.colonna, casella.riga) == 0;
+}
+
+// The cell one step back from a cell, left or up.
+Casella Precedente(Casella casella, int direzione, int passi) {
+  return direzione == Orizzontale ? Casella{casella.colonna - passi, casella.riga}
+                                  : Casella{casella.colonna, casella.riga - passi};
+}
+
+// How far back from a cell, which counts as 1, its run in a direction begins.
+std::int16_t DistanzaDallInizio(Casella casella, int direzione) {
+  const int posto = direzione == Orizzontale ? casella.colonna : casella.riga;
+  std::int16_t d = 1;
+  while (d < posto && !Nera(Precedente(casella, direzione, d)))
+    ++d;
+  return d;
+}
+
+// The letters of the run that begins at a cell; empty when there is no word through it.
+std::string LettereDellIncrocio(Casella inizio, int direzione) {
+  const Slot incrocio = SlotDa(inizio, direzione);
+  std::string lettere;
+  for (int k = 1; k <= incrocio.lunghezza; ++k) {
+    const Casella cella = incrocio.Cella(k);
+    lettere += LetteraCasella(cella.colonna, cella.riga);
+  }
+  return lettere;
+}
+
+bool VaProvato(std::string_view incrocio) {
+  return incrocio.size() >= MinLunghezza && incrocio.find(PostoLibero) == std::string_view::npos;
+}
+
+}  // namespace
+
+bool CercaCandidati(std::string_view modello) {
+  const int lunghezza = static_cast<int>(modello.size());
+  NumCandidati = 0;
+  if (!LunghezzaAmmessa(lunghezza)) {
+    Avvisa(Unisci("Errore: Parola con ", lunghezza, " caratteri non disponibile!."));
+    return false;
+  }
+  const ModelloParola adatto(modello);
+  ScansioneSezione scansione(lunghezza);
+  BloccoDiParole blocco;
+  while (scansione.Prossimo(blocco)) {
+    adatto.TuttoLibero() ? PrendiSenzaQH(blocco) : PrendiAdatte(blocco, adatto);
+  }
+  if (!scansione.Aperta()) AvvisaDizionarioIlleggibile();
+  return scansione.Aperta();
+}
+
+std::string EstraiParola(int lunghezza) {
+  VerificaInvariante(NumCandidati > 0, "EstraiParola senza candidati");
+  const int posto = static_cast<int>(NumCandidati * Sistema().Casuale() + 1);
+  return LeggiParola(Candidati(posto), lunghezza);
+}
+
+EsitoIncroci ProvaIncroci(const Slot& slot) {
+  const int traversa = Traversa(slot.direzione);
+  auto& distanza = slot.direzione == Orizzontale ? DistanzaSu : DistanzaSinistra;
+  for (int k = 1; k <= slot.lunghezza; ++k)
+    distanza(k) = DistanzaDallInizio(slot.Cella(k), traversa);
+
+  EsitoIncroci esito;
+  for (int k = 1; k <= slot.lunghezza && esito.passati; ++k) {
+    const Casella inizio = Precedente(slot.Cella(k), traversa, distanza(k) - 1);
+    const std::string incrocio = LettereDellIncrocio(inizio, traversa);
+    if (!VaProvato(incrocio)) continue;
+    esito.passati = ParolaEsiste(incrocio) != Falso;
+    esito.incrocio = incrocio;
+  }
+  return esito;
+}
+
+Booleano16 ParolaEsiste(std::string_view modello) {
+  const int lunghezza = static_cast<int>(modello.size());
+  if (!LunghezzaAmmessa(lunghezza)) return Falso;
+  std::string conSpazi(modello);
+  std::replace(conSpazi.begin(), conSpazi.end(), CellaVuota, PostoLibero);
+  const ModelloParola cercato(conSpazi);
+  ScansioneSezione scansione(lunghezza);
+  BloccoDiParole blocco;
+  while (scansione.Prossimo(blocco)) {
+    const bool nessuna = cercato.PerOgniAdatta(blocco, [](int) { return false; });
+    if (!nessuna) return Vero;
+  }
+  return Falso;
+}
+
+std::string MascheraPunti(std::string_view modello) {
+  std::string punti(modello);
+  std::replace(punti.begin(), punti.end(), CellaSvuotata, CellaVuota);
+  return punti;
+}
+
+char LetteraCasuale() {
+  constexpr std::string_view lettere = "ABCDEFGHILMNOPQRSTUVZ";
+  return lettere[static_cast<std::size_t>(static_cast<double>(lettere.size()) *
+                                          Sistema().Casuale())];
+}
+
+}  // namespace telarium
