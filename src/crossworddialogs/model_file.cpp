@@ -1,0 +1,53 @@
+#include "crossworddialogs/model_file.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/state.h"
+#include "platform/text.h"
+
+namespace telarium {
+namespace {
+
+// Thousands of models of the largest size fit into this.
+constexpr std::size_t MaxByteModelli = 4u << 20;
+
+bool CarattereDiModello(char c) {
+  return c == CellaNera || c == CellaVuota || (c >= 'A' && c <= 'Z');
+}
+
+}  // namespace
+
+EsitoModelli LeggiModelli(const Percorso& nome, std::vector<Modello>& modelli) {
+  std::string contenuto;
+  switch (LeggiFile(nome, MaxByteModelli, contenuto)) {
+    case EsitoLettura::Letto:
+      modelli = InterpretaModelli(contenuto);
+      return EsitoModelli::Letti;
+    case EsitoLettura::Assente:
+      return EsitoModelli::Assente;
+    default:
+      return EsitoModelli::NonLeggibile;
+  }
+}
+
+std::vector<Modello> InterpretaModelli(std::string_view contenuto) {
+  std::vector<Modello> modelli;
+  Modello righe;
+  LettoreDiRighe lettore(contenuto);
+  std::string_view riga;
+  while (lettore.Prossima(riga)) {
+    if (riga.size() > 1) righe.emplace_back(riga);
+    if (riga.size() == 1) modelli.push_back(std::exchange(righe, {}));
+  }
+  return modelli;
+}
+
+bool ModelloValido(const Modello& modello) {
+  return std::all_of(modello.begin(), modello.end(), [&](const std::string& riga) {
+    return riga.size() == modello.front().size() &&
+           std::all_of(riga.begin(), riga.end(), CarattereDiModello);
+  });
+}
+
+}  // namespace telarium

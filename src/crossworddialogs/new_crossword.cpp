@@ -1,0 +1,102 @@
+#include "crossworddialogs/new_crossword.h"
+
+#include "crossworddialogs/model_file.h"
+#include "model/crossword_file.h"
+#include "model/words.h"
+#include "platform/platform.h"
+
+namespace telarium {
+namespace {
+
+bool Ammesso(int celle, int massimo) {
+  return celle >= MinCelle && celle <= massimo;
+}
+
+void AvvisaDimensione(std::string_view quali, int massimo) {
+  ChiUsa().SegnaleAcustico();
+  Avvisa(Unisci("Numero caselle ", quali, " consentito da ", MinCelle, " a ", massimo, '.'));
+}
+
+// The four header lines of a new crossword, with today's date.
+void ScriviIntestazione(int colonne, int righe) {
+  const auto oggi = Sistema().Oggi();
+  Schema(1) = "Autore     : Zanotti Graziella";
+  Schema(2) = Unisci("Data       : ", DueCifre(static_cast<int>(unsigned{oggi.day()})), '-',
+                     DueCifre(static_cast<int>(unsigned{oggi.month()})), '-',
+                     static_cast<int>(oggi.year()));
+  Schema(3) = "Tipo       : Crociate Normale";
+  Schema(4) = "Dimensioni : ";
+  ScriviDimensioni(colonne, righe);
+}
+
+// Lets `riga` make the grid lines, r from 1, and leaves the crossword in the snapshot.
+template <class Riga>
+EsitoNuovo Finisci(int colonne, int righe, Riga riga) {
+  SvuotaDefinizioni();
+  ScriviIntestazione(colonne, righe);
+  for (int r = 1; r <= righe; ++r)
+    Schema(r + RigheIntestazione) = riga(r);
+  NumColonne = static_cast<std::int16_t>(colonne);
+  NumRighe = static_cast<std::int16_t>(righe);
+  if (!ScriviCruciverba(PercorsoIstantanea(), Permanenza::Provvisoria))
+    return EsitoNuovo::NonScritto;
+  SchemaModificato = Falso;
+  NomeCruciverba = NomeMaiSalvato;
+  return EsitoNuovo::Fatto;
+}
+
+// A model's row as a line of Schema: each character twice.
+std::string Raddoppiata(std::string_view riga) {
+  std::string doppia;
+  for (const char c : riga)
+    doppia.append(2, c);
+  return doppia;
+}
+
+EsitoNuovo RifiutaModello(std::string testo) {
+  Avvisa(std::move(testo));
+  return EsitoNuovo::ModelloRifiutato;
+}
+
+}  // namespace
+
+EsitoNuovo NuovoVuoto(int colonne, int righe) {
+  if (!Ammesso(colonne, MaxColonne)) {
+    AvvisaDimensione("orizzontali", MaxColonne);
+    return EsitoNuovo::ColonneRifiutate;
+  }
+  if (!Ammesso(righe, MaxRighe)) {
+    AvvisaDimensione("verticali", MaxRighe);
+    return EsitoNuovo::RigheRifiutate;
+  }
+  return Finisci(colonne, righe, [colonne](int) {
+    return std::string(2 * static_cast<std::size_t>(colonne), CellaVuota);
+  });
+}
+
+EsitoNuovo NuovoDaModello(const Percorso& fileModelli, int numero) {
+  std::vector<Modello> modelli;
+  switch (LeggiModelli(fileModelli, modelli)) {
+    case EsitoModelli::Assente:
+      return RifiutaModello("Errore: Non trovato file di definizione modelli standard!");
+    case EsitoModelli::NonLeggibile:
+      return RifiutaModello("Impossibile leggere il file modelli: " + TestoPercorso(fileModelli));
+    case EsitoModelli::Letti:
+      break;
+  }
+  if (numero < 0 || numero >= static_cast<int>(modelli.size())) return EsitoNuovo::ModelloAssente;
+  const Modello& modello = modelli[static_cast<std::size_t>(numero)];
+  if (modello.empty()) return EsitoNuovo::ModelloAssente;
+  if (!ModelloValido(modello)) {
+    Avvisa("Tipo di file modelli non valido!");
+    TerminaProgramma();
+  }
+  if (modello.front().size() > MaxColonne || modello.size() > MaxRighe) {
+    return RifiutaModello(Unisci("Il modello supera le dimensioni massime di ", MaxColonne,
+                                 " colonne e ", MaxRighe, " righe."));
+  }
+  return Finisci(static_cast<int>(modello.front().size()), static_cast<int>(modello.size()),
+                 [&](int r) { return Raddoppiata(modello[static_cast<std::size_t>(r) - 1]); });
+}
+
+}  // namespace telarium
