@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/console/console_platform.h"
+#include "telar/arguments.h"
+
+namespace telarium::telar {
+
+/// Exit status of a command.
+enum class Stato { Fatto = 0, Fallito = 1, ArgomentiErrati = 2 };
+
+inline constexpr std::size_t QuantiSiVuole = std::numeric_limits<std::size_t>::max();
+
+/// A command of `telar`. All texts are UTF-8.
+struct Comando {
+  std::string_view nome;
+  std::string_view argomenti;  // as the usage text shows them
+  std::size_t minArgomenti;
+  std::size_t maxArgomenti;
+  std::vector<Opzione> opzioni;
+  std::string_view aiuto;
+  std::function<Stato(const Argomenti&, PiattaformaConsole&)> esegui;
+};
+
+/// All commands, in the order of the help text.
+const std::vector<Comando>& Comandi();
+
+std::vector<Comando> ComandiCruciverba();
+std::vector<Comando> ComandiDizionario();
+
+}  // namespace telarium::telar

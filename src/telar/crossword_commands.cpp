@@ -1,0 +1,181 @@
+#include <algorithm>
+#include <cstdio>
+
+#include "crossworddialogs/new_crossword.h"
+#include "dictionary/dictionary.h"
+#include "editor/commit.h"
+#include "editor/redraw.h"
+#include "fill/extraction.h"
+#include "model/crossword_file.h"
+#include "model/words.h"
+#include "platform/platform.h"
+#include "telar/command.h"
+#include "telar/output.h"
+
+namespace telarium::telar {
+namespace {
+
+// Opens the crossword of the command line, as the desktop does at its start.
+bool Apri(const std::string& file) {
+  NomeCruciverba = file;
+  if (!ApriCruciverba(NomeCruciverba)) return false;
+  RidisegnaSchema();
+  return true;
+}
+
+// The snapshot of this run lies in a folder of its own, so that no open desktop is disturbed and
+// many runs go on at once.
+class IstantaneaPropria {
+ public:
+  IstantaneaPropria() { CartellaIstantanea = cartella_.Nome(); }
+
+  bool Pronta() const {
+    if (cartella_.Nome().empty()) Avvisa("Impossibile creare una cartella temporanea.");
+    return !cartella_.Nome().empty();
+  }
+
+ private:
+  CartellaTemporanea cartella_;
+};
+
+Stato Scrivi(const std::string& uscita) {
+  return ScriviCruciverba(uscita) ? Stato::Fatto : Stato::Fallito;
+}
+
+Stato Parole(const Argomenti& argomenti, PiattaformaConsole&) {
+  if (!Apri(argomenti.liberi[0])) return Stato::Fallito;
+  PerOgniParola([](const Slot& slot) {
+    const auto [c, r] = slot.inizio;
+    StampaCampi({std::to_string(NumeroCasella(c, r)), slot.direzione == Orizzontale ? "O" : "V",
+                 std::to_string(c), std::to_string(r), std::to_string(slot.lunghezza),
+                 ParolaCasella(c, r, slot.direzione), Definizione(c, r, slot.direzione)});
+  });
+  return Stato::Fatto;
+}
+
+Stato Griglia(const Argomenti& argomenti, PiattaformaConsole&) {
+  if (!Apri(argomenti.liberi[0])) return Stato::Fallito;
+  for (int r = 1; r <= NumRighe; ++r) {
+    std::string riga;
+    for (int c = 1; c <= NumColonne; ++c)
+      riga += LetteraCasella(c, r);
+    StampaCampi({riga});
+  }
+  return Stato::Fatto;
+}
+
+Stato Copia(const Argomenti& argomenti, PiattaformaConsole&) {
+  if (!Apri(argomenti.liberi[0])) return Stato::Fallito;
+  return Scrivi(argomenti.liberi[1]);
+}
+
+EsitoNuovo NuovoConDimensioni(const std::string& dimensioni) {
+  const std::size_t per = dimensioni.find('x');
+  const auto colonne = NumeroIntero(dimensioni.substr(0, per));
+  const auto righe =
+      NumeroIntero(per == std::string::npos ? std::string() : dimensioni.substr(per + 1));
+  if (!colonne || !righe) {
+    throw ArgomentiErrati("--dimensioni vuole colonne e righe, per esempio 15x13");
+  }
+  // The dialog's field takes numbers of any size; what matters of a large one is that it is too
+  // large.
+  const auto limitato = [](std::int64_t n) {
+    return static_cast<int>(std::min<std::int64_t>(n, 1000));
+  };
+  return NuovoVuoto(limitato(*colonne), limitato(*righe));
+}
+
+EsitoNuovo NuovoConModello(const Argomenti& argomenti) {
+  const std::int64_t numero = argomenti.Numero("--modello", 1, 1);
+  const Percorso file = argomenti.Ha("--modelli")
+                            ? Percorso(argomenti.Valore("--modelli"))
+                            : PercorsoNellaCartella(CartellaProgramma, NomeModelliIniziale);
+  const EsitoNuovo esito =
+      NuovoDaModello(file, static_cast<int>(std::min<std::int64_t>(numero - 1, MaxParole)));
+  if (esito == EsitoNuovo::ModelloAssente) {
+    Avvisa(
+        Unisci("Il file modelli ", TestoPercorso(file), " non ha un modello numero ", numero, '.'));
+  }
+  return esito;
+}
+
+Stato Nuovo(const Argomenti& argomenti, PiattaformaConsole&) {
+  if (argomenti.Ha("--dimensioni") == argomenti.Ha("--modello")) {
+    throw ArgomentiErrati("serve o --dimensioni o --modello");
+  }
+  if (argomenti.Ha("--modelli") && !argomenti.Ha("--modello")) {
+    throw ArgomentiErrati("--modelli va insieme a --modello");
+  }
+  const IstantaneaPropria istantanea;
+  if (!istantanea.Pronta()) return Stato::Fallito;
+  const EsitoNuovo esito = argomenti.Ha("--dimensioni")
+                               ? NuovoConDimensioni(argomenti.Valore("--dimensioni"))
+                               : NuovoConModello(argomenti);
+  if (esito != EsitoNuovo::Fatto) return Stato::Fallito;
+  RiprendiSchema();
+  return Scrivi(argomenti.liberi[0]);
+}
+
+Risposta RispostaAlVicoloCieco(const std::string& valore) {
+  if (valore == "si") return Risposta::Si;
+  if (valore == "no") return Risposta::No;
+  if (valore == "annulla") return Risposta::Annulla;
+  throw ArgomentiErrati("--vicolo-cieco vuole si, no o annulla");
+}
+
+Stato Estrai(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
+  const RispostePerEstrazione risposte{
+      .vicoloCieco = RispostaAlVicoloCieco(argomenti.Valore("--vicolo-cieco", "si")),
+      .tentativi = argomenti.Numero("--tentativi", 1, 1000)};
+  piattaforma.ChiUsa().ImpostaRisposte(risposte);
+  NomeDizionario = argomenti.Valore("--dizionario", NomeDizionario.string());
+  ProvaInfinita = argomenti.Ha("--infinito") ? Vero : Falso;
+
+  if (!Apri(argomenti.liberi[0]) || !ApriDizionario()) return Stato::Fallito;
+  const IstantaneaPropria istantanea;
+  if (!istantanea.Pronta()) return Stato::Fallito;
+  AscoltaInterruzione();
+  switch (EseguiEstrazione()) {
+    case EsitoEstrazione::Completa:
+    case EsitoEstrazione::Annullata:
+      return Scrivi(argomenti.liberi[1]);
+    case EsitoEstrazione::Interrotta:
+      Avvisa("Estrazione interrotta: nessun file scritto.");
+      return Stato::Fallito;
+    default:
+      return Stato::Fallito;
+  }
+}
+
+constexpr Opzione OpzioneDimensioni = {"--dimensioni", "CxR", "colonne per righe, da 3x3 a 53x30"};
+
+}  // namespace
+
+std::vector<Comando> ComandiCruciverba() {
+  return {
+      {"parole", "FILE", 1, 1, {}, "Elenca le parole del cruciverba con le definizioni.", Parole},
+      {"griglia", "FILE", 1, 1, {}, "Mostra la griglia, una riga per riga.", Griglia},
+      {"copia", "FILE USCITA", 2, 2, {}, "Apre il cruciverba e lo riscrive in USCITA.", Copia},
+      {"nuovo",
+       "USCITA",
+       1,
+       1,
+       {OpzioneDimensioni,
+        {"--modello", "N", "il modello numero N, da 1, in luogo delle dimensioni"},
+        {"--modelli", "FILE.dfc", "il file dei modelli (STANDARD.dfc della cartella programma)"}},
+       "Scrive un cruciverba nuovo, vuoto o da un modello.",
+       Nuovo},
+      {"estrai",
+       "FILE USCITA",
+       2,
+       2,
+       {{"--dizionario", "NOME", "il dizionario (LessicoItaliano.dat)"},
+        {"--vicolo-cieco", "si|no|annulla", "la risposta a ogni vicolo cieco (si)"},
+        {"--infinito", "", "ricomincia da solo a ogni vicolo cieco"},
+        {"--tentativi", "N", "rinuncia dopo N inizi (1000)"}},
+       "Riempie la griglia con parole estratte dal dizionario.",
+       Estrai},
+  };
+}
+
+}  // namespace telarium::telar

@@ -1,0 +1,138 @@
+#include <algorithm>
+#include <cstdio>
+
+#include "dictionary/dictionary.h"
+#include "dictionary/dictionary_writer.h"
+#include "dictionary/masked_search.h"
+#include "dictionary/word_pattern.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
+#include "telar/command.h"
+#include "telar/output.h"
+
+namespace telarium::telar {
+namespace {
+
+// Far above any list of 13 full sections; the list is held in memory.
+constexpr std::size_t MaxByteLista = 64u << 20;
+
+bool ApriDizionario(std::string_view nome) {
+  NomeDizionario = nome;
+  return telarium::ApriDizionario();
+}
+
+std::string MascheraDa(std::string_view utf8) {
+  std::string maschera = Maiuscole(DaUtf8(utf8));
+  std::replace(maschera.begin(), maschera.end(), '.', PostoLibero);
+  std::replace(maschera.begin(), maschera.end(), '_', PostoLibero);
+  return maschera;
+}
+
+void StampaParola(std::string_view parola) {
+  StampaCampi({parola});
+}
+
+Stato Cerca(const Argomenti& argomenti, PiattaformaConsole&) {
+  const std::string maschera = MascheraDa(argomenti.liberi[0]);
+  if (!LunghezzaAmmessa(static_cast<int>(maschera.size()))) {
+    throw ArgomentiErrati("la maschera vuole da 3 a 15 caratteri");
+  }
+  if (!ApriDizionario(argomenti.Valore("--dizionario", NomeDizionario.string()))) {
+    return Stato::Fallito;
+  }
+  const EsitoRicerca esito = CercaParole(maschera, StampaParola);
+  Avvisa(TestoTrovate(esito.trovate));
+  return esito.dizionarioLetto ? Stato::Fatto : Stato::Fallito;
+}
+
+Stato DizInfo(const Argomenti& argomenti, PiattaformaConsole&) {
+  if (!ApriDizionario(argomenti.liberi[0])) return Stato::Fallito;
+  for (int lunghezza = MinLunghezza; lunghezza <= MaxLunghezza; ++lunghezza) {
+    StampaCampi({std::to_string(lunghezza),
+                 std::to_string(OffsetLunghezza(lunghezza - MinLunghezza)),
+                 std::to_string(ContaLunghezza(lunghezza - MinLunghezza))});
+  }
+  return Stato::Fatto;
+}
+
+Stato DizElenca(const Argomenti& argomenti, PiattaformaConsole&) {
+  int prima = MinLunghezza, ultima = MaxLunghezza;
+  if (argomenti.liberi.size() == 2) {
+    const auto lunghezza = NumeroIntero(argomenti.liberi[1]);
+    if (!lunghezza || *lunghezza < MinLunghezza || *lunghezza > MaxLunghezza) {
+      throw ArgomentiErrati("LUNGHEZZA va da 3 a 15");
+    }
+    prima = ultima = static_cast<int>(*lunghezza);
+  }
+  if (!ApriDizionario(argomenti.liberi[0])) return Stato::Fallito;
+  for (int lunghezza = prima; lunghezza <= ultima; ++lunghezza) {
+    const std::string tutte(static_cast<std::size_t>(lunghezza), PostoLibero);
+    if (!CercaParole(tutte, StampaParola).dizionarioLetto) return Stato::Fallito;
+  }
+  return Stato::Fatto;
+}
+
+// Why a word list cannot be taken; empty when it was read.
+std::string_view ErroreDellaLista(EsitoLettura esito) {
+  switch (esito) {
+    case EsitoLettura::Assente:
+      return "Non trovata la lista di parole: ";
+    case EsitoLettura::Illeggibile:
+      return "Impossibile leggere la lista di parole: ";
+    case EsitoLettura::TroppoGrande:
+      return "Troppo grande la lista di parole: ";
+    default:
+      return {};
+  }
+}
+
+Stato DizCrea(const Argomenti& argomenti, PiattaformaConsole&) {
+  ListeDiParole liste;
+  for (std::size_t i = 1; i < argomenti.liberi.size(); ++i) {
+    const Percorso nome = argomenti.liberi[i];
+    std::string contenuto;
+    const EsitoLettura esito = LeggiFile(nome, MaxByteLista, contenuto);
+    if (esito != EsitoLettura::Letto) {
+      Avvisa(std::string(ErroreDellaLista(esito)) + TestoPercorso(nome));
+      return Stato::Fallito;
+    }
+    AggiungiLista(contenuto, liste);
+  }
+  OrdinaListe(liste);
+  const EsitoDizionario esito =
+      ScriviDizionario(PercorsoNellaCartella(CartellaProgramma, argomenti.liberi[0]), liste);
+  if (!esito.errore.empty()) {
+    Avvisa(esito.errore);
+    return Stato::Fallito;
+  }
+  for (int lunghezza = MinLunghezza; lunghezza <= MaxLunghezza; ++lunghezza) {
+    const int parole = esito.parole[static_cast<std::size_t>(lunghezza - MinLunghezza)];
+    StampaCampi({std::to_string(lunghezza), std::to_string(parole)});
+  }
+  return Stato::Fatto;
+}
+
+}  // namespace
+
+std::vector<Comando> ComandiDizionario() {
+  return {
+      {"cerca",
+       "MASCHERA",
+       1,
+       1,
+       {{"--dizionario", "NOME", "il dizionario (LessicoItaliano.dat)"}},
+       "Cerca le parole che si adattano; \".\" e \"_\" sono posti liberi.",
+       Cerca},
+      {"diz-info", "NOME", 1, 1, {}, "Mostra la tabella delle sezioni del dizionario.", DizInfo},
+      {"diz-elenca", "NOME [LUNGHEZZA]", 1, 2, {}, "Elenca le parole del dizionario.", DizElenca},
+      {"diz-crea",
+       "NOME LISTA...",
+       2,
+       QuantiSiVuole,
+       {},
+       "Scrive il dizionario NOME da semplici liste in UTF-8, una parola per riga.",
+       DizCrea},
+  };
+}
+
+}  // namespace telarium::telar

@@ -1,0 +1,163 @@
+#include <algorithm>
+#include <cstdio>
+#include <exception>
+
+#include "model/state.h"
+#include "platform/console/console_platform.h"
+#include "platform/program_folder.h"
+#include "telar/command.h"
+#include "telarium_version.h"
+
+// The console companion: reads its arguments, runs the routines of the core, prints.
+namespace telarium::telar {
+namespace {
+
+constexpr Opzione OpzioneCartella = {"--cartella", "CARTELLA", "la cartella programma"};
+constexpr Opzione OpzioneAiuto = {"--help", "", "mostra questo aiuto"};
+constexpr Opzione OpzioneVersione = {"--version", "", "mostra la versione"};
+
+void Aggiungi(std::string& testo, std::initializer_list<std::string_view> parti) {
+  for (const std::string_view parte : parti)
+    testo += parte;
+}
+
+void AggiungiOpzioni(std::string& testo, const std::vector<Opzione>& opzioni) {
+  for (const auto& [nome, valore, aiuto] : opzioni) {
+    std::string sinistra = "  " + std::string(nome);
+    if (!valore.empty()) Aggiungi(sinistra, {" ", valore});
+    sinistra.resize(std::max<std::size_t>(sinistra.size() + 1, 32), ' ');
+    Aggiungi(testo, {sinistra, aiuto, "\n"});
+  }
+}
+
+std::string UsoGenerale() {
+  std::string testo =
+      "Uso: telar [--cartella CARTELLA] COMANDO [ARGOMENTI] [OPZIONI]\n\nComandi:\n";
+  for (const Comando& comando : Comandi()) {
+    std::string sinistra = "  ";
+    Aggiungi(sinistra, {comando.nome, " ", comando.argomenti});
+    sinistra.resize(std::max<std::size_t>(sinistra.size() + 1, 32), ' ');
+    Aggiungi(testo, {sinistra, comando.aiuto, "\n"});
+  }
+  testo += "\nOpzioni:\n";
+  AggiungiOpzioni(testo, {OpzioneCartella, OpzioneAiuto, OpzioneVersione});
+  testo += "\n\"telar COMANDO --help\" spiega un comando.\n";
+  return testo;
+}
+
+std::string UsoDi(const Comando& comando) {
+  std::string testo;
+  Aggiungi(testo, {"Uso: telar ", comando.nome, " ", comando.argomenti, " [OPZIONI]\n\n",
+                   comando.aiuto, "\n\nOpzioni:\n"});
+  AggiungiOpzioni(testo, comando.opzioni);
+  AggiungiOpzioni(testo, {OpzioneCartella, OpzioneAiuto});
+  return testo;
+}
+
+const Comando* TrovaComando(std::string_view nome) {
+  const auto trovato = std::find_if(Comandi().begin(), Comandi().end(),
+                                    [&](const Comando& uno) { return uno.nome == nome; });
+  return trovato == Comandi().end() ? nullptr : &*trovato;
+}
+
+// The command is the first word that is neither an option nor the value of one that may stand
+// before it. It is taken out of the words.
+const Comando* PrendiComando(std::vector<std::string>& parole) {
+  for (std::size_t i = 0; i < parole.size(); ++i) {
+    if (parole[i] == OpzioneCartella.nome) {
+      ++i;
+    } else if (!parole[i].starts_with('-')) {
+      const Comando* comando = TrovaComando(parole[i]);
+      if (!comando) throw ArgomentiErrati("comando sconosciuto: " + parole[i]);
+      parole.erase(parole.begin() + static_cast<std::ptrdiff_t>(i));
+      return comando;
+    }
+  }
+  return nullptr;
+}
+
+Argomenti Leggi(const std::vector<std::string>& parole, const Comando* comando) {
+  std::vector<Opzione> ammesse = {OpzioneCartella, OpzioneAiuto, OpzioneVersione};
+  if (comando) ammesse.insert(ammesse.end(), comando->opzioni.begin(), comando->opzioni.end());
+  return Separa(parole, ammesse);
+}
+
+void SceglieCartella(const Argomenti& argomenti) {
+  std::error_code errore;
+  if (argomenti.Ha(OpzioneCartella.nome)) {
+    CartellaProgramma = std::filesystem::absolute(argomenti.Valore(OpzioneCartella.nome), errore);
+    return;
+  }
+  const SceltaCartella scelta = ScegliCartellaProgramma();
+  CartellaProgramma = scelta.cartella;
+  if (!scelta.daRiempire) return;
+  for (const Percorso& fallito : RiempiCartella(CartellaDatiInstallati(), CartellaProgramma)) {
+    Avvisa("Impossibile copiare nella cartella programma il file: " + TestoPercorso(fallito));
+  }
+}
+
+Stato Esegui(const Comando& comando, const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
+  const std::size_t quanti = argomenti.liberi.size();
+  if (quanti < comando.minArgomenti) throw ArgomentiErrati("mancano argomenti");
+  if (quanti > comando.maxArgomenti) throw ArgomentiErrati("troppi argomenti");
+  SceglieCartella(argomenti);
+  return comando.esegui(argomenti, piattaforma);
+}
+
+Stato Rifiuta(const std::string& errore, const std::string& uso) {
+  std::fprintf(stderr, "telar: %s\n%s", errore.c_str(), uso.c_str());
+  return Stato::ArgomentiErrati;
+}
+
+Stato EseguiRigaDiComando(std::vector<std::string> parole, PiattaformaConsole& piattaforma) {
+  const Comando* comando = nullptr;
+  try {
+    comando = PrendiComando(parole);
+    const Argomenti argomenti = Leggi(parole, comando);
+    if (argomenti.Ha(OpzioneAiuto.nome)) {
+      std::fputs((comando ? UsoDi(*comando) : UsoGenerale()).c_str(), stdout);
+      return Stato::Fatto;
+    }
+    if (argomenti.Ha(OpzioneVersione.nome)) {
+      std::puts("telar " TELARIUM_VERSION);
+      return Stato::Fatto;
+    }
+    if (!comando) throw ArgomentiErrati("manca il comando");
+    return Esegui(*comando, argomenti, piattaforma);
+  } catch (const ArgomentiErrati& errore) {
+    return Rifiuta(errore.what(), comando ? UsoDi(*comando) : UsoGenerale());
+  }
+}
+
+}  // namespace
+
+const std::vector<Comando>& Comandi() {
+  static const std::vector<Comando> comandi = [] {
+    std::vector<Comando> tutti = ComandiCruciverba();
+    for (Comando& uno : ComandiDizionario())
+      tutti.push_back(std::move(uno));
+    return tutti;
+  }();
+  return comandi;
+}
+
+}  // namespace telarium::telar
+
+int main(int argc, char** argv) {
+  using namespace telarium;
+  PiattaformaConsole piattaforma;
+  ImpostaPiattaforma(&piattaforma);
+  telar::Stato stato = telar::Stato::Fallito;
+  try {
+    stato = telar::EseguiRigaDiComando({argv + 1, argv + argc}, piattaforma);
+  } catch (const ProgrammaTerminato&) {
+    // Its message has been shown.
+  } catch (const std::exception& errore) {
+    std::fprintf(stderr, "Errore imprevisto: %s\n", errore.what());
+  }
+  if (std::fflush(stdout) != 0 || std::ferror(stdout)) {
+    std::fputs("Errore di scrittura sull'uscita standard.\n", stderr);
+    stato = telar::Stato::Fallito;
+  }
+  return static_cast<int>(stato);
+}
