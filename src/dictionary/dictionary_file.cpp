@@ -5,7 +5,8 @@
 namespace telarium {
 
 FileDizionario::FileDizionario(const Percorso& nome)
-    : descrittore_(::open(nome.c_str(), O_RDONLY | O_CLOEXEC)) {}
+    // A pipe in the place of a dictionary must not make the program wait for it.
+    : descrittore_(::open(nome.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {}
 
 std::size_t FileDizionario::Leggi(std::int64_t posizione, char* destinazione,
                                   std::size_t byte) const {

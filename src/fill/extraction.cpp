@@ -144,17 +144,8 @@ class Estrazione {
     return slot;
   }
 
-  static std::string ModelloDi(const Slot& slot) {
-    std::string modello;
-    for (int k = 1; k <= slot.lunghezza; ++k) {
-      const Casella cella = slot.Cella(k);
-      modello += LetteraCasella(cella.colonna, cella.riga);
-    }
-    return modello;
-  }
-
   Seguito PrendiSlot(const Slot& slot) {
-    const std::string modello = ModelloDi(slot);
+    const std::string modello = LettereDi(slot);
     if (!CercaCandidati(modello)) return Basta(EsitoEstrazione::SenzaParole);
     if (NumCandidati == 0) {
       // Three letters without a word are passed over in silence.

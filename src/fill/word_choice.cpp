@@ -80,8 +80,8 @@ bool Nera(Casella casella) {
   return TipoCasella(casella.colonna, casella.riga) == 0;
 }
 
-// The cell one step back from a cell, left or up.
-Casella Precedente(Casella casella, int direzione, int passi) {
+// The cell so many steps back from a cell, left or up.
+Casella Indietro(Casella casella, int direzione, int passi) {
   return direzione == Orizzontale ? Casella{casella.colonna - passi, casella.riga}
                                   : Casella{casella.colonna, casella.riga - passi};
 }
@@ -90,20 +90,9 @@ Casella Precedente(Casella casella, int direzione, int passi) {
 std::int16_t DistanzaDallInizio(Casella casella, int direzione) {
   const int posto = direzione == Orizzontale ? casella.colonna : casella.riga;
   std::int16_t d = 1;
-  while (d < posto && !Nera(Precedente(casella, direzione, d)))
+  while (d < posto && !Nera(Indietro(casella, direzione, d)))
     ++d;
   return d;
-}
-
-// The letters of the run that begins at a cell; empty when there is no word through it.
-std::string LettereDellIncrocio(Casella inizio, int direzione) {
-  const Slot incrocio = SlotDa(inizio, direzione);
-  std::string lettere;
-  for (int k = 1; k <= incrocio.lunghezza; ++k) {
-    const Casella cella = incrocio.Cella(k);
-    lettere += LetteraCasella(cella.colonna, cella.riga);
-  }
-  return lettere;
 }
 
 bool VaProvato(std::string_view incrocio) {
@@ -143,8 +132,9 @@ EsitoIncroci ProvaIncroci(const Slot& slot) {
 
   EsitoIncroci esito;
   for (int k = 1; k <= slot.lunghezza && esito.passati; ++k) {
-    const Casella inizio = Precedente(slot.Cella(k), traversa, distanza(k) - 1);
-    const std::string incrocio = LettereDellIncrocio(inizio, traversa);
+    const Casella inizio = Indietro(slot.Cella(k), traversa, distanza(k) - 1);
+    // A cell without a word through it has an empty one.
+    const std::string incrocio = LettereDi(SlotDa(inizio, traversa));
     if (!VaProvato(incrocio)) continue;
     esito.passati = ParolaEsiste(incrocio) != Falso;
     esito.incrocio = incrocio;

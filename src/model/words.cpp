@@ -87,6 +87,15 @@ Slot SlotDa(Casella casella, int direzione) {
   return {casella, direzione, static_cast<int>(parola.size())};
 }
 
+std::string LettereDi(const Slot& slot) {
+  std::string lettere;
+  for (int k = 1; k <= slot.lunghezza; ++k) {
+    const Casella cella = slot.Cella(k);
+    lettere += LetteraCasella(cella.colonna, cella.riga);
+  }
+  return lettere;
+}
+
 void ScriviInSchema(Casella casella, char carattere) {
   std::string& riga = Schema(casella.riga + RigheIntestazione);
   const auto posto = 2 * static_cast<std::size_t>(casella.colonna) - 2;

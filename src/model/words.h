@@ -43,6 +43,9 @@ bool IniziaParola(Casella casella, int direzione);
 /// The word that starts at the cell in that direction; its length is that of ParolaCasella.
 Slot SlotDa(Casella casella, int direzione);
 
+/// The characters of the word's cells as they stand in LetteraCasella.
+std::string LettereDi(const Slot& slot);
+
 /// Calls `visita` with each word of the grid: by rows, in a row by columns, at a cell the
 /// horizontal word before the vertical one.
 template <class Visita>

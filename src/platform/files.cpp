@@ -75,7 +75,8 @@ class FileAccanto {
 
  private:
   void CreaConNomeNuovo() {
-    const std::string nome = Unisci('.', definitivo_.filename().string(), ".XXXXXX");
+    // Shortened, so that a name of the greatest length has room for what is put round it.
+    const std::string nome = Unisci('.', definitivo_.filename().string().substr(0, 200), ".XXXXXX");
     std::string modello = (definitivo_.parent_path() / nome).string();
     file_ = Descrittore(::mkostemp(modello.data(), O_CLOEXEC));
     if (file_) nome_ = modello;

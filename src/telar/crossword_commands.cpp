@@ -132,9 +132,9 @@ Stato Estrai(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   ProvaInfinita = argomenti.Ha("--infinito") ? Vero : Falso;
 
   if (!Apri(argomenti.liberi[0]) || !ApriDizionario()) return Stato::Fallito;
+  AscoltaInterruzione();  // before there is a temporary folder that has to be removed
   const IstantaneaPropria istantanea;
   if (!istantanea.Pronta()) return Stato::Fallito;
-  AscoltaInterruzione();
   switch (EseguiEstrazione()) {
     case EsitoEstrazione::Completa:
     case EsitoEstrazione::Annullata:

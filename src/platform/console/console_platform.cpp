@@ -51,8 +51,4 @@ std::chrono::year_month_day MacchinaConsole::Oggi() {
          std::chrono::day(static_cast<unsigned>(locale.tm_mday));
 }
 
-std::error_code MacchinaConsole::EseguiComando(const Percorso&, const std::vector<std::string>&) {
-  return std::make_error_code(std::errc::not_supported);
-}
-
 }  // namespace telarium

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <exception>
 
-#include "platform/common/random_source.h"
+#include "platform/common/isolated_machine.h"
 #include "platform/platform.h"
 
 // The platform of `telar`: messages go to standard error, answers come from the command line.
@@ -44,21 +44,9 @@ class UtenteConsole : public Utente {
 /// From now on Ctrl+C no longer ends the process: it sets a flag that ContinuaEstrazione reads.
 void AscoltaInterruzione();
 
-/// Clock and random numbers. The console opens no programs, keeps no settings and sends no mail.
-class MacchinaConsole : public Macchina {
+class MacchinaConsole : public MacchinaIsolata {
  public:
   std::chrono::year_month_day Oggi() override;
-  double Casuale() override { return casuali_.Prossimo(); }
-  std::error_code EseguiComando(const Percorso&, const std::vector<std::string>&) override;
-  bool Apri(const std::string&) override { return false; }
-  bool ApriInWord(const Percorso&) override { return false; }
-  bool PreparaMail(const Mail&) override { return false; }
-  std::optional<std::string> Preleva(const std::string&) override { return std::nullopt; }
-  std::optional<std::string> LeggiImpostazione(const std::string&) override { return std::nullopt; }
-  void ScriviImpostazione(const std::string&, const std::string&) override {}
-
- private:
-  SorgenteCasuale casuali_;
 };
 
 class PiattaformaConsole : public Piattaforma {
