@@ -29,17 +29,39 @@ void ScriviIntestazione(int colonne, int righe) {
   ScriviDimensioni(colonne, righe);
 }
 
+// The crossword as it was, put back at the end unless the new one has taken its place.
+class CruciverbaDiPrima {
+ public:
+  ~CruciverbaDiPrima() {
+    if (sostituito_) return;
+    Schema = schema_;
+    Definizione = definizione_;
+    NumColonne = colonne_;
+    NumRighe = righe_;
+  }
+
+  void Sostituito() { sostituito_ = true; }
+
+ private:
+  decltype(Schema) schema_ = Schema;
+  decltype(Definizione) definizione_ = Definizione;
+  std::int16_t colonne_ = NumColonne;
+  std::int16_t righe_ = NumRighe;
+  bool sostituito_ = false;
+};
+
 // Lets `riga` make the grid lines, r from 1, and leaves the crossword in the snapshot.
 template <class Riga>
 EsitoNuovo Finisci(int colonne, int righe, Riga riga) {
+  CruciverbaDiPrima prima;
   SvuotaDefinizioni();
   ScriviIntestazione(colonne, righe);
   for (int r = 1; r <= righe; ++r)
     Schema(r + RigheIntestazione) = riga(r);
   NumColonne = static_cast<std::int16_t>(colonne);
   NumRighe = static_cast<std::int16_t>(righe);
-  if (!ScriviCruciverba(PercorsoIstantanea(), Permanenza::Provvisoria))
-    return EsitoNuovo::NonScritto;
+  if (!ScriviIstantanea()) return EsitoNuovo::NonScritto;
+  prima.Sostituito();
   SchemaModificato = Falso;
   NomeCruciverba = NomeMaiSalvato;
   return EsitoNuovo::Fatto;

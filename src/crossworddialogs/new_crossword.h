@@ -5,7 +5,7 @@
 // What the new-crossword dialogs leave behind: Schema as built here, NumColonne and NumRighe, a
 // cleared Definizione, the snapshot, SchemaModificato 0 and NomeCruciverba NomeMaiSalvato.
 // ColoreCasella stays. The main window takes the crossword over from the snapshot. After a refusal
-// nothing has changed.
+// or a failure nothing has changed.
 namespace telarium {
 
 inline constexpr int MinCelle = 3;  // of a side of a new grid

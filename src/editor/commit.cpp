@@ -6,14 +6,13 @@
 namespace telarium {
 
 void ConsolidaSchema() {
-  const Percorso istantanea = PercorsoIstantanea();
-  if (ScriviCruciverba(istantanea, Permanenza::Provvisoria)) LeggiCruciverba(istantanea);
+  if (ScriviIstantanea()) LeggiIstantanea();
   RidisegnaSchema();
 }
 
 void RiprendiSchema() {
   if (NomeCruciverba.empty()) return;
-  LeggiCruciverba(PercorsoIstantanea());
+  LeggiIstantanea();
   RidisegnaSchema();
 }
 

@@ -120,7 +120,8 @@ bool CercaCandidati(std::string_view modello) {
 
 std::string EstraiParola(int lunghezza) {
   VerificaInvariante(NumCandidati > 0, "EstraiParola senza candidati");
-  const int posto = static_cast<int>(NumCandidati * Sistema().Casuale() + 1);
+  // The 1 is added behind the cut: a draw next to 1 would round up to a place too many.
+  const int posto = static_cast<int>(NumCandidati * Sistema().Casuale()) + 1;
   return LeggiParola(Candidati(posto), lunghezza);
 }
 

@@ -54,7 +54,7 @@ bool LeggiGriglia(LettoreDiRighe& righe) {
     riga = letta;
     for (std::size_t p = 0; p < riga.size(); p += 2) {
       const int codice = static_cast<unsigned char>(riga[p]) - Spostamento;
-      if (codice <= 0) return false;  // no cell character has that code
+      if (codice < 0) return false;  // no cell character has that code
       riga[p] = static_cast<char>(codice);
     }
   }
@@ -186,6 +186,13 @@ bool LeggiDa(const Percorso& percorso, const Percorso& nomeMostrato) {
   return false;
 }
 
+bool ScriviIn(const Percorso& percorso, Permanenza permanenza) {
+  const auto testo = TestoDelFile();
+  if (testo && !ScriviFile(percorso, *testo, permanenza)) return true;
+  Avvisa(std::string(MessaggioScrittura));
+  return false;
+}
+
 }  // namespace
 
 bool InterpretaCruciverba(std::string_view contenuto) {
@@ -213,11 +220,16 @@ bool ApriCruciverba(const Percorso& nome) {
   return LeggiDa(nome, nome);
 }
 
-bool ScriviCruciverba(const Percorso& nome, Permanenza permanenza) {
-  const auto testo = TestoDelFile();
-  if (testo && !ScriviFile(nome, *testo, permanenza)) return true;
-  Avvisa(std::string(MessaggioScrittura));
-  return false;
+bool ScriviCruciverba(const Percorso& nome) {
+  return ScriviIn(nome, Permanenza::SulDisco);
+}
+
+bool LeggiIstantanea() {
+  return LeggiDa(PercorsoIstantanea(), NomeIstantanea);
+}
+
+bool ScriviIstantanea() {
+  return ScriviIn(PercorsoIstantanea(), Permanenza::Provvisoria);
 }
 
 void ScriviDimensioni(int colonne, int righe) {

@@ -36,8 +36,11 @@ bool InterpretaCruciverba(std::string_view contenuto);
 
 /// Writes the crossword to a path as given; the clues follow TipoCasella as the last redraw left
 /// it. The state stays as it is. A failure shows its message, gives false and leaves the old file.
-[[nodiscard]] bool ScriviCruciverba(const Percorso& nome,
-                                    Permanenza permanenza = Permanenza::SulDisco);
+[[nodiscard]] bool ScriviCruciverba(const Percorso& nome);
+
+/// The same two with the snapshot, which is never forced to the disk.
+bool LeggiIstantanea();
+[[nodiscard]] bool ScriviIstantanea();
 
 /// The header line with the size, from NumColonne and NumRighe: what it held before character 14
 /// stays.

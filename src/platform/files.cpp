@@ -93,6 +93,15 @@ class FileAccanto {
   Descrittore file_;
 };
 
+// The file that the user means by a symbolic link, whether it exists yet or not.
+Percorso DietroICollegamenti(Percorso nome) {
+  std::error_code errore;
+  for (int i = 0; i < 40 && fs::is_symlink(fs::symlink_status(nome, errore)); ++i) {
+    nome = nome.parent_path() / fs::read_symlink(nome, errore);
+  }
+  return nome;
+}
+
 // The rename itself reaches the disk with the folder. A file system that cannot do this has done
 // all it can.
 void FissaCartella(const Percorso& cartella) {
@@ -177,9 +186,7 @@ std::error_code ScriviFile(const Percorso& nome, std::string_view contenuto, Per
   if (fs::is_directory(stato)) return std::make_error_code(std::errc::is_a_directory);
   if (fs::exists(stato) && !fs::is_regular_file(stato)) return ScriviDirettamente(nome, contenuto);
 
-  // Behind a symbolic link lies the file that the user means.
-  Percorso definitivo = fs::exists(stato) ? fs::canonical(nome, errore) : nome;
-  if (definitivo.empty()) definitivo = nome;
+  const Percorso definitivo = DietroICollegamenti(nome);
   FileAccanto nuovo(definitivo, accanto);
   if ((errore = nuovo.Scrivi(contenuto, permanenza))) return errore;
   if ((errore = nuovo.PrendiIlPosto())) return errore;

@@ -51,7 +51,8 @@ SceltaCartella ScegliCartellaProgramma() {
   }
   const Percorso accanto = CartellaEseguibile();
   if (!accanto.empty() && TrovaFile(accanto, "telarium.INI")) return {accanto, false};
-  return {CartellaUtente(), true};
+  const Percorso utente = CartellaUtente();
+  return {utente, !utente.empty()};
 }
 
 std::vector<Percorso> RiempiCartella(const Percorso& installati, const Percorso& cartella) {

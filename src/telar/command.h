@@ -20,7 +20,8 @@ inline constexpr std::size_t QuantiSiVuole = std::numeric_limits<std::size_t>::m
 /// A command of `telar`. All texts are UTF-8.
 struct Comando {
   std::string_view nome;
-  std::string_view argomenti;  // as the usage text shows them
+  std::string_view argomenti;  // as the usage text shows them, and behind them the options of which
+  std::string_view uso;        // one is needed
   std::size_t minArgomenti;
   std::size_t maxArgomenti;
   std::vector<Opzione> opzioni;

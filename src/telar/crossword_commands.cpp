@@ -101,7 +101,8 @@ EsitoNuovo NuovoConModello(const Argomenti& argomenti) {
 
 Stato Nuovo(const Argomenti& argomenti, PiattaformaConsole&) {
   if (argomenti.Ha("--dimensioni") == argomenti.Ha("--modello")) {
-    throw ArgomentiErrati("serve o --dimensioni o --modello");
+    throw ArgomentiErrati(argomenti.Ha("--modello") ? "--dimensioni e --modello non vanno insieme"
+                                                    : "serve --dimensioni o --modello");
   }
   if (argomenti.Ha("--modelli") && !argomenti.Ha("--modello")) {
     throw ArgomentiErrati("--modelli va insieme a --modello");
@@ -140,42 +141,45 @@ Stato Estrai(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
     case EsitoEstrazione::Annullata:
       return Scrivi(argomenti.liberi[1]);
     case EsitoEstrazione::Interrotta:
-      Avvisa("Estrazione interrotta: nessun file scritto.");
+      Avvisa(Unisci(piattaforma.ChiUsa().Interrotto()
+                        ? "Estrazione interrotta"
+                        : Unisci("Rinuncia dopo ", risposte.tentativi, " tentativi"),
+                    ": nessun file scritto."));
       return Stato::Fallito;
     default:
       return Stato::Fallito;
   }
 }
 
-constexpr Opzione OpzioneDimensioni = {"--dimensioni", "CxR", "colonne per righe, da 3x3 a 53x30"};
-
 }  // namespace
 
 std::vector<Comando> ComandiCruciverba() {
+  // clang-format off
   return {
-      {"parole", "FILE", 1, 1, {}, "Elenca le parole del cruciverba con le definizioni.", Parole},
-      {"griglia", "FILE", 1, 1, {}, "Mostra la griglia, una riga per riga.", Griglia},
-      {"copia", "FILE USCITA", 2, 2, {}, "Apre il cruciverba e lo riscrive in USCITA.", Copia},
-      {"nuovo",
-       "USCITA",
-       1,
-       1,
-       {OpzioneDimensioni,
+      {"parole", "FILE", "", 1, 1, {},
+       "Elenca le parole: numero, O o V, colonna, riga, lunghezza, lettere, definizione.",
+       Parole},
+      {"griglia", "FILE", "", 1, 1, {},
+       "Mostra la griglia, un carattere per casella.",
+       Griglia},
+      {"copia", "FILE USCITA", "", 2, 2, {},
+       "Apre il cruciverba e lo riscrive in USCITA.",
+       Copia},
+      {"nuovo", "USCITA", " --dimensioni CxR | --modello N", 1, 1,
+       {{"--dimensioni", "CxR", "colonne per righe, da 3x3 a 53x30"},
         {"--modello", "N", "il modello numero N, da 1, in luogo delle dimensioni"},
         {"--modelli", "FILE.dfc", "il file dei modelli (STANDARD.dfc della cartella programma)"}},
        "Scrive un cruciverba nuovo, vuoto o da un modello.",
        Nuovo},
-      {"estrai",
-       "FILE USCITA",
-       2,
-       2,
+      {"estrai", "FILE USCITA", "", 2, 2,
        {{"--dizionario", "NOME", "il dizionario (LessicoItaliano.dat)"},
         {"--vicolo-cieco", "si|no|annulla", "la risposta a ogni vicolo cieco (si)"},
         {"--infinito", "", "ricomincia da solo a ogni vicolo cieco"},
-        {"--tentativi", "N", "rinuncia dopo N inizi (1000)"}},
+        {"--tentativi", "N", "rinuncia dopo N tentativi (1000)"}},
        "Riempie la griglia con parole estratte dal dizionario.",
        Estrai},
   };
+  // clang-format on
 }
 
 }  // namespace telarium::telar

@@ -37,6 +37,9 @@ Stato Cerca(const Argomenti& argomenti, PiattaformaConsole&) {
   if (!LunghezzaAmmessa(static_cast<int>(maschera.size()))) {
     throw ArgomentiErrati("la maschera vuole da 3 a 15 caratteri");
   }
+  if (argomenti.liberi[0].find(' ') != std::string::npos) {
+    throw ArgomentiErrati("la maschera non vuole spazi: i posti liberi sono \".\" o \"_\"");
+  }
   if (!ApriDizionario(argomenti.Valore("--dizionario", NomeDizionario.string()))) {
     return Stato::Fallito;
   }
@@ -115,24 +118,23 @@ Stato DizCrea(const Argomenti& argomenti, PiattaformaConsole&) {
 }  // namespace
 
 std::vector<Comando> ComandiDizionario() {
+  // clang-format off
   return {
-      {"cerca",
-       "MASCHERA",
-       1,
-       1,
+      {"cerca", "MASCHERA", "", 1, 1,
        {{"--dizionario", "NOME", "il dizionario (LessicoItaliano.dat)"}},
        "Cerca le parole che si adattano; \".\" e \"_\" sono posti liberi.",
        Cerca},
-      {"diz-info", "NOME", 1, 1, {}, "Mostra la tabella delle sezioni del dizionario.", DizInfo},
-      {"diz-elenca", "NOME [LUNGHEZZA]", 1, 2, {}, "Elenca le parole del dizionario.", DizElenca},
-      {"diz-crea",
-       "NOME LISTA...",
-       2,
-       QuantiSiVuole,
-       {},
-       "Scrive il dizionario NOME da semplici liste in UTF-8, una parola per riga.",
+      {"diz-info", "NOME", "", 1, 1, {},
+       "Mostra le sezioni del dizionario: lunghezza, inizio, parole.",
+       DizInfo},
+      {"diz-elenca", "NOME [LUNGHEZZA]", "", 1, 2, {},
+       "Elenca le parole del dizionario.",
+       DizElenca},
+      {"diz-crea", "NOME LISTA...", "", 2, QuantiSiVuole, {},
+       "Scrive il dizionario NOME da liste in UTF-8, una parola per riga.",
        DizCrea},
   };
+  // clang-format on
 }
 
 }  // namespace telarium::telar

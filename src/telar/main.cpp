@@ -47,8 +47,8 @@ std::string UsoGenerale() {
 
 std::string UsoDi(const Comando& comando) {
   std::string testo;
-  Aggiungi(testo, {"Uso: telar ", comando.nome, " ", comando.argomenti, " [OPZIONI]\n\n",
-                   comando.aiuto, "\n\nOpzioni:\n"});
+  Aggiungi(testo, {"Uso: telar ", comando.nome, " ", comando.argomenti, comando.uso,
+                   " [OPZIONI]\n\n", comando.aiuto, "\n\nOpzioni:\n"});
   AggiungiOpzioni(testo, comando.opzioni);
   AggiungiOpzioni(testo, {OpzioneCartella, OpzioneAiuto});
   return testo;
@@ -82,10 +82,12 @@ Argomenti Leggi(const std::vector<std::string>& parole, const Comando* comando) 
   return Separa(parole, ammesse);
 }
 
-void SceglieCartella(const Argomenti& argomenti) {
-  std::error_code errore;
+void ScegliCartella(const Argomenti& argomenti) {
   if (argomenti.Ha(OpzioneCartella.nome)) {
-    CartellaProgramma = std::filesystem::absolute(argomenti.Valore(OpzioneCartella.nome), errore);
+    const Percorso nominata = argomenti.Valore(OpzioneCartella.nome);
+    if (nominata.empty()) throw ArgomentiErrati("--cartella vuole il nome di una cartella");
+    std::error_code errore;
+    CartellaProgramma = std::filesystem::absolute(nominata, errore);
     return;
   }
   const SceltaCartella scelta = ScegliCartellaProgramma();
@@ -98,9 +100,11 @@ void SceglieCartella(const Argomenti& argomenti) {
 
 Stato Esegui(const Comando& comando, const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   const std::size_t quanti = argomenti.liberi.size();
-  if (quanti < comando.minArgomenti) throw ArgomentiErrati("mancano argomenti");
-  if (quanti > comando.maxArgomenti) throw ArgomentiErrati("troppi argomenti");
-  SceglieCartella(argomenti);
+  if (quanti < comando.minArgomenti || quanti > comando.maxArgomenti) {
+    const char* quale = quanti < comando.minArgomenti ? "mancano argomenti" : "troppi argomenti";
+    throw ArgomentiErrati(std::string(quale) + ", servono: " + std::string(comando.argomenti));
+  }
+  ScegliCartella(argomenti);
   return comando.esegui(argomenti, piattaforma);
 }
 

@@ -5,15 +5,22 @@
 #include <string>
 
 #include "platform/codepage.h"
-#include "platform/text.h"
 
 namespace telarium::telar {
+namespace {
+
+bool Separa(char c) {
+  return c == '\t' || c == '\r' || c == '\n';
+}
+
+}  // namespace
 
 void StampaCampi(std::initializer_list<std::string_view> campi) {
   std::string riga;
   for (const std::string_view campo : campi) {
-    std::string testo = SenzaInterruzioni(campo);
-    std::replace(testo.begin(), testo.end(), '\t', ' ');
+    // Character by character: a field of cells keeps its length.
+    std::string testo(campo);
+    std::replace_if(testo.begin(), testo.end(), Separa, ' ');
     if (!riga.empty()) riga += '\t';
     riga += AUtf8(testo);
   }

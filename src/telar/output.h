@@ -6,7 +6,7 @@
 namespace telarium::telar {
 
 /// Prints one line of results on standard output in UTF-8, the fields (in the code page) separated
-/// by TAB. A TAB or line break inside a field becomes a blank.
+/// by TAB. A TAB or a character of a line break inside a field becomes a blank.
 void StampaCampi(std::initializer_list<std::string_view> campi);
 
 }  // namespace telarium::telar

@@ -34,12 +34,18 @@ Risposta UtenteConsole::ChiediVicoloCieco(const std::string& testo) {
   return risposte_.vicoloCieco;
 }
 
+bool UtenteConsole::Interrotto() const {
+  return interruzione != 0;
+}
+
 bool UtenteConsole::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) {
-  return !interruzione && avanzamento.tentativo <= risposte_.tentativi;
+  return !Interrotto() && avanzamento.tentativo <= risposte_.tentativi;
 }
 
 void AscoltaInterruzione() {
-  std::signal(SIGINT, SegnaInterruzione);
+  for (const int segnale : {SIGINT, SIGTERM, SIGHUP})
+    std::signal(segnale, SegnaInterruzione);
+  std::signal(SIGPIPE, SIG_IGN);
 }
 
 std::chrono::year_month_day MacchinaConsole::Oggi() {

@@ -28,6 +28,9 @@ class UtenteConsole : public Utente {
  public:
   void ImpostaRisposte(const RispostePerEstrazione& risposte) { risposte_ = risposte; }
 
+  /// Whether Ctrl+C was pressed since AscoltaInterruzione.
+  bool Interrotto() const;
+
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::optional<std::string> ChiediTesto(const std::string& richiesta) override;
   Risposta ChiediVicoloCieco(const std::string& testo) override;
@@ -41,7 +44,8 @@ class UtenteConsole : public Utente {
   RispostePerEstrazione risposte_;
 };
 
-/// From now on Ctrl+C no longer ends the process: it sets a flag that ContinuaEstrazione reads.
+/// From now on Ctrl+C and a request to terminate no longer end the process: they set a flag that
+/// ContinuaEstrazione reads. Nor does it end when nobody reads its messages any more.
 void AscoltaInterruzione();
 
 class MacchinaConsole : public MacchinaIsolata {
