@@ -1,0 +1,292 @@
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <map>
+
+#include <benchmark/benchmark.h>
+
+#include "crossworddialogs/model_file.h"
+#include "crossworddialogs/new_crossword.h"
+#include "dictionary/dictionary_writer.h"
+#include "editor/commit.h"
+#include "fill/extraction.h"
+#include "fill/word_choice.h"
+#include "model/crossword_file.h"
+#include "model/words.h"
+#include "plain_baseline.h"
+#include "process_cost.h"
+#include "support/scripted_platform.h"
+
+// Measures the hot routines of the engine side by side with the plain way of doing the same, and
+// prints a table with the ratios behind the ordinary lines.
+namespace telarium {
+namespace {
+
+constexpr int ModelNumber = 4;  // the first 13x13 grid of STANDARD.dfc, counted from 0
+constexpr int FillSeeds = 3;    // fills to an iteration, each from a seed of its own
+
+Percorso Dictionary() {
+  return CartellaProgramma / NomeDizionario;
+}
+
+// The longest section, in bytes, of the open dictionary.
+int LongestSection() {
+  int longest = MinLunghezza;
+  const auto bytes = [](int length) { return length * ContaLunghezza(length - MinLunghezza); };
+  for (int length = MinLunghezza; length <= MaxLunghezza; ++length) {
+    if (bytes(length) > bytes(longest)) longest = length;
+  }
+  return longest;
+}
+
+std::string BlankPattern() {
+  return std::string(static_cast<std::size_t>(LongestSection()), ' ');
+}
+
+std::string TwoLetterPattern() {
+  std::string pattern = BlankPattern();
+  pattern[1] = 'A';
+  pattern[4] = 'T';
+  return pattern;
+}
+
+std::string MissingWord() {
+  return std::string(static_cast<std::size_t>(LongestSection()), 'X');
+}
+
+std::vector<std::string> ModelRows() {
+  std::vector<Modello> models;
+  if (LeggiModelli(CartellaProgramma / NomeModelliIniziale, models) != EsitoModelli::Letti) abort();
+  return models.at(ModelNumber);
+}
+
+void BM_CandidatesPlain(benchmark::State& state, const std::string& pattern) {
+  for (auto _ : state)
+    benchmark::DoNotOptimize(plain::FittingWords(Dictionary(), pattern));
+}
+
+void BM_Candidates(benchmark::State& state, const std::string& pattern) {
+  for (auto _ : state)
+    benchmark::DoNotOptimize(CercaCandidati(pattern));
+}
+
+void BM_MissingWordPlain(benchmark::State& state) {
+  const std::string word = MissingWord();
+  for (auto _ : state)
+    benchmark::DoNotOptimize(plain::WordExists(Dictionary(), word));
+}
+
+void BM_MissingWord(benchmark::State& state) {
+  const std::string word = MissingWord();
+  for (auto _ : state)
+    benchmark::DoNotOptimize(ParolaEsiste(word));
+}
+
+std::vector<std::string> PlainFillFromSeed(unsigned seed) {
+  SorgenteCasuale random(seed);
+  return plain::Fill(Dictionary(), ModelRows(), [&] { return random.Prossimo(); });
+}
+
+std::vector<std::string> FillFromSeed(unsigned seed, ScriptedPlatform& platform) {
+  platform.machine.random = SorgenteCasuale(seed);
+  EseguiEstrazione();
+  platform.user.TakeMessages();
+  platform.user.polls.clear();
+  std::vector<std::string> rows;
+  for (int r = 1; r <= NumRighe; ++r) {
+    rows.emplace_back();
+    for (int c = 1; c <= NumColonne; ++c)
+      rows.back() += LetteraCasella(c, r);
+  }
+  return rows;
+}
+
+void BM_FillPlain(benchmark::State& state) {
+  for (auto _ : state) {
+    for (unsigned seed = 0; seed < FillSeeds; ++seed) {
+      benchmark::DoNotOptimize(PlainFillFromSeed(seed));
+    }
+  }
+}
+
+void BM_Fill(benchmark::State& state, ScriptedPlatform& platform) {
+  for (auto _ : state) {
+    for (unsigned seed = 0; seed < FillSeeds; ++seed) {
+      benchmark::DoNotOptimize(FillFromSeed(seed, platform));
+    }
+  }
+}
+
+// A 53x30 crossword with a letter in every white cell, a black one now and then, and a clue of 60
+// characters for each word.
+Percorso WriteFullCrossword(const Percorso& folder) {
+  NuovoVuoto(MaxColonne, MaxRighe);
+  for (int r = 1; r <= MaxRighe; ++r) {
+    for (int c = 1; c <= MaxColonne; ++c) {
+      ScriviInSchema({c, r}, (c + 3 * r) % 7 == 0 ? CellaNera : static_cast<char>('A' + c % 21));
+    }
+  }
+  RicalcolaCaselle();
+  PerOgniParola([](const Slot& slot) {
+    Definizione(slot.inizio.colonna, slot.inizio.riga, slot.direzione) = std::string(60, 'x');
+  });
+  const Percorso path = folder / "pieno.tlrm";
+  if (!ScriviCruciverba(path)) abort();
+  return path;
+}
+
+void BM_ReadFullCrossword(benchmark::State& state, const Percorso& path) {
+  for (auto _ : state) {
+    LeggiCruciverba(path);
+    RicalcolaCaselle();
+  }
+}
+
+// The plain word list of the open dictionary, one word a line.
+std::string WordList() {
+  std::string list;
+  for (int length = MinLunghezza; length <= MaxLunghezza; ++length) {
+    for (int n = 1; n <= ContaLunghezza(length - MinLunghezza); ++n) {
+      list += LeggiParola(static_cast<std::int16_t>(n), length) + '\n';
+    }
+  }
+  return list;
+}
+
+void BM_BuildDictionary(benchmark::State& state, const std::string& list, const Percorso& folder) {
+  for (auto _ : state) {
+    ListeDiParole lists;
+    AggiungiLista(list, lists);
+    OrdinaListe(lists);
+    if (!ScriviDizionario(folder / "nuovo.dat", lists).errore.empty()) abort();
+  }
+}
+
+// Keeps the median of each benchmark besides printing the ordinary lines.
+class MedianKeeper : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& run : runs) {
+      if (run.aggregate_name == "median") {
+        medians[run.run_name.function_name] = run.GetAdjustedRealTime();
+      }
+    }
+    ConsoleReporter::ReportRuns(runs);
+  }
+
+  std::map<std::string, double> medians;  // milliseconds
+};
+
+struct Row {
+  const char* what;
+  const char* plain;  // name of the benchmark of the plain way; null where there is none
+  const char* ours;
+  int perIteration;  // how many of `what` an iteration does
+  const char* wanted;
+};
+
+constexpr Row Rows[] = {
+    {"`CercaCandidati`, longest section, blank pattern", "blank/plain", "blank/telarium", 1,
+     "at least 100"},
+    {"`CercaCandidati`, longest section, two letters", "two/plain", "two/telarium", 1,
+     "at least 100"},
+    {"`ParolaEsiste`, nothing found", "missing/plain", "missing/telarium", 1, "at least 100"},
+    {"one whole fill, 13x13 model, dead ends accepted", "fill/plain", "fill/telarium", FillSeeds,
+     "at least 50, under 10 ms"},
+    {"Italian dictionary from its word list", nullptr, "build/telarium", 1, "under 1 s"},
+    {"`LeggiCruciverba` + `RicalcolaCaselle`, full 53x30", nullptr, "read/telarium", 1,
+     "under 1 ms"},
+};
+
+void PrintTable(const std::map<std::string, double>& medians, const ProcessCost& process) {
+  std::printf("\n| | plain, ms | Telarium, ms | ratio | wanted |\n|---|---|---|---|---|\n");
+  for (const Row& row : Rows) {
+    if (!medians.contains(row.ours)) continue;
+    const double ours = medians.at(row.ours) / row.perIteration;
+    if (row.plain && medians.contains(row.plain)) {
+      const double plain = medians.at(row.plain) / row.perIteration;
+      std::printf("| %s | %.3f | %.3f | %.0f | %s |\n", row.what, plain, ours, plain / ours,
+                  row.wanted);
+    } else {
+      std::printf("| %s | | %.3f | | %s |\n", row.what, ours, row.wanted);
+    }
+  }
+  std::printf("| `telar estrai` of that grid, whole process | | %.1f | | under 50 ms |\n",
+              process.milliseconds);
+  std::printf("| its peak memory | | %.1f MiB | | under 16 MiB |\n", process.peakMebibytes);
+}
+
+template <class... Arguments>
+void Register(const char* name, Arguments&&... arguments) {
+  benchmark::RegisterBenchmark(name, std::forward<Arguments>(arguments)...)
+      ->Unit(benchmark::kMillisecond)
+      ->Repetitions(5)
+      ->ReportAggregatesOnly(true)
+      ->UseRealTime();
+}
+
+void RegisterAll(ScriptedPlatform& platform, const Percorso& full, const std::string& list,
+                 const Percorso& folder) {
+  Register("blank/plain", BM_CandidatesPlain, BlankPattern());
+  Register("blank/telarium", BM_Candidates, BlankPattern());
+  Register("two/plain", BM_CandidatesPlain, TwoLetterPattern());
+  Register("two/telarium", BM_Candidates, TwoLetterPattern());
+  Register("missing/plain", BM_MissingWordPlain);
+  Register("missing/telarium", BM_MissingWord);
+  Register("fill/plain", BM_FillPlain);
+  Register("fill/telarium", [&](benchmark::State& state) { BM_Fill(state, platform); });
+  Register("build/telarium", BM_BuildDictionary, list, folder);
+  Register("read/telarium", BM_ReadFullCrossword, full);
+}
+
+void OpenModelGrid() {
+  if (NuovoDaModello(CartellaProgramma / NomeModelliIniziale, ModelNumber) != EsitoNuovo::Fatto) {
+    abort();
+  }
+  RiprendiSchema();
+}
+
+// Both ways must give the same grid from the same draws, or the comparison means nothing.
+void RequireEqualFills(ScriptedPlatform& platform) {
+  OpenModelGrid();
+  for (unsigned seed = 0; seed < FillSeeds; ++seed) {
+    if (FillFromSeed(seed, platform) == PlainFillFromSeed(seed)) continue;
+    std::fprintf(stderr, "the two fills differ from seed %u\n", seed);
+    std::exit(1);
+  }
+}
+
+int Main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  const CartellaTemporanea temporary;
+  const auto telar = [](std::vector<std::string> words) {
+    words.insert(words.begin(), {TELAR_PROGRAM, "--cartella", TELARIUM_DATA_DIR});
+    return words;
+  };
+  const std::string grid = (temporary.Nome() / "griglia.tlrm").string();
+  MeasureProcess(telar({"nuovo", grid, "--modello", std::to_string(ModelNumber + 1)}), 1);
+  const ProcessCost process = MeasureProcess(telar({"estrai", grid, grid + ".out"}), 41);
+  if (!process.succeeded) std::fprintf(stderr, "telar estrai failed\n");
+
+  ScriptedPlatform platform;
+  platform.user.AnswerAllDeadEnds(Risposta::Si);
+  ImpostaPiattaforma(&platform);
+  CartellaProgramma = TELARIUM_DATA_DIR;
+  CartellaIstantanea = temporary.Nome();
+  ApriDizionario();
+  const Percorso full = WriteFullCrossword(temporary.Nome());
+  RequireEqualFills(platform);
+  RegisterAll(platform, full, WordList(), temporary.Nome());
+
+  MedianKeeper reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  PrintTable(reporter.medians, process);
+  return process.succeeded ? 0 : 1;
+}
+
+}  // namespace
+}  // namespace telarium
+
+int main(int argc, char** argv) {
+  return telarium::Main(argc, argv);
+}

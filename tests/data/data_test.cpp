@@ -1,0 +1,129 @@
+#include <algorithm>
+#include <set>
+
+#include "crossworddialogs/model_file.h"
+#include "dictionary/dictionary.h"
+#include "editor/redraw.h"
+#include "model/crossword_file.h"
+#include "model/words.h"
+#include "support/telarium_test.h"
+
+// The contents that lie beside the program: what a user sees first.
+namespace telarium {
+namespace {
+
+class DataTest : public TelariumTest {
+ protected:
+  static Percorso Data(const Percorso& name) { return Percorso(TELARIUM_DATA_DIR) / name; }
+
+  // Makes a model the current grid.
+  static void Show(Modello model) {
+    for (std::string& row : model)
+      std::replace(row.begin(), row.end(), CellaNera, '#');
+    Draw(model);
+  }
+};
+
+int CountBlack(const Modello& model) {
+  int black = 0;
+  for (const std::string& row : model) {
+    black += static_cast<int>(std::count(row.begin(), row.end(), CellaNera));
+  }
+  return black;
+}
+
+bool IsSymmetric(const Modello& model) {
+  std::string forward;
+  for (const std::string& row : model)
+    forward += row;
+  return std::equal(forward.begin(), forward.end(), forward.rbegin());
+}
+
+// White cells reachable from the first one.
+std::size_t ConnectedWhite() {
+  std::set<std::pair<int, int>> seen;
+  std::vector<Casella> open;
+  const auto visit = [&](int c, int r) {
+    if (c < 1 || r < 1 || c > NumColonne || r > NumRighe || TipoCasella(c, r) == 0) return;
+    if (seen.insert({c, r}).second) open.push_back({c, r});
+  };
+  for (int c = 1; open.empty(); ++c)
+    visit(c, 1);
+  while (!open.empty()) {
+    const auto [c, r] = open.back();
+    open.pop_back();
+    visit(c - 1, r);
+    visit(c + 1, r);
+    visit(c, r - 1);
+    visit(c, r + 1);
+  }
+  return seen.size();
+}
+
+struct WordCounts {
+  int words = 0;
+  int longest = 0;
+  int cells = 0;  // cells of all words, those of a crossing counted twice
+};
+
+WordCounts CountWords() {
+  WordCounts counts;
+  PerOgniParola([&](const Slot& slot) {
+    ++counts.words;
+    counts.longest = std::max(counts.longest, slot.lunghezza);
+    counts.cells += slot.lunghezza;
+  });
+  return counts;
+}
+
+TEST_F(DataTest, StandardModelsAreGoodGrids) {
+  std::vector<Modello> models;
+  ASSERT_EQ(LeggiModelli(Data("STANDARD.dfc"), models), EsitoModelli::Letti);
+  ASSERT_EQ(models.size(), 12u);
+  int symmetric = 0, withoutVeryLong = 0;
+  for (std::size_t i = 0; i < models.size(); ++i) {
+    const Modello& model = models[i];
+    SCOPED_TRACE("model " + std::to_string(i + 1));
+    ASSERT_TRUE(ModelloValido(model));
+    EXPECT_GE(model.front().size(), 9u);
+    EXPECT_LE(model.front().size(), 26u);
+    EXPECT_GE(model.size(), 9u);
+    EXPECT_LE(model.size(), 20u);
+    Show(model);
+    const int cells = NumColonne * NumRighe, black = CountBlack(model), white = cells - black;
+    EXPECT_GE(100 * black, 14 * cells);
+    EXPECT_LE(100 * black, 20 * cells);
+    EXPECT_EQ(ConnectedWhite(), static_cast<std::size_t>(white)) << "separate areas";
+    const WordCounts counts = CountWords();
+    EXPECT_LE(2 * white - counts.cells, white / 20) << "too many unchecked cells";
+    for (const std::string& row : model)
+      EXPECT_EQ(row.find("***"), std::string::npos);
+    symmetric += IsSymmetric(model);
+    withoutVeryLong += counts.longest < 16;
+  }
+  EXPECT_GE(symmetric, 6);
+  EXPECT_GE(withoutVeryLong, 6);
+}
+
+TEST_F(DataTest, SampleCrosswordsAreComplete) {
+  const Percorso folder = Data("Archivio cruciverba");
+  const std::vector<Percorso> samples = ElencaFile(folder, "*.tlrm");
+  EXPECT_EQ(samples.size(), 3u);
+  for (const Percorso& sample : samples) {
+    SCOPED_TRACE(sample.string());
+    ASSERT_TRUE(ApriCruciverba(folder / sample));
+    RidisegnaSchema();
+    PerOgniParola([](const Slot& slot) {
+      const auto [c, r] = slot.inizio;
+      const std::string& word = ParolaCasella(c, r, slot.direzione);
+      EXPECT_EQ(word.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ"), std::string::npos) << word;
+      EXPECT_NE(Definizione(c, r, slot.direzione), "") << word << " has no clue";
+    });
+    const Percorso copy = InFolder("copia.tlrm");
+    ASSERT_TRUE(ScriviCruciverba(copy));
+    EXPECT_EQ(FirstDifference(ReadFile(copy), ReadFile(folder / sample)), "");
+  }
+}
+
+}  // namespace
+}  // namespace telarium

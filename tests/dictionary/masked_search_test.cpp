@@ -1,0 +1,78 @@
+#include "dictionary/masked_search.h"
+
+#include "dictionary/dictionary_writer.h"
+#include "support/numbered_words.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+using Words = std::vector<std::string>;
+
+class MaskedSearchTest : public TelariumTest {
+ protected:
+  static Words Search(std::string_view mask) {
+    Words found;
+    const EsitoRicerca outcome =
+        CercaParole(mask, [&](std::string_view word) { found.emplace_back(word); });
+    EXPECT_TRUE(outcome.dizionarioLetto);
+    EXPECT_EQ(outcome.trovate, static_cast<int>(found.size()));
+    return found;
+  }
+};
+
+TEST_F(MaskedSearchTest, ListsTheFittingWordsInFileOrder) {
+  ListeDiParole lists;
+  lists[1] = {"PALA", "MULA", "HARD", "MELA", "MALE", "mola", "QUAL", "MALA"};
+  ASSERT_EQ(ScriviDizionario(InFolder(NomeDizionario), lists).errore, "");
+  ASSERT_TRUE(ApriDizionario());
+  EXPECT_EQ(Search("M LA"), (Words{"MULA", "MELA", "MALA"}));
+  EXPECT_EQ(Search("    "), lists[1]) << "words with Q and H too";
+  EXPECT_EQ(Search("MELA"), Words{"MELA"});
+  EXPECT_EQ(Search("MELO"), Words{});
+  EXPECT_EQ(Search("   m"), Words{});
+  EXPECT_EQ(Search("     "), Words{}) << "a section without words";
+}
+
+TEST_F(MaskedSearchTest, EachPlaceOfEachLengthIsCompared) {
+  Words words;
+  const auto plain = [](int length) { return std::string(static_cast<std::size_t>(length), 'A'); };
+  const auto withB = [&](int length, int place) {
+    return plain(length).replace(static_cast<std::size_t>(place), 1, "B");
+  };
+  for (int length = 3; length <= 15; ++length) {
+    words.push_back(plain(length));
+    for (int k = 0; k < length; ++k) {
+      words.push_back(withB(length, k));
+    }
+  }
+  OpenDictionary(words);
+  for (int length = 3; length <= 15; ++length) {
+    for (int k = 0; k < length; ++k) {
+      std::string mask(static_cast<std::size_t>(length), ' ');
+      mask[static_cast<std::size_t>(k)] = 'B';
+      EXPECT_EQ(Search(mask), Words{withB(length, k)});
+      EXPECT_EQ(Search(withB(length, k)), Words{withB(length, k)});
+    }
+  }
+}
+
+TEST_F(MaskedSearchTest, ProgressRisesToTheLastNumber) {
+  OpenDictionary(NumberedWords(9000, 15));
+  int last = 0;
+  const auto progress = [&](int number, int count) {
+    EXPECT_GT(number, last);
+    EXPECT_EQ(count, 9000);
+    last = number;
+  };
+  CercaParole(
+      "B             A", [](std::string_view) {}, progress);
+  EXPECT_EQ(last, 9000);
+}
+
+TEST_F(MaskedSearchTest, ClosingTextHasABlankForTheSign) {
+  EXPECT_EQ(TestoTrovate(0), "Trov.: 0");
+}
+
+}  // namespace
+}  // namespace telarium

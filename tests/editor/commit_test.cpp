@@ -1,0 +1,75 @@
+#include "editor/commit.h"
+
+#include "editor/redraw.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+using Commit = TelariumTest;
+using Texts = std::vector<std::string>;
+
+TEST_F(Commit, BringsMarksAndDerivedTablesIntoLine) {
+  Draw({"AB#", "CDE"});
+  Schema(5)[4] = '.';
+  Schema(6)[2] = '*';
+  ConsolidaSchema();
+  EXPECT_EQ(Schema(5) + Schema(6), "A.B...C.**E.");
+  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "AB.");
+  EXPECT_EQ(NumeroCasella(3, 1), 2);
+  EXPECT_EQ(TipoCasella(1, 2), 1);
+}
+
+TEST_F(Commit, ClueOutlivesTheLossOfItsStart) {
+  Draw({"AB"});
+  Definizione(1, 1, Orizzontale) = "Nota";
+  // The file follows the kinds of the redraw before it.
+  const std::pair<char, bool> steps[] = {{'*', true}, {'*', false}, {'.', false}, {'.', true}};
+  for (const auto& [second, inFile] : steps) {
+    Schema(5)[2] = second;
+    ConsolidaSchema();
+    EXPECT_EQ(Definizione(1, 1, Orizzontale), "Nota");
+    const std::string file = ReadFile(InFolder("_tlma_32.tmp"));
+    EXPECT_EQ(file.find("  1  11-Nota\r\n") != std::string::npos, inFile) << second;
+  }
+}
+
+TEST_F(Commit, SnapshotThatCannotBeWrittenIsToldAndTheChangeStays) {
+  Draw({"AB"});
+  CartellaIstantanea = InFolder("manca");
+  Schema(5)[0] = 'X';
+  ConsolidaSchema();
+  EXPECT_EQ(user.TakeTexts(), Texts{"Errore di scrittura del file!"});
+  EXPECT_EQ(Schema(5) + ParolaCasella(1, 1, Orizzontale), "X.B.XB");
+}
+
+TEST_F(Commit, TakingOverNeedsACrosswordAndClearsNothing) {
+  Draw({"AB"});
+  ConsolidaSchema();
+  Draw({"CDE"});
+  Definizione(2, 2, Verticale) = "fuori";
+  NomeCruciverba.clear();
+  RiprendiSchema();
+  EXPECT_EQ(Drawing(), Texts{"CDE"});
+  NomeCruciverba = NomeMaiSalvato;
+  RiprendiSchema();
+  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale) + Definizione(2, 2, Verticale), "ABfuori");
+
+  std::filesystem::remove(PercorsoIstantanea());
+  EXPECT_THROW(RiprendiSchema(), ProgramEnded);
+  EXPECT_EQ(user.TakeTexts(),
+            Texts{"Errore: Cruciverba  _tlma_32.tmp  Non trovato! Esecuzione terminata."});
+}
+
+TEST_F(Commit, RedrawWithoutColumnsDoesNothing) {
+  Draw({"AB"});
+  NumColonne = 0;
+  LatoCasella = 30;
+  Schema(5) = "X.*.";
+  RidisegnaSchema();
+  EXPECT_EQ(LatoCasella, 30);
+  EXPECT_EQ(LetteraCasella(1, 1), 'A');
+}
+
+}  // namespace
+}  // namespace telarium

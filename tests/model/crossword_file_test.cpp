@@ -1,0 +1,185 @@
+#include "model/crossword_file.h"
+
+#include "model/words.h"
+#include "platform/codepage.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+using CrosswordFile = TelariumTest;
+using Texts = std::vector<std::string>;
+
+const Texts ReadError = {"Errore di lettura del file!"};
+const Texts WriteError = {"Errore di scrittura del file!"};
+const Texts FormatError = {"Formato del file non valido! Esecuzione terminata"};
+
+// A crossword of two columns and three rows in pieces. A file that ends within a piece can be read
+// when at least `accepted` bytes of the piece are there.
+const struct {
+  std::string piece;
+  std::size_t accepted;
+} Small[] = {{"Autore     : Prova\r\nData       : 05-03-2024\r\nTipo       : Crociate Normale\r\n"
+              "Dimensioni : 02x03\r\n].[.\r\nD*H.\r\n",
+              999},
+             {"H.t.\r\n", 1},
+             {"  1  11-Prime due di cane\r\n", 7},
+             {"  1  31-  rientrata\r\n", 7},
+             {"  2  12-in gi\xF9\r\n", 7},
+             {"[Colori caselle]\r\n", 16},
+             {" 0  255  0 \r\n 0  0  0 \r\n", 1}};
+
+std::string SmallFile() {
+  std::string bytes;
+  for (const auto& [piece, accepted] : Small)
+    bytes += piece;
+  return bytes;
+}
+
+std::string Header(const std::string& size) {
+  return "a\r\nb\r\nc\r\nDimensioni : " + size + "\r\n";
+}
+
+TEST_F(CrosswordFile, IsWrittenToTheByteAndComesBack) {
+  Draw({"CA", "#.", ".Z"});
+  Definizione(1, 1, Orizzontale) = "Prime due di cane";
+  Definizione(1, 3, Orizzontale) = "  rientrata";
+  Definizione(2, 1, Verticale) = "in giù"_cp;
+  Definizione(2, 2, Orizzontale) = "no word starts here";
+  ColoreCasella(1, 2) = 255;
+  Schema(6) = "*..*";  // marks out of date
+  const Percorso path = InFolder("uno.tlrm");
+  EXPECT_TRUE(ScriviCruciverba(path));
+  EXPECT_EQ(FirstDifference(ReadFile(path), SmallFile()), "");
+  EXPECT_EQ(Schema(6), "*..*");
+
+  Draw({"#"});
+  ASSERT_TRUE(ApriCruciverba(path));
+  EXPECT_EQ(Schema(6) + Definizione(1, 3, Orizzontale), "**..  rientrata");
+  RicalcolaCaselle();
+  EXPECT_TRUE(ScriviCruciverba(path));
+  EXPECT_EQ(FirstDifference(ReadFile(path), SmallFile()), "");
+}
+
+TEST_F(CrosswordFile, HoldsTheLargestGrid) {
+  Texts rows(30, std::string(53, '.'));
+  rows[11].replace(0, 6, "CA#.AZ");
+  Draw(rows);
+  Definizione(4, 12, Orizzontale) = "Da A\r\na Z";
+  ASSERT_TRUE(ScriviCruciverba(InFolder("uno.tlrm")));
+  const std::string bytes = ReadFile(InFolder("uno.tlrm"));
+  EXPECT_NE(bytes.find("\r\n].[.D*H.[.t.H."), std::string::npos);
+  EXPECT_NE(bytes.find("\r\n  4 121-Da A a Z\r\n[Col"), std::string::npos);
+  Draw({"#"});
+  ASSERT_TRUE(LeggiCruciverba("uno.tlrm"));
+  EXPECT_EQ(DrawingOfSchema(), rows);
+}
+
+TEST_F(CrosswordFile, FaultIsToldAndEndsTheReading) {
+  for (const char* size :
+       {"00x03", "03x00", "54x30", "53x31", "2x3", "102x3", "due", "", "99999999999"}) {
+    Draw({"AB"});
+    EXPECT_FALSE(InterpretaCruciverba(Header(size))) << size;
+    EXPECT_EQ(user.TakeTexts(), FormatError);
+    EXPECT_EQ(NumColonne + NumRighe, 0);
+  }
+  const std::string nul(1, '\0');
+  const std::string grid = Header("02x02") + "H.H.\r\nH.H.\r\n";
+  for (const std::string& bytes :
+       {std::string(), Header("02x02") + "H.H.\r\n", Header("02x01") + "H.\x19.\r\n",
+        "a" + nul + grid, Header("02x01") + "H" + nul + "H.\r\n", grid + "  1  11-" + nul,
+        grid + "\r\n  1  12-x\r\n", grid + "  0  11-x", grid + " 54  11-x", grid + "  1  01-x",
+        grid + "  1 311-x", grid + " -1  11-x", grid + "  1  10-x", grid + "  1  13-x",
+        grid + "  1  11-letta\r\n[Colore caselle]\r\n  1  12-persa\r\n"}) {
+    EXPECT_FALSE(InterpretaCruciverba(bytes));
+    EXPECT_EQ(user.TakeTexts(), ReadError) << bytes;
+  }
+  EXPECT_EQ(Definizione(1, 1, Orizzontale) + Definizione(1, 1, Verticale), "letta");
+}
+
+TEST_F(CrosswordFile, CutAnywhereItIsReadOrRefused) {
+  std::string before;
+  for (const auto& [piece, accepted] : Small) {
+    for (std::size_t there = 1; there <= piece.size(); ++there) {
+      AzzeraStato();
+      EXPECT_EQ(InterpretaCruciverba(before + piece.substr(0, there)), there >= accepted)
+          << piece.substr(0, there);
+      EXPECT_EQ(user.TakeTexts().size(), there >= accepted ? 0u : 1u);
+      RicalcolaCaselle();
+    }
+    before += piece;
+  }
+}
+
+TEST_F(CrosswordFile, OddGridLinesAreTakenAsTheyAreAndWrittenWithTheirMarksInStep) {
+  for (const std::string line : {"].", "].[", "].[.t.", "", "]*D."}) {
+    ASSERT_TRUE(InterpretaCruciverba(Header("02x01") + line + "\r\n")) << line;
+    ASSERT_TRUE(ScriviCruciverba(InFolder("uno.tlrm")));
+    EXPECT_EQ(ReadFile(InFolder("uno.tlrm")), Header("02x01") + (line == "]*D." ? "].D*" : line) +
+                                                  "\r\n[Colori caselle]\r\n 0 \r\n 0 \r\n");
+  }
+  EXPECT_EQ(Schema(5), "C**.");
+}
+
+TEST_F(CrosswordFile, ColoursThatAreMissingStayAsTheyWere) {
+  using Colours = std::vector<Colore>;
+  const std::pair<const char*, Colours> cases[] = {
+      {"", {7, 7, 7}},
+      {"[colori caselle]\r\n 1 \r\n 2 \r\n 3 ", {1, 2, 3}},
+      {"[COLORI CASELLE]\n-1  2\r\r3  4  5", {-1, 2, 3}},
+      {"[Colori caselle]\r\n 1 \r\n 2", {1, 2, 7}},
+      {"[Colori caselle]\r\n 1  2x 3", {1, 2, 7}},
+      {"[Colori caselle]\r\n 1  99999999999  3", {1, 7, 7}},
+  };
+  for (const auto& [end, colours] : cases) {
+    ColoreCasella.Riempi(7);
+    EXPECT_TRUE(InterpretaCruciverba(Header("03x01") + "H.H.H.\r\n" + end));
+    EXPECT_EQ((Colours{ColoreCasella(1, 1), ColoreCasella(2, 1), ColoreCasella(3, 1)}), colours)
+        << end;
+  }
+}
+
+TEST_F(CrosswordFile, OpeningClearsTheEarlierCrosswordAndReadingDoesNot) {
+  const Percorso path = WriteFile("uno.tlrm", SmallFile());
+  Definizione(9, 9, Verticale) = "di prima";
+  ColoreCasella(9, 9) = 5;
+  EXPECT_TRUE(LeggiCruciverba("uno.tlrm"));
+  EXPECT_EQ(Definizione(9, 9, Verticale), "di prima");
+  EXPECT_EQ(ColoreCasella(9, 9), 5);
+  EXPECT_TRUE(ApriCruciverba(path));
+  EXPECT_EQ(Definizione(9, 9, Verticale), "");
+  EXPECT_EQ(ColoreCasella(9, 9), 0);
+}
+
+TEST_F(CrosswordFile, IsRefusedPastSixteenMegabytesAndMissingEndsTheProgram) {
+  const Percorso path = WriteFile("uno.tlrm", SmallFile());
+  std::filesystem::resize_file(path, 16777216);  // zeros behind the colours, which nobody reads
+  EXPECT_TRUE(LeggiCruciverba("uno.tlrm"));
+  std::filesystem::resize_file(path, 16777217);
+  EXPECT_FALSE(LeggiCruciverba("uno.tlrm"));
+  EXPECT_EQ(user.TakeTexts(), ReadError);
+
+  EXPECT_THROW(LeggiCruciverba("perché.tlrm"), ProgramEnded);
+  const Messaggio message = user.TakeMessages().at(0);
+  EXPECT_EQ(message.testo,
+            "Errore: Cruciverba  perché.tlrm  Non trovato! Esecuzione terminata."_cp);
+  EXPECT_EQ(message.titolo, "Telarium");
+  EXPECT_EQ(message.icona, Icona::Informazione);
+}
+
+TEST_F(CrosswordFile, WhatCannotBeWrittenIsToldAndTheOldFileStays) {
+  Draw({"\xE5\x80"});
+  ASSERT_TRUE(ScriviCruciverba(InFolder("uno.tlrm")));
+  const std::string old = ReadFile(InFolder("uno.tlrm"));
+  EXPECT_NE(old.find("\r\n\xFF.\x9A.\r\n"), std::string::npos);
+  Draw({"A\xE6"});  // past the last code that the shift leaves room for
+  EXPECT_FALSE(ScriviCruciverba(InFolder("uno.tlrm")));
+  EXPECT_EQ(user.TakeTexts(), WriteError);
+  EXPECT_EQ(ReadFile(InFolder("uno.tlrm")), old);
+  Draw({"AB"});
+  EXPECT_FALSE(ScriviCruciverba(InFolder("manca/uno.tlrm")));
+  EXPECT_EQ(user.TakeTexts(), WriteError);
+}
+
+}  // namespace
+}  // namespace telarium

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/surface.h"
+
+namespace telarium {
+
+/// A surface that draws nothing and records each call as one line, numbers in their shortest form
+/// ("RiquadroPieno 10 10 20 20 16777215"). A character is as wide as half the type size and as high
+/// as the type size.
+class RecordingSurface : public Superficie {
+ public:
+  double width = 1000;
+  double height = 700;
+  std::vector<std::string> calls;
+
+  double LarghezzaSuperficie() const override { return width; }
+  double AltezzaSuperficie() const override { return height; }
+  void Pulisci() override;
+  void Riquadro(double x1, double y1, double x2, double y2, Colore colore) override;
+  void RiquadroPieno(double x1, double y1, double x2, double y2, Colore colore) override;
+  void Carattere(std::string_view nome) override;
+  void CorpoCarattere(double punti) override;
+  double CorpoCarattere() const override { return size_; }
+  void Grassetto(bool grassetto) override;
+  bool Grassetto() const override { return bold_; }
+  double LarghezzaTesto(std::string_view testo) const override;
+  double AltezzaTesto(std::string_view testo) const override;
+  void Posizione(double x, double y) override;
+  double PosizioneX() const override { return x_; }
+  double PosizioneY() const override { return y_; }
+  void Scrivi(std::string_view testo) override;
+  void DisegnoPersistente(bool persistente) override;
+
+ private:
+  double size_ = 8.25;
+  bool bold_ = false;
+  double x_ = 0;
+  double y_ = 0;
+};
+
+}  // namespace telarium

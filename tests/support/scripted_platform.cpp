@@ -1,0 +1,71 @@
+#include "support/scripted_platform.h"
+
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "platform/codepage.h"
+
+namespace telarium {
+namespace {
+
+template <class T>
+std::optional<T> TakeFirst(std::deque<T>& queue) {
+  if (queue.empty()) return std::nullopt;
+  const T first = queue.front();
+  queue.pop_front();
+  return first;
+}
+
+}  // namespace
+
+std::vector<Messaggio> ScriptedUser::TakeMessages() {
+  return std::exchange(messages_, {});
+}
+
+std::vector<std::string> ScriptedUser::TakeTexts() {
+  std::vector<std::string> texts;
+  for (Messaggio& message : TakeMessages())
+    texts.push_back(std::move(message.testo));
+  return texts;
+}
+
+void ScriptedUser::VerifyNothingLeft() {
+  for (const Messaggio& message : messages_) {
+    ADD_FAILURE() << "nobody looked at the message: " << AUtf8(message.testo);
+  }
+  EXPECT_TRUE(answers_.empty()) << "an answer was prepared for a question that never came";
+  EXPECT_TRUE(deadEndAnswers_.empty()) << "an answer was prepared for a dead end that never came";
+}
+
+Risposta ScriptedUser::MostraMessaggio(const Messaggio& messaggio) {
+  messages_.push_back(messaggio);
+  if (messaggio.pulsanti == Pulsanti::Ok) return Risposta::Ok;
+  const auto answer = TakeFirst(answers_);
+  if (!answer) ADD_FAILURE() << "a question nobody expected: " << AUtf8(messaggio.testo);
+  return answer.value_or(Risposta::Annulla);
+}
+
+std::optional<std::string> ScriptedUser::ChiediTesto(const std::string& richiesta) {
+  ADD_FAILURE() << "an input box nobody expected: " << AUtf8(richiesta);
+  return std::nullopt;
+}
+
+Risposta ScriptedUser::ChiediVicoloCieco(const std::string& testo) {
+  messages_.push_back({.testo = testo, .pulsanti = Pulsanti::SiNoAnnulla});
+  auto answer = TakeFirst(deadEndAnswers_);
+  if (!answer) answer = deadEndAnswer_;
+  if (!answer) ADD_FAILURE() << "a dead end nobody expected: " << AUtf8(testo);
+  return answer.value_or(Risposta::Annulla);
+}
+
+bool ScriptedUser::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) {
+  polls.push_back(avanzamento);
+  return !stop_ || !stop_(avanzamento);
+}
+
+double ScriptedMachine::Casuale() {
+  return TakeFirst(draws).value_or(random.Prossimo());
+}
+
+}  // namespace telarium

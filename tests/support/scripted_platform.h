@@ -1,0 +1,89 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <exception>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/common/isolated_machine.h"
+#include "platform/platform.h"
+#include "support/recording_surface.h"
+
+namespace telarium {
+
+/// Thrown by TerminaProgramma in tests, so that what comes behind it never runs.
+class ProgramEnded : public std::exception {};
+
+/// A user that is scripted beforehand. Every message is recorded. A question that nobody expected
+/// is a failure of the test, and so are, when the test ends, an answer that nobody used and a
+/// message that nobody looked at.
+class ScriptedUser : public Utente {
+ public:
+  /// Answers the next question (any message with more than an OK button).
+  void Answer(Risposta answer) { answers_.push_back(answer); }
+  /// Answers the next dead end of a fill, ahead of the answer for all.
+  void AnswerDeadEnd(Risposta answer) { deadEndAnswers_.push_back(answer); }
+  /// Answers every dead end that has no answer of its own.
+  void AnswerAllDeadEnds(Risposta answer) { deadEndAnswer_ = answer; }
+  /// Decides at each poll whether a fill goes on.
+  void StopFillWhen(std::function<bool(const AvanzamentoEstrazione&)> stop) {
+    stop_ = std::move(stop);
+  }
+
+  /// The texts shown so far, dead ends included; they count as looked at.
+  std::vector<std::string> TakeTexts();
+  /// The messages shown so far with titles and buttons; they count as looked at.
+  std::vector<Messaggio> TakeMessages();
+
+  int beeps = 0;
+  std::vector<int> pointerShapes;
+  std::vector<AvanzamentoEstrazione> polls;
+
+  /// Fails the test for what was not asked or not looked at.
+  void VerifyNothingLeft();
+
+  Risposta MostraMessaggio(const Messaggio& messaggio) override;
+  std::optional<std::string> ChiediTesto(const std::string& richiesta) override;
+  Risposta ChiediVicoloCieco(const std::string& testo) override;
+  bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
+  void FormaPuntatore(int forma) override { pointerShapes.push_back(forma); }
+  void SegnaleAcustico() override { ++beeps; }
+  void CediAiMessaggi() override {}
+
+ private:
+  std::vector<Messaggio> messages_;
+  std::deque<Risposta> answers_;
+  std::deque<Risposta> deadEndAnswers_;
+  std::optional<Risposta> deadEndAnswer_;
+  std::function<bool(const AvanzamentoEstrazione&)> stop_;
+};
+
+/// A machine with a fixed date and random numbers from a fixed seed, or told one by one.
+class ScriptedMachine : public MacchinaIsolata {
+ public:
+  /// The next draws, before the seeded ones go on.
+  std::deque<double> draws;
+  std::chrono::year_month_day today{std::chrono::year(2024), std::chrono::month(3),
+                                    std::chrono::day(5)};
+  SorgenteCasuale random{20240305};
+
+  std::chrono::year_month_day Oggi() override { return today; }
+  double Casuale() override;
+};
+
+class ScriptedPlatform : public Piattaforma {
+ public:
+  ScriptedUser user;
+  ScriptedMachine machine;
+  RecordingSurface window;
+  bool hasWindow = false;
+
+  Utente& ChiUsa() override { return user; }
+  Macchina& Sistema() override { return machine; }
+  Superficie* FinestraPrincipale() override { return hasWindow ? &window : nullptr; }
+  void Termina() override { throw ProgramEnded(); }
+};
+
+}  // namespace telarium
