@@ -95,8 +95,7 @@ EsitoDizionario ScriviDizionario(const Percorso& nome, const ListeDiParole& list
   ContaParole(liste, esito);
   if (const std::string eccesso = Eccesso(esito); !eccesso.empty()) return nonScritto(eccesso);
   const Descrittore blocco = BloccaCartella(nome.parent_path());
-  const auto errore = ScriviFile(nome, Immagine(liste, esito), Permanenza::SulDisco,
-                                 nome.parent_path() / "LESSICO.new");
+  const auto errore = ScriviFile(nome, Immagine(liste, esito), Permanenza::SulDisco, "LESSICO.new");
   if (errore) return nonScritto(DescrizioneErrore(errore));
   return esito;
 }

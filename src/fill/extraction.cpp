@@ -76,6 +76,7 @@ class Estrazione {
       RiempiCelleVuote();
       RidisegnaSchema();
     }
+    MostraCelleVuote();
     pittore_.Fine();
     ConsolidaSchema();
     return esito_;
@@ -196,6 +197,16 @@ class Estrazione {
         const char lettera = LetteraCasella(c, r);
         if (lettera == CellaSvuotata || lettera == CellaVuota)
           ScriviLettera({c, r}, LetteraCasuale());
+      }
+    }
+  }
+
+  // What no word and no random letter reached is an empty cell again, also where a row line of
+  // Schema is too short to say so.
+  static void MostraCelleVuote() {
+    for (int c = 1; c <= MaxColonne; ++c) {
+      for (int r = 1; r <= MaxRighe; ++r) {
+        if (LetteraCasella(c, r) == CellaSvuotata) LetteraCasella(c, r) = CellaVuota;
       }
     }
   }

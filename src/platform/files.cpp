@@ -49,7 +49,8 @@ mode_t DirittiPer(const Percorso& nome) {
 class FileAccanto {
  public:
   FileAccanto(const Percorso& definitivo, const Percorso& accanto) : definitivo_(definitivo) {
-    accanto.empty() ? CreaConNomeNuovo() : Crea(accanto);
+    const bool nomeDato = !accanto.empty() && accanto != definitivo_.filename();
+    nomeDato ? Crea(definitivo_.parent_path() / accanto) : CreaConNomeNuovo();
   }
 
   ~FileAccanto() {

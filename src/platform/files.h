@@ -29,8 +29,8 @@ enum class Permanenza { SulDisco, Provvisoria };
 
 /// Writes a whole file: beside it first, then renamed over it, so that a failure at any moment
 /// leaves what was there. A device or pipe is written to directly. Gives the system's error, 0 for
-/// none. `accanto` is the name to write under until then, in the same folder; a file of that name
-/// is removed first. Without one a new name is made.
+/// none. `accanto` is the file name to write under until then, in the folder of the file; another
+/// file of that name is removed first. Without one a new name is made.
 [[nodiscard]] std::error_code ScriviFile(const Percorso& nome, std::string_view contenuto,
                                          Permanenza permanenza = Permanenza::SulDisco,
                                          const Percorso& accanto = {});
