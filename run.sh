@@ -24,6 +24,7 @@ fi
 
 export TELARIUM_CARTELLA="$PWD/build/release/share/telarium"
 telar=build/release/bin/telar
+trap 'exit 130' INT  # telar ends in order on Ctrl+C; what follows shall not run
 output="$PWD/build/estratto.tlrm"
 
 if [ -z "$crossword" ]; then

@@ -63,12 +63,6 @@ std::optional<std::string> ParolaDellaLista(std::string_view riga) {
   return parola;
 }
 
-std::string_view SenzaSpaziAiLati(std::string_view riga) {
-  const std::size_t primo = riga.find_first_not_of(" \t");
-  if (primo == std::string_view::npos) return {};
-  return riga.substr(primo, riga.find_last_not_of(" \t") - primo + 1);
-}
-
 }  // namespace
 
 void AggiungiLista(std::string_view utf8, ListeDiParole& liste) {
@@ -77,7 +71,7 @@ void AggiungiLista(std::string_view utf8, ListeDiParole& liste) {
   LettoreDiRighe righe(utf8);
   std::string_view riga;
   while (righe.Prossima(riga)) {
-    if (auto parola = ParolaDellaLista(SenzaSpaziAiLati(riga))) {
+    if (auto parola = ParolaDellaLista(riga)) {
       liste[parola->size() - MinLunghezza].push_back(std::move(*parola));
     }
   }

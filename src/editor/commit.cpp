@@ -5,9 +5,11 @@
 
 namespace telarium {
 
-void ConsolidaSchema() {
-  if (ScriviIstantanea()) LeggiIstantanea();
+bool ConsolidaSchema() {
+  const bool scritta = ScriviIstantanea();
+  if (scritta) LeggiIstantanea();
   RidisegnaSchema();
+  return scritta;
 }
 
 void RiprendiSchema() {

@@ -4,8 +4,9 @@
 namespace telarium {
 
 /// Commits a change made in Schema: writes the snapshot, reads it back, redraws. When the snapshot
-/// cannot be written (its message shows) the older one is not read back, so that the change stays.
-void ConsolidaSchema();
+/// cannot be written (its message shows) the older one is not read back, so that the change stays;
+/// gives whether it could be.
+bool ConsolidaSchema();
 
 /// Takes over the crossword that a dialog left in the snapshot: reads it and redraws. Nothing
 /// happens while NomeCruciverba is empty.

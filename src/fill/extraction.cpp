@@ -8,6 +8,7 @@
 #include "editor/redraw.h"
 #include "fill/placed_word.h"
 #include "fill/word_choice.h"
+#include "model/crossword_file.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 
@@ -78,7 +79,8 @@ class Estrazione {
     }
     MostraCelleVuote();
     pittore_.Fine();
-    ConsolidaSchema();
+    // What could not be written a moment ago is not tried, and told, once more.
+    esito_ == EsitoEstrazione::NonRegistrata ? RidisegnaSchema() : void(ConsolidaSchema());
     return esito_;
   }
 
@@ -99,7 +101,7 @@ class Estrazione {
     ++avanzamento_.tentativo;
     avanzamento_.slotPresi = avanzamento_.slotTotali = 0;
     if (Riferisci() == Seguito::Basta) return Seguito::Basta;
-    SvuotaGriglia();
+    if (!SvuotaGriglia()) return Basta(EsitoEstrazione::NonRegistrata);
     const std::vector<Slot> slot = SlotInOrdine();
     avanzamento_.slotTotali = static_cast<int>(slot.size());
     for (const Slot& uno : slot) {
@@ -111,7 +113,7 @@ class Estrazione {
     return Seguito::Avanti;
   }
 
-  void SvuotaGriglia() {
+  bool SvuotaGriglia() {
     for (int r = 1; r <= MaxRighe; ++r) {
       std::string& riga = Schema(r + RigheIntestazione);
       for (std::size_t p = 0; p < riga.size(); p += 2) {
@@ -124,13 +126,14 @@ class Estrazione {
       }
     }
     pittore_.DirettoSulloSchermo();
-    ConsolidaSchema();
+    const bool registrata = ConsolidaSchema();
     for (int c = 1; c <= MaxColonne; ++c) {
       for (int r = 1; r <= MaxRighe; ++r) {
         if (LetteraCasella(c, r) != CellaNera) LetteraCasella(c, r) = CellaSvuotata;
       }
     }
     pittore_.PreparaCarattere();
+    return registrata;
   }
 
   // The slots that a dictionary has words for, the longest first, among equally long ones in
@@ -148,11 +151,14 @@ class Estrazione {
   Seguito PrendiSlot(const Slot& slot) {
     const std::string modello = LettereDi(slot);
     if (!CercaCandidati(modello)) return Basta(EsitoEstrazione::SenzaParole);
-    if (NumCandidati == 0) {
+    const std::string parola = NumCandidati > 0 ? EstraiParola(slot.lunghezza) : std::string();
+    // A word with anything but letters, from a damaged dictionary, would make or undo black cells
+    // or a crossword that no file can hold: it counts as none.
+    const bool utile = std::all_of(parola.begin(), parola.end(), LetteraScrivibile);
+    if (parola.empty() || !utile) {
       // Three letters without a word are passed over in silence.
       return slot.lunghezza > 3 ? VicoloCieco(TestoSenzaCandidati(slot, modello)) : Seguito::Avanti;
     }
-    const std::string parola = EstraiParola(slot.lunghezza);
     const EsitoIncroci incroci = ProvaIncroci(slot);
     if (!incroci.passati && incroci.incrocio.size() > 3) {
       const Seguito seguito = VicoloCieco(TestoIncrocioFallito(slot, incroci.incrocio));

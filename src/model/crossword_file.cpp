@@ -168,22 +168,24 @@ std::optional<std::string> TestoDelFile() {
   return testo;
 }
 
-bool LeggiDa(const Percorso& percorso, const Percorso& nomeMostrato) {
+// The bytes of a crossword file. A missing one ends the program; none, told, if it cannot be read.
+std::optional<std::string> Contenuto(const Percorso& percorso, const Percorso& nomeMostrato) {
   std::string contenuto;
-  switch (LeggiFile(percorso, MaxByteCruciverba, contenuto)) {
-    case EsitoLettura::Letto:
-      return InterpretaCruciverba(contenuto);
-    case EsitoLettura::Assente:
-      Avvisa(Unisci("Errore: Cruciverba  ", TestoPercorso(nomeMostrato),
-                    "  Non trovato! Esecuzione terminata."),
-             "Telarium", Icona::Informazione);
-      TerminaProgramma();
-    case EsitoLettura::Illeggibile:
-    case EsitoLettura::TroppoGrande:
-      break;
+  const EsitoLettura esito = LeggiFile(percorso, MaxByteCruciverba, contenuto);
+  if (esito == EsitoLettura::Letto) return contenuto;
+  if (esito == EsitoLettura::Assente) {
+    Avvisa(Unisci("Errore: Cruciverba  ", TestoPercorso(nomeMostrato),
+                  "  Non trovato! Esecuzione terminata."),
+           "Telarium", Icona::Informazione);
+    TerminaProgramma();
   }
   Avvisa(std::string(MessaggioLettura));
-  return false;
+  return std::nullopt;
+}
+
+bool LeggiDa(const Percorso& percorso, const Percorso& nomeMostrato) {
+  const auto contenuto = Contenuto(percorso, nomeMostrato);
+  return contenuto && InterpretaCruciverba(*contenuto);
 }
 
 bool ScriviIn(const Percorso& percorso, Permanenza permanenza) {
@@ -216,12 +218,20 @@ bool LeggiCruciverba(const Percorso& nome) {
 }
 
 bool ApriCruciverba(const Percorso& nome) {
+  const auto contenuto = Contenuto(nome, nome);
+  if (!contenuto) return false;
   SvuotaCruciverba();
-  return LeggiDa(nome, nome);
+  return InterpretaCruciverba(*contenuto);
 }
 
 bool ScriviCruciverba(const Percorso& nome) {
   return ScriviIn(nome, Permanenza::SulDisco);
+}
+
+bool LetteraScrivibile(char carattere) {
+  const int codice = static_cast<unsigned char>(carattere);
+  return codice > ' ' && codice != 0x7F && codice + Spostamento <= 255 && carattere != CellaNera &&
+         carattere != CellaVuota;
 }
 
 bool LeggiIstantanea() {

@@ -28,8 +28,9 @@ inline constexpr std::size_t MaxByteCruciverba = 16u << 20;
 /// read until then stays, and after a bad size both numbers are 0.
 bool LeggiCruciverba(const Percorso& nome);
 
-/// Opens a crossword for the user, by its path as given: SvuotaCruciverba, then as LeggiCruciverba.
-bool ApriCruciverba(const Percorso& nome);
+/// Opens a crossword for the user, by its path as given: as LeggiCruciverba, with SvuotaCruciverba
+/// before anything of the file is taken. A file that cannot be read at all clears nothing.
+[[nodiscard]] bool ApriCruciverba(const Percorso& nome);
 
 /// What LeggiCruciverba does with the contents of a file.
 bool InterpretaCruciverba(std::string_view contenuto);
@@ -38,12 +39,15 @@ bool InterpretaCruciverba(std::string_view contenuto);
 /// it. The state stays as it is. A failure shows its message, gives false and leaves the old file.
 [[nodiscard]] bool ScriviCruciverba(const Percorso& nome);
 
+/// Whether a white cell can hold a character and the file can hold the cell: a letter or another
+/// printable character with a code up to 229.
+bool LetteraScrivibile(char carattere);
+
 /// The same two with the snapshot, which is never forced to the disk.
 bool LeggiIstantanea();
 [[nodiscard]] bool ScriviIstantanea();
 
-/// The header line with the size, from NumColonne and NumRighe: what it held before character 14
-/// stays.
+/// Writes a size into the header line of Schema: what it held before character 14 stays.
 void ScriviDimensioni(int colonne, int righe);
 
 }  // namespace telarium

@@ -23,15 +23,23 @@ std::error_code UltimoErrore() {
 std::error_code ScriviTutto(int file, std::string_view contenuto) {
   while (!contenuto.empty()) {
     const ssize_t scritti = ::write(file, contenuto.data(), contenuto.size());
-    if (scritti < 0 && errno == EINTR) continue;
+    // Also an interruption: a pipe that nobody empties must not hold a user who wants to stop.
     if (scritti < 0) return UltimoErrore();
     contenuto.remove_prefix(static_cast<std::size_t>(scritti));
   }
   return {};
 }
 
+// A pipe without anybody at its other end is no reason to wait for one. What is open is read and
+// written as usual.
+Descrittore ApriSenzaAttesa(const Percorso& nome, int modo) {
+  Descrittore file(::open(nome.c_str(), modo | O_CLOEXEC | O_NONBLOCK));
+  if (file) ::fcntl(file.Numero(), F_SETFL, modo);
+  return file;
+}
+
 std::error_code ScriviDirettamente(const Percorso& nome, std::string_view contenuto) {
-  Descrittore file(::open(nome.c_str(), O_WRONLY | O_CLOEXEC));
+  const Descrittore file = ApriSenzaAttesa(nome, O_WRONLY);
   if (!file) return UltimoErrore();
   return ScriviTutto(file.Numero(), contenuto);
 }
@@ -63,7 +71,8 @@ class FileAccanto {
   std::error_code Scrivi(std::string_view contenuto, Permanenza permanenza) {
     if (!file_) return UltimoErrore();
     if (const auto errore = ScriviTutto(file_.Numero(), contenuto)) return errore;
-    if (::fchmod(file_.Numero(), DirittiPer(definitivo_)) != 0) return UltimoErrore();
+    // A file system without such rights is no reason to lose the contents.
+    [[maybe_unused]] const int ignorato = ::fchmod(file_.Numero(), DirittiPer(definitivo_));
     if (permanenza == Permanenza::SulDisco && ::fsync(file_.Numero()) != 0) return UltimoErrore();
     return file_.Chiudi();
   }
@@ -150,7 +159,7 @@ std::vector<Percorso> NomiDiFile(const Percorso& cartella, Condizione condizione
 
 EsitoLettura LeggiFile(const Percorso& nome, std::size_t massimo, std::string& contenuto) {
   contenuto.clear();
-  Descrittore file(::open(nome.c_str(), O_RDONLY | O_CLOEXEC));
+  const Descrittore file = ApriSenzaAttesa(nome, O_RDONLY);
   struct stat stato {};
   if (!file) {
     const bool assente = errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG;
@@ -188,6 +197,9 @@ std::error_code ScriviFile(const Percorso& nome, std::string_view contenuto, Per
   if (fs::exists(stato) && !fs::is_regular_file(stato)) return ScriviDirettamente(nome, contenuto);
 
   const Percorso definitivo = DietroICollegamenti(nome);
+  // The folder would allow it, but whoever protected the file does not want it written over.
+  const bool scrivibile = ::faccessat(AT_FDCWD, definitivo.c_str(), W_OK, AT_EACCESS) == 0;
+  if (!scrivibile && errno != ENOENT) return UltimoErrore();
   FileAccanto nuovo(definitivo, accanto);
   if ((errore = nuovo.Scrivi(contenuto, permanenza))) return errore;
   if ((errore = nuovo.PrendiIlPosto())) return errore;

@@ -59,8 +59,10 @@ std::vector<Percorso> RiempiCartella(const Percorso& installati, const Percorso&
   std::vector<Percorso> falliti;
   std::error_code errore;
   fs::create_directories(cartella, errore);
-  for (fs::recursive_directory_iterator voce(installati, errore), fine; !errore && voce != fine;
-       voce.increment(errore)) {
+  for (fs::recursive_directory_iterator
+           voce(installati, fs::directory_options::skip_permission_denied, errore),
+       fine;
+       !errore && voce != fine; voce.increment(errore)) {
     std::error_code ignorato;
     const Percorso relativo = voce->path().lexically_relative(installati);
     if (voce->is_directory(ignorato)) {
@@ -69,6 +71,7 @@ std::vector<Percorso> RiempiCartella(const Percorso& installati, const Percorso&
       falliti.push_back(relativo);
     }
   }
+  if (errore) falliti.push_back(installati);
   return falliti;
 }
 

@@ -50,14 +50,14 @@ Argomenti Separa(const std::vector<std::string>& parole, const std::vector<Opzio
     const Opzione& opzione = Trova(ammesse, std::string_view(parola).substr(0, uguale));
     const bool conValore = !opzione.valore.empty();
     if (uguale != std::string::npos && !conValore) {
-      throw ArgomentiErrati(std::string(opzione.nome) + " non vuole un valore");
+      throw ArgomentiErrati(std::string(opzione.nome) + " non ammette un valore");
     }
     std::string valore;
     if (uguale != std::string::npos) {
       valore = parola.substr(uguale + 1);
     } else if (conValore) {
       if (++i == parole.size())
-        throw ArgomentiErrati(std::string(opzione.nome) + " vuole un valore");
+        throw ArgomentiErrati(std::string(opzione.nome) + " richiede un valore");
       valore = parole[i];
     }
     argomenti.opzioni.insert_or_assign(std::string(opzione.nome), std::move(valore));

@@ -39,6 +39,7 @@ class IstantaneaPropria {
 };
 
 Stato Scrivi(const std::string& uscita) {
+  AscoltaInterruzione();
   return ScriviCruciverba(uscita) ? Stato::Fatto : Stato::Fallito;
 }
 
@@ -93,8 +94,8 @@ EsitoNuovo NuovoConModello(const Argomenti& argomenti) {
   const EsitoNuovo esito =
       NuovoDaModello(file, static_cast<int>(std::min<std::int64_t>(numero - 1, MaxParole)));
   if (esito == EsitoNuovo::ModelloAssente) {
-    Avvisa(
-        Unisci("Il file modelli ", TestoPercorso(file), " non ha un modello numero ", numero, '.'));
+    Avvisa(Unisci("Il file modelli ", TestoPercorso(file), " non ha righe per un modello numero ",
+                  numero, '.'));
   }
   return esito;
 }
@@ -107,6 +108,7 @@ Stato Nuovo(const Argomenti& argomenti, PiattaformaConsole&) {
   if (argomenti.Ha("--modelli") && !argomenti.Ha("--modello")) {
     throw ArgomentiErrati("--modelli va insieme a --modello");
   }
+  AscoltaInterruzione();  // before there is a temporary folder that has to be removed
   const IstantaneaPropria istantanea;
   if (!istantanea.Pronta()) return Stato::Fallito;
   const EsitoNuovo esito = argomenti.Ha("--dimensioni")
@@ -143,7 +145,8 @@ Stato Estrai(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
     case EsitoEstrazione::Interrotta:
       Avvisa(Unisci(piattaforma.ChiUsa().Interrotto()
                         ? "Estrazione interrotta"
-                        : Unisci("Rinuncia dopo ", risposte.tentativi, " tentativi"),
+                        : Unisci("Rinuncia dopo ", risposte.tentativi,
+                                 risposte.tentativi == 1 ? " tentativo" : " tentativi"),
                     ": nessun file scritto."));
       return Stato::Fallito;
     default:

@@ -38,7 +38,7 @@ Stato Cerca(const Argomenti& argomenti, PiattaformaConsole&) {
     throw ArgomentiErrati("la maschera vuole da 3 a 15 caratteri");
   }
   if (argomenti.liberi[0].find(' ') != std::string::npos) {
-    throw ArgomentiErrati("la maschera non vuole spazi: i posti liberi sono \".\" o \"_\"");
+    throw ArgomentiErrati("la maschera non ammette spazi: i posti liberi sono \".\" o \"_\"");
   }
   if (!ApriDizionario(argomenti.Valore("--dizionario", NomeDizionario.string()))) {
     return Stato::Fallito;
@@ -90,6 +90,9 @@ std::string_view ErroreDellaLista(EsitoLettura esito) {
 }
 
 Stato DizCrea(const Argomenti& argomenti, PiattaformaConsole&) {
+  if (Percorso(argomenti.liberi[0]).filename().empty()) {
+    throw ArgomentiErrati("NOME non è il nome di un file");
+  }
   ListeDiParole liste;
   for (std::size_t i = 1; i < argomenti.liberi.size(); ++i) {
     const Percorso nome = argomenti.liberi[i];
@@ -102,6 +105,7 @@ Stato DizCrea(const Argomenti& argomenti, PiattaformaConsole&) {
     AggiungiLista(contenuto, liste);
   }
   OrdinaListe(liste);
+  AscoltaInterruzione();  // a file beside the dictionary must not be left
   const EsitoDizionario esito =
       ScriviDizionario(PercorsoNellaCartella(CartellaProgramma, argomenti.liberi[0]), liste);
   if (!esito.errore.empty()) {

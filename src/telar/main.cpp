@@ -35,7 +35,7 @@ std::string UsoGenerale() {
       "Uso: telar [--cartella CARTELLA] COMANDO [ARGOMENTI] [OPZIONI]\n\nComandi:\n";
   for (const Comando& comando : Comandi()) {
     std::string sinistra = "  ";
-    Aggiungi(sinistra, {comando.nome, " ", comando.argomenti});
+    Aggiungi(sinistra, {comando.nome, " ", comando.argomenti, comando.uso});
     sinistra.resize(std::max<std::size_t>(sinistra.size() + 1, 32), ' ');
     Aggiungi(testo, {sinistra, comando.aiuto, "\n"});
   }
@@ -82,20 +82,26 @@ Argomenti Leggi(const std::vector<std::string>& parole, const Comando* comando) 
   return Separa(parole, ammesse);
 }
 
-void ScegliCartella(const Argomenti& argomenti) {
+// Sets CartellaProgramma; false, told, when there is no folder that could be it.
+bool ScegliCartella(const Argomenti& argomenti) {
   if (argomenti.Ha(OpzioneCartella.nome)) {
     const Percorso nominata = argomenti.Valore(OpzioneCartella.nome);
     if (nominata.empty()) throw ArgomentiErrati("--cartella vuole il nome di una cartella");
     std::error_code errore;
     CartellaProgramma = std::filesystem::absolute(nominata, errore);
-    return;
+    return true;
   }
   const SceltaCartella scelta = ScegliCartellaProgramma();
   CartellaProgramma = scelta.cartella;
-  if (!scelta.daRiempire) return;
+  if (CartellaProgramma.empty()) {
+    Avvisa("Impossibile stabilire la cartella programma: manca la cartella dell'utente (HOME).");
+    return false;
+  }
+  if (!scelta.daRiempire) return true;
   for (const Percorso& fallito : RiempiCartella(CartellaDatiInstallati(), CartellaProgramma)) {
     Avvisa("Impossibile copiare nella cartella programma il file: " + TestoPercorso(fallito));
   }
+  return true;
 }
 
 Stato Esegui(const Comando& comando, const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
@@ -104,7 +110,7 @@ Stato Esegui(const Comando& comando, const Argomenti& argomenti, PiattaformaCons
     const char* quale = quanti < comando.minArgomenti ? "mancano argomenti" : "troppi argomenti";
     throw ArgomentiErrati(std::string(quale) + ", servono: " + std::string(comando.argomenti));
   }
-  ScegliCartella(argomenti);
+  if (!ScegliCartella(argomenti)) return Stato::Fallito;
   return comando.esegui(argomenti, piattaforma);
 }
 
@@ -149,6 +155,7 @@ const std::vector<Comando>& Comandi() {
 
 int main(int argc, char** argv) {
   using namespace telarium;
+  std::signal(SIGXFSZ, SIG_IGN);  // a file over the limit is a write error like another
   PiattaformaConsole piattaforma;
   ImpostaPiattaforma(&piattaforma);
   telar::Stato stato = telar::Stato::Fallito;
@@ -156,6 +163,8 @@ int main(int argc, char** argv) {
     stato = telar::EseguiRigaDiComando({argv + 1, argv + argc}, piattaforma);
   } catch (const ProgrammaTerminato&) {
     // Its message has been shown.
+  } catch (const std::bad_alloc&) {
+    std::fputs("Memoria esaurita.\n", stderr);
   } catch (const std::exception& errore) {
     std::fprintf(stderr, "Errore imprevisto: %s\n", errore.what());
   }

@@ -10,7 +10,7 @@ namespace telarium::telar {
 namespace {
 
 bool Separa(char c) {
-  return c == '\t' || c == '\r' || c == '\n';
+  return c == '\t' || c == '\r' || c == '\n' || c == '\0';
 }
 
 }  // namespace
@@ -21,10 +21,10 @@ void StampaCampi(std::initializer_list<std::string_view> campi) {
     // Character by character: a field of cells keeps its length.
     std::string testo(campo);
     std::replace_if(testo.begin(), testo.end(), Separa, ' ');
-    if (!riga.empty()) riga += '\t';
     riga += AUtf8(testo);
+    riga += '\t';
   }
-  riga += '\n';
+  riga.back() = '\n';
   std::fwrite(riga.data(), 1, riga.size(), stdout);
 }
 

@@ -23,7 +23,7 @@ TEST(WordListTest, LineBecomesAWordInPlainCapitals) {
   constexpr std::pair<std::string_view, std::string_view> rows[] = {
       {"casa", "CASA"}, {"àèéìòùÀÈÉÌÒÙ", "AEEIOUAEEIOU"}, {"çâêëîïôûÿÇŸ", "CAEEIIOUYCY"},
       {"åãñõøšžłđ", "AANOOSZLD"}, {"ÀÝÿĀžſ", "AYYAZS"}, {"cœurÆßĳŒ", "COEURAESSIJOE"},
-      {"perche\u0301C\u0327A", "PERCHECA"}, {" \t casa\t ", "CASA"},
+      {"perche\u0301C\u0327A", "PERCHECA"}, {" \t casa\t ", ""},
       // At the limits of the length, which is counted after folding.
       {"re", ""}, {"œu", "OEU"}, {"\u0301\u0301\u0301", ""}, {"", ""},
       {"sovrapposizionì", "SOVRAPPOSIZIONI"}, {"sovrapposizionia", ""}, {"sovrapposizionœ", ""},

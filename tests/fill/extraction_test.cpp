@@ -248,6 +248,30 @@ TEST_F(ExtractionTest, WordsOfNoLettersLeaveACrosswordThatCanBeSaved) {
   user.TakeTexts();
 }
 
+TEST_F(ExtractionTest, WordThatACrosswordCannotHoldCountsAsNone) {
+  for (const char* word : {"A*CD", "A.CD", "A CD",
+                           "AB\xE6"
+                           "D",
+                           "AB\x7F"
+                           "D",
+                           "A\nCD"}) {
+    OpenDictionary({word});
+    DrawJoined("....");
+    user.AnswerDeadEnd(Risposta::Annulla);
+    EXPECT_EQ(Run(EsitoEstrazione::Annullata), "....");
+    EXPECT_EQ(user.TakeTexts().size(), 1u);
+  }
+}
+
+TEST_F(ExtractionTest, SnapshotThatCannotBeWrittenEndsTheRunAtOnce) {
+  OpenDictionary(TeeWords);
+  DrawJoined(TeeGrid);
+  CartellaIstantanea = InFolder("manca");
+  ProvaInfinita = Vero;
+  Run(EsitoEstrazione::NonRegistrata);
+  EXPECT_EQ(user.TakeTexts(), Words{"Errore di scrittura del file!"});
+}
+
 TEST_F(ExtractionTest, EverySlotWithoutADeadEndHoldsAWord) {
   NomeDizionario = Percorso(TELARIUM_DATA_DIR) / "LessicoItaliano.dat";
   ASSERT_TRUE(ApriDizionario());

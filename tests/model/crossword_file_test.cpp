@@ -158,6 +158,11 @@ TEST_F(CrosswordFile, IsRefusedPastSixteenMegabytesAndMissingEndsTheProgram) {
   std::filesystem::resize_file(path, 16777217);
   EXPECT_FALSE(LeggiCruciverba("uno.tlrm"));
   EXPECT_EQ(user.TakeTexts(), ReadError);
+  // What cannot be read at all costs the open crossword nothing.
+  Definizione(1, 1, Orizzontale) = "resta";
+  EXPECT_FALSE(ApriCruciverba(path));
+  EXPECT_EQ(user.TakeTexts(), ReadError);
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "resta");
 
   EXPECT_THROW(LeggiCruciverba("perché.tlrm"), ProgramEnded);
   const Messaggio message = user.TakeMessages().at(0);

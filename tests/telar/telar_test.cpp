@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <functional>
 #include <list>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/text.h"
@@ -276,6 +277,7 @@ TEST_F(Telar, BadCrosswordsAreToldOnOneLine) {
 
 TEST_F(Telar, OtherFailuresAreToldOnOneLineAndCostNothing) {
   MakeDictionary("AAAA\n");
+  ASSERT_EQ(::mkfifo(InFolder("work/pipe").c_str(), 0600), 0);  // nobody at its other end
   Write("bad.dfc", "AB\r\nCDE\r\n-\r\n");
   Write("huge", "");
   fs::resize_file(InFolder("work/huge"), 100'000'000);
@@ -286,6 +288,8 @@ TEST_F(Telar, OtherFailuresAreToldOnOneLineAndCostNothing) {
       {"copia sample folder", WriteError},
       {"copia sample none/new", WriteError},
       {"copia sample /proc/new", WriteError},
+      {"copia sample pipe", WriteError},
+      {"griglia pipe", ReadError},
       {"copia sample /dev/full", WriteError},
       {"nuovo none/new --dimensioni 5x5", WriteError},
       {"estrai square none/new", WriteError},
@@ -298,7 +302,7 @@ TEST_F(Telar, OtherFailuresAreToldOnOneLineAndCostNothing) {
       {"nuovo old --modello 1", "Errore: Non trovato file di definizione modelli standard!\n"},
       {"nuovo old --modelli bad.dfc --modello 1", "Tipo di file modelli non valido!\n"},
       {"nuovo old --modelli bad.dfc --modello 2",
-       "Il file modelli bad.dfc non ha un modello numero 2.\n"},
+       "Il file modelli bad.dfc non ha righe per un modello numero 2.\n"},
       {"diz-crea LessicoItaliano.dat list none", "Non trovata la lista di parole: none\n"},
       {"diz-crea LessicoItaliano.dat folder", "Non trovata la lista di parole: folder\n"},
       {"diz-crea LessicoItaliano.dat huge", "Troppo grande la lista di parole: huge\n"},

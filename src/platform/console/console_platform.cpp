@@ -43,8 +43,14 @@ bool UtenteConsole::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento)
 }
 
 void AscoltaInterruzione() {
-  for (const int segnale : {SIGINT, SIGTERM, SIGHUP})
-    std::signal(segnale, SegnaInterruzione);
+  for (const int segnale : {SIGINT, SIGTERM, SIGHUP}) {
+    struct sigaction prima {};
+    ::sigaction(segnale, nullptr, &prima);
+    if (prima.sa_handler == SIG_IGN) continue;  // as under nohup
+    struct sigaction nostra {};
+    nostra.sa_handler = SegnaInterruzione;  // no restart: a call that waits comes back
+    ::sigaction(segnale, &nostra, nullptr);
+  }
   std::signal(SIGPIPE, SIG_IGN);
 }
 

@@ -45,7 +45,8 @@ class UtenteConsole : public Utente {
 };
 
 /// From now on Ctrl+C and a request to terminate no longer end the process: they set a flag that
-/// ContinuaEstrazione reads. Nor does it end when nobody reads its messages any more.
+/// ContinuaEstrazione reads, so that no file beside the output and no temporary folder is left. Nor
+/// does it end when nobody reads its messages any more. For what takes long a command has to poll.
 void AscoltaInterruzione();
 
 class MacchinaConsole : public MacchinaIsolata {
