@@ -79,8 +79,11 @@ class Estrazione {
     }
     MostraCelleVuote();
     pittore_.Fine();
-    // What could not be written a moment ago is not tried, and told, once more.
-    esito_ == EsitoEstrazione::NonRegistrata ? RidisegnaSchema() : void(ConsolidaSchema());
+    if (esito_ == EsitoEstrazione::NonRegistrata) {
+      RidisegnaSchema();  // a second try would only tell the same failure again
+    } else {
+      ConsolidaSchema();
+    }
     return esito_;
   }
 
@@ -226,7 +229,7 @@ bool ConfermaEstrazione() {
   return ChiUsa().MostraMessaggio(
              {.testo = std::string(
                   "L'estrazione automatica delle parole dal vocabolario, azzera il cruciverba "
-                  "corrente ed inoltre richiede un processore molto veloce, è possibile "
+                  "corrente ed inoltre richiede un processore molto veloce, è possibile "_cp
                   "interrompere questa operazione solamente durante i messaggi di errore sulla "
                   "estrazione, si desidera comunque procedere?"_cp),
               .titolo = "Estrazione automatica parole",

@@ -39,13 +39,13 @@ bool InterpretaCruciverba(std::string_view contenuto);
 /// it. The state stays as it is. A failure shows its message, gives false and leaves the old file.
 [[nodiscard]] bool ScriviCruciverba(const Percorso& nome);
 
+/// LeggiCruciverba and ScriviCruciverba with the snapshot, which is never forced to the disk.
+bool LeggiIstantanea();
+[[nodiscard]] bool ScriviIstantanea();
+
 /// Whether a white cell can hold a character and the file can hold the cell: a letter or another
 /// printable character with a code up to 229.
 bool LetteraScrivibile(char carattere);
-
-/// The same two with the snapshot, which is never forced to the disk.
-bool LeggiIstantanea();
-[[nodiscard]] bool ScriviIstantanea();
 
 /// Writes a size into the header line of Schema: what it held before character 14 stays.
 void ScriviDimensioni(int colonne, int righe);

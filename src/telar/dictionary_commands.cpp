@@ -91,7 +91,7 @@ std::string_view ErroreDellaLista(EsitoLettura esito) {
 
 Stato DizCrea(const Argomenti& argomenti, PiattaformaConsole&) {
   if (Percorso(argomenti.liberi[0]).filename().empty()) {
-    throw ArgomentiErrati("NOME non è il nome di un file");
+    throw ArgomentiErrati("NOME deve essere il nome di un file");
   }
   ListeDiParole liste;
   for (std::size_t i = 1; i < argomenti.liberi.size(); ++i) {
