@@ -8,11 +8,7 @@
 
 namespace telarium {
 
-namespace {
-constexpr const char* DizionarioIniziale = "LessicoItaliano.dat";
-}
-
-Percorso NomeDizionario = DizionarioIniziale;
+Percorso NomeDizionario = DizionariDiSistema[0];
 std::int16_t LinguaDizionario = 1;
 Tabella<std::int32_t, AsseLunghezze> OffsetLunghezza("OffsetLunghezza");
 Tabella<std::int32_t, AsseLunghezze> ContaLunghezza("ContaLunghezza");
@@ -20,7 +16,7 @@ Tabella<std::int32_t, AsseLunghezze> ContaLunghezza("ContaLunghezza");
 namespace {
 
 void AzzeraDizionario() {
-  NomeDizionario = DizionarioIniziale;
+  NomeDizionario = DizionariDiSistema[0];
   LinguaDizionario = 1;
   OffsetLunghezza.Riempi(0);
   ContaLunghezza.Riempi(0);

@@ -38,6 +38,11 @@ constexpr bool LunghezzaAmmessa(int lunghezza) {
   return lunghezza >= MinLunghezza && lunghezza <= MaxLunghezza;
 }
 
+inline constexpr int NumLingue = 4;
+/// File names of the dictionaries of the system, by LinguaDizionario less 1.
+inline constexpr const char* DizionariDiSistema[NumLingue] = {
+    "LessicoItaliano.dat", "LessicoInglese.dat", "LessicoLatino.dat", "LessicoFrancese.dat"};
+
 /// File name of the open dictionary, in the program folder; "LessicoItaliano.dat" at start.
 extern Percorso NomeDizionario;
 /// 1 Italian, 2 English, 3 Latin, 4 French (or a private dictionary).

@@ -1,9 +1,27 @@
 #include "editor/commit.h"
 
+#include "editor/main_window.h"
 #include "editor/redraw.h"
 #include "model/crossword_file.h"
 
 namespace telarium {
+namespace {
+
+constexpr int PrimoPulsanteDelCruciverba = 4;
+constexpr int UltimoPulsante = 22;
+constexpr std::string_view VociDelCruciverba[] = {
+    "menuSalva",     "MenuSalvaCN", "MenuEdit", "MenuUtiliti", "MenuStampa",
+    "MenuAnteprima", "menurl",      "Meno3",    "Menuhtml",    "menujava"};
+
+// The commands that need a crossword.
+void AbilitaComandi(bool abilitati) {
+  for (int numero = PrimoPulsanteDelCruciverba; numero <= UltimoPulsante; ++numero)
+    LaFinestra().AbilitaPulsante(numero, abilitati);
+  for (const std::string_view voce : VociDelCruciverba)
+    LaFinestra().AbilitaVoce(voce, abilitati);
+}
+
+}  // namespace
 
 bool ConsolidaSchema() {
   const bool scritta = ScriviIstantanea();
@@ -13,7 +31,9 @@ bool ConsolidaSchema() {
 }
 
 void RiprendiSchema() {
+  AbilitaComandi(!NomeCruciverba.empty());
   if (NomeCruciverba.empty()) return;
+  LaFinestra().MettiGraficaAiMenu();
   LeggiIstantanea();
   RidisegnaSchema();
 }

@@ -8,8 +8,8 @@ namespace telarium {
 /// gives whether it could be.
 bool ConsolidaSchema();
 
-/// Takes over the crossword that a dialog left in the snapshot: reads it and redraws. Nothing
-/// happens while NomeCruciverba is empty.
+/// Takes over the crossword that a dialog left in the snapshot: allows the commands that need a
+/// crossword, reads it and redraws. While NomeCruciverba is empty those commands are disabled.
 void RiprendiSchema();
 
 }  // namespace telarium

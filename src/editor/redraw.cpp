@@ -1,12 +1,148 @@
 #include "editor/redraw.h"
 
+#include <algorithm>
+
+#include "editor/main_window.h"
+#include "editor/settings.h"
+#include "model/crossword_file.h"
 #include "model/words.h"
+#include "platform/platform.h"
+#include "platform/text.h"
 
 namespace telarium {
+namespace {
+
+constexpr int MargineProvvisorio = 6;  // pixels on each side, for the size of a cell
+constexpr int DistanzaCornice = 2;     // white ground between the cells and the frame
+constexpr double MinCorpoLettere = 6;  // points
+// A settings file can hold any number; type of more than some cells' height shows nothing.
+constexpr int MaxPercentualeCorpo = 400;
+
+double Corpo(int percentuale) {
+  return LatoCasella / 100.0 * std::clamp(percentuale, 0, MaxPercentualeCorpo);
+}
+
+double SinistraDi(int colonna) {
+  return (colonna - 1) * LatoCasella + OrigineX;
+}
+
+double CimaDi(int riga) {
+  return (riga - 1) * LatoCasella + OrigineY;
+}
+
+// Fits the cells into the band between the bars and centres the grid there.
+void CalcolaGeometria(const Superficie& superficie) {
+  const double w = superficie.LarghezzaSuperficie();
+  const double h = superficie.AltezzaSuperficie();
+  const double t = LaFinestra().AltezzaToolbar1();
+  const double s = LaFinestra().AltezzaStatusBar1();
+  const int a = ArrotondaPari((w - 2 * MargineProvvisorio - 4) / NumColonne);
+  const int b = ArrotondaPari((h - t - s - 2 - 2 * MargineProvvisorio - 4) / NumRighe);
+  LatoCasella = static_cast<std::int16_t>(std::max(std::min(a, b), 0));
+  OrigineX = static_cast<std::int16_t>(ArrotondaPari((w - LatoCasella * NumColonne) / 2));
+  OrigineY = static_cast<std::int16_t>(ArrotondaPari((t + h - 2 - s - LatoCasella * NumRighe) / 2));
+}
+
+void DisegnaFondoECornice(Superficie& superficie) {
+  const double x1 = OrigineX - DistanzaCornice;
+  const double y1 = OrigineY - DistanzaCornice;
+  const double x2 = OrigineX + LatoCasella * NumColonne + DistanzaCornice;
+  const double y2 = OrigineY + LatoCasella * NumRighe + DistanzaCornice;
+  superficie.RiquadroPieno(x1, y1, x2, y2, ColoreBianco);
+  // Beyond the surface's edges no line can be seen.
+  const double massimo = std::max(superficie.LarghezzaSuperficie(), superficie.AltezzaSuperficie());
+  for (int i = 1; i <= SpessoreBordo && i <= massimo; ++i)
+    superficie.Riquadro(x1 - i, y1 - i, x2 + i, y2 + i, ColoreCornice);
+}
+
+void DisegnaCasellaNera(Superficie& superficie, double x, double y, Colore colore) {
+  const double g = RientroCasellaNera(LatoCasella);
+  superficie.RiquadroPieno(x + g, y + g, x + LatoCasella - g, y + LatoCasella - g, colore);
+}
+
+void DisegnaLettera(Superficie& superficie, double x, double y, char lettera) {
+  if (NascondiSoluzioni) return;
+  const std::string_view testo(&lettera, 1);
+  const int mezzaLarghezza = ArrotondaPari(superficie.LarghezzaTesto(testo) / 2);
+  const int mezzaAltezza = ArrotondaPari(superficie.AltezzaTesto(testo) / 2);
+  const double meta = LatoCasella / 2.0;
+  superficie.Posizione(meta + x - mezzaLarghezza,
+                       meta + y - mezzaAltezza + LatoCasella / 100.0 * DistanzaDaCentro);
+  superficie.Scrivi(testo);
+}
+
+void DisegnaCaselle(Superficie& superficie) {
+  superficie.CorpoCarattere(std::max(Corpo(AltezzaCaratteri), MinCorpoLettere));
+  superficie.Carattere(FontDelleLettere());
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c) {
+      const double x = SinistraDi(c);
+      const double y = CimaDi(r);
+      superficie.Riquadro(x, y, x + LatoCasella, y + LatoCasella, ColoreNero);
+      const char lettera = LetteraCasella(c, r);
+      if (lettera == CellaNera) {
+        DisegnaCasellaNera(superficie, x, y, ColoreCasella(c, r));
+      } else if (lettera != CellaVuota) {
+        DisegnaLettera(superficie, x, y, lettera);
+      }
+    }
+  }
+}
+
+void DisegnaNumeri(Superficie& superficie) {
+  superficie.CorpoCarattere(Corpo(AltezzaNumeri));
+  const double distanza = LatoCasella / 100.0 * DistanzaDaSpigolo;
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c) {
+      if (NumeroCasella(c, r) == 0) continue;
+      superficie.Posizione(SinistraDi(c) + 2 + distanza, CimaDi(r) + distanza);
+      superficie.Scrivi(std::to_string(NumeroCasella(c, r)));
+    }
+  }
+}
+
+bool HaColori() {
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c) {
+      if (LetteraCasella(c, r) == CellaNera && ColoreCasella(c, r) != ColoreNero) return true;
+    }
+  }
+  return false;
+}
+
+void DisegnaSchema(Superficie& superficie) {
+  superficie.Pulisci();
+  LaFinestra().MostraCommand3d15(false);
+  LaFinestra().Titolo(
+      Unisci("Telarium - ", NumColonne, 'x', NumRighe, "  ", TestoPercorso(NomeCruciverba)));
+  CalcolaGeometria(superficie);
+  if (LatoCasella > 0) {  // in a tiny window no cell has room
+    DisegnaFondoECornice(superficie);
+    DisegnaCaselle(superficie);
+    DisegnaNumeri(superficie);
+  }
+  LaFinestra().RinfrescaToolbar1();
+}
+
+}  // namespace
 
 void RidisegnaSchema() {
   if (NumColonne == 0) return;
   RicalcolaCaselle();
+  Superficie* superficie = FinestraPrincipale();
+  if (!superficie) return;
+  DisegnaSchema(*superficie);
+  if (HaColori()) AggiornaIstantanea();
+}
+
+double RientroCasellaNera(double lato) {
+  const double m = std::min((100 - PercentualeRiquadro) / 2.0, 50.0);
+  return m < 1 ? 1 : m * lato / 100;
+}
+
+const std::string& FontDelleLettere() {
+  if (NomeFont.empty()) NomeFont = "Arial";
+  return NomeFont;
 }
 
 }  // namespace telarium

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "editor/settings.h"
 #include "platform/text.h"
 
 namespace telarium {

@@ -179,7 +179,7 @@ std::optional<std::string> Contenuto(const Percorso& percorso, const Percorso& n
            "Telarium", Icona::Informazione);
     TerminaProgramma();
   }
-  Avvisa(std::string(MessaggioLettura));
+  Avvisa(MessaggioLettura);
   return std::nullopt;
 }
 
@@ -188,10 +188,14 @@ bool LeggiDa(const Percorso& percorso, const Percorso& nomeMostrato) {
   return contenuto && InterpretaCruciverba(*contenuto);
 }
 
-bool ScriviIn(const Percorso& percorso, Permanenza permanenza) {
+bool ScriviInSilenzio(const Percorso& percorso, Permanenza permanenza) {
   const auto testo = TestoDelFile();
-  if (testo && !ScriviFile(percorso, *testo, permanenza)) return true;
-  Avvisa(std::string(MessaggioScrittura));
+  return testo && !ScriviFile(percorso, *testo, permanenza);
+}
+
+bool ScriviIn(const Percorso& percorso, Permanenza permanenza) {
+  if (ScriviInSilenzio(percorso, permanenza)) return true;
+  Avvisa(MessaggioScrittura);
   return false;
 }
 
@@ -200,7 +204,7 @@ bool ScriviIn(const Percorso& percorso, Permanenza permanenza) {
 bool InterpretaCruciverba(std::string_view contenuto) {
   LettoreDiRighe righe(contenuto);
   const auto erroreDiLettura = [] {
-    Avvisa(std::string(MessaggioLettura));
+    Avvisa(MessaggioLettura);
     return false;
   };
   if (!LeggiIntestazione(righe)) return erroreDiLettura();
@@ -221,6 +225,7 @@ bool ApriCruciverba(const Percorso& nome) {
   const auto contenuto = Contenuto(nome, nome);
   if (!contenuto) return false;
   SvuotaCruciverba();
+  NumColonne = NumRighe = 0;
   return InterpretaCruciverba(*contenuto);
 }
 
@@ -240,6 +245,15 @@ bool LeggiIstantanea() {
 
 bool ScriviIstantanea() {
   return ScriviIn(PercorsoIstantanea(), Permanenza::Provvisoria);
+}
+
+void EliminaIstantanea() {
+  std::error_code ignorato;
+  std::filesystem::remove(PercorsoIstantanea(), ignorato);
+}
+
+void AggiornaIstantanea() {
+  ScriviInSilenzio(PercorsoIstantanea(), Permanenza::Provvisoria);
 }
 
 void ScriviDimensioni(int colonne, int righe) {

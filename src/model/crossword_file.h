@@ -29,7 +29,8 @@ inline constexpr std::size_t MaxByteCruciverba = 16u << 20;
 bool LeggiCruciverba(const Percorso& nome);
 
 /// Opens a crossword for the user, by its path as given: as LeggiCruciverba, with SvuotaCruciverba
-/// before anything of the file is taken. A file that cannot be read at all clears nothing.
+/// and a size of 0 before anything of the file is taken. A file that cannot be read at all clears
+/// nothing.
 [[nodiscard]] bool ApriCruciverba(const Percorso& nome);
 
 /// What LeggiCruciverba does with the contents of a file.
@@ -42,6 +43,13 @@ bool InterpretaCruciverba(std::string_view contenuto);
 /// LeggiCruciverba and ScriviCruciverba with the snapshot, which is never forced to the disk.
 bool LeggiIstantanea();
 [[nodiscard]] bool ScriviIstantanea();
+
+/// Removes the snapshot if there is one.
+void EliminaIstantanea();
+
+/// ScriviIstantanea without a message: for a redraw, which runs at every change of the window's
+/// size. The next commit tells what is wrong.
+void AggiornaIstantanea();
 
 /// Whether a white cell can hold a character and the file can hold the cell: a letter or another
 /// printable character with a code up to 229.

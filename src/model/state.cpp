@@ -20,9 +20,6 @@ std::int16_t OrigineX = 0;
 std::int16_t OrigineY = 0;
 std::int16_t ModoGriglia = 0;
 std::int16_t PuntatoreMouse = 0;
-std::string NomeFont;
-std::int16_t AltezzaCaratteri = 0;
-std::int16_t DistanzaDaCentro = 0;
 Percorso CartellaProgramma;
 Percorso CartellaIstantanea;
 
@@ -63,8 +60,6 @@ void AzzeraStato() {
   LatoCasella = OrigineX = OrigineY = 0;
   ModoGriglia = 0;
   PuntatoreMouse = 0;
-  NomeFont.clear();
-  AltezzaCaratteri = DistanzaDaCentro = 0;
   CartellaProgramma.clear();
   CartellaIstantanea.clear();
   for (auto* uno = primoAzzeramento; uno; uno = uno->prossimo_)

@@ -79,13 +79,6 @@ extern std::int16_t ModoGriglia;
 /// ImpostaPuntatoreMouse, which keeps the visible shape in step.
 extern std::int16_t PuntatoreMouse;
 
-// --- Settings of the drawing ---
-
-/// Typeface of the letters; the routines that use it take an empty one for "Arial".
-extern std::string NomeFont;
-extern std::int16_t AltezzaCaratteri;  // type size of the letters, percent of the cell side
-extern std::int16_t DistanzaDaCentro;  // shift of the letter down from the centre, percent likewise
-
 // --- Folders ---
 
 /// Program folder; empty until it is known. File names that a routine forms itself are looked for

@@ -256,6 +256,15 @@ std::string TestoPercorso(const Percorso& nome) {
   return DaUtf8(nome.string());
 }
 
+bool CartellaScrivibile(const Percorso& cartella) {
+  std::string modello = (cartella / "telarium-XXXXXX").string();
+  const int descrittore = ::mkstemp(modello.data());
+  if (descrittore < 0) return false;
+  ::close(descrittore);
+  ::unlink(modello.c_str());
+  return true;
+}
+
 CartellaTemporanea::CartellaTemporanea() {
   std::error_code errore;
   std::string modello = (fs::temp_directory_path(errore) / "telarium-XXXXXX").string();

@@ -54,6 +54,9 @@ std::vector<Percorso> ElencaFile(const Percorso& cartella, std::string_view mode
 /// A file name as text for a message or a page: in the code page, "?" for what that cannot write.
 std::string TestoPercorso(const Percorso& nome);
 
+/// Whether new files can be made in a folder, found out by making one.
+bool CartellaScrivibile(const Percorso& cartella);
+
 /// A folder under the system's temporary folder, with its contents removed at the end of its life.
 class CartellaTemporanea {
  public:

@@ -32,8 +32,10 @@ class Macchina {
   virtual std::error_code EseguiComando(const Percorso& programma,
                                         const std::vector<std::string>& argomenti) = 0;
 
-  /// Opens a file or an address with the system's program for it. False when there is none.
-  virtual bool Apri(const std::string& fileOIndirizzo) = 0;
+  /// Opens a file, or an address of the web or a "mailto:" one, with the system's program for it.
+  /// False when there is none.
+  virtual bool ApriFile(const Percorso& file) = 0;
+  virtual bool ApriIndirizzo(const std::string& indirizzo) = 0;
 
   /// Opens a document in the word processor. False when there is none.
   virtual bool ApriInWord(const Percorso& documento) = 0;
@@ -41,8 +43,9 @@ class Macchina {
   /// Hands a mail to the user's mail program. False when there is none.
   virtual bool PreparaMail(const Mail& mail) = 0;
 
-  /// The bytes behind an address; none when it cannot be fetched.
-  virtual std::optional<std::string> Preleva(const std::string& indirizzo) = 0;
+  /// The bytes behind an address; none when it cannot be fetched whole within the time.
+  virtual std::optional<std::string> Preleva(const std::string& indirizzo,
+                                             std::chrono::milliseconds limite) = 0;
 
   /// The settings of this user, kept from one run to the next.
   virtual std::optional<std::string> LeggiImpostazione(const std::string& chiave) = 0;

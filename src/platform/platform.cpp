@@ -1,7 +1,5 @@
 #include "platform/platform.h"
 
-#include <utility>
-
 #include "platform/check.h"
 
 namespace telarium {
@@ -25,9 +23,9 @@ void TerminaProgramma() {
   ErroreDiProgrammazione("la piattaforma non ha terminato il programma");
 }
 
-void Avvisa(std::string testo, std::string titolo, Icona icona) {
+void Avvisa(std::string_view testo, std::string_view titolo, Icona icona) {
   ChiUsa().MostraMessaggio(
-      {.testo = std::move(testo), .titolo = std::move(titolo), .icona = icona});
+      {.testo = std::string(testo), .titolo = std::string(titolo), .icona = icona});
 }
 
 }  // namespace telarium

@@ -40,6 +40,6 @@ inline Superficie* FinestraPrincipale() {
 [[noreturn]] void TerminaProgramma();
 
 /// Shows a message with an OK button.
-void Avvisa(std::string testo, std::string titolo = {}, Icona icona = Icona::Nessuna);
+void Avvisa(std::string_view testo, std::string_view titolo = {}, Icona icona = Icona::Nessuna);
 
 }  // namespace telarium

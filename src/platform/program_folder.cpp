@@ -5,6 +5,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include "platform/platform.h"
+
 namespace telarium {
 namespace {
 
@@ -73,6 +75,20 @@ std::vector<Percorso> RiempiCartella(const Percorso& installati, const Percorso&
   }
   if (errore) falliti.push_back(installati);
   return falliti;
+}
+
+Percorso PreparaCartellaProgramma() {
+  const SceltaCartella scelta = ScegliCartellaProgramma();
+  if (scelta.cartella.empty()) {
+    Avvisa("Impossibile stabilire la cartella programma: manca la cartella dell'utente (HOME).");
+    return {};
+  }
+  if (!scelta.daRiempire) return scelta.cartella;
+  std::string falliti;
+  for (const Percorso& fallito : RiempiCartella(CartellaDatiInstallati(), scelta.cartella))
+    falliti += (falliti.empty() ? "" : ", ") + TestoPercorso(fallito);
+  if (!falliti.empty()) Avvisa("Impossibile copiare nella cartella programma: " + falliti);
+  return scelta.cartella;
 }
 
 }  // namespace telarium

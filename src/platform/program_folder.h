@@ -31,4 +31,8 @@ Percorso CartellaDatiInstallati();
 /// could not be copied.
 std::vector<Percorso> RiempiCartella(const Percorso& installati, const Percorso& cartella);
 
+/// Chooses the program folder and, when it is the user's own, brings it what is missing there of
+/// the installed data. What cannot be copied is told. Empty, told, when there is no folder.
+Percorso PreparaCartellaProgramma();
+
 }  // namespace telarium

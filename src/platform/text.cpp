@@ -1,6 +1,7 @@
 #include "platform/text.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -18,6 +19,23 @@ std::int32_t ValoreNumerico(std::string_view testo) {
     }
   }
   return static_cast<std::int32_t>(valore);
+}
+
+double ValoreDecimale(std::string_view testo) {
+  const std::size_t inizio = testo.find_first_not_of(' ');
+  if (inizio == std::string_view::npos) return 0;
+  testo.remove_prefix(inizio);
+  const bool negativo = testo.front() == '-';
+  if (negativo || testo.front() == '+') testo.remove_prefix(1);
+  // from_chars would take a second sign and words such as "inf" too.
+  if (testo.empty() || !(testo.front() == '.' || (testo.front() >= '0' && testo.front() <= '9'))) {
+    return 0;
+  }
+  double valore = 0;
+  const auto esito =
+      std::from_chars(testo.data(), testo.data() + testo.size(), valore, std::chars_format::fixed);
+  if (esito.ec == std::errc::result_out_of_range) valore = std::numeric_limits<double>::max();
+  return negativo ? -valore : valore;
 }
 
 std::string FormaDiStampa(std::int64_t numero) {

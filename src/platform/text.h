@@ -13,6 +13,10 @@ namespace telarium {
 /// other character, and a text without digits gives 0. Values past 2,147,483,647 stay at that.
 std::int32_t ValoreNumerico(std::string_view testo);
 
+/// The decimal number that a text begins with, as far as it goes: leading blanks are skipped, then
+/// a sign, digits and a fraction behind "." are taken. 0 for a text without a number.
+double ValoreDecimale(std::string_view testo);
+
 /// A number in print form: a blank or the minus sign, the digits, one blank behind.
 std::string FormaDiStampa(std::int64_t numero);
 

@@ -18,6 +18,13 @@ struct Messaggio {
   Icona icona = Icona::Nessuna;
 };
 
+/// An input box for one line of text. Without a title of its own it has the application's.
+struct RichiestaDiTesto {
+  std::string richiesta;
+  std::string predefinito = {};
+  std::string titolo = {};
+};
+
 /// How far an automatic fill has come.
 struct AvanzamentoEstrazione {
   std::int64_t tentativo = 0;  // starts of the clearing step so far, from 1
@@ -34,7 +41,7 @@ class Utente {
   virtual Risposta MostraMessaggio(const Messaggio& messaggio) = 0;
 
   /// Asks for a line of text in an input box. None when the user gave up; it may be empty.
-  virtual std::optional<std::string> ChiediTesto(const std::string& richiesta) = 0;
+  virtual std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) = 0;
 
   /// Puts a dead end of the fill before the user: Si accepts it, No starts anew, Annulla stops.
   virtual Risposta ChiediVicoloCieco(const std::string& testo) = 0;

@@ -91,17 +91,8 @@ bool ScegliCartella(const Argomenti& argomenti) {
     CartellaProgramma = std::filesystem::absolute(nominata, errore);
     return true;
   }
-  const SceltaCartella scelta = ScegliCartellaProgramma();
-  CartellaProgramma = scelta.cartella;
-  if (CartellaProgramma.empty()) {
-    Avvisa("Impossibile stabilire la cartella programma: manca la cartella dell'utente (HOME).");
-    return false;
-  }
-  if (!scelta.daRiempire) return true;
-  for (const Percorso& fallito : RiempiCartella(CartellaDatiInstallati(), CartellaProgramma)) {
-    Avvisa("Impossibile copiare nella cartella programma il file: " + TestoPercorso(fallito));
-  }
-  return true;
+  CartellaProgramma = PreparaCartellaProgramma();
+  return !CartellaProgramma.empty();
 }
 
 Stato Esegui(const Comando& comando, const Argomenti& argomenti, PiattaformaConsole& piattaforma) {

@@ -6,6 +6,7 @@
 
 #include "dictionary/dictionary.h"
 #include "dictionary/masked_search.h"
+#include "editor/settings.h"
 #include "fill/placed_word.h"
 #include "model/crossword_file.h"
 #include "model/words.h"
@@ -210,15 +211,19 @@ TEST_F(ExtractionTest, LongSlotsComeFirstThenReadingOrderThenHorizontal) {
   OpenDictionary({"ALE", "ABCD", "AEFG", "DLMN", "GOPN", "CARTA"});
   machine.draws = {0, 0, 0.5, 0, 0, 0};
   Run();
-  // What the redraws paint is not of interest here.
+  // Of what is written, the letters that the fill places: each into a place that it wiped.
   std::string letters, persistence;
-  for (const std::string& call : platform.window.calls) {
-    if (call.starts_with("Scrivi ")) letters += call.substr(7);
+  const std::vector<std::string>& calls = platform.window.calls;
+  for (std::size_t i = 0; i < calls.size(); ++i) {
+    const std::string& call = calls[i];
+    if (i >= 2 && call.starts_with("Scrivi ") && calls[i - 2].starts_with("RiquadroPieno")) {
+      letters += call.substr(7);
+    }
     if (call.starts_with("DisegnoPersistente")) persistence += call.substr(18);
     if (call == "Pulisci" && !persistence.empty()) persistence += " Pulisci";
   }
   EXPECT_EQ(letters, "CARTAABCDAEFGDLMNGOPNALE");
-  EXPECT_EQ(persistence, " no si Pulisci");
+  EXPECT_EQ(persistence, " no Pulisci Pulisci si Pulisci Pulisci");
   EXPECT_EQ(Polls(), " 1:0/0 1:1/6 1:2/6 1:3/6 1:4/6 1:5/6 1:6/6");
 }
 

@@ -1,6 +1,8 @@
 #include "model/state.h"
 
 #include "dictionary/dictionary.h"
+#include "editor/settings.h"
+#include "editor/startup.h"
 #include "fill/extraction.h"
 #include "fill/word_choice.h"
 #include "support/telarium_test.h"
@@ -26,7 +28,15 @@ TEST_F(State, ResetPutsEveryVariableAsAtProgramStart) {
   NumeroCasella(53, 30) = LetteraCasella(53, 30) = LinguaDizionario = 9;
   ColoreCasella(53, 30) = OffsetLunghezza(12) = ContaLunghezza(12) = 1;
   ProvaInfinita = Candidati(MaxParole) = NumCandidati = DistanzaSu(53) = DistanzaSinistra(0) = 1;
+  AltezzaNumeri = PercentualeRiquadro = DistanzaDaSpigolo = SpessoreBordo = 1;
+  TastoSin = StampaSoluzioni = NascondiSoluzioni = GiaAttivata = 1;
+  RettangoloParola = Falso;
+  RigaDiComando = FileComando = "x";
   AzzeraStato();
+  EXPECT_EQ(AltezzaNumeri + PercentualeRiquadro + DistanzaDaSpigolo + SpessoreBordo, 0);
+  EXPECT_EQ(TastoSin + StampaSoluzioni + NascondiSoluzioni + GiaAttivata, 0);
+  EXPECT_EQ(RettangoloParola, Vero);
+  EXPECT_EQ(RigaDiComando.string() + FileComando.string(), "");
   EXPECT_EQ(Schema(350) + Definizione(53, 30, 2) + ParolaCasella(53, 30, 2) + NomeFont, "");
   EXPECT_EQ(NomeCruciverba.string() + CartellaProgramma.string() + CartellaIstantanea.string(), "");
   EXPECT_EQ(NomeDizionario, "LessicoItaliano.dat");

@@ -46,8 +46,8 @@ Risposta ScriptedUser::MostraMessaggio(const Messaggio& messaggio) {
   return answer.value_or(Risposta::Annulla);
 }
 
-std::optional<std::string> ScriptedUser::ChiediTesto(const std::string& richiesta) {
-  ADD_FAILURE() << "an input box nobody expected: " << AUtf8(richiesta);
+std::optional<std::string> ScriptedUser::ChiediTesto(const RichiestaDiTesto& richiesta) {
+  ADD_FAILURE() << "an input box nobody expected: " << AUtf8(richiesta.richiesta);
   return std::nullopt;
 }
 
@@ -66,6 +66,28 @@ bool ScriptedUser::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) 
 
 double ScriptedMachine::Casuale() {
   return TakeFirst(draws).value_or(random.Prossimo());
+}
+
+std::error_code ScriptedMachine::EseguiComando(const Percorso& programma,
+                                               const std::vector<std::string>&) {
+  started.push_back(programma.string());
+  return startError;
+}
+
+bool ScriptedMachine::ApriFile(const Percorso& file) {
+  opened.push_back(file.string());
+  return opens;
+}
+
+bool ScriptedMachine::ApriIndirizzo(const std::string& indirizzo) {
+  opened.push_back(indirizzo);
+  return opens;
+}
+
+std::optional<std::string> ScriptedMachine::Preleva(const std::string& indirizzo,
+                                                    std::chrono::milliseconds) {
+  fetched.push_back(indirizzo);
+  return fetches;
 }
 
 }  // namespace telarium

@@ -45,7 +45,7 @@ class ScriptedUser : public Utente {
   void VerifyNothingLeft();
 
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
-  std::optional<std::string> ChiediTesto(const std::string& richiesta) override;
+  std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) override;
   Risposta ChiediVicoloCieco(const std::string& testo) override;
   bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
   void FormaPuntatore(int forma) override { pointerShapes.push_back(forma); }
@@ -60,7 +60,8 @@ class ScriptedUser : public Utente {
   std::function<bool(const AvanzamentoEstrazione&)> stop_;
 };
 
-/// A machine with a fixed date and random numbers from a fixed seed, or told one by one.
+/// A machine with a fixed date and random numbers from a fixed seed, or told one by one. What is
+/// opened, started and fetched is recorded, and goes as scripted.
 class ScriptedMachine : public MacchinaIsolata {
  public:
   /// The next draws, before the seeded ones go on.
@@ -68,9 +69,21 @@ class ScriptedMachine : public MacchinaIsolata {
   std::chrono::year_month_day today{std::chrono::year(2024), std::chrono::month(3),
                                     std::chrono::day(5)};
   SorgenteCasuale random{20240305};
+  std::vector<std::string> opened;   // files and addresses
+  std::vector<std::string> started;  // programs
+  std::vector<std::string> fetched;  // addresses
+  bool opens = true;
+  std::error_code startError;
+  std::optional<std::string> fetches;
 
   std::chrono::year_month_day Oggi() override { return today; }
   double Casuale() override;
+  std::error_code EseguiComando(const Percorso& programma,
+                                const std::vector<std::string>& argomenti) override;
+  bool ApriFile(const Percorso& file) override;
+  bool ApriIndirizzo(const std::string& indirizzo) override;
+  std::optional<std::string> Preleva(const std::string& indirizzo,
+                                     std::chrono::milliseconds limite) override;
 };
 
 class ScriptedPlatform : public Piattaforma {
@@ -78,11 +91,12 @@ class ScriptedPlatform : public Piattaforma {
   ScriptedUser user;
   ScriptedMachine machine;
   RecordingSurface window;
+  Superficie* surface = &window;  // what the main window draws on, if there is one
   bool hasWindow = false;
 
   Utente& ChiUsa() override { return user; }
   Macchina& Sistema() override { return machine; }
-  Superficie* FinestraPrincipale() override { return hasWindow ? &window : nullptr; }
+  Superficie* FinestraPrincipale() override { return hasWindow ? surface : nullptr; }
   void Termina() override { throw ProgramEnded(); }
 };
 

@@ -13,10 +13,13 @@ class MacchinaIsolata : public Macchina {
   std::error_code EseguiComando(const Percorso&, const std::vector<std::string>&) override {
     return std::make_error_code(std::errc::not_supported);
   }
-  bool Apri(const std::string&) override { return false; }
+  bool ApriFile(const Percorso&) override { return false; }
+  bool ApriIndirizzo(const std::string&) override { return false; }
   bool ApriInWord(const Percorso&) override { return false; }
   bool PreparaMail(const Mail&) override { return false; }
-  std::optional<std::string> Preleva(const std::string&) override { return std::nullopt; }
+  std::optional<std::string> Preleva(const std::string&, std::chrono::milliseconds) override {
+    return std::nullopt;
+  }
   std::optional<std::string> LeggiImpostazione(const std::string&) override { return std::nullopt; }
   void ScriviImpostazione(const std::string&, const std::string&) override {}
 

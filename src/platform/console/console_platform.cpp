@@ -25,7 +25,7 @@ Risposta UtenteConsole::MostraMessaggio(const Messaggio& messaggio) {
   return siNo ? Risposta::Si : Risposta::Ok;
 }
 
-std::optional<std::string> UtenteConsole::ChiediTesto(const std::string&) {
+std::optional<std::string> UtenteConsole::ChiediTesto(const RichiestaDiTesto&) {
   return std::nullopt;
 }
 

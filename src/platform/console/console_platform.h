@@ -32,7 +32,7 @@ class UtenteConsole : public Utente {
   bool Interrotto() const;
 
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
-  std::optional<std::string> ChiediTesto(const std::string& richiesta) override;
+  std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) override;
   Risposta ChiediVicoloCieco(const std::string& testo) override;
   /// False when Ctrl+C was pressed (see AscoltaInterruzione) or the attempts are used up.
   bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;

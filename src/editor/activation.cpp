@@ -1,0 +1,53 @@
+#include "editor/activation.h"
+
+#include "editor/startup.h"
+#include "model/state.h"
+
+namespace telarium {
+namespace {
+
+int comandiInCorso = 0;
+bool attivazioneInCoda = false;
+
+const AzzeramentoDiSottosistema azzeramento([] {
+  comandiInCorso = 0;
+  attivazioneInCoda = false;
+});
+
+void AttivaSeInCoda() {
+  if (comandiInCorso > 0 || !attivazioneInCoda) return;
+  attivazioneInCoda = false;
+  AttivaForm1();
+}
+
+// Counts a running command, also on the way out by an exception.
+class Conteggio {
+ public:
+  Conteggio() { ++comandiInCorso; }
+  ~Conteggio() {
+    --comandiInCorso;
+    if (!riuscito_) attivazioneInCoda = false;
+  }
+  void Riuscito() { riuscito_ = true; }
+
+ private:
+  bool riuscito_ = false;
+};
+
+}  // namespace
+
+void EseguiComandoDiFinestra(const std::function<void()>& comando) {
+  {
+    Conteggio conteggio;
+    comando();
+    conteggio.Riuscito();
+  }
+  AttivaSeInCoda();
+}
+
+void AccodaAttivazione() {
+  attivazioneInCoda = true;
+  AttivaSeInCoda();
+}
+
+}  // namespace telarium

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string_view>
+
+namespace telarium {
+
+/// What the editor needs of the main window beyond its drawing surface. Controls are meant by the
+/// names they carry. This class itself stands for a program without a window: nothing happens.
+class FinestraEditor {
+ public:
+  virtual ~FinestraEditor() = default;
+
+  /// Heights of the bars that lie over the surface's top and bottom, in pixels.
+  virtual double AltezzaToolbar1() const { return 0; }
+  virtual double AltezzaStatusBar1() const { return 0; }
+
+  virtual void Titolo(std::string_view) {}
+  virtual void RinfrescaToolbar1() {}
+  virtual void NascondiShape1() {}
+  /// Takes the tip Label1 out of view.
+  virtual void TogliLabel1() {}
+
+  virtual void MostraCommand3d15(bool) {}
+  virtual bool Command3d15Visibile() const { return false; }
+  virtual void MostraPicture1(bool) {}
+
+  /// Toolbar buttons by number, from 1; number 21, key Edit, stays pressed.
+  virtual void AbilitaPulsante(int, bool) {}
+  virtual void PremiEdit(bool) {}
+  virtual bool EditPremuto() const { return false; }
+
+  /// Menu entries by name.
+  virtual void AbilitaVoce(std::string_view, bool) {}
+  virtual void SpuntaVoce(std::string_view, bool) {}
+  virtual void MettiGraficaAiMenu() {}
+  /// The first three entries of the File menu get their bitmaps at the first activation.
+  virtual void MettiGraficaAMenuFile() {}
+  /// Puts the logo Picture2 at the right end of the toolbar.
+  virtual void CollocaPicture2() {}
+};
+
+/// The window in use: the one that was set, else one that does nothing.
+FinestraEditor& LaFinestra();
+
+/// Sets the window; null takes it away. The caller keeps it alive.
+void ImpostaFinestra(FinestraEditor* finestra);
+
+}  // namespace telarium

@@ -1,0 +1,306 @@
+#include "editor/startup.h"
+
+#include <filesystem>
+
+#include "auxiliary/addresses.h"
+#include "dictionary/dictionary.h"
+#include "editor/activation.h"
+#include "editor/commands.h"
+#include "editor/commit.h"
+#include "editor/settings.h"
+#include "editor/update_check.h"
+#include "model/crossword_file.h"
+#include "support/recording_window.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::vector<std::string> CrosswordEntries = {
+    "menuSalva", "MenuSalvaCN",   "MenuEdit", "MenuUtiliti", "MenuStampa",
+    "menurl",    "MenuAnteprima", "Meno3",    "Menuhtml",    "menujava"};
+
+// A program folder with what a start needs, and a window.
+class StartupTest : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    platform.hasWindow = true;
+    WriteFile("telarium.INI", "AltezzaCaratteri= 50 \r\nStampaSoluzioni=-1 \r\n");
+    OpenDictionary({"CASA", "SOLE"});
+    AzzeraStato();
+    workingFolder_ = fs::current_path();
+  }
+  void TearDown() override {
+    fs::current_path(workingFolder_);
+    TelariumTest::TearDown();
+  }
+
+  void Start() {
+    CaricaProgramma(InFolder(""));
+    MostraAvvio();
+    AttivaForm1();
+  }
+
+  // Leaves a crossword file and no crossword.
+  Percorso CrosswordFile(const std::string& name, const std::vector<std::string>& rows) {
+    CartellaProgramma = InFolder("");
+    Draw(rows);
+    Definizione(1, 1, Orizzontale) = "Una casa";
+    EXPECT_TRUE(ScriviCruciverba(InFolder(name)));
+    AzzeraStato();
+    return InFolder(name);
+  }
+
+  RecordingWindow window;
+
+ private:
+  fs::path workingFolder_;
+};
+
+TEST_F(StartupTest, WithoutACrosswordShowsTheSplashAndDisablesItsCommands) {
+  WriteFile(NomeIstantanea, "left over");
+  Start();
+  EXPECT_TRUE(window.splash);
+  EXPECT_TRUE(window.enabledButtons.empty()) << "buttons 4 to 22";
+  for (const std::string& entry : CrosswordEntries)
+    EXPECT_EQ(window.enabled[entry], entry == "menurl") << entry;
+  EXPECT_FALSE(fs::exists(InFolder(NomeIstantanea)));
+  EXPECT_TRUE(fs::equivalent(fs::current_path(), InFolder("")));
+  EXPECT_EQ(NomeFont, "Arial");
+  EXPECT_EQ(ContaLunghezza(1), 2) << "the dictionary is open";
+  EXPECT_TRUE(window.checked["MenuVis"] && window.checked["Menurett"] && window.checked["MenuL1"]);
+  EXPECT_FALSE(window.checked["MenuL2"]);
+  EXPECT_TRUE(GiaAttivata);
+  EXPECT_TRUE(machine.fetched.empty()) << "no server is configured";
+}
+
+TEST_F(StartupTest, OpensTheCommandLineAtTheFirstActivationOnly) {
+  RigaDiComando = CrosswordFile("mio.tlrm", {"CASA"});
+  const Percorso commandLine = RigaDiComando;
+  Start();
+  EXPECT_FALSE(window.splash);
+  EXPECT_EQ(NomeCruciverba, commandLine);
+  EXPECT_EQ(Drawing(), (std::vector<std::string>{"CASA"}));
+  EXPECT_EQ(window.enabledButtons.size(), 19u);
+  for (const std::string& entry : CrosswordEntries)
+    EXPECT_TRUE(window.enabled[entry]) << entry;
+  EXPECT_EQ(ReadFile(PercorsoIstantanea()), ReadFile(commandLine));
+
+  Draw({"SOLE"});  // as a dialog leaves it: in the snapshot
+  NomeCruciverba = commandLine;
+  ASSERT_TRUE(ScriviIstantanea());
+  Schema(5) = "C.A.S.A.";
+  window.calls.clear();
+  AttivaForm1();
+  EXPECT_EQ(Drawing(), (std::vector<std::string>{"SOLE"}));
+  EXPECT_EQ(std::count(window.calls.begin(), window.calls.end(), "CollocaPicture2"), 0);
+}
+
+TEST_F(StartupTest, AHostileCommandLineLeavesNoCrossword) {
+  for (const char* bytes : {"", "a\r\nb\r\nc\r\nDimensioni : 99x99\r\n",
+                            "\x7F"
+                            "ELF\r\n\r\n\r\n\r\n"}) {
+    AzzeraStato();
+    RigaDiComando = WriteFile("bad.tlrm", bytes);
+    Start();
+    EXPECT_EQ(user.TakeTexts().size(), 1u);
+    EXPECT_TRUE(NomeCruciverba.empty());
+    EXPECT_TRUE(window.splash);
+    EXPECT_FALSE(window.enabled["MenuEdit"]);
+  }
+  AzzeraStato();
+  RigaDiComando = InFolder("missing.tlrm");
+  EXPECT_THROW(Start(), ProgramEnded);
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+}
+
+TEST_F(StartupTest, AMissingSettingsFileOrDictionaryEndsTheProgram) {
+  fs::remove(InFolder("LessicoItaliano.dat"));
+  EXPECT_THROW(Start(), ProgramEnded);
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+  fs::remove(InFolder("telarium.INI"));
+  EXPECT_THROW(Start(), ProgramEnded);
+  const auto messages = user.TakeMessages();
+  ASSERT_EQ(messages.size(), 1u);
+  EXPECT_EQ(messages[0].testo,
+            "Errore Fatale: Manca il file di inizializzazione : Telarium.ini. E' necessario "
+            "reinstallare il programma.");
+  EXPECT_EQ(messages[0].icona, Icona::Stop);
+}
+
+TEST_F(StartupTest, OffersANewerVersionAndOnlyThat) {
+  CartellaProgramma = InFolder("");
+  WriteFile("INDIRIZZI.TXT", "x\r\n ServerAggiornamenti = server.example \r\nMenui0=\r\n");
+  LeggiIndirizzi();
+  EXPECT_EQ(ValoreIndirizzo(Indirizzo::Menui0), "");
+  for (const char* text : {"701\n", "7010", "700\n", "", "\n", "<html>\n", "nan\n", "-999\n"}) {
+    machine.fetches = text;
+    ControllaAggiornamento();  // a question would fail the test
+  }
+  machine.fetches.reset();
+  ControllaAggiornamento();
+  EXPECT_EQ(machine.fetched.back(), "https://server.example/telarium/telarium_update.txt");
+
+  machine.fetches = " 712\n";
+  user.Answer(Risposta::No);
+  ControllaAggiornamento();
+  EXPECT_EQ(
+      user.TakeTexts(),
+      std::vector<std::string>{"Versione di Telarium installata sul PC in uso : 7.0.1\r\n"
+                               "E' disponibile su Internet la nuova versione 7.1.2 di Telarium.\r\n"
+                               "Si desidera scaricala ed installarla adesso? "});
+  EXPECT_TRUE(machine.opened.empty());
+  user.Answer(Risposta::Si);
+  EXPECT_THROW(ControllaAggiornamento(), ProgramEnded);
+  EXPECT_EQ(machine.opened, std::vector<std::string>{"https://server.example/telarium/"});
+  user.TakeTexts();
+}
+
+TEST_F(StartupTest, AWindowOfTheProgramQueuesOneActivationForTheEndOfItsCommand) {
+  Start();
+  const auto activations = [this] {
+    return std::count(window.calls.begin(), window.calls.end(), "RinfrescaToolbar1");
+  };
+  window.calls.clear();
+  EseguiComandoDiFinestra([&] {  // a dialog that opens a dialog
+    EseguiComandoDiFinestra([] { AccodaAttivazione(); });
+    AccodaAttivazione();
+    EXPECT_EQ(activations(), 0) << "not before the command has ended";
+  });
+  EXPECT_EQ(activations(), 1);
+  EseguiComandoDiFinestra([] { Avvisa("a message after a fetch"); });
+  EXPECT_EQ(activations(), 1) << "a message box queues none";
+  user.TakeTexts();
+
+  EXPECT_THROW(EseguiComandoDiFinestra([] {
+                 AccodaAttivazione();
+                 EsciDalProgramma();
+               }),
+               ProgramEnded);
+  EXPECT_EQ(activations(), 1) << "never after the end";
+  EseguiComandoDiFinestra([] {});
+  EXPECT_EQ(activations(), 1);
+}
+
+TEST_F(StartupTest, SavesWhatTheUserWantsSavedAndEndsEitherWay) {
+  RigaDiComando = CrosswordFile("mio.tlrm", {"CASA"});
+  const Percorso file = RigaDiComando;
+  Start();
+  SchemaModificato = Vero;
+  Schema(5) = "S.O.L.E.";
+  user.Answer(Risposta::Annulla);
+  EXPECT_THROW(EsciDalProgramma(), ProgramEnded);
+  const auto messages = user.TakeMessages();
+  ASSERT_EQ(messages.size(), 1u);
+  EXPECT_EQ(messages[0].titolo, "Modifica del file corrente");
+  EXPECT_EQ(messages[0].pulsanti, Pulsanti::OkAnnulla);
+  EXPECT_TRUE(messages[0].testo.ends_with("MIO.TLRM \xE8 cambiato, si desidera salvare"));
+  EXPECT_NE(ReadFile(file).find(']'), std::string::npos);
+  EXPECT_EQ(SchemaModificato, Vero);
+  EXPECT_FALSE(fs::exists(PercorsoIstantanea()));
+
+  const std::string before = ReadFile(file);
+  user.Answer(Risposta::Ok);
+  EXPECT_THROW(EsciDalProgramma(), ProgramEnded);
+  EXPECT_EQ(SchemaModificato, Falso);
+  EXPECT_NE(ReadFile(file), before);
+  user.TakeTexts();
+  EXPECT_THROW(EsciDalProgramma(), ProgramEnded) << "without a question";
+
+  NomeCruciverba = NomeMaiSalvato;
+  SchemaModificato = Vero;
+  SalvaCruciverba();
+  EXPECT_EQ(SchemaModificato, Vero);
+  NomeCruciverba = InFolder("nowhere/mio.tlrm");
+  SalvaCruciverba();
+  EXPECT_EQ(SchemaModificato, Vero);
+  EXPECT_EQ(user.TakeTexts().size(), 2u) << "neither could be saved";
+}
+
+TEST_F(StartupTest, ClosingAPreviewAllowsAllCommandsAndEntersEditing) {
+  RigaDiComando = CrosswordFile("mio.tlrm", {"CASA"});
+  Start();
+  ModoGriglia = -1;
+  window.preview = true;
+  for (int button = 8; button <= 20; ++button)
+    window.enabledButtons.erase(button);
+  window.enabled["MenuEdit"] = window.enabled["MenuUtiliti"] = false;
+  ImpostaPuntatoreMouse(11);
+  SalvaCruciverba();
+  EXPECT_FALSE(window.preview);
+  EXPECT_EQ(window.enabledButtons.size(), 19u);
+  EXPECT_TRUE(window.enabled["MenuEdit"] && window.enabled["MenuUtiliti"] && window.editPressed);
+  EXPECT_EQ(ModoGriglia, 1);
+  EXPECT_EQ(PuntatoreMouse, 0);
+  window.editPressed = false;
+  CambiaModoEdit();
+  EXPECT_EQ(ModoGriglia, 0);
+}
+
+TEST_F(StartupTest, LanguagesSettingsAndCompanionsDoAsTheirEntriesSay) {
+  RigaDiComando = CrosswordFile("mio.tlrm", {"CASA"});
+  Start();
+  const std::string file = ReadFile(InFolder("LessicoItaliano.dat"));
+  WriteFile("lessicolatino.DAT", file);
+  CambiaLingua(3);
+  EXPECT_EQ(NomeDizionario, "LessicoLatino.dat");
+  EXPECT_TRUE(window.checked["MenuL3"]);
+  EXPECT_FALSE(window.checked["MenuL1"]);
+  fs::remove(InFolder("lessicolatino.DAT"));
+  CambiaLingua(3);  // the current one: nothing is opened
+  EXPECT_THROW(CambiaLingua(4), ProgramEnded);
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+
+  CommutaStampaSoluzioni();
+  CommutaRettangoloParola();
+  EXPECT_FALSE(window.checked["MenuVis"] || window.checked["Menurett"]);
+  EXPECT_EQ(ReadFile(InFolder("telarium.INI")).find("RettangoloParola= 0 \r\nTastoSin= 0 \r\n"),
+            0u);
+
+  LanciaLudarium();
+  EXPECT_EQ(machine.started, std::vector<std::string>{InFolder("Ludarium.EXE").string()});
+  machine.startError = std::make_error_code(std::errc::no_such_file_or_directory);
+  LanciaLudarium();
+  auto messages = user.TakeMessages();
+  ASSERT_EQ(messages.size(), 1u);
+  EXPECT_EQ(messages[0].testo, "Errore 2 - Non trovato Ludarium.exe controllare installazione.");
+  EXPECT_EQ(messages[0].icona, Icona::Domanda);
+
+  ModoGriglia = -1;
+  ApriAiuto();
+  EXPECT_EQ(machine.opened, std::vector<std::string>{InFolder("TELARIUM7.mht").string()});
+  EXPECT_EQ(ModoGriglia, 1) << "a preview is left";
+}
+
+TEST_F(StartupTest, AFileFromOutsideIsOpenedAfterTheSavingQuestionOrLeavesEverything) {
+  const Percorso other = CrosswordFile("altro.tlrm", {"SOLE", "...."});
+  RigaDiComando = CrosswordFile("mio.tlrm", {"CASA"});
+  const Percorso mine = RigaDiComando;
+  Start();
+  Definizione(1, 1, Orizzontale) = "Non salvata";
+  ConsolidaSchema();
+  for (const Percorso& bad : {InFolder("missing.tlrm"), WriteFile("bad.tlrm", "x")}) {
+    ApriDaFuori(bad);
+    AttivaForm1();
+    EXPECT_EQ(user.TakeTexts().size(), 1u);
+    EXPECT_EQ(NomeCruciverba, mine);
+    EXPECT_EQ(Drawing(), (std::vector<std::string>{"CASA"}));
+    EXPECT_EQ(Definizione(1, 1, Orizzontale), "Non salvata");
+  }
+  SchemaModificato = Vero;
+  user.Answer(Risposta::Annulla);
+  ApriDaFuori(other);
+  AttivaForm1();
+  user.TakeTexts();
+  EXPECT_EQ(NomeCruciverba, other);
+  EXPECT_EQ(SchemaModificato, Falso);
+  EXPECT_EQ(ModoGriglia, 1);
+  EXPECT_EQ(Drawing(), (std::vector<std::string>{"SOLE", "...."}));
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "Una casa");
+}
+
+}  // namespace
+}  // namespace telarium

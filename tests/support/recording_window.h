@@ -1,0 +1,58 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "editor/main_window.h"
+
+namespace telarium {
+
+/// A main window without a window: it keeps the state that the editor gives it.
+class RecordingWindow : public FinestraEditor {
+ public:
+  RecordingWindow() { ImpostaFinestra(this); }
+  ~RecordingWindow() override { ImpostaFinestra(nullptr); }
+
+  double toolbarHeight = 36;
+  double statusBarHeight = 24;
+  std::string title;
+  bool preview = false;  // Command3d15 shows
+  bool splash = false;   // Picture1 shows
+  bool editPressed = false;
+  std::set<int> enabledButtons;
+  std::map<std::string, bool, std::less<>> enabled;
+  std::map<std::string, bool, std::less<>> checked;
+  std::vector<std::string> calls;  // the calls without a state, by their names
+
+  double AltezzaToolbar1() const override { return toolbarHeight; }
+  double AltezzaStatusBar1() const override { return statusBarHeight; }
+  void Titolo(std::string_view titolo) override { title = titolo; }
+  void RinfrescaToolbar1() override { calls.push_back("RinfrescaToolbar1"); }
+  void NascondiShape1() override { calls.push_back("NascondiShape1"); }
+  void TogliLabel1() override { calls.push_back("TogliLabel1"); }
+  void MostraCommand3d15(bool visibile) override { preview = visibile; }
+  bool Command3d15Visibile() const override { return preview; }
+  void MostraPicture1(bool visibile) override { splash = visibile; }
+  void AbilitaPulsante(int numero, bool abilitato) override {
+    if (abilitato) {
+      enabledButtons.insert(numero);
+    } else {
+      enabledButtons.erase(numero);
+    }
+  }
+  void PremiEdit(bool premuto) override { editPressed = premuto; }
+  bool EditPremuto() const override { return editPressed; }
+  void AbilitaVoce(std::string_view nome, bool abilitata) override {
+    enabled[std::string(nome)] = abilitata;
+  }
+  void SpuntaVoce(std::string_view nome, bool spuntata) override {
+    checked[std::string(nome)] = spuntata;
+  }
+  void MettiGraficaAiMenu() override { calls.push_back("MettiGraficaAiMenu"); }
+  void MettiGraficaAMenuFile() override { calls.push_back("MettiGraficaAMenuFile"); }
+  void CollocaPicture2() override { calls.push_back("CollocaPicture2"); }
+};
+
+}  // namespace telarium
