@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Builds Telarium and shows its main job in the terminal: takes FILE, or a new crossword from the first
-# model, fills it from the Italian dictionary and prints it. Installs what is missing.
+# Builds Telarium and starts the desktop with FILE. Without a display it shows the program's main job in the
+# terminal instead: takes FILE, or a new crossword from the first model, fills it from the Italian
+# dictionary and prints it. Installs what is missing.
 #   ./run.sh [FILE]
 set -euo pipefail
 
@@ -23,6 +24,11 @@ if ! { cmake --preset release -DBUILD_TESTING=OFF && cmake --build --preset rele
 fi
 
 export TELARIUM_CARTELLA="$PWD/build/release/share/telarium"
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  exec build/release/bin/telarium ${crossword:+"$crossword"}
+fi
+echo "Nessuno schermo (DISPLAY e WAYLAND_DISPLAY mancano): ecco l'estrazione automatica nel terminale."
+
 telar=build/release/bin/telar
 trap 'exit 130' INT  # telar ends in order on Ctrl+C; what follows shall not run
 output="$PWD/build/estratto.tlrm"

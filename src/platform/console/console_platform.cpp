@@ -1,7 +1,6 @@
 #include "platform/console/console_platform.h"
 
 #include <cstdio>
-#include <ctime>
 
 #include "platform/codepage.h"
 #include "platform/text.h"
@@ -52,15 +51,6 @@ void AscoltaInterruzione() {
     ::sigaction(segnale, &nostra, nullptr);
   }
   std::signal(SIGPIPE, SIG_IGN);
-}
-
-std::chrono::year_month_day MacchinaConsole::Oggi() {
-  const std::time_t adesso = std::time(nullptr);
-  std::tm locale{};
-  ::localtime_r(&adesso, &locale);
-  return std::chrono::year(locale.tm_year + 1900) /
-         std::chrono::month(static_cast<unsigned>(locale.tm_mon) + 1) /
-         std::chrono::day(static_cast<unsigned>(locale.tm_mday));
 }
 
 }  // namespace telarium

@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "platform/common/isolated_machine.h"
+#include "platform/common/local_clock.h"
 #include "platform/platform.h"
 
 // The platform of `telar`: messages go to standard error, answers come from the command line.
@@ -51,7 +52,7 @@ void AscoltaInterruzione();
 
 class MacchinaConsole : public MacchinaIsolata {
  public:
-  std::chrono::year_month_day Oggi() override;
+  std::chrono::year_month_day Oggi() override { return OggiLocale(); }
 };
 
 class PiattaformaConsole : public Piattaforma {

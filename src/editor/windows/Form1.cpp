@@ -1,0 +1,376 @@
+#include "editor/windows/Form1.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QShortcut>
+#include <QTimer>
+
+#include "auxiliary/addresses.h"
+#include "editor/activation.h"
+#include "editor/commands.h"
+#include "editor/redraw.h"
+#include "editor/settings.h"
+#include "editor/startup.h"
+#include "editor/windows/form_commands.h"
+#include "editor/windows/menu_table.h"
+#include "editor/windows/pictures.h"
+#include "fill/extraction.h"
+#include "platform/check.h"
+#include "platform/platform.h"
+#include "platform/qt/qt_text.h"
+
+namespace telarium {
+namespace {
+
+constexpr int TwipPerPixel = 15;
+// The window's least size while there is a crossword, in twips.
+constexpr int MinLarghezza = 6500;
+constexpr int MinAltezza = 4500;
+constexpr int DistanzaPicture2 = 134;  // twips from the right edge
+constexpr int RialzoPicture1 = 10;     // pixels above the middle
+constexpr int SchermoPiccolo = 700;    // pixels: narrower ones get the small splash picture
+constexpr int MargineCommand3d15 = 8;  // pixels
+constexpr QPoint PuntaDellaMano(11, 2);
+
+constexpr int FormaPuntatoreLogo = 99;
+
+constexpr int InPixel(int twip) {
+  return (twip + TwipPerPixel - 1) / TwipPerPixel;
+}
+
+// The check marks that the window starts with stand in the state.
+bool ConSpunta(std::string_view nome) {
+  constexpr std::string_view voci[] = {"MenuInf", "MenuL1",  "MenuL2",  "MenuL3",
+                                       "MenuL4",  "MenuVis", "Menurett"};
+  return std::find(std::begin(voci), std::end(voci), nome) != std::end(voci);
+}
+
+// The captions that are configured.
+QString TestoConfigurato(std::string_view nome) {
+  struct Testo {
+    std::string_view voce;
+    Indirizzo valore;
+  };
+  constexpr Testo testi[] = {{"MenuPHP", Indirizzo::SitoProdotto},
+                             {"Menui2", Indirizzo::TitoloMenui2},
+                             {"Menui4", Indirizzo::TitoloMenui4}};
+  for (const auto& [voce, valore] : testi) {
+    // A "&" of the address is no mark of a letter.
+    if (voce == nome) return AQt(ValoreIndirizzo(valore)).replace(u'&', QStringLiteral("&&"));
+  }
+  return {};
+}
+
+}  // namespace
+
+Form1::Form1() {
+  setObjectName(u"Form1");
+  setWindowTitle(QStringLiteral("Telarium"));
+  setWindowIcon(Immagine("icon"));
+  CreaControlli();
+  CreaMenu();
+  CollegaPulsanti();
+  esc_ = new QShortcut(Qt::Key_Escape, this);
+  esc_->setEnabled(false);
+  connect(esc_, &QShortcut::activated, this, [this] { Avanzamento->Interrompi(); });
+  ImpostaFinestra(this);
+}
+
+Form1::~Form1() {
+  ImpostaFinestra(nullptr);
+}
+
+void Form1::CreaControlli() {
+  Superficie = new AreaDisegno(this);
+  setCentralWidget(Superficie);
+  Picture1 = new QLabel(Superficie);
+  Shape1 = new RettangoloDiParola(Superficie);
+  Label1 = new QLabel(Superficie);
+  Toolbar1 = new BarraStrumenti(Superficie);
+  StatusBar1 = new BarraDiStato(Superficie);
+  Avanzamento = new PannelloEstrazione(Superficie);
+  Picture2 = new QLabel(Superficie);
+  Picture3 = new QLabel(Superficie);
+  Command3d15 = new QPushButton(QStringLiteral("Chiudi"), Superficie);
+  Command1 = new QPushButton(Superficie);
+  const std::pair<QWidget*, QStringView> nomi[] = {
+      {Picture1, u"Picture1"}, {Picture2, u"Picture2"},       {Picture3, u"Picture3"},
+      {Label1, u"Label1"},     {Command3d15, u"Command3d15"}, {Command1, u"Command1"}};
+  for (const auto& [controllo, nome] : nomi)
+    controllo->setObjectName(nome.toString());
+
+  Label1->setAutoFillBackground(true);
+  Label1->setTextFormat(Qt::PlainText);
+  QPalette giallo = Label1->palette();
+  giallo.setColor(QPalette::Window, QColor(255, 255, 224));
+  giallo.setColor(QPalette::WindowText, Qt::black);
+  Label1->setPalette(giallo);
+  Label1->setFrameStyle(QFrame::Box | QFrame::Plain);
+
+  Picture2->setPixmap(Figura("logo", devicePixelRatioF()));
+  Picture2->setToolTip(QStringLiteral("Visita il sito dell'autore ..."));
+  Picture2->setMouseTracking(true);
+  Picture2->adjustSize();
+  Picture2->installEventFilter(this);
+  Picture3->setPixmap(Figura("hand", devicePixelRatioF()));
+  Command3d15->setToolTip(QStringLiteral("Chiude anteprima di stampa"));
+  Command3d15->adjustSize();
+  for (QWidget* nascosto :
+       std::initializer_list<QWidget*>{Picture1, Picture3, Command3d15, Command1})
+    nascosto->hide();
+
+  connect(Command3d15, &QPushButton::clicked, this, [this] { Esegui(ChiudiAnteprima); });
+  StatusBar1->QuandoPremuta([this] { Voce("MenuInfo").trigger(); });
+  Toolbar1->QuandoPassaIlMouse([this] { PassaSu(true); });
+  Superficie->QuandoPassaIlMouse([this] { PassaSu(false); });
+  Superficie->QuandoCambiaMisura([this] { CambiataMisura(); });
+}
+
+void Form1::CreaMenu() {
+  // The menu that takes the entries of each level.
+  std::vector<QMenu*> menu;
+  const std::span<const VoceDiMenu> voci = VociDelMenu();
+  for (std::size_t i = 0; i < voci.size(); ++i) {
+    const VoceDiMenu& voce = voci[i];
+    const auto livello = static_cast<std::size_t>(voce.livello);
+    menu.resize(livello);
+    const QString testo = voce.testo.empty() ? TestoConfigurato(voce.nome) : AQt(voce.testo);
+    const bool haSottomenu = i + 1 < voci.size() && voci[i + 1].livello > voce.livello;
+    QAction* azione;
+    if (haSottomenu) {
+      menu.push_back(livello == 0 ? menuBar()->addMenu(testo) : menu.back()->addMenu(testo));
+      azione = menu.back()->menuAction();
+    } else if (voce.testo == "-") {
+      azione = menu.back()->addSeparator();
+    } else {
+      azione = menu.back()->addAction(testo);
+      azione->setShortcut(QKeySequence(QLatin1StringView(voce.tasti)));
+      azione->setCheckable(ConSpunta(voce.nome));
+      const ComandoDiForm1 comando = ComandoDellaVoce(voce.nome);
+      azione->setEnabled(comando != nullptr);
+      connect(azione, &QAction::triggered, this, [this, azione, comando] {
+        // A check mark shows a setting, which only its command changes.
+        if (azione->isCheckable()) azione->toggle();
+        if (comando) Esegui([this, comando] { comando(*this); });
+      });
+    }
+    azione->setObjectName(QLatin1StringView(voce.nome));
+    voci_[voce.nome] = azione;
+  }
+  for (const std::string_view nome : VociNascoste())
+    Voce(nome).setVisible(false);
+}
+
+void Form1::CollegaPulsanti() {
+  for (int numero = 1; numero <= NumPulsanti; ++numero) {
+    QAction& pulsante = Toolbar1->Pulsante(numero);
+    if (pulsante.isSeparator()) continue;
+    connect(&pulsante, &QAction::triggered, this, [this, numero] { PremutoPulsante(numero); });
+    AbilitaPulsante(numero, true);
+  }
+}
+
+void Form1::PremutoPulsante(int numero) {
+  const QByteArray chiave = Toolbar1->Pulsante(numero).objectName().toLatin1();
+  const AzioneDiPulsante azione =
+      AzioneDelPulsante({chiave.data(), static_cast<std::size_t>(chiave.size())});
+  Esegui([&] {
+    if (!azione.menu.empty()) {
+      Voce(azione.menu).menu()->popup(Toolbar1->SottoIlPulsante(numero));
+    } else if (const ComandoDiForm1 comando =
+                   azione.comando ? azione.comando : ComandoDellaVoce(azione.voce)) {
+      comando(*this);
+    }
+    PremiEdit(true);
+    RinfrescaToolbar1();
+  });
+}
+
+QAction& Form1::Voce(std::string_view nome) const {
+  const auto trovata = voci_.find(nome);
+  Verifica(trovata != voci_.end(), "voce di menu sconosciuta");
+  return *trovata->second;
+}
+
+void Form1::Mostra() {
+  setGeometry(screen()->availableGeometry());
+  MostraAvvio();
+  showMaximized();
+  QTimer::singleShot(0, this, [] { EseguiComandoDiFinestra(AccodaAttivazione); });
+}
+
+void Form1::Esegui(const std::function<void()>& comando) {
+  if (estrazioneInCorso_) return;
+  ++comandiInCorso_;
+  EseguiComandoDiFinestra(comando);
+  --comandiInCorso_;
+  if (comandiInCorso_ == 0) ApriRicevuti();
+}
+
+void Form1::RiceviDaFuori(const Percorso& nome) {
+  if (isMinimized()) setWindowState(windowState() & ~Qt::WindowMinimized);
+  raise();
+  activateWindow();
+  if (!nome.empty()) ricevuti_.push_back(nome);
+  if (comandiInCorso_ == 0) ApriRicevuti();
+}
+
+void Form1::ApriRicevuti() {
+  while (!ricevuti_.empty()) {
+    const Percorso nome = ricevuti_.front();
+    ricevuti_.erase(ricevuti_.begin());
+    Esegui([&nome] {
+      ApriDaFuori(nome);
+      AccodaAttivazione();
+    });
+  }
+}
+
+void Form1::Estrai() {
+  const auto inCorso = [this](bool si) {
+    estrazioneInCorso_ = si;
+    menuBar()->setEnabled(!si);
+    Toolbar1->setEnabled(!si);
+    StatusBar1->setEnabled(!si);
+    Picture2->setEnabled(!si);
+    esc_->setEnabled(si);
+  };
+  Avanzamento->Inizia();
+  inCorso(true);
+  EstraiSchema();
+  Avanzamento->hide();
+  inCorso(false);
+  CambiataMisura();
+}
+
+bool Form1::SeguiEstrazione(const AvanzamentoEstrazione& avanzamento) {
+  if (Avanzamento->isHidden()) {
+    Avanzamento->Inizia();  // the time of the first question does not count
+    Avanzamento->show();
+    Avanzamento->raise();
+  }
+  return Avanzamento->Segui(avanzamento, ProvaInfinita);
+}
+
+void Form1::Titolo(std::string_view titolo) {
+  setWindowTitle(AQt(titolo));
+}
+
+void Form1::MostraPicture1(bool visibile) {
+  if (visibile && Picture1->pixmap(Qt::ReturnByValue).isNull()) {
+    const bool piccolo = screen()->size().width() < SchermoPiccolo;
+    const Percorso nome = piccolo ? "TELARIUMa.jpg" : "TELARIUMb.jpg";
+    Picture1->setPixmap(QPixmap(PercorsoAQt(PercorsoNellaCartella(CartellaProgramma, nome))));
+    Picture1->adjustSize();
+  }
+  Picture1->setVisible(visibile);
+  Disponi();
+}
+
+void Form1::AbilitaPulsante(int numero, bool abilitato) {
+  QAction& pulsante = Toolbar1->Pulsante(numero);
+  const QByteArray chiave = pulsante.objectName().toLatin1();
+  const AzioneDiPulsante azione =
+      AzioneDelPulsante({chiave.data(), static_cast<std::size_t>(chiave.size())});
+  pulsante.setEnabled(abilitato && HaComando(azione));
+}
+
+void Form1::PremiEdit(bool premuto) {
+  Toolbar1->Pulsante(PulsanteEdit).setChecked(premuto);
+}
+
+bool Form1::EditPremuto() const {
+  return Toolbar1->Pulsante(PulsanteEdit).isChecked();
+}
+
+void Form1::AbilitaVoce(std::string_view nome, bool abilitata) {
+  QAction& voce = Voce(nome);
+  voce.setEnabled(abilitata && (voce.menu() || ComandoDellaVoce(nome)));
+}
+
+void Form1::SpuntaVoce(std::string_view nome, bool spuntata) {
+  Voce(nome).setChecked(spuntata);
+}
+
+void Form1::MettiGraficaAiMenu() {
+  for (const auto& [voce, immagine] : GraficaDeiMenu())
+    Voce(voce).setIcon(Immagine(immagine));
+}
+
+void Form1::MettiGraficaAMenuFile() {
+  for (const auto& [voce, immagine] : GraficaDelMenuFile())
+    Voce(voce).setIcon(Immagine(immagine));
+}
+
+void Form1::CollocaPicture2() {
+  Picture2->move(Superficie->width() - Picture2->width() - InPixel(DistanzaPicture2),
+                 (Toolbar1->height() - Picture2->height()) / 2);
+}
+
+// Puts the controls in their places on the surface as large as it is now.
+void Form1::Disponi() {
+  const int larghezza = Superficie->width();
+  const int altezza = Superficie->height();
+  Toolbar1->setGeometry(0, 0, larghezza, Toolbar1->sizeHint().height());
+  const int altezzaStato = StatusBar1->sizeHint().height();
+  StatusBar1->setGeometry(0, altezza - altezzaStato, larghezza, altezzaStato);
+  Avanzamento->setGeometry(StatusBar1->geometry());
+  Picture1->move((larghezza - Picture1->width()) / 2,
+                 (altezza - Picture1->height()) / 2 - RialzoPicture1);
+  Command3d15->move(larghezza - Command3d15->width() - MargineCommand3d15,
+                    Toolbar1->height() + MargineCommand3d15);
+  CollocaPicture2();
+}
+
+void Form1::CambiataMisura() {
+  Disponi();
+  // A running fill holds the grid's tables and geometry; it redraws at its end.
+  if (isMinimized() || estrazioneInCorso_) return;
+  Shape1->hide();
+  if (NomeCruciverba.empty()) return;
+  const QSize minima(InPixel(MinLarghezza), InPixel(MinAltezza));
+  if (minimumSize() != minima) setMinimumSize(minima);
+  RidisegnaSchema();
+}
+
+void Form1::PassaSu(bool suToolbar1) {
+  constexpr int AttrezzoBianco = 2;
+  constexpr int AttrezzoNero = 4;
+  if (!suToolbar1) {
+    if (PuntatoreMouse == FormaPuntatoreLogo) ImpostaPuntatoreMouse(0);
+    return;
+  }
+  TogliLabel1();
+  const bool tenuto = PuntatoreMouse == FormaPuntatoreLogo || PuntatoreMouse == AttrezzoNero ||
+                      PuntatoreMouse == AttrezzoBianco;
+  if (!tenuto && PuntatoreMouse != 0) ImpostaPuntatoreMouse(0);
+}
+
+void Form1::closeEvent(QCloseEvent* evento) {
+  evento->setAccepted(!estrazioneInCorso_);
+}
+
+bool Form1::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (oggetto == Picture2) {
+    switch (evento->type()) {
+      case QEvent::MouseMove:
+        if (PuntatoreMouse != FormaPuntatoreLogo) ImpostaPuntatoreMouse(FormaPuntatoreLogo);
+        break;
+      case QEvent::Leave:
+        PassaSu(false);
+        break;
+      case QEvent::MouseButtonPress:
+        Voce("MenuPHP").trigger();
+        break;
+      default:
+        break;
+    }
+  }
+  return QMainWindow::eventFilter(oggetto, evento);
+}
+
+}  // namespace telarium

@@ -1,0 +1,84 @@
+#include "editor/windows/toolbar.h"
+
+#include <QMouseEvent>
+#include <QToolButton>
+
+#include "editor/windows/pictures.h"
+#include "platform/check.h"
+#include "platform/qt/qt_text.h"
+
+namespace telarium {
+namespace {
+
+struct DatiPulsante {
+  const char* chiave;  // empty: a separator
+  std::string_view suggerimento;
+  const char* immagine;
+};
+
+constexpr DatiPulsante pulsanti[NumPulsanti] = {
+    {"Nuovo", "Nuovo cruciverba", "new"},
+    {"Apri", "Apri cruciverba", "open"},
+    {},
+    {"Salva", "Salva cruciverba", "save"},
+    {},
+    {"Stampa", "Stampa cruciverba", "print"},
+    {"Anteprima", "Anteprima di stampa", "preview"},
+    {"HTML", "Anteprima HTML nel browser", "html"},
+    {},
+    {"CambiaFont", "Cambia carattere", "font"},
+    {"AggColonna", "Aggiungi colonna", "add_column"},
+    {"TogliColonna", "Togli colonna", "remove_column"},
+    {"AggRiga", "Aggiungi riga", "add_row"},
+    {"TogliRiga", "Togli riga", "remove_row"},
+    {},
+    {"CasBianca", "Mette casella bianca", "white_cell"},
+    {"CasNera", "Mette casella nera", "black_cell"},
+    {},
+    {"Tabella", "Vista tabellare", "table"},
+    {"Estrazione", "Estrazione automatica", "extract"},
+    {"Edit", "Edit definizioni", "edit"},
+    {"Compila", "Prende le definizioni dall'enciclopedia", "compile"},
+};
+
+constexpr int LatoImmagine = 24;  // logical pixels
+
+}  // namespace
+
+BarraStrumenti::BarraStrumenti(QWidget* genitore) : QToolBar(genitore) {
+  setObjectName(u"Toolbar1");
+  setIconSize({LatoImmagine, LatoImmagine});
+  setMovable(false);
+  setAutoFillBackground(true);
+  setMouseTracking(true);
+  for (int i = 0; i < NumPulsanti; ++i) {
+    const DatiPulsante& dato = pulsanti[i];
+    if (!dato.chiave) {
+      pulsanti_[static_cast<std::size_t>(i)] = addSeparator();
+      continue;
+    }
+    QAction* azione = addAction(Immagine(dato.immagine), AQt(dato.suggerimento));
+    azione->setObjectName(QLatin1StringView(dato.chiave));
+    pulsanti_[static_cast<std::size_t>(i)] = azione;
+    widgetForAction(azione)->setMouseTracking(true);
+    widgetForAction(azione)->setFocusPolicy(Qt::NoFocus);
+  }
+  Pulsante(PulsanteEdit).setCheckable(true);
+}
+
+QAction& BarraStrumenti::Pulsante(int numero) const {
+  Verifica(numero >= 1 && numero <= NumPulsanti, "Toolbar1 ha i pulsanti da 1 a 22");
+  return *pulsanti_[static_cast<std::size_t>(numero) - 1];
+}
+
+QPoint BarraStrumenti::SottoIlPulsante(int numero) const {
+  const QWidget* pulsante = widgetForAction(&Pulsante(numero));
+  return pulsante->mapToGlobal(QPoint(0, pulsante->height()));
+}
+
+void BarraStrumenti::mouseMoveEvent(QMouseEvent* evento) {
+  QToolBar::mouseMoveEvent(evento);
+  if (passaIlMouse_) passaIlMouse_();
+}
+
+}  // namespace telarium

@@ -1,0 +1,110 @@
+#include "platform/qt/qt_machine.h"
+
+#include <QDesktopServices>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QUrl>
+#include <algorithm>
+
+#include "platform/codepage.h"
+#include "platform/common/fetch.h"
+#include "platform/common/local_clock.h"
+#include "platform/qt/child_process.h"
+#include "platform/qt/qt_text.h"
+
+namespace telarium {
+namespace {
+
+// How long a program that hands its file on to another one is waited for: what takes longer is busy
+// showing it.
+constexpr std::chrono::milliseconds AttesaDiConsegna{1500};
+
+bool Presente(const char* programma) {
+  return !QStandardPaths::findExecutable(QLatin1StringView(programma)).isEmpty();
+}
+
+// Runs a program that opens something; false when it could not be started or soon ended in error.
+bool Consegna(const std::vector<std::string>& parole) {
+  const ProcessoAvviato processo = Avvia(parole);
+  if (processo.errore) return false;
+  const bool finito = processo.esito.wait_for(AttesaDiConsegna) == std::future_status::ready;
+  return !finito || processo.esito.get() == 0;
+}
+
+// Opens a file or an address, both as the system's opener takes them.
+bool ApriNelSistema(const std::string& cosa, const QUrl& url) {
+  if (Presente("xdg-open")) return Consegna({"xdg-open", cosa});
+  return QDesktopServices::openUrl(url);
+}
+
+QSettings Impostazioni() {
+  return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Telarium"),
+                   QStringLiteral("telarium"));
+}
+
+}  // namespace
+
+std::chrono::year_month_day MacchinaQt::Oggi() {
+  return OggiLocale();
+}
+
+std::error_code MacchinaQt::EseguiComando(const Percorso& programma,
+                                          const std::vector<std::string>& argomenti) {
+  std::vector<std::string> parole = {programma.string()};
+  for (const std::string& argomento : argomenti)
+    parole.push_back(AUtf8(argomento));
+  return Avvia(parole).errore;
+}
+
+bool MacchinaQt::ApriFile(const Percorso& file) {
+  std::error_code ignorato;
+  const Percorso intero = std::filesystem::absolute(file, ignorato);
+  return std::filesystem::exists(intero, ignorato) &&
+         ApriNelSistema(intero.string(), QUrl::fromLocalFile(PercorsoAQt(intero)));
+}
+
+bool MacchinaQt::ApriIndirizzo(const std::string& indirizzo) {
+  constexpr std::string_view ammessi[] = {"http://", "https://", "mailto:"};
+  const bool ammesso =
+      std::any_of(std::begin(ammessi), std::end(ammessi),
+                  [&](std::string_view schema) { return indirizzo.starts_with(schema); });
+  const QUrl url(AQt(indirizzo), QUrl::TolerantMode);
+  return ammesso && url.isValid() && ApriNelSistema(url.toEncoded().toStdString(), url);
+}
+
+bool MacchinaQt::ApriInWord(const Percorso& documento) {
+  for (const char* programma : {"lowriter", "soffice", "libreoffice"}) {
+    if (Presente(programma)) return Consegna({programma, documento.string()});
+  }
+  return ApriFile(documento);
+}
+
+bool MacchinaQt::PreparaMail(const Mail& mail) {
+  if (Presente("xdg-email")) {
+    std::vector<std::string> parole = {"xdg-email",         "--utf8", "--subject",
+                                       AUtf8(mail.oggetto), "--body", AUtf8(mail.testo)};
+    if (mail.allegato) parole.insert(parole.end(), {"--attach", mail.allegato->string()});
+    parole.push_back(AUtf8(mail.destinatario));
+    return Consegna(parole);
+  }
+  return false;
+}
+
+std::optional<std::string> MacchinaQt::Preleva(const std::string& indirizzo,
+                                               std::chrono::milliseconds limite) {
+  return PrelevaIndirizzo(AUtf8(indirizzo), limite);
+}
+
+std::optional<std::string> MacchinaQt::LeggiImpostazione(const std::string& chiave) {
+  const QVariant valore = Impostazioni().value(AQt(chiave));
+  if (!valore.isValid()) return std::nullopt;
+  return DaQt(valore.toString());
+}
+
+void MacchinaQt::ScriviImpostazione(const std::string& chiave, const std::string& valore) {
+  QSettings impostazioni = Impostazioni();
+  impostazioni.setValue(AQt(chiave), AQt(valore));
+  impostazioni.sync();  // the program may end at once
+}
+
+}  // namespace telarium

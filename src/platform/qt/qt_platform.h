@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/platform.h"
+#include "platform/qt/qt_machine.h"
+#include "platform/qt/qt_user.h"
+
+namespace telarium {
+
+/// The platform of the desktop.
+class PiattaformaQt : public Piattaforma {
+ public:
+  UtenteQt& ChiUsa() override { return utente_; }
+  Macchina& Sistema() override { return macchina_; }
+  Superficie* FinestraPrincipale() override { return finestra_; }
+
+  /// The surface of the main window; the caller keeps it alive.
+  void FinestraPrincipale(Superficie* finestra) { finestra_ = finestra; }
+
+  /// Ends the process at once, with status 0: nothing of the windows runs any more.
+  void Termina() override;
+
+ private:
+  UtenteQt utente_;
+  MacchinaQt macchina_;
+  Superficie* finestra_ = nullptr;
+};
+
+}  // namespace telarium

@@ -1,0 +1,29 @@
+#include "platform/qt/qt_text.h"
+
+#include <QFile>
+
+#include "platform/codepage.h"
+
+namespace telarium {
+
+QString AQt(std::string_view testo) {
+  QString qt(static_cast<qsizetype>(testo.size()), Qt::Uninitialized);
+  QChar* carattere = qt.data();
+  for (const char byte : testo)
+    *carattere++ = TabellaCodePage[static_cast<unsigned char>(byte)];
+  return qt;
+}
+
+std::string DaQt(const QString& testo) {
+  return DaUtf8(testo.toUtf8().toStdString());
+}
+
+QString PercorsoAQt(const Percorso& percorso) {
+  return QFile::decodeName(QByteArray::fromStdString(percorso.string()));
+}
+
+Percorso PercorsoDaQt(const QString& percorso) {
+  return QFile::encodeName(percorso).toStdString();
+}
+
+}  // namespace telarium

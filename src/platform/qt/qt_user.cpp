@@ -1,0 +1,177 @@
+#include "platform/qt/qt_user.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <span>
+
+#include "platform/qt/qt_text.h"
+
+namespace telarium {
+namespace {
+
+constexpr qsizetype MaxCaratteri = 2000;  // more would not fit on a screen
+constexpr qsizetype MaxSenzaInterruzioni = 60;
+
+struct Pulsante {
+  const char16_t* testo;
+  const char* nome;
+  Risposta risposta;
+  QMessageBox::ButtonRole ruolo;
+};
+
+constexpr Pulsante Ok = {u"OK", "OK", Risposta::Ok, QMessageBox::AcceptRole};
+constexpr Pulsante Si = {u"&Sì", "Si", Risposta::Si, QMessageBox::YesRole};
+constexpr Pulsante No = {u"&No", "No", Risposta::No, QMessageBox::NoRole};
+constexpr Pulsante Annulla = {u"Annulla", "Annulla", Risposta::Annulla, QMessageBox::RejectRole};
+
+// In each set the last one is what Escape and the close box mean.
+std::span<const Pulsante> PulsantiDi(Pulsanti quali) {
+  static constexpr Pulsante ok[] = {Ok};
+  static constexpr Pulsante okAnnulla[] = {Ok, Annulla};
+  static constexpr Pulsante siNo[] = {Si, No};
+  static constexpr Pulsante siNoAnnulla[] = {Si, No, Annulla};
+  switch (quali) {
+    case Pulsanti::OkAnnulla:
+      return okAnnulla;
+    case Pulsanti::SiNo:
+      return siNo;
+    case Pulsanti::SiNoAnnulla:
+      return siNoAnnulla;
+    default:
+      return ok;
+  }
+}
+
+QMessageBox::Icon IconaQt(Icona icona) {
+  switch (icona) {
+    case Icona::Informazione:
+      return QMessageBox::Information;
+    case Icona::Domanda:
+      return QMessageBox::Question;
+    case Icona::Avviso:
+      return QMessageBox::Warning;
+    case Icona::Stop:
+      return QMessageBox::Critical;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+QString TitoloQt(const std::string& titolo) {
+  return titolo.empty() ? QGuiApplication::applicationDisplayName() : AQt(titolo);
+}
+
+// A text as a box can show it: its line ends as they are here, not longer than a screen, and places
+// to break a line in a long file name.
+QString TestoQt(const std::string& testo) {
+  constexpr QChar SpazioNullo(0x200B);
+  QString qt = AQt(testo);
+  qt.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  if (qt.size() > MaxCaratteri) qt = qt.left(MaxCaratteri) + QChar(0x2026);
+  qsizetype daInterruzione = 0;
+  for (qsizetype i = 0; i < qt.size(); ++i) {
+    daInterruzione = qt[i].isSpace() ? 0 : daInterruzione + 1;
+    if (daInterruzione < MaxSenzaInterruzioni) continue;
+    qt.insert(i + 1, SpazioNullo);
+    daInterruzione = 0;
+  }
+  return qt;
+}
+
+// While a box is open the pointer is an arrow, also in the middle of a long run.
+class FrecciaDurante {
+ public:
+  FrecciaDurante() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+  ~FrecciaDurante() { QGuiApplication::restoreOverrideCursor(); }
+};
+
+}  // namespace
+
+Risposta UtenteQt::MostraMessaggio(const Messaggio& messaggio) {
+  const FrecciaDurante freccia;
+  QMessageBox scatola(finestra_);
+  scatola.setObjectName(u"MessageBox");
+  scatola.setWindowTitle(TitoloQt(messaggio.titolo));
+  scatola.setIcon(IconaQt(messaggio.icona));
+  scatola.setTextFormat(Qt::PlainText);
+  scatola.setText(TestoQt(messaggio.testo));
+  const std::span<const Pulsante> pulsanti = PulsantiDi(messaggio.pulsanti);
+  std::map<QAbstractButton*, Risposta> risposte;
+  QPushButton* bottone = nullptr;
+  for (const Pulsante& pulsante : pulsanti) {
+    bottone = scatola.addButton(QString::fromUtf16(pulsante.testo), pulsante.ruolo);
+    bottone->setObjectName(QLatin1StringView(pulsante.nome));
+    risposte[bottone] = pulsante.risposta;
+    if (risposte.size() == 1) scatola.setDefaultButton(bottone);
+  }
+  scatola.setEscapeButton(bottone);
+  scatola.exec();
+  const auto premuto = risposte.find(scatola.clickedButton());
+  return premuto == risposte.end() ? pulsanti.back().risposta : premuto->second;
+}
+
+std::optional<std::string> UtenteQt::ChiediTesto(const RichiestaDiTesto& richiesta) {
+  const FrecciaDurante freccia;
+  QInputDialog scatola(finestra_);
+  scatola.setObjectName(u"InputBox");
+  scatola.setWindowTitle(TitoloQt(richiesta.titolo));
+  scatola.setLabelText(TestoQt(richiesta.richiesta));
+  scatola.setTextValue(AQt(richiesta.predefinito));
+  scatola.setOkButtonText(QString::fromUtf16(Ok.testo));
+  scatola.setCancelButtonText(QString::fromUtf16(Annulla.testo));
+  if (scatola.exec() != QDialog::Accepted) return std::nullopt;
+  return DaQt(scatola.textValue());
+}
+
+Risposta UtenteQt::ChiediVicoloCieco(const std::string& testo) {
+  if (finestra_) {
+    finestra_->raise();
+    finestra_->activateWindow();
+  }
+  return MostraMessaggio({.testo = testo, .pulsanti = Pulsanti::SiNoAnnulla});
+}
+
+bool UtenteQt::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) {
+  return !segue_ || segue_(avanzamento);
+}
+
+QCursor UtenteQt::PuntatorePer(int forma) const {
+  if (const auto immagine = immagini_.find(forma); immagine != immagini_.end()) {
+    return immagine->second;
+  }
+  switch (forma) {
+    case 2:
+      return Qt::CrossCursor;
+    case 7:
+      return Qt::SizeVerCursor;
+    case 9:
+      return Qt::SizeHorCursor;
+    case 11:
+      return Qt::WaitCursor;
+    default:
+      return Qt::ArrowCursor;
+  }
+}
+
+void UtenteQt::FormaPuntatore(int forma) {
+  if (forma == 0) {
+    if (cambiato_) QGuiApplication::restoreOverrideCursor();
+  } else if (cambiato_) {
+    QGuiApplication::changeOverrideCursor(PuntatorePer(forma));
+  } else {
+    QGuiApplication::setOverrideCursor(PuntatorePer(forma));
+  }
+  cambiato_ = forma != 0;
+}
+
+void UtenteQt::SegnaleAcustico() {
+  QApplication::beep();
+}
+
+void UtenteQt::CediAiMessaggi() {
+  QCoreApplication::processEvents();
+}
+
+}  // namespace telarium

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QCursor>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <map>
+
+#include "platform/user.h"
+
+namespace telarium {
+
+/// The person at a desktop: message boxes, input boxes and pointer shapes of the window system.
+class UtenteQt : public Utente {
+ public:
+  /// The main window, to which the boxes belong.
+  void Finestra(QWidget* finestra) { finestra_ = finestra; }
+
+  /// The pointer for a value of PuntatoreMouse that has no shape of the system.
+  void Immagine(int forma, const QCursor& puntatore) { immagini_[forma] = puntatore; }
+
+  /// What ContinuaEstrazione asks.
+  void SegueEstrazione(std::function<bool(const AvanzamentoEstrazione&)> segue) {
+    segue_ = std::move(segue);
+  }
+
+  Risposta MostraMessaggio(const Messaggio& messaggio) override;
+  std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) override;
+  Risposta ChiediVicoloCieco(const std::string& testo) override;
+  bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
+  void FormaPuntatore(int forma) override;
+  void SegnaleAcustico() override;
+  void CediAiMessaggi() override;
+
+ private:
+  QCursor PuntatorePer(int forma) const;
+
+  QPointer<QWidget> finestra_;
+  std::map<int, QCursor> immagini_;
+  std::function<bool(const AvanzamentoEstrazione&)> segue_;
+  bool cambiato_ = false;  // the pointer has a shape of ours
+};
+
+}  // namespace telarium

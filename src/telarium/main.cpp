@@ -1,0 +1,115 @@
+#include <QApplication>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+#include "editor/startup.h"
+#include "editor/windows/Form1.h"
+#include "editor/windows/pictures.h"
+#include "platform/codepage.h"
+#include "platform/program_folder.h"
+#include "platform/qt/qt_platform.h"
+#include "platform/qt/qt_text.h"
+#include "telarium/process_age.h"
+#include "telarium/single_instance.h"
+#include "telarium_version.h"
+
+namespace telarium {
+namespace {
+
+constexpr const char* Uso =
+    "Uso: telarium [FILE]\n"
+    "Laboratorio di parole crociate; FILE è un cruciverba (.tlrm) da aprire.\n"
+    "\n"
+    "  --help     mostra questo testo\n"
+    "  --version  mostra la versione\n";
+
+constexpr int FormaCasellaNera = 4;
+constexpr int FormaMano = 99;
+
+// What is no option is one file name as it was typed, blanks between its words.
+Percorso FileDellaRigaDiComando(int argc, char** argv) {
+  std::string riga;
+  for (int i = 1; i < argc; ++i)
+    riga += (i > 1 ? " " : "") + std::string(argv[i]);
+  std::error_code ignorato;
+  // The program's own folder becomes the working directory soon.
+  return riga.empty() ? Percorso() : std::filesystem::absolute(riga, ignorato);
+}
+
+bool SchermoPresente() {
+  for (const char* variabile : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+    const char* valore = std::getenv(variabile);
+    if (valore && *valore) return true;
+  }
+  return false;
+}
+
+void ImpostaPuntatori(UtenteQt& utente, double rapporto) {
+  utente.Immagine(FormaCasellaNera, PuntatoreDi("black_pointer", {6, 6}, rapporto));
+  utente.Immagine(FormaMano, PuntatoreDi("hand", {11, 2}, rapporto));
+}
+
+void DiciTempi(Form1& form) {
+  if (!std::getenv("TELARIUM_TEMPI")) return;
+  form.Superficie->QuandoDipinta([] {
+    std::fprintf(stderr, "avvio: %lld ms fino alla prima immagine\n",
+                 static_cast<long long>(EtaDelProcesso().count()));
+  });
+}
+
+int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
+  PiattaformaQt piattaforma;
+  ImpostaPiattaforma(&piattaforma);
+  const Percorso cartella = PreparaCartellaProgramma();
+  if (cartella.empty()) return EXIT_FAILURE;
+
+  UnicaIstanza istanza(cartella);
+  Form1* ricevente = nullptr;
+  const bool prima = istanza.Prima([&ricevente](const Percorso& altro) {
+    if (ricevente) ricevente->RiceviDaFuori(altro);
+  });
+  if (!prima) {
+    if (istanza.Consegna(file)) return EXIT_SUCCESS;
+    Avvisa("Telarium è già aperto in questa cartella programma e non risponde."_cp, {},
+           Icona::Avviso);
+    return EXIT_FAILURE;
+  }
+
+  RigaDiComando = file;
+  CaricaProgramma(cartella);
+  Form1 form;
+  ricevente = &form;
+  ImpostaPuntatori(piattaforma.ChiUsa(), form.devicePixelRatioF());
+  piattaforma.ChiUsa().Finestra(&form);
+  piattaforma.ChiUsa().SegueEstrazione(
+      [&form](const AvanzamentoEstrazione& a) { return form.SeguiEstrazione(a); });
+  piattaforma.FinestraPrincipale(&form.Superficie->Superficie());
+  DiciTempi(form);
+  form.Mostra();
+  return applicazione.exec();
+}
+
+}  // namespace
+}  // namespace telarium
+
+int main(int argc, char** argv) {
+  using namespace telarium;
+  const std::string_view primo = argc == 2 ? argv[1] : "";
+  if (primo == "--help") return std::fputs(Uso, stdout) < 0;
+  if (primo == "--version") return std::puts("telarium " TELARIUM_VERSION) < 0;
+  if (!SchermoPresente()) {
+    std::fputs("telarium: nessuno schermo (DISPLAY e WAYLAND_DISPLAY mancano).\n", stderr);
+    return EXIT_FAILURE;
+  }
+  std::signal(SIGXFSZ, SIG_IGN);  // a file over the limit is a write error like another
+  std::signal(SIGPIPE, SIG_IGN);
+  const Percorso file = FileDellaRigaDiComando(argc, argv);
+  int soloIlNome = 1;  // the command line is a file, not options of the windows
+  QApplication applicazione(soloIlNome, argv);
+  // A display name would be put behind every title.
+  QApplication::setApplicationName(QStringLiteral("Telarium"));
+  QApplication::setApplicationVersion(QStringLiteral(TELARIUM_VERSION));
+  return EseguiDesktop(applicazione, file);
+}

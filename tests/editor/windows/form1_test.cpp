@@ -1,0 +1,340 @@
+#include "editor/windows/Form1.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+#include <memory>
+#include <set>
+
+#include "editor/commit.h"
+#include "editor/settings.h"
+#include "editor/startup.h"
+#include "editor/windows/menu_table.h"
+#include "fill/extraction.h"
+#include "model/crossword_file.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+constexpr int Patience = 10'000;  // milliseconds
+
+class Form1Test : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    WriteFile("telarium.INI",
+              "PercentualeRiquadro= 90 \r\nSpessoreBordo= 2 \r\nAltezzaCaratteri= 50 \r\n"
+              "AltezzaNumeri= 20 \r\n");
+    OpenDictionary({"CASA", "SOLE", "ALE", "CARTA"});
+    workingFolder_ = std::filesystem::current_path();
+  }
+
+  void TearDown() override {
+    form.reset();
+    std::filesystem::current_path(workingFolder_);
+    TelariumTest::TearDown();
+  }
+
+  Percorso CrosswordFile(const std::vector<std::string>& rows) {
+    Draw(rows);
+    EXPECT_TRUE(ScriviCruciverba(InFolder("mio.tlrm")));
+    return InFolder("mio.tlrm");
+  }
+
+  // Starts the program as its main does, up to the first idle moment.
+  void Start(const Percorso& commandLine = {}) {
+    AzzeraStato();
+    RigaDiComando = commandLine;
+    CaricaProgramma(InFolder(""));
+    form = std::make_unique<Form1>();
+    platform.surface = &form->Superficie->Superficie();
+    platform.hasWindow = true;
+    form->Mostra();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(form.get(), Patience));
+    ASSERT_TRUE(QTest::qWaitFor([] { return GiaAttivata != Falso; }, Patience));
+  }
+
+  void StartWith(const std::vector<std::string>& rows) { Start(CrosswordFile(rows)); }
+
+  void Resize(int width, int height) {
+    form->showNormal();
+    form->resize(width, height);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form->size() == QSize(width, height); }, Patience));
+  }
+
+  // What the window shows at a point of its surface, in logical pixels.
+  QColor Shown(double x, double y) {
+    const QPixmap picture = form->Superficie->grab();
+    const double ratio = picture.devicePixelRatio();
+    return picture.toImage().pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio));
+  }
+
+  std::string EnabledButtons() const {
+    std::string keys;
+    for (int number = 1; number <= NumPulsanti; ++number) {
+      const QAction& button = form->Toolbar1->Pulsante(number);
+      if (!button.isSeparator() && button.isEnabled()) {
+        keys += button.objectName().toStdString() + ' ';
+      }
+    }
+    return keys;
+  }
+
+  void ClickButton(int number) { form->Toolbar1->Pulsante(number).trigger(); }
+
+  std::unique_ptr<Form1> form;
+
+ private:
+  std::filesystem::path workingFolder_;
+};
+
+constexpr int ExtractionButton = 20;
+
+TEST_F(Form1Test, OffersOnlyWhatCanBeDoneWithoutACrossword) {
+  Start();
+  EXPECT_EQ(EnabledButtons(), "");
+  EXPECT_FALSE(form->Voce("MenuEdit").isEnabled() || form->Voce("MenuUtiliti").isEnabled());
+  EXPECT_FALSE(form->Voce("menuSalva").isEnabled());
+  EXPECT_TRUE(form->Voce("MenuL2").isEnabled() && form->Voce("MenuEsci").isEnabled());
+  EXPECT_TRUE(form->Voce("Menurett").isChecked() && form->Voce("MenuL1").isChecked());
+  EXPECT_FALSE(form->Voce("MenuVis").isChecked());
+  EXPECT_TRUE(form->Picture1->isVisible());
+  EXPECT_EQ(form->windowTitle(), QStringLiteral("Telarium"));
+  Resize(200, 150);  // as small as it likes
+  EXPECT_TRUE(form->Picture1->isVisible());
+}
+
+TEST_F(Form1Test, OffersTheCommandsOfThisProgramOnceThereIsACrossword) {
+  StartWith({"CASA", "....", "#..#"});
+  EXPECT_EQ(EnabledButtons(), "Salva HTML Estrazione Edit Compila ");
+  EXPECT_TRUE(form->Voce("MenuEdit").isEnabled() && form->Voce("MenuUtiliti").isEnabled());
+  EXPECT_TRUE(form->Voce("menuSalva").isEnabled());
+  EXPECT_FALSE(form->Voce("MenuStampa").isEnabled()) << "nothing stands behind it yet";
+  EXPECT_FALSE(form->Picture1->isVisible());
+  EXPECT_TRUE(form->windowTitle().startsWith(QStringLiteral("Telarium - 4x3  ")));
+  EXPECT_FALSE(form->Voce("MenuNuovo").icon().isNull() || form->Voce("MenuStampa").icon().isNull());
+}
+
+TEST_F(Form1Test, HasMenusWithoutTwoMeaningsForAKey) {
+  Start();
+  std::set<QString> shortcuts;
+  std::set<std::string> names;
+  for (const VoceDiMenu& entry : VociDelMenu()) {
+    EXPECT_TRUE(names.insert(entry.nome).second) << entry.nome;
+    const QAction& action = form->Voce(entry.nome);
+    EXPECT_FALSE(action.text().isEmpty() && !action.isSeparator()) << entry.nome;
+    const QString shortcut = action.shortcut().toString();
+    EXPECT_EQ(shortcut.isEmpty(), std::string_view(entry.tasti).empty()) << entry.nome;
+    EXPECT_TRUE(shortcut.isEmpty() || shortcuts.insert(shortcut).second) << entry.nome;
+  }
+  EXPECT_FALSE(form->Voce("Menuschemi").isVisible() || form->Voce("menuvbhtml").isVisible());
+  EXPECT_EQ(form->Voce("MenuPHP").text(), QStringLiteral("www.telarium.example"));
+  EXPECT_EQ(form->Voce("MenuUtiliti").text(), QStringLiteral("&Utilit\u00E0"));
+}
+
+TEST_F(Form1Test, DrawsTheGridBetweenItsBarsAndFollowsItsSize) {
+  StartWith({"CA#", "...", "..."});
+  ColoreCasella(3, 1) = 0x3060C0;
+  for (const QSize& size : {QSize(800, 600), QSize(500, 700)}) {
+    Resize(size.width(), size.height());
+    const double w = form->Superficie->width();
+    const double h = form->Superficie->height();
+    const double t = form->Toolbar1->height();
+    const double s = form->StatusBar1->height();
+    EXPECT_EQ(LatoCasella, std::min(std::lrint((w - 16) / 3), std::lrint((h - t - s - 18) / 3)));
+    EXPECT_EQ(OrigineX, std::lrint((w - 3 * LatoCasella) / 2));
+    EXPECT_EQ(OrigineY, std::lrint((t + h - 2 - s - 3 * LatoCasella) / 2));
+    const double middle = LatoCasella / 2.0;
+    EXPECT_EQ(Shown(OrigineX + 2 * LatoCasella + middle, OrigineY + middle),
+              QColor(0xC0, 0x60, 0x30));
+    EXPECT_EQ(Shown(OrigineX + middle, OrigineY + LatoCasella + middle), QColor(Qt::white));
+    EXPECT_EQ(Shown(OrigineX + middle, OrigineY + 0.5), QColor(Qt::black));
+    EXPECT_EQ(Shown(OrigineX + middle, OrigineY - 3 + 0.5), QColor(128, 0, 0));
+    EXPECT_NE(Shown(OrigineX + middle, OrigineY - 5 + 0.5), QColor(128, 0, 0));
+  }
+  form->resize(100, 100);
+  QTest::qWait(0);
+  EXPECT_GE(form->width(), 434) << "6500 twips";
+  EXPECT_GE(form->height(), 300) << "4500 twips";
+}
+
+TEST_F(Form1Test, SavesByItsKeyAndEndsByMenuEsci) {
+  StartWith({"CASA"});
+  const std::string before = ReadFile(NomeCruciverba);
+  Schema(5) = "S.O.L.E.";
+  ConsolidaSchema();
+  SchemaModificato = Vero;
+  QTest::keyClick(form.get(), Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(SchemaModificato, Falso);
+  EXPECT_NE(ReadFile(NomeCruciverba), before);
+
+  SchemaModificato = Vero;
+  user.Answer(Risposta::Annulla);
+  EXPECT_THROW(form->Esegui([this] { form->Voce("MenuEsci").trigger(); }), ProgramEnded);
+  EXPECT_EQ(user.TakeMessages().front().titolo, "Modifica del file corrente");
+}
+
+TEST_F(Form1Test, RunsTheOptionsAndLinksOfItsMenus) {
+  StartWith({"CASA"});
+  for (const char* entry : {"MenuInf", "MenuVis", "Menurett"})
+    form->Voce(entry).trigger();
+  EXPECT_TRUE(ProvaInfinita && StampaSoluzioni && !RettangoloParola);
+  EXPECT_TRUE(form->Voce("MenuInf").isChecked() && form->Voce("MenuVis").isChecked());
+  EXPECT_FALSE(form->Voce("Menurett").isChecked());
+  form->Voce("MenuL1").trigger();
+  EXPECT_TRUE(form->Voce("MenuL1").isChecked()) << "choosing the current language changes nothing";
+
+  QTest::mouseClick(form->Picture2, Qt::LeftButton);
+  for (const char* entry : {"menutelari", "MenuMail", "MenuI1", "MenuAiuto"})
+    form->Voce(entry).trigger();
+  EXPECT_EQ(machine.opened,
+            (std::vector<std::string>{
+                "https://www.telarium.example", "https://www.telarium.example/telarium/",
+                "mailto:autore@telarium.example", "https://dizionario-2.example",
+                InFolder("TELARIUM7.mht").string()}));
+  machine.opens = false;
+  form->Voce("MenuPHP").trigger();
+  EXPECT_EQ(user.TakeTexts().size(), 1u) << "no program for it";
+}
+
+TEST_F(Form1Test, KeepsTheEditButtonPressedBehindEachButtonOfTheToolbar) {
+  StartWith({"CASA"});
+  EXPECT_FALSE(form->EditPremuto());
+  ClickButton(4);
+  EXPECT_TRUE(form->EditPremuto());
+  EXPECT_EQ(ModoGriglia, 0) << "a save enters no mode";
+  ClickButton(PulsanteEdit);  // turned over by the click, then pressed again
+  EXPECT_TRUE(form->EditPremuto());
+  EXPECT_EQ(ModoGriglia, 0);
+  form->Voce("Menudef").trigger();
+  EXPECT_EQ(ModoGriglia, 1);
+  form->Command3d15->show();
+  ModoGriglia = -1;
+  form->Voce("menuRidisegna").trigger();
+  EXPECT_TRUE(form->Command3d15->isHidden());
+  EXPECT_EQ(ModoGriglia, 1);
+}
+
+TEST_F(Form1Test, ShowsTheLogoPointerOverTheLogoAlone) {
+  StartWith({"CASA"});
+  // Sent straight to the control: the offscreen platform follows no pointer.
+  const auto moveOver = [](QWidget* control) {
+    const QPointF point(5, 5);
+    QMouseEvent move(QEvent::MouseMove, point, control->mapToGlobal(point), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(control, &move);
+  };
+  moveOver(form->Picture2);
+  EXPECT_EQ(PuntatoreMouse, 99);
+  moveOver(form->Toolbar1);
+  EXPECT_EQ(PuntatoreMouse, 99);
+  moveOver(form->Superficie);
+  EXPECT_EQ(PuntatoreMouse, 0);
+  ImpostaPuntatoreMouse(7);
+  form->Label1->move(10, 10);
+  moveOver(form->Toolbar1);
+  EXPECT_EQ(PuntatoreMouse, 0);
+  EXPECT_GE(form->Label1->y(), form->Superficie->height());
+}
+
+TEST_F(Form1Test, FillsTheGridBeforeTheUsersEyes) {
+  StartWith({"....", ".##.", "....", "...."});
+  Resize(700, 600);
+  // CASA or SOLE across; what crosses them fails somewhere, whatever is drawn.
+  user.Answer(Risposta::Ok);
+  user.AnswerAllDeadEnds(Risposta::Si);
+  user.AnswerDeadEnd(Risposta::No);
+  int letterPixels = 0;
+  bool sealedOff = true;
+  user.StopFillWhen([&](const AvanzamentoEstrazione& progress) {
+    const bool goesOn = form->SeguiEstrazione(progress);
+    sealedOff = sealedOff && !form->Toolbar1->isEnabled() && !form->menuBar()->isEnabled() &&
+                form->Avanzamento->isVisible();
+    if (progress.slotPresi == 1) {  // the first word is on the screen
+      const QImage shown = form->Superficie->grab().toImage();
+      for (int x = 0; x < shown.width(); ++x)
+        letterPixels +=
+            shown.pixelColor(x, static_cast<int>((OrigineY + LatoCasella / 2) *
+                                                 shown.devicePixelRatio())) == Qt::black;
+    }
+    return !goesOn;
+  });
+  form->Voce("MenuEstrazione").trigger();
+  EXPECT_GT(user.TakeTexts().size(), 2u);
+  EXPECT_GT(user.polls.back().tentativo, 1) << "No began anew";
+  EXPECT_TRUE(sealedOff);
+  EXPECT_GT(letterPixels, 8);
+  for (const std::string& row : Drawing())
+    EXPECT_EQ(row.find('.'), std::string::npos) << row;
+  EXPECT_TRUE(form->Toolbar1->isEnabled() && form->menuBar()->isEnabled());
+  EXPECT_FALSE(form->Avanzamento->isVisible());
+  EXPECT_EQ(PuntatoreMouse, 0);
+  EXPECT_EQ(ModoGriglia, 0);
+  EXPECT_EQ(SchemaModificato, Vero);
+}
+
+// An endless run on a grid that no dictionary can fill, until `stop` is done to the window.
+class EndlessFill : public Form1Test {
+ protected:
+  void RunUntil(const std::function<void()>& stop) {
+    StartWith({"......", ".#.#.#", "......"});
+    form->Voce("MenuInf").trigger();
+    user.Answer(Risposta::Ok);
+    user.StopFillWhen([&](const AvanzamentoEstrazione& p) {
+      if (p.tentativo == 3 && p.slotPresi == 0) QTimer::singleShot(0, form.get(), stop);
+      return !form->SeguiEstrazione(p);
+    });
+    ClickButton(ExtractionButton);
+    user.TakeTexts();
+    EXPECT_EQ(ModoGriglia, 1) << "behind the button, editing";
+    EXPECT_FALSE(form->Avanzamento->isVisible());
+    EXPECT_EQ(Drawing().size(), 3u);
+  }
+};
+
+TEST_F(EndlessFill, EndsByItsButton) {
+  QString told;
+  RunUntil([&] {
+    told = form->Avanzamento->findChild<QLabel*>(QStringLiteral("StatoEstrazione"))->text();
+    QTest::mouseClick(form->Avanzamento->findChild<QPushButton*>(), Qt::LeftButton);
+  });
+  EXPECT_TRUE(told.startsWith(QStringLiteral("Tentativo ")) &&
+              told.contains(QStringLiteral("al secondo")))
+      << told.toStdString();
+}
+
+TEST_F(EndlessFill, EndsByEscAndHearsNothingElse) {
+  RunUntil([this] {
+    SchemaModificato = Vero;
+    QTest::keyClick(form.get(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(SchemaModificato, Vero) << "saved in the middle of a fill";
+    form->close();
+    EXPECT_TRUE(form->isVisible());
+    form->RiceviDaFuori(InFolder("missing.tlrm"));  // waits for the end
+    EXPECT_EQ(user.TakeMessages().size(), 1u) << "only the question before the run";
+    form->resize(form->width() - 100, form->height() - 100);
+    user.Answer(Risposta::Annulla);  // to the saving question of the file from outside
+    QTest::keyClick(form.get(), Qt::Key_Escape);
+  });
+}
+
+TEST_F(Form1Test, TakesAFileFromAnotherStart) {
+  StartWith({"CASA"});
+  Draw({"SOLE", "...."});
+  const Percorso other = InFolder("altro.tlrm");
+  ASSERT_TRUE(ScriviCruciverba(other));
+  NomeCruciverba = InFolder("mio.tlrm");
+  form->RiceviDaFuori(other);
+  EXPECT_EQ(NomeCruciverba, other);
+  EXPECT_EQ(Drawing(), (std::vector<std::string>{"SOLE", "...."}));
+  EXPECT_TRUE(form->windowTitle().startsWith(QStringLiteral("Telarium - 4x2  ")));
+}
+
+}  // namespace
+}  // namespace telarium
