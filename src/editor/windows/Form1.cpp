@@ -359,12 +359,12 @@ bool Form1::eventFilter(QObject* oggetto, QEvent* evento) {
     switch (evento->type()) {
       case QEvent::MouseMove:
         if (PuntatoreMouse != FormaPuntatoreLogo) ImpostaPuntatoreMouse(FormaPuntatoreLogo);
-        break;
-      case QEvent::Leave:
-        PassaSu(false);
-        break;
+        return true;  // no movement over the surface below
       case QEvent::MouseButtonPress:
         Voce("MenuPHP").trigger();
+        return true;
+      case QEvent::Leave:
+        PassaSu(false);
         break;
       default:
         break;

@@ -76,8 +76,8 @@ QPoint BarraStrumenti::SottoIlPulsante(int numero) const {
   return pulsante->mapToGlobal(QPoint(0, pulsante->height()));
 }
 
-void BarraStrumenti::mouseMoveEvent(QMouseEvent* evento) {
-  QToolBar::mouseMoveEvent(evento);
+// The movement ends here: it is none over the surface below.
+void BarraStrumenti::mouseMoveEvent(QMouseEvent*) {
   if (passaIlMouse_) passaIlMouse_();
 }
 
