@@ -1,0 +1,134 @@
+#include "platform/qt/qt_user.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+#include <gtest/gtest.h>
+
+#include "platform/codepage.h"
+
+namespace telarium {
+namespace {
+
+class UserTest : public ::testing::Test {
+ protected:
+  // Does this to the next box as soon as it is open.
+  template <class Box>
+  void WhenOpen(std::function<void(Box&)> act) {
+    QTimer::singleShot(0, &context_, [this, act] {
+      auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
+      if (box && box->isVisible()) {
+        act(*box);
+      } else {
+        WhenOpen(act);
+      }
+    });
+  }
+
+  UtenteQt user;
+
+ private:
+  QObject context_;
+};
+
+TEST_F(UserTest, BoxesHaveTheToldTitleIconAndItalianButtons) {
+  struct Case {
+    Pulsanti buttons;
+    const char* names;
+    Qt::Key escape;
+    Risposta escaped;
+  };
+  for (const Case& one :
+       {Case{Pulsanti::Ok, "OK ", Qt::Key_Escape, Risposta::Ok},
+        Case{Pulsanti::OkAnnulla, "OK Annulla ", Qt::Key_Escape, Risposta::Annulla},
+        Case{Pulsanti::SiNo, "Si No ", Qt::Key_Escape, Risposta::No},
+        Case{Pulsanti::SiNoAnnulla, "Si No Annulla ", Qt::Key_Escape, Risposta::Annulla},
+        Case{Pulsanti::SiNoAnnulla, "Si No Annulla ", Qt::Key_Return, Risposta::Si}}) {
+    WhenOpen<QMessageBox>([&](QMessageBox& box) {
+      QString names;
+      int left = -1;
+      for (const char* name : {"OK", "Si", "No", "Annulla"}) {
+        const auto* button = box.findChild<QPushButton*>(QLatin1StringView(name));
+        if (!button) continue;
+        names += QLatin1StringView(name) + u' ';
+        EXPECT_GT(button->x(), left) << "from left to right";
+        left = button->x();
+      }
+      EXPECT_EQ(names, QLatin1StringView(one.names));
+      EXPECT_EQ(box.windowTitle(), QStringLiteral("Un titolo"));
+      EXPECT_EQ(box.icon(), QMessageBox::Critical);
+      EXPECT_EQ(box.text(), QStringLiteral("\u00C8 <b>cos\u00EC</b>\nSeconda\nTerza"));
+      EXPECT_EQ(box.textFormat(), Qt::PlainText);
+      QTest::keyClick(&box, one.escape);
+    });
+    EXPECT_EQ(user.MostraMessaggio({.testo = std::string("È <b>così</b>\rSeconda\r\nTerza"_cp),
+                                    .titolo = "Un titolo",
+                                    .pulsanti = one.buttons,
+                                    .icona = Icona::Stop}),
+              one.escaped);
+  }
+}
+
+TEST_F(UserTest, EachButtonIsItsAnswerAndADeadEndHasThreeOfThem) {
+  const std::pair<const char*, Risposta> answers[] = {
+      {"Si", Risposta::Si}, {"No", Risposta::No}, {"Annulla", Risposta::Annulla}};
+  for (const auto& [name, answer] : answers) {
+    WhenOpen<QMessageBox>([name = name](QMessageBox& box) {
+      EXPECT_EQ(box.windowTitle(), QStringLiteral("Telarium"));
+      QTest::mouseClick(box.findChild<QPushButton*>(QLatin1StringView(name)), Qt::LeftButton);
+    });
+    EXPECT_EQ(user.ChiediVicoloCieco("Parola orizzontale 1\rVa bene ?\r"), answer);
+  }
+}
+
+TEST_F(UserTest, ABoxStaysSmallerThanTheScreenWhateverItsText) {
+  for (const std::string& text : {std::string(100'000, 'x'), std::string(30'000, '\r')}) {
+    WhenOpen<QMessageBox>([](QMessageBox& box) {
+      EXPECT_LT(box.width(), 1000);
+      QTest::keyClick(&box, Qt::Key_Return);
+    });
+    user.MostraMessaggio({.testo = text});
+  }
+}
+
+TEST_F(UserTest, AnInputBoxGivesItsTextOrNone) {
+  WhenOpen<QDialog>([](QDialog& box) {
+    auto* line = box.findChild<QLineEdit*>();
+    EXPECT_EQ(line->text(), QStringLiteral("Anonimo"));
+    line->setText(QStringLiteral("Nicol\u00F2"));
+    QTest::keyClick(line, Qt::Key_Return);
+  });
+  EXPECT_EQ(user.ChiediTesto({.richiesta = "Il tuo nome", .predefinito = "Anonimo"}),
+            std::string("Nicolò"_cp));
+  WhenOpen<QDialog>([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+  EXPECT_EQ(user.ChiediTesto({.richiesta = "x"}), std::nullopt);
+}
+
+TEST_F(UserTest, ThePointerFollowsItsStateAndIsAnArrowOverBoxes) {
+  user.Immagine(99, QCursor(Qt::PointingHandCursor));
+  const std::pair<int, Qt::CursorShape> shapes[] = {
+      {11, Qt::WaitCursor},   {2, Qt::CrossCursor},         {7, Qt::SizeVerCursor},
+      {9, Qt::SizeHorCursor}, {99, Qt::PointingHandCursor}, {12345, Qt::ArrowCursor}};
+  for (const auto& [value, shape] : shapes) {
+    user.FormaPuntatore(value);
+    ASSERT_TRUE(QGuiApplication::overrideCursor());
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), shape) << value;
+    WhenOpen<QMessageBox>([](QMessageBox& box) {
+      EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+      QTest::keyClick(&box, Qt::Key_Return);
+    });
+    user.MostraMessaggio({.testo = "x"});
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), shape) << value;
+  }
+  user.FormaPuntatore(0);
+  user.FormaPuntatore(0);
+  EXPECT_FALSE(QGuiApplication::overrideCursor());
+}
+
+}  // namespace
+}  // namespace telarium
