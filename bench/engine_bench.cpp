@@ -11,6 +11,7 @@
 #include "editor/commit.h"
 #include "fill/extraction.h"
 #include "fill/word_choice.h"
+#include "median_keeper.h"
 #include "model/crossword_file.h"
 #include "model/words.h"
 #include "plain_baseline.h"
@@ -162,21 +163,6 @@ void BM_BuildDictionary(benchmark::State& state, const std::string& list, const 
   }
 }
 
-// Keeps the median of each benchmark besides printing the ordinary lines.
-class MedianKeeper : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.aggregate_name == "median") {
-        medians[run.run_name.function_name] = run.GetAdjustedRealTime();
-      }
-    }
-    ConsoleReporter::ReportRuns(runs);
-  }
-
-  std::map<std::string, double> medians;  // milliseconds
-};
-
 struct Row {
   const char* what;
   const char* plain;  // name of the benchmark of the plain way; null where there is none
@@ -214,15 +200,6 @@ void PrintTable(const std::map<std::string, double>& medians, const ProcessCost&
   std::printf("| `telar estrai` of that grid, whole process | | %.1f | | under 50 ms |\n",
               process.milliseconds);
   std::printf("| its peak memory | | %.1f MiB | | under 16 MiB |\n", process.peakMebibytes);
-}
-
-template <class... Arguments>
-void Register(const char* name, Arguments&&... arguments) {
-  benchmark::RegisterBenchmark(name, std::forward<Arguments>(arguments)...)
-      ->Unit(benchmark::kMillisecond)
-      ->Repetitions(5)
-      ->ReportAggregatesOnly(true)
-      ->UseRealTime();
 }
 
 void RegisterAll(ScriptedPlatform& platform, const Percorso& full, const std::string& list,

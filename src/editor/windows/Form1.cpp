@@ -244,7 +244,7 @@ void Form1::Estrai() {
   EstraiSchema();
   Avanzamento->hide();
   inCorso(false);
-  CambiataMisura();
+  if (std::exchange(misuraCambiata_, false)) CambiataMisura();
 }
 
 bool Form1::SeguiEstrazione(const AvanzamentoEstrazione& avanzamento) {
@@ -328,7 +328,8 @@ void Form1::Disponi() {
 
 void Form1::CambiataMisura() {
   Disponi();
-  // A running fill holds the grid's tables and geometry; it redraws at its end.
+  // A running fill holds the grid's tables and geometry.
+  misuraCambiata_ = estrazioneInCorso_;
   if (isMinimized() || estrazioneInCorso_) return;
   Shape1->hide();
   if (NomeCruciverba.empty()) return;

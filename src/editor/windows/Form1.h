@@ -96,6 +96,7 @@ class Form1 : public QMainWindow, public FinestraEditor {
   std::vector<Percorso> ricevuti_;
   int comandiInCorso_ = 0;
   bool estrazioneInCorso_ = false;
+  bool misuraCambiata_ = false;  // during a fill
   QShortcut* esc_;
 };
 

@@ -1,0 +1,127 @@
+#include <QApplication>
+#include <QPainter>
+#include <cstdio>
+#include <cstdlib>
+
+#include <benchmark/benchmark.h>
+
+#include "crossworddialogs/new_crossword.h"
+#include "editor/commit.h"
+#include "editor/redraw.h"
+#include "editor/startup.h"
+#include "editor/windows/Form1.h"
+#include "fill/extraction.h"
+#include "median_keeper.h"
+#include "model/words.h"
+#include "support/scripted_platform.h"
+
+// Measures what the main window paints, on a screen that nobody sees: a redraw, a repaint, and what
+// the painting adds to a fill.
+namespace telarium {
+namespace {
+
+constexpr int ModelNumber = 4;  // the first 13x13 grid of STANDARD.dfc, counted from 0
+constexpr int FillSeeds = 20;   // fills to an iteration, each from a seed of its own
+constexpr int ColouredCells = 400;
+
+// A 53x30 grid with 400 coloured black cells and a letter in each other one.
+void FullGrid() {
+  NuovoVuoto(MaxColonne, MaxRighe);
+  int black = 0;
+  for (int r = 1; r <= MaxRighe; ++r) {
+    for (int c = 1; c <= MaxColonne; ++c) {
+      const bool coloured = (c + 2 * r) % 4 == 3 && black < ColouredCells;
+      ScriviInSchema({c, r}, coloured ? CellaNera : static_cast<char>('A' + c % 21));
+      ColoreCasella(c, r) = coloured ? ++black * 7919 + 1 : ColoreNero;
+    }
+  }
+  if (black != ColouredCells) abort();
+  ConsolidaSchema();
+}
+
+void BM_Redraw(benchmark::State& state, Form1& form) {
+  FullGrid();
+  for (auto _ : state) {
+    RidisegnaSchema();
+    benchmark::DoNotOptimize(form.Superficie->Superficie().Immagine());
+  }
+}
+
+void BM_Repaint(benchmark::State& state, Form1& form) {
+  FullGrid();
+  SuperficieQt& surface = form.Superficie->Superficie();
+  QImage screen(surface.Immagine().size(), QImage::Format_RGB32);
+  for (auto _ : state) {
+    QPainter painter(&screen);
+    surface.Copia(painter);
+  }
+}
+
+// Fills the model grid; without a window nothing is painted.
+void BM_Fill(benchmark::State& state, ScriptedPlatform& platform, bool window) {
+  if (NuovoDaModello(CartellaProgramma / NomeModelliIniziale, ModelNumber) != EsitoNuovo::Fatto) {
+    abort();
+  }
+  platform.hasWindow = window;
+  RiprendiSchema();
+  for (auto _ : state) {
+    for (unsigned seed = 0; seed < FillSeeds; ++seed) {
+      platform.machine.random = SorgenteCasuale(seed);
+      platform.user.Answer(Risposta::Ok);
+      EstraiSchema();
+      platform.user.TakeMessages();
+      platform.user.polls.clear();
+    }
+  }
+  platform.hasWindow = true;
+}
+
+void PrintTable(std::map<std::string, double>& medians) {
+  const double hidden = medians["fill/hidden"] / FillSeeds;
+  const double shown = medians["fill/shown"] / FillSeeds;
+  std::printf("\n| | Telarium, ms | wanted |\n|---|---|---|\n");
+  std::printf("| redraw of a full 53x30 with %d coloured cells at 1920x1080 | %.2f | under 16 |\n",
+              ColouredCells, medians["redraw"]);
+  std::printf("| repaint of it | %.2f | under 2 |\n", medians["repaint"]);
+  std::printf("| one fill, 13x13 model: searching | %.2f | |\n", hidden);
+  std::printf("| what its painting adds | %.2f | less than the searching |\n", shown - hidden);
+}
+
+int Main() {
+  const CartellaTemporanea temporary;
+  ScriptedPlatform platform;
+  platform.user.AnswerAllDeadEnds(Risposta::Si);
+  ImpostaPiattaforma(&platform);
+  CaricaProgramma(TELARIUM_DATA_DIR);
+  CartellaIstantanea = temporary.Nome();
+  Form1 form;
+  platform.surface = &form.Superficie->Superficie();
+  platform.hasWindow = true;
+  platform.user.StopFillWhen([&](const AvanzamentoEstrazione& progress) {
+    return platform.hasWindow && !form.SeguiEstrazione(progress);
+  });
+  form.Mostra();
+  form.showNormal();
+  form.resize(1920, 1080);
+  QApplication::processEvents();
+  if (form.size() != QSize(1920, 1080)) abort();
+
+  Register("redraw", [&](benchmark::State& state) { BM_Redraw(state, form); });
+  Register("repaint", [&](benchmark::State& state) { BM_Repaint(state, form); });
+  Register("fill/hidden", [&](benchmark::State& state) { BM_Fill(state, platform, false); });
+  Register("fill/shown", [&](benchmark::State& state) { BM_Fill(state, platform, true); });
+  MedianKeeper reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  PrintTable(reporter.medians);
+  return 0;
+}
+
+}  // namespace
+}  // namespace telarium
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  return telarium::Main();
+}
