@@ -1,13 +1,16 @@
 #include "editor/windows/fill_progress.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 #include <QHBoxLayout>
-#include <algorithm>
+#include <QPainter>
 
 namespace telarium {
 namespace {
 
 constexpr int MillisecondiPerFotogramma = 1000 / 60;
+constexpr int Margine = 6;  // pixels
 
 }  // namespace
 
@@ -15,40 +18,50 @@ PannelloEstrazione::PannelloEstrazione(QWidget* genitore) : QFrame(genitore) {
   setObjectName(u"PannelloEstrazione");
   setAutoFillBackground(true);
   setFrameStyle(QFrame::Panel | QFrame::Raised);
-  stato_ = new QLabel(this);
-  stato_->setObjectName(u"StatoEstrazione");
   interrompi_ = new QPushButton(QStringLiteral("Interrompi"), this);
   interrompi_->setObjectName(u"Interrompi");
   connect(interrompi_, &QPushButton::clicked, this, [this] { Interrompi(); });
   auto* riga = new QHBoxLayout(this);
-  riga->setContentsMargins(6, 0, 2, 0);
-  riga->addWidget(stato_, 1);
+  riga->setContentsMargins(Margine, 0, 2, 0);
+  riga->addStretch(1);
   riga->addWidget(interrompi_);
   hide();
 }
 
 void PannelloEstrazione::Inizia() {
   interrotta_ = false;
+  avanzamento_ = {};
   daInizio_.start();
   daFotogramma_.start();
 }
 
 bool PannelloEstrazione::Segui(const AvanzamentoEstrazione& avanzamento, bool infinita) {
+  avanzamento_ = avanzamento;
+  infinita_ = infinita;
   if (daFotogramma_.elapsed() < MillisecondiPerFotogramma) return !interrotta_;
-  stato_->setText(Testo(avanzamento, infinita));
+  update();
   QCoreApplication::processEvents();
   daFotogramma_.restart();
   return !interrotta_;
 }
 
-QString PannelloEstrazione::Testo(const AvanzamentoEstrazione& avanzamento, bool infinita) const {
-  const QString parole =
-      QStringLiteral("Parole: %1 di %2").arg(avanzamento.slotPresi).arg(avanzamento.slotTotali);
-  if (!infinita) return parole;
+// Painted and not put into a label: only a frame that is shown pays for its text, and so does the
+// one behind a question.
+void PannelloEstrazione::paintEvent(QPaintEvent* evento) {
+  QFrame::paintEvent(evento);
+  QPainter(this).drawText(rect().adjusted(Margine, 0, -Margine, 0),
+                          Qt::AlignVCenter | Qt::AlignLeft, Testo());
+}
+
+QString PannelloEstrazione::Testo() const {
+  const QString parole = QStringLiteral("Parole: %1 di %2")
+                             .arg(avanzamento_.slotPresi)
+                             .arg(avanzamento_.slotTotali);
+  if (!infinita_) return parole;
   const qint64 trascorsi = std::max<qint64>(daInizio_.elapsed(), 1);
   return QStringLiteral("Tentativo %1 (%2 al secondo)   %3")
-      .arg(avanzamento.tentativo)
-      .arg(avanzamento.tentativo * 1000 / trascorsi)
+      .arg(avanzamento_.tentativo)
+      .arg(avanzamento_.tentativo * 1000 / trascorsi)
       .arg(parole);
 }
 

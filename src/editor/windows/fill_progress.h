@@ -2,7 +2,6 @@
 
 #include <QElapsedTimer>
 #include <QFrame>
-#include <QLabel>
 #include <QPushButton>
 
 #include "platform/user.h"
@@ -25,11 +24,16 @@ class PannelloEstrazione : public QFrame {
   /// What the button and Esc do.
   void Interrompi() { interrotta_ = true; }
 
- private:
-  QString Testo(const AvanzamentoEstrazione& avanzamento, bool infinita) const;
+  /// What it tells of the progress now.
+  QString Testo() const;
 
-  QLabel* stato_;
+ protected:
+  void paintEvent(QPaintEvent* evento) override;
+
+ private:
   QPushButton* interrompi_;
+  AvanzamentoEstrazione avanzamento_;
+  bool infinita_ = false;
   QElapsedTimer daInizio_;
   QElapsedTimer daFotogramma_;
   bool interrotta_ = false;

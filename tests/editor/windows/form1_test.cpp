@@ -303,7 +303,7 @@ class EndlessFill : public Form1Test {
 TEST_F(EndlessFill, EndsByItsButton) {
   QString told;
   RunUntil([&] {
-    told = form->Avanzamento->findChild<QLabel*>(QStringLiteral("StatoEstrazione"))->text();
+    told = form->Avanzamento->Testo();
     QTest::mouseClick(form->Avanzamento->findChild<QPushButton*>(), Qt::LeftButton);
   });
   EXPECT_TRUE(told.startsWith(QStringLiteral("Tentativo ")) &&
