@@ -14,12 +14,6 @@ const AzzeramentoDiSottosistema azzeramento([] {
   attivazioneInCoda = false;
 });
 
-void AttivaSeInCoda() {
-  if (comandiInCorso > 0 || !attivazioneInCoda) return;
-  attivazioneInCoda = false;
-  AttivaForm1();
-}
-
 // Counts a running command, also on the way out by an exception.
 class Conteggio {
  public:
@@ -33,6 +27,17 @@ class Conteggio {
  private:
   bool riuscito_ = false;
 };
+
+// The activation counts as a command too: a window that it shows, as the first one does, queues the
+// next activation for its end.
+void AttivaSeInCoda() {
+  while (comandiInCorso == 0 && attivazioneInCoda) {
+    attivazioneInCoda = false;
+    Conteggio conteggio;
+    AttivaForm1();
+    conteggio.Riuscito();
+  }
+}
 
 }  // namespace
 

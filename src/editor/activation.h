@@ -13,8 +13,9 @@ namespace telarium {
 void EseguiComandoDiFinestra(const std::function<void()>& comando);
 
 /// Queues one activation for the end of the running command, however often it is called; outside of
-/// a command it runs at once. Called after each of the program's own windows that was shown
-/// modally, never for message boxes, input boxes and dialogs of the system.
+/// a command it runs at once; inside of an activation, behind it. Called after each of the
+/// program's own windows that was shown modally, never for message boxes, input boxes and dialogs
+/// of the system.
 void AccodaAttivazione();
 
 }  // namespace telarium

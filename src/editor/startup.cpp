@@ -95,6 +95,10 @@ void AbbandonaIstantanea() {
 }
 
 void MostraAvvio() {
+  if (Superficie* superficie = FinestraPrincipale()) {
+    superficie->Grassetto(false);
+    superficie->Carattere(FontDelleLettere());
+  }
   AggiornaSpunte();
   RiprendiSchema();
   LaFinestra().MostraPicture1(RigaDiComando.empty());

@@ -1,8 +1,10 @@
 #include <QApplication>
+#include <QTimer>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
+#include <vector>
 
 #include "editor/startup.h"
 #include "editor/windows/Form1.h"
@@ -46,9 +48,9 @@ bool SchermoPresente() {
   return false;
 }
 
-void ImpostaPuntatori(UtenteQt& utente, double rapporto) {
-  utente.Immagine(FormaCasellaNera, PuntatoreDi("black_pointer", {6, 6}, rapporto));
-  utente.Immagine(FormaMano, PuntatoreDi("hand", {11, 2}, rapporto));
+void ImpostaPuntatori(UtenteQt& utente, const Form1& form) {
+  utente.Immagine(FormaCasellaNera, PuntatoreDi("black_pointer", {6, 6}, form.devicePixelRatioF()));
+  utente.Immagine(FormaMano, form.PuntatoreDelLogo());
 }
 
 void DiciTempi(Form1& form) {
@@ -67,8 +69,13 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
 
   UnicaIstanza istanza(cartella);
   Form1* ricevente = nullptr;
-  const bool prima = istanza.Prima([&ricevente](const Percorso& altro) {
-    if (ricevente) ricevente->RiceviDaFuori(altro);
+  std::vector<Percorso> inAttesa;  // what comes while the load asks something
+  const bool prima = istanza.Prima([&](const Percorso& altro) {
+    if (ricevente) {
+      ricevente->RiceviDaFuori(altro);
+    } else {
+      inAttesa.push_back(altro);
+    }
   });
   if (!prima) {
     if (istanza.Consegna(file)) return EXIT_SUCCESS;
@@ -81,13 +88,17 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
   CaricaProgramma(cartella);
   Form1 form;
   ricevente = &form;
-  ImpostaPuntatori(piattaforma.ChiUsa(), form.devicePixelRatioF());
+  ImpostaPuntatori(piattaforma.ChiUsa(), form);
   piattaforma.ChiUsa().Finestra(&form);
   piattaforma.ChiUsa().SegueEstrazione(
       [&form](const AvanzamentoEstrazione& a) { return form.SeguiEstrazione(a); });
   piattaforma.FinestraPrincipale(&form.Superficie->Superficie());
   DiciTempi(form);
   form.Mostra();
+  QTimer::singleShot(0, &form, [&] {  // behind the first activation
+    for (const Percorso& altro : inAttesa)
+      form.RiceviDaFuori(altro);
+  });
   return applicazione.exec();
 }
 

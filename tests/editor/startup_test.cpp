@@ -185,6 +185,16 @@ TEST_F(StartupTest, AWindowOfTheProgramQueuesOneActivationForTheEndOfItsCommand)
   EXPECT_EQ(activations(), 1);
 }
 
+TEST_F(StartupTest, AWindowShownByTheFirstActivationQueuesASecondOne) {
+  CaricaProgramma(InFolder(""));
+  MostraAvvio();
+  window.whenPlaced = [] { AccodaAttivazione(); };  // as the tip of the day will
+  window.calls.clear();
+  EseguiComandoDiFinestra(AccodaAttivazione);
+  EXPECT_EQ(std::count(window.calls.begin(), window.calls.end(), "CollocaPicture2"), 1);
+  EXPECT_EQ(std::count(window.calls.begin(), window.calls.end(), "RinfrescaToolbar1"), 2);
+}
+
 TEST_F(StartupTest, SavesWhatTheUserWantsSavedAndEndsEitherWay) {
   RigaDiComando = CrosswordFile("mio.tlrm", {"CASA"});
   const Percorso file = RigaDiComando;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -24,7 +25,8 @@ class RecordingWindow : public FinestraEditor {
   std::set<int> enabledButtons;
   std::map<std::string, bool, std::less<>> enabled;
   std::map<std::string, bool, std::less<>> checked;
-  std::vector<std::string> calls;  // the calls without a state, by their names
+  std::vector<std::string> calls;    // the calls without a state, by their names
+  std::function<void()> whenPlaced;  // what CollocaPicture2, of the first activation, does besides
 
   double AltezzaToolbar1() const override { return toolbarHeight; }
   double AltezzaStatusBar1() const override { return statusBarHeight; }
@@ -52,7 +54,10 @@ class RecordingWindow : public FinestraEditor {
   }
   void MettiGraficaAiMenu() override { calls.push_back("MettiGraficaAiMenu"); }
   void MettiGraficaAMenuFile() override { calls.push_back("MettiGraficaAMenuFile"); }
-  void CollocaPicture2() override { calls.push_back("CollocaPicture2"); }
+  void CollocaPicture2() override {
+    calls.push_back("CollocaPicture2");
+    if (whenPlaced) whenPlaced();
+  }
 };
 
 }  // namespace telarium

@@ -200,7 +200,11 @@ void Form1::Mostra() {
   setGeometry(screen()->availableGeometry());
   MostraAvvio();
   showMaximized();
-  QTimer::singleShot(0, this, [] { EseguiComandoDiFinestra(AccodaAttivazione); });
+  QTimer::singleShot(0, this, [this] { Esegui(AccodaAttivazione); });
+}
+
+QCursor Form1::PuntatoreDelLogo() const {
+  return QCursor(Picture3->pixmap(Qt::ReturnByValue), PuntaDellaMano.x(), PuntaDellaMano.y());
 }
 
 void Form1::Esegui(const std::function<void()>& comando) {

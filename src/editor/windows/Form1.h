@@ -47,6 +47,9 @@ class Form1 : public QMainWindow, public FinestraEditor {
   /// Takes the size of the screen and shows itself, the load of the program being done.
   void Mostra();
 
+  /// The pointer over the logo, the picture of Picture3.
+  QCursor PuntatoreDelLogo() const;
+
   /// Runs a command as a click on its entry does: with the activation that it queues, and with what
   /// came from outside meanwhile behind it.
   void Esegui(const std::function<void()>& comando);
