@@ -15,8 +15,8 @@ namespace {
 constexpr int MargineProvvisorio = 6;  // pixels on each side, for the size of a cell
 constexpr int DistanzaCornice = 2;     // white ground between the cells and the frame
 constexpr double MinCorpoLettere = 6;  // points
-// A settings file can hold any number; type of more than some cells' height shows nothing.
-constexpr int MaxPercentualeCorpo = 400;
+// A settings file can hold any number; as many points as the cell has pixels overfill it already.
+constexpr int MaxPercentualeCorpo = 100;
 
 double Corpo(int percentuale) {
   return LatoCasella / 100.0 * std::clamp(percentuale, 0, MaxPercentualeCorpo);

@@ -134,7 +134,7 @@ TEST_F(RedrawTest, StaysSafeWithAnySettingsAndAnyWindow) {
       surface.width = surface.height = size;
       for (const std::string& type : CallsOf("CorpoCarattere")) {
         EXPECT_GE(std::stod(type), 0) << value << " in " << size;
-        EXPECT_LE(std::stod(type), 4 * std::max<double>(LatoCasella, 6)) << value << " in " << size;
+        EXPECT_LE(std::stod(type), std::max<double>(LatoCasella, 6)) << value << " in " << size;
       }
       EXPECT_GE(LatoCasella, 0);
     }
