@@ -64,6 +64,10 @@ std::string LeggiParola(std::int16_t numero, int lunghezza) {
   return parola;
 }
 
+bool DizionarioLeggibile() {
+  return FileDizionario(PercorsoDizionario()).Aperto();
+}
+
 void AvvisaDizionarioIlleggibile() {
   Avvisa(Unisci("Impossibile leggere il dizionario: ", TestoPercorso(NomeDizionario)));
 }

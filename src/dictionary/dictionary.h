@@ -63,6 +63,9 @@ bool ApriDizionario();
 /// comes as blanks.
 std::string LeggiParola(std::int16_t numero, int lunghezza);
 
+/// Whether the open dictionary's file is there and can be read.
+bool DizionarioLeggibile();
+
 /// Tells the user that the open dictionary cannot be read.
 void AvvisaDizionarioIlleggibile();
 

@@ -17,60 +17,57 @@ namespace {
 
 constexpr const char* FileAiuto = "TELARIUM7.mht";
 constexpr const char* ProgrammaLudarium = "Ludarium.EXE";
-constexpr int AnteprimaDiStampa = -1;  // of ModoGriglia
-constexpr int Modifica = 1;
+// The buttons that a print preview disables.
+constexpr int PrimoPulsanteSenzaAnteprima = 8;
+constexpr int UltimoPulsanteSenzaAnteprima = 20;
 
 constexpr const char* VociDiLingua[NumLingue] = {"MenuL1", "MenuL2", "MenuL3", "MenuL4"};
 
 // What a command that leads out of the grid does first.
 void PrendiCongedo() {
   LaFinestra().TogliLabel1();
-  ImpostaPuntatoreMouse(0);
-}
-
-// Puts a file into the state and into the snapshot; false, told, when it is no crossword. The
-// writer wants the words of the grid.
-bool PrendiCruciverba(const Percorso& nome) {
-  if (!ApriCruciverba(nome) && NumColonne == 0) return false;
-  RicalcolaCaselle();
-  return ScriviIstantanea();
+  ImpostaPuntatoreMouse(PuntatoreFreccia);
 }
 
 }  // namespace
 
 void CambiaModoEdit() {
-  ImpostaPuntatoreMouse(0);
-  ModoGriglia = LaFinestra().EditPremuto() ? Modifica : 0;
+  ImpostaPuntatoreMouse(PuntatoreFreccia);
+  ModoGriglia = LaFinestra().EditPremuto() ? ModoModifica : ModoNeutro;
   RidisegnaSchema();
+}
+
+void EntraInModifica() {
+  LaFinestra().PremiEdit(true);
+  CambiaModoEdit();
 }
 
 void ChiudiAnteprima() {
   FinestraEditor& finestra = LaFinestra();
   PrendiCongedo();
-  for (int numero = 9; numero <= 20; ++numero)
+  for (int numero = PrimoPulsanteSenzaAnteprima; numero <= UltimoPulsanteSenzaAnteprima; ++numero)
     finestra.AbilitaPulsante(numero, true);
-  finestra.AbilitaPulsante(8, true);
   finestra.AbilitaVoce("MenuUtiliti", true);
   finestra.AbilitaVoce("MenuEdit", true);
   finestra.MostraCommand3d15(false);
   RidisegnaSchema();
   finestra.MettiGraficaAiMenu();
-  finestra.PremiEdit(true);
-  CambiaModoEdit();
+  EntraInModifica();
 }
 
 void LasciaAnteprima() {
-  if (ModoGriglia == AnteprimaDiStampa) ChiudiAnteprima();
+  if (ModoGriglia == ModoAnteprima) ChiudiAnteprima();
 }
 
 void SalvaCruciverba() {
   LaFinestra().NascondiShape1();
-  ImpostaPuntatoreMouse(0);
+  ImpostaPuntatoreMouse(PuntatoreFreccia);
   if (LaFinestra().Command3d15Visibile()) ChiudiAnteprima();
   RidisegnaSchema();
   LaFinestra().TogliLabel1();
-  if (NomeCruciverba.empty() || NomeCruciverba == NomeMaiSalvato) {
-    Avvisa("Il cruciverba non ha ancora un nome: non è possibile salvarlo."_cp, {}, Icona::Avviso);
+  if (NumColonne == 0 || NomeCruciverba.empty() || NomeCruciverba == NomeMaiSalvato) {
+    Avvisa("Il cruciverba non ha ancora uno schema o un nome: non è possibile salvarlo."_cp, {},
+           Icona::Avviso);
   } else if (ScriviCruciverba(NomeCruciverba)) {
     SchemaModificato = Falso;
   }
@@ -136,25 +133,22 @@ void ApriAiuto() {
 }
 
 void ApriDaFuori(const Percorso& nome) {
-  ImpostaPuntatoreMouse(0);
+  ImpostaPuntatoreMouse(PuntatoreFreccia);
   LaFinestra().NascondiShape1();
   if (LaFinestra().Command3d15Visibile()) ChiudiAnteprima();
   LaFinestra().TogliLabel1();
   if (SchemaModificato) ChiediSalvataggio();
   std::error_code ignorato;
-  if (!std::filesystem::exists(nome, ignorato)) {
+  if (!std::filesystem::is_regular_file(nome, ignorato)) {
     Avvisa("Errore: file inesistente!");
     return;
   }
-  // Opening empties the state before it reads: the snapshot brings it back when that fails.
-  if (!NomeCruciverba.empty() && !ScriviIstantanea()) return;
-  if (!PrendiCruciverba(nome)) {
-    if (!NomeCruciverba.empty()) LeggiIstantanea();
-    return;
-  }
+  if (ApriCruciverba(nome) == Apertura::Rifiutata) return;
+  RicalcolaCaselle();                     // the writer wants the words of the grid
+  static_cast<void>(ScriviIstantanea());  // a failure has shown its message
   NomeCruciverba = nome;
   SchemaModificato = Falso;
-  ModoGriglia = Modifica;
+  ModoGriglia = ModoModifica;
   LaFinestra().MostraPicture1(false);
 }
 

@@ -5,7 +5,10 @@
 // The commands of the main window that need no dialog of their own.
 namespace telarium {
 
-/// The Edit button of the toolbar has been turned over, or pressed by Menudef: sets ModoGriglia to
+/// Menudef, and whatever leads back to editing: presses the Edit button and runs CambiaModoEdit.
+void EntraInModifica();
+
+/// The Edit button of the toolbar has been turned over, or was pressed: sets ModoGriglia to
 /// whether it is pressed, and redraws.
 void CambiaModoEdit();
 
@@ -17,7 +20,7 @@ void ChiudiAnteprima();
 void LasciaAnteprima();
 
 /// menuSalva: saves under the current name and sets SchemaModificato to 0. A failure shows its
-/// message and leaves both.
+/// message and leaves both, and so does a crossword without a name or without a grid.
 void SalvaCruciverba();
 
 /// Asks whether to save a changed crossword, and does. Either way the caller goes on.
@@ -41,8 +44,8 @@ void LanciaLudarium();
 void ApriAiuto();
 
 /// Opens a crossword that another start of the program was given, as the open dialog does: after
-/// the saving question, for the activation that follows to show. A file that cannot be read shows a
-/// message and leaves the crossword that was there.
+/// the saving question, for the activation that follows to show. A file that is no crossword shows
+/// a message and leaves the one that was there.
 void ApriDaFuori(const Percorso& nome);
 
 /// The check marks of the menus, from the settings and the language as they are.

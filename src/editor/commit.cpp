@@ -8,14 +8,13 @@ namespace telarium {
 namespace {
 
 constexpr int PrimoPulsanteDelCruciverba = 4;
-constexpr int UltimoPulsante = 22;
 constexpr std::string_view VociDelCruciverba[] = {
     "menuSalva",     "MenuSalvaCN", "MenuEdit", "MenuUtiliti", "MenuStampa",
     "MenuAnteprima", "menurl",      "Meno3",    "Menuhtml",    "menujava"};
 
 // The commands that need a crossword.
 void AbilitaComandi(bool abilitati) {
-  for (int numero = PrimoPulsanteDelCruciverba; numero <= UltimoPulsante; ++numero)
+  for (int numero = PrimoPulsanteDelCruciverba; numero <= NumPulsanti; ++numero)
     LaFinestra().AbilitaPulsante(numero, abilitati);
   for (const std::string_view voce : VociDelCruciverba)
     LaFinestra().AbilitaVoce(voce, abilitati);
@@ -34,7 +33,8 @@ void RiprendiSchema() {
   AbilitaComandi(!NomeCruciverba.empty());
   if (NomeCruciverba.empty()) return;
   LaFinestra().MettiGraficaAiMenu();
-  LeggiIstantanea();
+  // A change that never reached the snapshot must not be undone by it.
+  if (!IstantaneaSuperata() || AggiornaIstantanea()) LeggiIstantanea();
   RidisegnaSchema();
 }
 

@@ -4,12 +4,13 @@
 namespace telarium {
 
 /// Commits a change made in Schema: writes the snapshot, reads it back, redraws. When the snapshot
-/// cannot be written (its message shows) the older one is not read back, so that the change stays;
-/// gives whether it could be.
+/// cannot be written (its message shows) the older one is not read back, now or later, so that the
+/// change stays; gives whether it could be.
 bool ConsolidaSchema();
 
 /// Takes over the crossword that a dialog left in the snapshot: allows the commands that need a
-/// crossword, reads it and redraws. While NomeCruciverba is empty those commands are disabled.
+/// crossword, reads it, unless the last writing of the snapshot failed and fails again, and
+/// redraws. While NomeCruciverba is empty those commands are disabled.
 void RiprendiSchema();
 
 }  // namespace telarium

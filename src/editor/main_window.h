@@ -4,6 +4,10 @@
 
 namespace telarium {
 
+// The buttons of Toolbar1 count from 1, separators included.
+inline constexpr int NumPulsanti = 22;
+inline constexpr int PulsanteEdit = 21;
+
 /// What the editor needs of the main window beyond its drawing surface. Controls are meant by the
 /// names they carry. This class itself stands for a program without a window: nothing happens.
 class FinestraEditor {
@@ -24,7 +28,7 @@ class FinestraEditor {
   virtual bool Command3d15Visibile() const { return false; }
   virtual void MostraPicture1(bool) {}
 
-  /// Toolbar buttons by number, from 1; number 21, key Edit, stays pressed.
+  /// Toolbar buttons by number; PulsanteEdit is the one that stays pressed.
   virtual void AbilitaPulsante(int, bool) {}
   virtual void PremiEdit(bool) {}
   virtual bool EditPremuto() const { return false; }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "editor/cell_drawing.h"
 #include "editor/main_window.h"
 #include "editor/settings.h"
 #include "model/crossword_file.h"
@@ -15,12 +16,6 @@ namespace {
 constexpr int MargineProvvisorio = 6;  // pixels on each side, for the size of a cell
 constexpr int DistanzaCornice = 2;     // white ground between the cells and the frame
 constexpr double MinCorpoLettere = 6;  // points
-// A settings file can hold any number; as many points as the cell has pixels overfill it already.
-constexpr int MaxPercentualeCorpo = 100;
-
-double Corpo(int percentuale) {
-  return LatoCasella / 100.0 * std::clamp(percentuale, 0, MaxPercentualeCorpo);
-}
 
 double SinistraDi(int colonna) {
   return (colonna - 1) * LatoCasella + OrigineX;
@@ -60,20 +55,10 @@ void DisegnaCasellaNera(Superficie& superficie, double x, double y, Colore color
   superficie.RiquadroPieno(x + g, y + g, x + LatoCasella - g, y + LatoCasella - g, colore);
 }
 
-void DisegnaLettera(Superficie& superficie, double x, double y, char lettera) {
-  if (NascondiSoluzioni) return;
-  const std::string_view testo(&lettera, 1);
-  const int mezzaLarghezza = ArrotondaPari(superficie.LarghezzaTesto(testo) / 2);
-  const int mezzaAltezza = ArrotondaPari(superficie.AltezzaTesto(testo) / 2);
-  const double meta = LatoCasella / 2.0;
-  superficie.Posizione(meta + x - mezzaLarghezza,
-                       meta + y - mezzaAltezza + LatoCasella / 100.0 * DistanzaDaCentro);
-  superficie.Scrivi(testo);
-}
-
 void DisegnaCaselle(Superficie& superficie) {
-  superficie.CorpoCarattere(std::max(Corpo(AltezzaCaratteri), MinCorpoLettere));
+  superficie.CorpoCarattere(CorpoLettere(LatoCasella, MinCorpoLettere));
   superficie.Carattere(FontDelleLettere());
+  const double meta = LatoCasella / 2.0;
   for (int r = 1; r <= NumRighe; ++r) {
     for (int c = 1; c <= NumColonne; ++c) {
       const double x = SinistraDi(c);
@@ -82,15 +67,15 @@ void DisegnaCaselle(Superficie& superficie) {
       const char lettera = LetteraCasella(c, r);
       if (lettera == CellaNera) {
         DisegnaCasellaNera(superficie, x, y, ColoreCasella(c, r));
-      } else if (lettera != CellaVuota) {
-        DisegnaLettera(superficie, x, y, lettera);
+      } else if (lettera != CellaVuota && !NascondiSoluzioni) {
+        ScriviLettera(superficie, x + meta, y + meta, LatoCasella, lettera);
       }
     }
   }
 }
 
 void DisegnaNumeri(Superficie& superficie) {
-  superficie.CorpoCarattere(Corpo(AltezzaNumeri));
+  superficie.CorpoCarattere(CorpoNumeri(LatoCasella));
   const double distanza = LatoCasella / 100.0 * DistanzaDaSpigolo;
   for (int r = 1; r <= NumRighe; ++r) {
     for (int c = 1; c <= NumColonne; ++c) {
@@ -133,16 +118,6 @@ void RidisegnaSchema() {
   if (!superficie) return;
   DisegnaSchema(*superficie);
   if (HaColori()) AggiornaIstantanea();
-}
-
-double RientroCasellaNera(double lato) {
-  const double m = std::min((100 - PercentualeRiquadro) / 2.0, 50.0);
-  return m < 1 ? 1 : m * lato / 100;
-}
-
-const std::string& FontDelleLettere() {
-  if (NomeFont.empty()) NomeFont = "Arial";
-  return NomeFont;
 }
 
 }  // namespace telarium

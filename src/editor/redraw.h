@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "platform/surface.h"
 
 // The grid as it stands on the main window, between the toolbar and the status bar: as large as the
@@ -15,12 +13,5 @@ inline constexpr Colore ColoreCornice = 0x000080;  // dark red
 /// has a colour the snapshot is written once. With NumColonne 0 nothing happens; without a window
 /// only the tables are set.
 void RidisegnaSchema();
-
-/// Distance of the square of a black cell from the edges of a cell of that side, on every surface:
-/// from one pixel to half the cell.
-double RientroCasellaNera(double lato);
-
-/// The typeface of the letters; an empty NomeFont becomes "Arial".
-const std::string& FontDelleLettere();
 
 }  // namespace telarium

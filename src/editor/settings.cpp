@@ -70,8 +70,12 @@ void InterpretaRiga(std::string_view riga) {
     return riga.find(una.chiave) != std::string_view::npos;
   });
   if (voce == voci.end()) return;
-  const std::int16_t numero = NumeroDi16Bit(ValoreDecimale(riga.substr(riga.find('=') + 1)));
-  voce->valore = voce->lettura == Lettura::VeroOFalso && numero != 0 ? Vero : numero;
+  const double numero = ValoreDecimale(riga.substr(riga.find('=') + 1));
+  if (voce->lettura == Lettura::VeroOFalso) {
+    voce->valore = numero != 0 ? Vero : Falso;  // a fraction is true too
+  } else {
+    voce->valore = NumeroDi16Bit(numero);
+  }
 }
 
 }  // namespace
@@ -98,10 +102,11 @@ EsitoImpostazioni LeggiImpostazioni() {
 
 void ImpostazioniIniziali() {
   PercentualeRiquadro = 95;
-  SpessoreBordo = 1;
-  AltezzaCaratteri = 50;
-  AltezzaNumeri = 5;
-  DistanzaDaSpigolo = DistanzaDaCentro = 0;
+  SpessoreBordo = 2;
+  AltezzaCaratteri = 52;
+  AltezzaNumeri = 18;
+  DistanzaDaSpigolo = 3;
+  DistanzaDaCentro = 6;
 }
 
 void ScriviImpostazioni() {

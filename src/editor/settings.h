@@ -36,7 +36,7 @@ EsitoImpostazioni LeggiImpostazioni();
 /// LeggiImpostazioni for a text of the file's form.
 void InterpretaImpostazioni(std::string_view testo);
 
-/// Gives the geometry the values that a fresh installation starts from.
+/// Gives the geometry the values of the settings file that a fresh installation starts with.
 void ImpostazioniIniziali();
 
 /// Writes all settings to telarium.INI in the program folder. A failure shows its message and

@@ -4,6 +4,7 @@
 
 #include "auxiliary/addresses.h"
 #include "dictionary/dictionary.h"
+#include "editor/cell_drawing.h"
 #include "editor/commands.h"
 #include "editor/commit.h"
 #include "editor/main_window.h"
@@ -60,8 +61,7 @@ void LeggiImpostazioniOTermina() {
 // Whatever could not be opened leaves the program as it is without a crossword.
 void ApriRigaDiComando() {
   FileComando = NomeCruciverba = RigaDiComando;
-  const bool aperto = ApriCruciverba(NomeCruciverba);
-  if (!aperto && NumColonne == 0) {
+  if (ApriCruciverba(NomeCruciverba) == Apertura::Rifiutata) {
     NomeCruciverba.clear();
     LaFinestra().MostraPicture1(true);
     return;

@@ -102,14 +102,13 @@ class Estrazione {
   // Clears the grid and goes once over its slots.
   Seguito Passata() {
     ++avanzamento_.tentativo;
-    avanzamento_.slotPresi = avanzamento_.slotTotali = 0;
+    avanzamento_.slotCollocati = avanzamento_.slotTotali = 0;
     if (Riferisci() == Seguito::Basta) return Seguito::Basta;
     if (!SvuotaGriglia()) return Basta(EsitoEstrazione::NonRegistrata);
     const std::vector<Slot> slot = SlotInOrdine();
     avanzamento_.slotTotali = static_cast<int>(slot.size());
     for (const Slot& uno : slot) {
       Seguito seguito = PrendiSlot(uno);
-      ++avanzamento_.slotPresi;
       if (seguito == Seguito::Avanti) seguito = Riferisci();
       if (seguito != Seguito::Avanti) return seguito;
     }
@@ -188,6 +187,7 @@ class Estrazione {
       ScriviLettera(slot.Cella(k), parola[static_cast<std::size_t>(k) - 1]);
     }
     ParolaCasella(slot.inizio.colonna, slot.inizio.riga, slot.direzione) = parola;
+    ++avanzamento_.slotCollocati;
     pittore_.Dipingi(slot, parola);
   }
 
@@ -244,11 +244,17 @@ EsitoEstrazione EstraiSchema() {
 }
 
 EsitoEstrazione EseguiEstrazione() {
-  ModoGriglia = 0;
+  // What would end the run at its first step leaves the grid as it is.
+  if (!DizionarioLeggibile()) {
+    AvvisaDizionarioIlleggibile();
+    return EsitoEstrazione::SenzaParole;
+  }
+  if (!ScriviIstantanea()) return EsitoEstrazione::NonRegistrata;
+  ModoGriglia = ModoNeutro;
   SchemaModificato = Vero;
-  ImpostaPuntatoreMouse(11);
+  ImpostaPuntatoreMouse(PuntatoreClessidra);
   const EsitoEstrazione esito = Estrazione().Esegui();
-  ImpostaPuntatoreMouse(0);
+  ImpostaPuntatoreMouse(PuntatoreFreccia);
   return esito;
 }
 

@@ -1,11 +1,14 @@
 #include "fill/placed_word.h"
 
-#include <algorithm>
-
-#include "editor/settings.h"
+#include "editor/cell_drawing.h"
 #include "platform/text.h"
 
 namespace telarium {
+namespace {
+
+constexpr double MinCorpo = 5;  // points
+
+}  // namespace
 
 PittoreDiParole::PittoreDiParole(Superficie* finestra) : finestra_(finestra) {
   if (finestra_) semilatoGomma_ = ArrotondaPari(finestra_->CorpoCarattere() / 2) + 2;
@@ -16,7 +19,7 @@ void PittoreDiParole::DirettoSulloSchermo() {
 }
 
 void PittoreDiParole::PreparaCarattere() {
-  if (finestra_) finestra_->CorpoCarattere(std::max(AltezzaCaratteri * LatoCasella / 100.0, 5.0));
+  if (finestra_) finestra_->CorpoCarattere(CorpoLettere(LatoCasella, MinCorpo));
 }
 
 void PittoreDiParole::Dipingi(const Slot& slot, std::string_view parola) {
@@ -34,13 +37,7 @@ void PittoreDiParole::DipingiLettera(Casella cella, char lettera) {
   const int y = centro(cella.riga, OrigineY);
   const int h = semilatoGomma_;
   finestra_->RiquadroPieno(x - h, y - h, x + h, y + h, ColoreBianco);
-
-  const std::string_view testo(&lettera, 1);
-  const int mezzaLarghezza = ArrotondaPari(finestra_->LarghezzaTesto(testo) / 2);
-  const int mezzaAltezza = ArrotondaPari(finestra_->AltezzaTesto(testo) / 2);
-  finestra_->Posizione(x - mezzaLarghezza,
-                       y - mezzaAltezza + DistanzaDaCentro * LatoCasella / 100.0);
-  finestra_->Scrivi(testo);
+  ScriviLettera(*finestra_, x, y, LatoCasella, lettera);
 }
 
 void PittoreDiParole::Fine() {

@@ -1,5 +1,6 @@
 #include "model/crossword_file.h"
 
+#include <array>
 #include <charconv>
 #include <optional>
 
@@ -183,6 +184,45 @@ std::optional<std::string> Contenuto(const Percorso& percorso, const Percorso& n
   return std::nullopt;
 }
 
+// Takes the header and the size; a failure has been told.
+bool PrendiIntestazione(LettoreDiRighe& righe) {
+  if (!LeggiIntestazione(righe)) {
+    Avvisa(MessaggioLettura);
+    return false;
+  }
+  if (!PrendiDimensioni()) {
+    Avvisa("Formato del file non valido! Esecuzione terminata");
+    return false;
+  }
+  return true;
+}
+
+// Takes what follows the header; a failure has been told.
+bool PrendiCorpo(LettoreDiRighe& righe) {
+  if (!LeggiGriglia(righe) || !LeggiDefinizioni(righe)) {
+    Avvisa(MessaggioLettura);
+    return false;
+  }
+  LeggiColori(righe.Resto());
+  return true;
+}
+
+// The header and the size as they are, to put them back.
+class CopiaIntestazione {
+ public:
+  void Ripristina() const {
+    for (int i = 1; i <= RigheIntestazione; ++i)
+      Schema(i) = righe_[static_cast<std::size_t>(i) - 1];
+    NumColonne = colonne_;
+    NumRighe = numRighe_;
+  }
+
+ private:
+  std::array<std::string, RigheIntestazione> righe_ = {Schema(1), Schema(2), Schema(3), Schema(4)};
+  std::int16_t colonne_ = NumColonne;
+  std::int16_t numRighe_ = NumRighe;
+};
+
 bool LeggiDa(const Percorso& percorso, const Percorso& nomeMostrato) {
   const auto contenuto = Contenuto(percorso, nomeMostrato);
   return contenuto && InterpretaCruciverba(*contenuto);
@@ -193,44 +233,41 @@ bool ScriviInSilenzio(const Percorso& percorso, Permanenza permanenza) {
   return testo && !ScriviFile(percorso, *testo, permanenza);
 }
 
-bool ScriviIn(const Percorso& percorso, Permanenza permanenza) {
-  if (ScriviInSilenzio(percorso, permanenza)) return true;
-  Avvisa(MessaggioScrittura);
-  return false;
+bool Riferisci(bool scritto) {
+  if (!scritto) Avvisa(MessaggioScrittura);
+  return scritto;
 }
+
+bool istantaneaSuperata = false;
+
+const AzzeramentoDiSottosistema azzeramento([] { istantaneaSuperata = false; });
 
 }  // namespace
 
 bool InterpretaCruciverba(std::string_view contenuto) {
   LettoreDiRighe righe(contenuto);
-  const auto erroreDiLettura = [] {
-    Avvisa(MessaggioLettura);
-    return false;
-  };
-  if (!LeggiIntestazione(righe)) return erroreDiLettura();
-  if (!PrendiDimensioni()) {
-    Avvisa("Formato del file non valido! Esecuzione terminata");
-    return false;
-  }
-  if (!LeggiGriglia(righe) || !LeggiDefinizioni(righe)) return erroreDiLettura();
-  LeggiColori(righe.Resto());
-  return true;
+  return PrendiIntestazione(righe) && PrendiCorpo(righe);
 }
 
 bool LeggiCruciverba(const Percorso& nome) {
   return LeggiDa(CartellaProgramma / nome, nome);
 }
 
-bool ApriCruciverba(const Percorso& nome) {
+Apertura ApriCruciverba(const Percorso& nome) {
   const auto contenuto = Contenuto(nome, nome);
-  if (!contenuto) return false;
+  if (!contenuto) return Apertura::Rifiutata;
+  LettoreDiRighe righe(*contenuto);
+  const CopiaIntestazione prima;
+  if (!PrendiIntestazione(righe)) {
+    prima.Ripristina();
+    return Apertura::Rifiutata;
+  }
   SvuotaCruciverba();
-  NumColonne = NumRighe = 0;
-  return InterpretaCruciverba(*contenuto);
+  return PrendiCorpo(righe) ? Apertura::Intera : Apertura::Parziale;
 }
 
 bool ScriviCruciverba(const Percorso& nome) {
-  return ScriviIn(nome, Permanenza::SulDisco);
+  return Riferisci(ScriviInSilenzio(nome, Permanenza::SulDisco));
 }
 
 bool LetteraScrivibile(char carattere) {
@@ -244,7 +281,11 @@ bool LeggiIstantanea() {
 }
 
 bool ScriviIstantanea() {
-  return ScriviIn(PercorsoIstantanea(), Permanenza::Provvisoria);
+  return Riferisci(AggiornaIstantanea());
+}
+
+bool IstantaneaSuperata() {
+  return istantaneaSuperata;
 }
 
 void EliminaIstantanea() {
@@ -252,8 +293,9 @@ void EliminaIstantanea() {
   std::filesystem::remove(PercorsoIstantanea(), ignorato);
 }
 
-void AggiornaIstantanea() {
-  ScriviInSilenzio(PercorsoIstantanea(), Permanenza::Provvisoria);
+bool AggiornaIstantanea() {
+  istantaneaSuperata = !ScriviInSilenzio(PercorsoIstantanea(), Permanenza::Provvisoria);
+  return !istantaneaSuperata;
 }
 
 void ScriviDimensioni(int colonne, int righe) {

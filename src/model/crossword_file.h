@@ -28,10 +28,17 @@ inline constexpr std::size_t MaxByteCruciverba = 16u << 20;
 /// read until then stays, and after a bad size both numbers are 0.
 bool LeggiCruciverba(const Percorso& nome);
 
-/// Opens a crossword for the user, by its path as given: as LeggiCruciverba, with SvuotaCruciverba
-/// and a size of 0 before anything of the file is taken. A file that cannot be read at all clears
-/// nothing.
-[[nodiscard]] bool ApriCruciverba(const Percorso& nome);
+/// What became of a crossword that the user wanted opened.
+enum class Apertura {
+  Intera,
+  Parziale,   // up to a read error, which was told
+  Rifiutata,  // told; the state is as it was
+};
+
+/// Opens a crossword for the user, by its path as given: as LeggiCruciverba, but a file that cannot
+/// be read or has no valid header changes nothing, and any other clears by SvuotaCruciverba what is
+/// there before its grid is taken.
+[[nodiscard]] Apertura ApriCruciverba(const Percorso& nome);
 
 /// What LeggiCruciverba does with the contents of a file.
 bool InterpretaCruciverba(std::string_view contenuto);
@@ -44,12 +51,15 @@ bool InterpretaCruciverba(std::string_view contenuto);
 bool LeggiIstantanea();
 [[nodiscard]] bool ScriviIstantanea();
 
+/// Whether the last writing of the snapshot failed: it holds less than the state.
+bool IstantaneaSuperata();
+
 /// Removes the snapshot if there is one.
 void EliminaIstantanea();
 
 /// ScriviIstantanea without a message: for a redraw, which runs at every change of the window's
-/// size. The next commit tells what is wrong.
-void AggiornaIstantanea();
+/// size. The next commit tells what is wrong. Gives whether it could be written.
+bool AggiornaIstantanea();
 
 /// Whether a white cell can hold a character and the file can hold the cell: a letter or another
 /// printable character with a code up to 229.

@@ -6,6 +6,7 @@
 #include "model/table.h"
 #include "platform/files.h"
 #include "platform/surface.h"
+#include "platform/user.h"
 
 // The one current crossword and what is shared about it. There is one thread, and every routine
 // reads and writes these variables directly. Tables count from 1: (column, row), (column, row,
@@ -72,11 +73,15 @@ extern std::int16_t
     LatoCasella;               // side of a cell as last drawn, in pixels; 0 before the first redraw
 extern std::int16_t OrigineX;  // left and top of the grid on the main window, in pixels
 extern std::int16_t OrigineY;
-/// What the mouse does on the grid. Only 1 (editing) and -1 (print preview) are ever tested.
+
+// Values of ModoGriglia. Only ModoModifica and ModoAnteprima are ever tested.
+inline constexpr std::int16_t ModoAnteprima = -1;  // the surface shows a print preview
+inline constexpr std::int16_t ModoNeutro = 0;
+inline constexpr std::int16_t ModoModifica = 1;  // the mouse finds and edits words
+/// What the mouse does on the grid.
 extern std::int16_t ModoGriglia;
-/// Shape of the mouse pointer: 0 arrow, 1 arrow after a search, 2 cross (white-cell tool), 4 icon
-/// (black-cell tool), 7 vertical word, 9 horizontal word, 11 hourglass, 99 custom. Set it through
-/// ImpostaPuntatoreMouse, which keeps the visible shape in step.
+/// Shape of the mouse pointer, a value of platform/user.h, by which the mouse routines decide what
+/// a click means. Set it through ImpostaPuntatoreMouse, which keeps the visible shape in step.
 extern std::int16_t PuntatoreMouse;
 
 // --- Folders ---

@@ -28,9 +28,18 @@ struct RichiestaDiTesto {
 /// How far an automatic fill has come.
 struct AvanzamentoEstrazione {
   std::int64_t tentativo = 0;  // starts of the clearing step so far, from 1
-  int slotPresi = 0;
+  int slotCollocati = 0;       // that have got a word in this attempt
   int slotTotali = 0;
 };
+
+// Shapes of the mouse pointer.
+inline constexpr int PuntatoreFreccia = 0;
+inline constexpr int PuntatoreCasellaBianca = 2;  // a cross: the white-cell tool
+inline constexpr int PuntatoreCasellaNera = 4;    // a picture: the black-cell tool
+inline constexpr int PuntatoreVerticale = 7;      // over a vertical word
+inline constexpr int PuntatoreOrizzontale = 9;    // over a horizontal word
+inline constexpr int PuntatoreClessidra = 11;
+inline constexpr int PuntatoreMano = 99;  // a picture: over the logo, or in a search of clues
 
 /// The person at the machine, as the core speaks to them.
 class Utente {
@@ -49,7 +58,7 @@ class Utente {
   /// Called at each slot and each restart of a fill. False: the user wants it to stop.
   virtual bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) = 0;
 
-  /// Gives the mouse pointer the shape of a value of PuntatoreMouse.
+  /// Gives the mouse pointer one of the shapes above.
   virtual void FormaPuntatore(int forma) = 0;
 
   virtual void SegnaleAcustico() = 0;

@@ -18,7 +18,7 @@ namespace {
 // Opens the crossword of the command line, as the desktop does at its start.
 bool Apri(const std::string& file) {
   NomeCruciverba = file;
-  if (!ApriCruciverba(NomeCruciverba)) return false;
+  if (ApriCruciverba(NomeCruciverba) != Apertura::Intera) return false;
   RidisegnaSchema();
   return true;
 }

@@ -4,6 +4,7 @@
 #include "crossworddialogs/model_file.h"
 #include "dictionary/dictionary.h"
 #include "editor/redraw.h"
+#include "editor/settings.h"
 #include "model/crossword_file.h"
 #include "model/words.h"
 #include "support/telarium_test.h"
@@ -105,13 +106,19 @@ TEST_F(DataTest, StandardModelsAreGoodGrids) {
   EXPECT_GE(withoutVeryLong, 6);
 }
 
+TEST_F(DataTest, SettingsFileHoldsTheInitialSettings) {
+  ImpostazioniIniziali();
+  ScriviImpostazioni();
+  EXPECT_EQ(ReadFile(InFolder("telarium.INI")), ReadFile(Data("telarium.INI")));
+}
+
 TEST_F(DataTest, SampleCrosswordsAreComplete) {
   const Percorso folder = Data("Archivio cruciverba");
   const std::vector<Percorso> samples = ElencaFile(folder, "*.tlrm");
   EXPECT_EQ(samples.size(), 3u);
   for (const Percorso& sample : samples) {
     SCOPED_TRACE(sample.string());
-    ASSERT_TRUE(ApriCruciverba(folder / sample));
+    ASSERT_EQ(ApriCruciverba(folder / sample), Apertura::Intera);
     RidisegnaSchema();
     PerOgniParola([](const Slot& slot) {
       const auto [c, r] = slot.inizio;

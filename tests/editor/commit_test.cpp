@@ -43,6 +43,23 @@ TEST_F(Commit, SnapshotThatCannotBeWrittenIsToldAndTheChangeStays) {
   EXPECT_EQ(Schema(5) + ParolaCasella(1, 1, Orizzontale), "X.B.XB");
 }
 
+TEST_F(Commit, ChangeThatMissedTheSnapshotIsNotUndoneByALaterActivation) {
+  Draw({"AB"});
+  NomeCruciverba = "mio.tlrm";
+  ASSERT_TRUE(ConsolidaSchema());
+  const std::string older = ReadFile(PercorsoIstantanea());
+  CartellaIstantanea = InFolder("manca");
+  Schema(5)[0] = 'X';
+  ConsolidaSchema();
+  user.TakeTexts();
+  RiprendiSchema();  // nothing new is told
+  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "XB");
+  CartellaIstantanea.clear();  // there is room again
+  RiprendiSchema();
+  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "XB");
+  EXPECT_NE(ReadFile(PercorsoIstantanea()), older);
+}
+
 TEST_F(Commit, TakingOverNeedsACrosswordAndClearsNothing) {
   Draw({"AB"});
   ConsolidaSchema();

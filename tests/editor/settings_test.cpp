@@ -54,6 +54,7 @@ TEST_F(SettingsTest, TakesTheFirstKeyOfALineAndWhatItsNumberIs) {
            Case{"AltezzaNumeri=--5", AltezzaNumeri, 0},
            Case{"StampaSoluzioni=7", StampaSoluzioni, 7},
            Case{"RettangoloParola=7", RettangoloParola, Vero},
+           Case{"TastoSin=0.3", TastoSin, Vero},
            Case{"a=4 AltezzaNumeri=9", AltezzaNumeri, 4},  // behind the first "="
            Case{"AltezzaNumeri 9", AltezzaNumeri, 33},
            Case{"altezzanumeri=9", AltezzaNumeri, 33},

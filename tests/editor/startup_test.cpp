@@ -117,6 +117,16 @@ TEST_F(StartupTest, AHostileCommandLineLeavesNoCrossword) {
   EXPECT_EQ(user.TakeTexts().size(), 1u);
 }
 
+TEST_F(StartupTest, ACommandLineThatCannotBeTakenToTheSnapshotIsOpenAllTheSame) {
+  RigaDiComando = CrosswordFile("mio.tlrm", {"CASA"});
+  CaricaProgramma(InFolder(""));
+  CartellaIstantanea = InFolder("manca");
+  MostraAvvio();
+  AttivaForm1();
+  EXPECT_EQ(user.TakeTexts(), std::vector<std::string>{"Errore di scrittura del file!"});
+  EXPECT_EQ(Drawing(), (std::vector<std::string>{"CASA"}));
+}
+
 TEST_F(StartupTest, AMissingSettingsFileOrDictionaryEndsTheProgram) {
   fs::remove(InFolder("LessicoItaliano.dat"));
   EXPECT_THROW(Start(), ProgramEnded);
@@ -227,7 +237,12 @@ TEST_F(StartupTest, SavesWhatTheUserWantsSavedAndEndsEitherWay) {
   NomeCruciverba = InFolder("nowhere/mio.tlrm");
   SalvaCruciverba();
   EXPECT_EQ(SchemaModificato, Vero);
-  EXPECT_EQ(user.TakeTexts().size(), 2u) << "neither could be saved";
+  NomeCruciverba = file;
+  NumColonne = NumRighe = 0;  // a damaged snapshot was read
+  const std::string whole = ReadFile(file);
+  SalvaCruciverba();
+  EXPECT_EQ(ReadFile(file), whole);
+  EXPECT_EQ(user.TakeTexts().size(), 3u) << "none could be saved";
 }
 
 TEST_F(StartupTest, ClosingAPreviewAllowsAllCommandsAndEntersEditing) {
@@ -292,13 +307,19 @@ TEST_F(StartupTest, AFileFromOutsideIsOpenedAfterTheSavingQuestionOrLeavesEveryt
   Start();
   Definizione(1, 1, Orizzontale) = "Non salvata";
   ConsolidaSchema();
-  for (const Percorso& bad : {InFolder("missing.tlrm"), WriteFile("bad.tlrm", "x")}) {
+  const Percorso tooBig = WriteFile("big.tlrm", ReadFile(other));
+  fs::resize_file(tooBig, MaxByteCruciverba + 1);
+  Definizione(2, 1, Orizzontale) = "Di nessuna parola";
+  for (const Percorso& bad :
+       {InFolder("missing.tlrm"), InFolder(""), tooBig, WriteFile("bad.tlrm", "x"),
+        WriteFile("size.tlrm", "a\r\nb\r\nc\r\nDimensioni : 99x99\r\n")}) {
     ApriDaFuori(bad);
     AttivaForm1();
     EXPECT_EQ(user.TakeTexts().size(), 1u);
     EXPECT_EQ(NomeCruciverba, mine);
     EXPECT_EQ(Drawing(), (std::vector<std::string>{"CASA"}));
     EXPECT_EQ(Definizione(1, 1, Orizzontale), "Non salvata");
+    EXPECT_EQ(Definizione(2, 1, Orizzontale), "Di nessuna parola");
   }
   SchemaModificato = Vero;
   user.Answer(Risposta::Annulla);

@@ -68,11 +68,11 @@ class ExtractionTest : public TelariumTest {
     return Joined(Drawing());
   }
 
-  // The polls as "attempt:taken/all".
+  // The polls as "attempt:placed/all".
   std::string Polls() const {
     std::string polls;
     for (const auto& p : user.polls) {
-      polls += Unisci(' ', p.tentativo, ':', p.slotPresi, '/', p.slotTotali);
+      polls += Unisci(' ', p.tentativo, ':', p.slotCollocati, '/', p.slotTotali);
     }
     return polls;
   }
@@ -151,7 +151,7 @@ TEST_F(ExtractionTest, DeadEndsAreTold) {
     DrawJoined(row.drawing);
     OpenDictionary(row.words);
     user.StopFillWhen([&](const AvanzamentoEstrazione& progress) {
-      if (progress.slotPresi == 1 && !row.laterWords.empty()) OpenDictionary(row.laterWords);
+      if (progress.slotCollocati == 1 && !row.laterWords.empty()) OpenDictionary(row.laterWords);
       return false;
     });
     EXPECT_EQ(LettersHidden(Run(), row.filled), row.filled);
@@ -189,7 +189,7 @@ TEST_F(ExtractionTest, EndlessRunAsksNothingAndStopsAtAPoll) {
 
   OpenDictionary({"LIBRO"});
   const auto atSlotOfAttempt100 = [](const AvanzamentoEstrazione& p) {
-    return p.tentativo == 100 && p.slotPresi == 1;
+    return p.tentativo == 100 && p.slotCollocati == 1;
   };
   user.StopFillWhen(atSlotOfAttempt100);
   EXPECT_EQ(Run(EsitoEstrazione::Interrotta), TeeWithLibro);
@@ -200,9 +200,29 @@ TEST_F(ExtractionTest, EndlessRunAsksNothingAndStopsAtAPoll) {
 TEST_F(ExtractionTest, DictionaryThatGoesAwayEndsTheRun) {
   DrawJoined(TeeGrid);
   OpenDictionary(TeeWords);
-  std::filesystem::remove(InFolder(NomeDizionario));
+  user.StopFillWhen([&](const AvanzamentoEstrazione&) {
+    std::filesystem::remove(InFolder(NomeDizionario));
+    return false;
+  });
   EXPECT_EQ(Run(EsitoEstrazione::SenzaParole), TeeGrid);
   EXPECT_EQ(user.TakeTexts(), Words{"Impossibile leggere il dizionario: LessicoItaliano.dat"});
+}
+
+TEST_F(ExtractionTest, RunThatCannotBeginLeavesTheGridAsItIs) {
+  OpenDictionary(TeeWords);
+  DrawJoined("CASA");
+  Definizione(1, 1, 1) = "Vi si abita";
+  const auto refused = [this](EsitoEstrazione expected) {
+    EXPECT_EQ(EseguiEstrazione(), expected);
+    EXPECT_EQ(user.TakeTexts().size(), 1u);
+    EXPECT_EQ(Joined(Drawing()) + Definizione(1, 1, 1), "CASAVi si abita");
+    EXPECT_EQ(SchemaModificato, Falso);
+  };
+  CartellaIstantanea = InFolder("manca");
+  refused(EsitoEstrazione::NonRegistrata);
+  CartellaIstantanea.clear();
+  std::filesystem::remove(InFolder(NomeDizionario));
+  refused(EsitoEstrazione::SenzaParole);
 }
 
 TEST_F(ExtractionTest, LongSlotsComeFirstThenReadingOrderThenHorizontal) {
@@ -249,7 +269,8 @@ TEST_F(ExtractionTest, WordsOfNoLettersLeaveACrosswordThatCanBeSaved) {
   EseguiEstrazione();
   user.TakeTexts();  // whether anything is told of it is open
   const Percorso saved = InFolder("saved.tlrm");
-  EXPECT_TRUE(!ScriviCruciverba(saved) || ApriCruciverba(saved)) << "written, but unreadable";
+  EXPECT_TRUE(!ScriviCruciverba(saved) || ApriCruciverba(saved) == Apertura::Intera)
+      << "written, but unreadable";
   user.TakeTexts();
 }
 
@@ -268,11 +289,26 @@ TEST_F(ExtractionTest, WordThatACrosswordCannotHoldCountsAsNone) {
   }
 }
 
+TEST_F(ExtractionTest, NoSettingsMakeTheLettersLargerThanTheirCells) {
+  RecordingSurface& surface = platform.window;
+  PittoreDiParole painter(&surface);
+  LatoCasella = 31;
+  const std::pair<int, double> types[] = {{-5, 5}, {0, 5}, {50, 15.5}, {100, 31}, {32767, 31}};
+  for (const auto& [percent, type] : types) {
+    AltezzaCaratteri = static_cast<std::int16_t>(percent);
+    painter.PreparaCarattere();
+    EXPECT_EQ(surface.CorpoCarattere(), type) << percent;
+  }
+}
+
 TEST_F(ExtractionTest, SnapshotThatCannotBeWrittenEndsTheRunAtOnce) {
   OpenDictionary(TeeWords);
   DrawJoined(TeeGrid);
-  CartellaIstantanea = InFolder("manca");
   ProvaInfinita = Vero;
+  user.StopFillWhen([&](const AvanzamentoEstrazione&) {
+    CartellaIstantanea = InFolder("manca");
+    return false;
+  });
   Run(EsitoEstrazione::NonRegistrata);
   EXPECT_EQ(user.TakeTexts(), Words{"Errore di scrittura del file!"});
 }

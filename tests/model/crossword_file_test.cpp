@@ -54,7 +54,7 @@ TEST_F(CrosswordFile, IsWrittenToTheByteAndComesBack) {
   EXPECT_EQ(Schema(6), "*..*");
 
   Draw({"#"});
-  ASSERT_TRUE(ApriCruciverba(path));
+  ASSERT_EQ(ApriCruciverba(path), Apertura::Intera);
   EXPECT_EQ(Schema(6) + Definizione(1, 3, Orizzontale), "**..  rientrata");
   RicalcolaCaselle();
   EXPECT_TRUE(ScriviCruciverba(path));
@@ -146,7 +146,7 @@ TEST_F(CrosswordFile, OpeningClearsTheEarlierCrosswordAndReadingDoesNot) {
   EXPECT_TRUE(LeggiCruciverba("uno.tlrm"));
   EXPECT_EQ(Definizione(9, 9, Verticale), "di prima");
   EXPECT_EQ(ColoreCasella(9, 9), 5);
-  EXPECT_TRUE(ApriCruciverba(path));
+  EXPECT_EQ(ApriCruciverba(path), Apertura::Intera);
   EXPECT_EQ(Definizione(9, 9, Verticale), "");
   EXPECT_EQ(ColoreCasella(9, 9), 0);
 }
@@ -160,7 +160,7 @@ TEST_F(CrosswordFile, IsRefusedPastSixteenMegabytesAndMissingEndsTheProgram) {
   EXPECT_EQ(user.TakeTexts(), ReadError);
   // What cannot be read at all costs the open crossword nothing.
   Definizione(1, 1, Orizzontale) = "resta";
-  EXPECT_FALSE(ApriCruciverba(path));
+  EXPECT_EQ(ApriCruciverba(path), Apertura::Rifiutata);
   EXPECT_EQ(user.TakeTexts(), ReadError);
   EXPECT_EQ(Definizione(1, 1, Orizzontale), "resta");
 

@@ -53,8 +53,9 @@ void PannelloEstrazione::paintEvent(QPaintEvent* evento) {
 }
 
 QString PannelloEstrazione::Testo() const {
-  const QString parole =
-      QStringLiteral("Parole: %1 di %2").arg(avanzamento_.slotPresi).arg(avanzamento_.slotTotali);
+  const QString parole = QStringLiteral("Parole: %1 di %2")
+                             .arg(avanzamento_.slotCollocati)
+                             .arg(avanzamento_.slotTotali);
   if (!infinita_) return parole;
   const qint64 trascorsi = std::max<qint64>(daInizio_.elapsed(), 1);
   return QStringLiteral("Tentativo %1 (%2 al secondo)   %3")

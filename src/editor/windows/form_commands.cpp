@@ -21,15 +21,10 @@ void CommutaProvaInfinita(Form1& form) {
   form.SpuntaVoce("MenuInf", ProvaInfinita);
 }
 
-void EntraInModifica(Form1& form) {
-  form.PremiEdit(true);
-  CambiaModoEdit();
-}
-
-// The run leaves the grid in no mode; behind the button, editing begins again.
+// The run leaves the grid in no mode; behind the button, the one of the Edit button holds again.
 void EstraiDalPulsante(Form1& form) {
   form.Estrai();
-  EntraInModifica(form);
+  CambiaModoEdit();
 }
 
 template <int Lingua>
@@ -45,7 +40,7 @@ void VaiA(Form1&) {
 constexpr ComandoDiVoce comandi[] = {
     {"menuSalva", [](Form1&) { SalvaCruciverba(); }},
     {"MenuEsci", [](Form1&) { EsciDalProgramma(); }},
-    {"Menudef", EntraInModifica},
+    {"Menudef", [](Form1&) { EntraInModifica(); }},
     {"MenuLudarium", [](Form1&) { LanciaLudarium(); }},
     {"MenuEstrazione", [](Form1& form) { form.Estrai(); }},
     {"menuRidisegna", [](Form1&) { ChiudiAnteprima(); }},
@@ -97,7 +92,7 @@ AzioneDiPulsante AzioneDelPulsante(std::string_view chiave) {
   const auto trovata =
       std::find_if(std::begin(pulsanti), std::end(pulsanti),
                    [chiave](const AzioneDiPulsante& una) { return una.chiave == chiave; });
-  return trovata == std::end(pulsanti) ? AzioneDiPulsante{chiave} : *trovata;
+  return trovata == std::end(pulsanti) ? AzioneDiPulsante{} : *trovata;
 }
 
 bool HaComando(const AzioneDiPulsante& azione) {

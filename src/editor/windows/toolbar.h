@@ -5,10 +5,9 @@
 #include <array>
 #include <functional>
 
-namespace telarium {
+#include "editor/main_window.h"
 
-inline constexpr int NumPulsanti = 22;
-inline constexpr int PulsanteEdit = 21;
+namespace telarium {
 
 /// The toolbar Toolbar1 of Form1: 22 buttons, numbered from 1, separators included. Each button is
 /// an action whose objectName is its key.

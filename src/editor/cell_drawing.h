@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "platform/surface.h"
+
+// How a cell of the grid looks, on every surface that shows one: the main window, a preview, a
+// printed page. Lengths are in units of the surface; types are in points.
+namespace telarium {
+
+/// Distance of the square that fills a black cell from the edges of a cell of that side; never so
+/// much that the square turns inside out.
+double RientroCasellaNera(double lato);
+
+/// Type size of the letters for cells of that side, from AltezzaCaratteri: at least `minimo`, and
+/// no larger than a letter that overfills its cell already, whatever the settings say.
+double CorpoLettere(double lato, double minimo);
+
+/// Type size of the clue numbers, from AltezzaNumeri, within the same bounds.
+double CorpoNumeri(double lato);
+
+/// Writes a letter in the surface's type round the middle of a cell of that side, moved down by
+/// DistanzaDaCentro.
+void ScriviLettera(Superficie& superficie, double centroX, double centroY, double lato,
+                   char lettera);
+
+/// The typeface of the letters; an empty NomeFont becomes "Arial".
+const std::string& FontDelleLettere();
+
+}  // namespace telarium
