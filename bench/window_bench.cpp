@@ -43,13 +43,13 @@ void BM_Redraw(benchmark::State& state, Form1& form) {
   FullGrid();
   for (auto _ : state) {
     RidisegnaSchema();
-    benchmark::DoNotOptimize(form.Superficie->Superficie().Immagine());
+    benchmark::DoNotOptimize(form.Area->Superficie().Immagine());
   }
 }
 
 void BM_Repaint(benchmark::State& state, Form1& form) {
   FullGrid();
-  SuperficieQt& surface = form.Superficie->Superficie();
+  SuperficieQt& surface = form.Area->Superficie();
   QImage screen(surface.Immagine().size(), QImage::Format_RGB32);
   for (auto _ : state) {
     QPainter painter(&screen);
@@ -103,7 +103,7 @@ int Main() {
   CaricaProgramma(TELARIUM_DATA_DIR);
   CartellaIstantanea = temporary.Nome();
   Form1 form;
-  platform.surface = &form.Superficie->Superficie();
+  platform.surface = &form.Area->Superficie();
   platform.hasWindow = true;
   form.Mostra();
   form.showNormal();

@@ -50,6 +50,10 @@ void EseguiComandoDiFinestra(const std::function<void()>& comando) {
   AttivaSeInCoda();
 }
 
+bool ComandoInCorso() {
+  return comandiInCorso > 0;
+}
+
 void AccodaAttivazione() {
   attivazioneInCoda = true;
   AttivaSeInCoda();

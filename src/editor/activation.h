@@ -12,6 +12,9 @@ namespace telarium {
 /// exception, which is how the program ends in tests, drops it.
 void EseguiComandoDiFinestra(const std::function<void()>& comando);
 
+/// Whether a command, or an activation, is running.
+bool ComandoInCorso();
+
 /// Queues one activation for the end of the running command, however often it is called; outside of
 /// a command it runs at once; inside of an activation, behind it. Called after each of the
 /// program's own windows that was shown modally, never for message boxes, input boxes and dialogs

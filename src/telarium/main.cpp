@@ -27,9 +27,6 @@ constexpr const char* Uso =
     "  --help     mostra questo testo\n"
     "  --version  mostra la versione\n";
 
-constexpr int FormaCasellaNera = 4;
-constexpr int FormaMano = 99;
-
 // What is no option is one file name as it was typed, blanks between its words.
 Percorso FileDellaRigaDiComando(int argc, char** argv) {
   std::string riga;
@@ -49,13 +46,14 @@ bool SchermoPresente() {
 }
 
 void ImpostaPuntatori(UtenteQt& utente, const Form1& form) {
-  utente.Immagine(FormaCasellaNera, PuntatoreDi("black_pointer", {6, 6}, form.devicePixelRatioF()));
-  utente.Immagine(FormaMano, form.PuntatoreDelLogo());
+  utente.Immagine(PuntatoreCasellaNera,
+                  PuntatoreDi("black_pointer", {6, 6}, form.devicePixelRatioF()));
+  utente.Immagine(PuntatoreMano, form.PuntatoreDelLogo());
 }
 
 void DiciTempi(Form1& form) {
   if (!std::getenv("TELARIUM_TEMPI")) return;
-  form.Superficie->QuandoDipinta([] {
+  form.Area->QuandoDipinta([] {
     std::fprintf(stderr, "avvio: %lld ms fino alla prima immagine\n",
                  static_cast<long long>(EtaDelProcesso().count()));
   });
@@ -69,7 +67,7 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
 
   UnicaIstanza istanza(cartella);
   Form1* ricevente = nullptr;
-  std::vector<Percorso> inAttesa;  // what comes while the load asks something
+  std::vector<Percorso> inAttesa;  // what comes before the first activation
   const bool prima = istanza.Prima([&](const Percorso& altro) {
     if (ricevente) {
       ricevente->RiceviDaFuori(altro);
@@ -87,15 +85,15 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
   RigaDiComando = file;
   CaricaProgramma(cartella);
   Form1 form;
-  ricevente = &form;
   ImpostaPuntatori(piattaforma.ChiUsa(), form);
   piattaforma.ChiUsa().Finestra(&form);
   piattaforma.ChiUsa().SegueEstrazione(
       [&form](const AvanzamentoEstrazione& a) { return form.SeguiEstrazione(a); });
-  piattaforma.FinestraPrincipale(&form.Superficie->Superficie());
+  piattaforma.FinestraPrincipale(&form.Area->Superficie());
   DiciTempi(form);
   form.Mostra();
   QTimer::singleShot(0, &form, [&] {  // behind the first activation
+    ricevente = &form;
     for (const Percorso& altro : inAttesa)
       form.RiceviDaFuori(altro);
   });

@@ -8,6 +8,8 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QTimer>
+#include <algorithm>
+#include <utility>
 
 #include "auxiliary/addresses.h"
 #include "editor/activation.h"
@@ -22,6 +24,7 @@
 #include "platform/check.h"
 #include "platform/platform.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/qt_user.h"
 
 namespace telarium {
 namespace {
@@ -36,20 +39,18 @@ constexpr int SchermoPiccolo = 700;    // pixels: narrower ones get the small sp
 constexpr int MargineCommand3d15 = 8;  // pixels
 constexpr QPoint PuntaDellaMano(11, 2);
 
-constexpr int FormaPuntatoreLogo = 99;
-
 constexpr int InPixel(int twip) {
   return (twip + TwipPerPixel - 1) / TwipPerPixel;
 }
 
-// The check marks that the window starts with stand in the state.
+// The entries that carry a check mark.
 bool ConSpunta(std::string_view nome) {
   constexpr std::string_view voci[] = {"MenuInf", "MenuL1",  "MenuL2",  "MenuL3",
                                        "MenuL4",  "MenuVis", "Menurett"};
   return std::find(std::begin(voci), std::end(voci), nome) != std::end(voci);
 }
 
-// The captions that are configured.
+// The caption of an entry that has none in the table: it is configured.
 QString TestoConfigurato(std::string_view nome) {
   struct Testo {
     std::string_view voce;
@@ -63,6 +64,10 @@ QString TestoConfigurato(std::string_view nome) {
     if (voce == nome) return AQt(ValoreIndirizzo(valore)).replace(u'&', QStringLiteral("&&"));
   }
   return {};
+}
+
+AzioneDiPulsante AzioneDi(const QAction& pulsante) {
+  return AzioneDelPulsante(pulsante.objectName().toStdString());
 }
 
 }  // namespace
@@ -85,18 +90,18 @@ Form1::~Form1() {
 }
 
 void Form1::CreaControlli() {
-  Superficie = new AreaDisegno(this);
-  setCentralWidget(Superficie);
-  Picture1 = new QLabel(Superficie);
-  Shape1 = new RettangoloDiParola(Superficie);
-  Label1 = new QLabel(Superficie);
-  Toolbar1 = new BarraStrumenti(Superficie);
-  StatusBar1 = new BarraDiStato(Superficie);
-  Avanzamento = new PannelloEstrazione(Superficie);
-  Picture2 = new QLabel(Superficie);
-  Picture3 = new QLabel(Superficie);
-  Command3d15 = new QPushButton(QStringLiteral("Chiudi"), Superficie);
-  Command1 = new QPushButton(Superficie);
+  Area = new AreaDisegno(this);
+  setCentralWidget(Area);
+  Picture1 = new QLabel(Area);
+  Shape1 = new RettangoloDiParola(Area);
+  Label1 = new QLabel(Area);
+  Toolbar1 = new BarraStrumenti(Area);
+  StatusBar1 = new BarraDiStato(Area);
+  Avanzamento = new PannelloEstrazione(Area);
+  Picture2 = new QLabel(Area);
+  Picture3 = new QLabel(Area);
+  Command3d15 = new QPushButton(QStringLiteral("Chiudi"), Area);
+  Command1 = new QPushButton(Area);
   const std::pair<QWidget*, QStringView> nomi[] = {
       {Picture1, u"Picture1"}, {Picture2, u"Picture2"},       {Picture3, u"Picture3"},
       {Label1, u"Label1"},     {Command3d15, u"Command3d15"}, {Command1, u"Command1"}};
@@ -126,8 +131,8 @@ void Form1::CreaControlli() {
   connect(Command3d15, &QPushButton::clicked, this, [this] { Esegui(ChiudiAnteprima); });
   StatusBar1->QuandoPremuta([this] { Voce("MenuInfo").trigger(); });
   Toolbar1->QuandoPassaIlMouse([this] { PassaSu(true); });
-  Superficie->QuandoPassaIlMouse([this] { PassaSu(false); });
-  Superficie->QuandoCambiaMisura([this] { CambiataMisura(); });
+  Area->QuandoPassaIlMouse([this] { PassaSu(false); });
+  Area->QuandoCambiaMisura([this] { CambiataMisura(); });
 }
 
 void Form1::CreaMenu() {
@@ -175,9 +180,7 @@ void Form1::CollegaPulsanti() {
 }
 
 void Form1::PremutoPulsante(int numero) {
-  const QByteArray chiave = Toolbar1->Pulsante(numero).objectName().toLatin1();
-  const AzioneDiPulsante azione =
-      AzioneDelPulsante({chiave.data(), static_cast<std::size_t>(chiave.size())});
+  const AzioneDiPulsante azione = AzioneDi(Toolbar1->Pulsante(numero));
   Esegui([&] {
     if (!azione.menu.empty()) {
       Voce(azione.menu).menu()->popup(Toolbar1->SottoIlPulsante(numero));
@@ -209,18 +212,14 @@ QCursor Form1::PuntatoreDelLogo() const {
 
 void Form1::Esegui(const std::function<void()>& comando) {
   if (estrazioneInCorso_) return;
-  ++comandiInCorso_;
   EseguiComandoDiFinestra(comando);
-  --comandiInCorso_;
-  if (comandiInCorso_ == 0) ApriRicevuti();
+  if (!ComandoInCorso()) ApriRicevuti();
 }
 
 void Form1::RiceviDaFuori(const Percorso& nome) {
-  if (isMinimized()) setWindowState(windowState() & ~Qt::WindowMinimized);
-  raise();
-  activateWindow();
+  PortaInPrimoPiano(*this);
   if (!nome.empty()) ricevuti_.push_back(nome);
-  if (comandiInCorso_ == 0) ApriRicevuti();
+  if (!ComandoInCorso()) ApriRicevuti();
 }
 
 void Form1::ApriRicevuti() {
@@ -243,7 +242,7 @@ void Form1::Estrai() {
     Picture2->setEnabled(!si);
     esc_->setEnabled(si);
   };
-  Avanzamento->Inizia();
+  Shape1->hide();
   inCorso(true);
   EstraiSchema();
   Avanzamento->hide();
@@ -261,7 +260,8 @@ bool Form1::SeguiEstrazione(const AvanzamentoEstrazione& avanzamento) {
 }
 
 void Form1::Titolo(std::string_view titolo) {
-  setWindowTitle(AQt(titolo));
+  // "[*]" alone would be Qt's mark of a modified file.
+  setWindowTitle(AQt(titolo).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
 void Form1::MostraPicture1(bool visibile) {
@@ -277,10 +277,7 @@ void Form1::MostraPicture1(bool visibile) {
 
 void Form1::AbilitaPulsante(int numero, bool abilitato) {
   QAction& pulsante = Toolbar1->Pulsante(numero);
-  const QByteArray chiave = pulsante.objectName().toLatin1();
-  const AzioneDiPulsante azione =
-      AzioneDelPulsante({chiave.data(), static_cast<std::size_t>(chiave.size())});
-  pulsante.setEnabled(abilitato && HaComando(azione));
+  pulsante.setEnabled(abilitato && HaComando(AzioneDi(pulsante)));
 }
 
 void Form1::PremiEdit(bool premuto) {
@@ -311,14 +308,14 @@ void Form1::MettiGraficaAMenuFile() {
 }
 
 void Form1::CollocaPicture2() {
-  Picture2->move(Superficie->width() - Picture2->width() - InPixel(DistanzaPicture2),
+  Picture2->move(Area->width() - Picture2->width() - InPixel(DistanzaPicture2),
                  (Toolbar1->height() - Picture2->height()) / 2);
 }
 
 // Puts the controls in their places on the surface as large as it is now.
 void Form1::Disponi() {
-  const int larghezza = Superficie->width();
-  const int altezza = Superficie->height();
+  const int larghezza = Area->width();
+  const int altezza = Area->height();
   Toolbar1->setGeometry(0, 0, larghezza, Toolbar1->sizeHint().height());
   const int altezzaStato = StatusBar1->sizeHint().height();
   StatusBar1->setGeometry(0, altezza - altezzaStato, larghezza, altezzaStato);
@@ -332,6 +329,7 @@ void Form1::Disponi() {
 
 void Form1::CambiataMisura() {
   Disponi();
+  TogliLabel1();  // parked below the old height, it would come into view
   // A running fill holds the grid's tables and geometry.
   misuraCambiata_ = estrazioneInCorso_;
   if (isMinimized() || estrazioneInCorso_) return;
@@ -343,16 +341,14 @@ void Form1::CambiataMisura() {
 }
 
 void Form1::PassaSu(bool suToolbar1) {
-  constexpr int AttrezzoBianco = 2;
-  constexpr int AttrezzoNero = 4;
   if (!suToolbar1) {
-    if (PuntatoreMouse == FormaPuntatoreLogo) ImpostaPuntatoreMouse(0);
+    if (PuntatoreMouse == PuntatoreMano) ImpostaPuntatoreMouse(PuntatoreFreccia);
     return;
   }
   TogliLabel1();
-  const bool tenuto = PuntatoreMouse == FormaPuntatoreLogo || PuntatoreMouse == AttrezzoNero ||
-                      PuntatoreMouse == AttrezzoBianco;
-  if (!tenuto && PuntatoreMouse != 0) ImpostaPuntatoreMouse(0);
+  const bool tenuto = PuntatoreMouse == PuntatoreMano || PuntatoreMouse == PuntatoreCasellaNera ||
+                      PuntatoreMouse == PuntatoreCasellaBianca;
+  if (!tenuto && PuntatoreMouse != PuntatoreFreccia) ImpostaPuntatoreMouse(PuntatoreFreccia);
 }
 
 void Form1::closeEvent(QCloseEvent* evento) {
@@ -360,10 +356,10 @@ void Form1::closeEvent(QCloseEvent* evento) {
 }
 
 bool Form1::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (oggetto == Picture2) {
+  if (oggetto == Picture2 && !estrazioneInCorso_) {
     switch (evento->type()) {
       case QEvent::MouseMove:
-        if (PuntatoreMouse != FormaPuntatoreLogo) ImpostaPuntatoreMouse(FormaPuntatoreLogo);
+        if (PuntatoreMouse != PuntatoreMano) ImpostaPuntatoreMouse(PuntatoreMano);
         return true;  // no movement over the surface below
       case QEvent::MouseButtonPress:
         Voce("MenuPHP").trigger();

@@ -29,7 +29,7 @@ class Form1 : public QMainWindow, public FinestraEditor {
   Form1();
   ~Form1() override;
 
-  AreaDisegno* Superficie;
+  AreaDisegno* Area;
   BarraStrumenti* Toolbar1;
   BarraDiStato* StatusBar1;
   QLabel* Picture1;  // the splash picture while there is no crossword
@@ -97,7 +97,6 @@ class Form1 : public QMainWindow, public FinestraEditor {
 
   std::map<std::string_view, QAction*> voci_;
   std::vector<Percorso> ricevuti_;
-  int comandiInCorso_ = 0;
   bool estrazioneInCorso_ = false;
   bool misuraCambiata_ = false;  // during a fill
   QShortcut* esc_;

@@ -4,11 +4,12 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTimer>
+#include <utility>
 
 namespace telarium {
 
 AreaDisegno::AreaDisegno(QWidget* genitore) : QWidget(genitore) {
-  setObjectName(u"Superficie");
+  setObjectName(u"Area");
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
   superficie_.Sfondo(palette().color(QPalette::Window));

@@ -70,8 +70,8 @@ bool BarraDiStato::eventFilter(QObject* oggetto, QEvent* evento) {
   const bool tasto = evento->type() == QEvent::KeyPress || evento->type() == QEvent::KeyRelease;
   if (tasto && oggetto->isWindowType()) {  // once for each key, before any widget has it
     const auto* premuto = static_cast<QKeyEvent*>(evento);
-    const bool inserisci =
-        premuto->key() == Qt::Key_Insert && premuto->modifiers() == Qt::NoModifier;
+    const auto modificatori = premuto->modifiers() & ~Qt::KeypadModifier;
+    const bool inserisci = premuto->key() == Qt::Key_Insert && modificatori == Qt::NoModifier;
     if (evento->type() == QEvent::KeyPress && inserisci && !premuto->isAutoRepeat()) {
       inserimento_ = !inserimento_;
     }

@@ -1,5 +1,6 @@
 #include "platform/qt/child_process.h"
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <spawn.h>

@@ -15,9 +15,9 @@
 namespace telarium {
 namespace {
 
-// How long a program that hands its file on to another one is waited for: what takes longer is busy
-// showing it.
-constexpr std::chrono::milliseconds AttesaDiConsegna{1500};
+// How long a program that hands its file on to another one is waited for, the window standing
+// still: what takes longer is busy showing it.
+constexpr std::chrono::milliseconds AttesaDiConsegna{500};
 
 bool Presente(const char* programma) {
   return !QStandardPaths::findExecutable(QLatin1StringView(programma)).isEmpty();

@@ -80,17 +80,26 @@ QString TestoQt(const std::string& testo) {
   return qt;
 }
 
-// While a box is open the pointer is an arrow, also in the middle of a long run.
-class FrecciaDurante {
- public:
-  FrecciaDurante() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
-  ~FrecciaDurante() { QGuiApplication::restoreOverrideCursor(); }
-};
-
 }  // namespace
 
+// While a box is open the pointer has its ordinary shapes, also in the middle of a long run.
+class UtenteQt::Scatola {
+ public:
+  explicit Scatola(UtenteQt& utente) : utente_(utente) {
+    ++utente_.scatole_;
+    utente_.MostraForma();
+  }
+  ~Scatola() {
+    --utente_.scatole_;
+    utente_.MostraForma();
+  }
+
+ private:
+  UtenteQt& utente_;
+};
+
 Risposta UtenteQt::MostraMessaggio(const Messaggio& messaggio) {
-  const FrecciaDurante freccia;
+  const Scatola aperta(*this);
   QMessageBox scatola(finestra_);
   scatola.setObjectName(u"MessageBox");
   scatola.setWindowTitle(TitoloQt(messaggio.titolo));
@@ -113,7 +122,7 @@ Risposta UtenteQt::MostraMessaggio(const Messaggio& messaggio) {
 }
 
 std::optional<std::string> UtenteQt::ChiediTesto(const RichiestaDiTesto& richiesta) {
-  const FrecciaDurante freccia;
+  const Scatola aperta(*this);
   QInputDialog scatola(finestra_);
   scatola.setObjectName(u"InputBox");
   scatola.setWindowTitle(TitoloQt(richiesta.titolo));
@@ -126,10 +135,7 @@ std::optional<std::string> UtenteQt::ChiediTesto(const RichiestaDiTesto& richies
 }
 
 Risposta UtenteQt::ChiediVicoloCieco(const std::string& testo) {
-  if (finestra_) {
-    finestra_->raise();
-    finestra_->activateWindow();
-  }
+  if (finestra_) PortaInPrimoPiano(*finestra_);
   return MostraMessaggio({.testo = testo, .pulsanti = Pulsanti::SiNoAnnulla});
 }
 
@@ -142,13 +148,13 @@ QCursor UtenteQt::PuntatorePer(int forma) const {
     return immagine->second;
   }
   switch (forma) {
-    case 2:
+    case PuntatoreCasellaBianca:
       return Qt::CrossCursor;
-    case 7:
+    case PuntatoreVerticale:
       return Qt::SizeVerCursor;
-    case 9:
+    case PuntatoreOrizzontale:
       return Qt::SizeHorCursor;
-    case 11:
+    case PuntatoreClessidra:
       return Qt::WaitCursor;
     default:
       return Qt::ArrowCursor;
@@ -156,14 +162,27 @@ QCursor UtenteQt::PuntatorePer(int forma) const {
 }
 
 void UtenteQt::FormaPuntatore(int forma) {
-  if (forma == 0) {
+  forma_ = forma;
+  MostraForma();
+}
+
+void UtenteQt::MostraForma() {
+  const bool nostra = forma_ != PuntatoreFreccia && scatole_ == 0;
+  if (!nostra) {
     if (cambiato_) QGuiApplication::restoreOverrideCursor();
   } else if (cambiato_) {
-    QGuiApplication::changeOverrideCursor(PuntatorePer(forma));
+    QGuiApplication::changeOverrideCursor(PuntatorePer(forma_));
   } else {
-    QGuiApplication::setOverrideCursor(PuntatorePer(forma));
+    QGuiApplication::setOverrideCursor(PuntatorePer(forma_));
   }
-  cambiato_ = forma != 0;
+  cambiato_ = nostra;
+}
+
+void PortaInPrimoPiano(QWidget& finestra) {
+  if (finestra.isMinimized())
+    finestra.setWindowState(finestra.windowState() & ~Qt::WindowMinimized);
+  finestra.raise();
+  finestra.activateWindow();
 }
 
 void UtenteQt::SegnaleAcustico() {

@@ -10,6 +10,9 @@
 
 namespace telarium {
 
+/// Puts a window before all others, also when it was an icon.
+void PortaInPrimoPiano(QWidget& finestra);
+
 /// The person at a desktop: message boxes, input boxes and pointer shapes of the window system.
 class UtenteQt : public Utente {
  public:
@@ -33,11 +36,16 @@ class UtenteQt : public Utente {
   void CediAiMessaggi() override;
 
  private:
+  class Scatola;
+
   QCursor PuntatorePer(int forma) const;
+  void MostraForma();
 
   QPointer<QWidget> finestra_;
   std::map<int, QCursor> immagini_;
   std::function<bool(const AvanzamentoEstrazione&)> segue_;
+  int forma_ = 0;
+  int scatole_ = 0;        // boxes that are open
   bool cambiato_ = false;  // the pointer has a shape of ours
 };
 

@@ -54,7 +54,7 @@ class Form1Test : public TelariumTest {
     RigaDiComando = commandLine;
     CaricaProgramma(InFolder(""));
     form = std::make_unique<Form1>();
-    platform.surface = &form->Superficie->Superficie();
+    platform.surface = &form->Area->Superficie();
     platform.hasWindow = true;
     form->Mostra();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(form.get(), Patience));
@@ -71,7 +71,7 @@ class Form1Test : public TelariumTest {
 
   // What the window shows at a point of its surface, in logical pixels.
   QColor Shown(double x, double y) {
-    const QPixmap picture = form->Superficie->grab();
+    const QPixmap picture = form->Area->grab();
     const double ratio = picture.devicePixelRatio();
     return picture.toImage().pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio));
   }
@@ -144,8 +144,8 @@ TEST_F(Form1Test, DrawsTheGridBetweenItsBarsAndFollowsItsSize) {
   ColoreCasella(3, 1) = 0x3060C0;
   for (const QSize& size : {QSize(800, 600), QSize(500, 700)}) {
     Resize(size.width(), size.height());
-    const double w = form->Superficie->width();
-    const double h = form->Superficie->height();
+    const double w = form->Area->width();
+    const double h = form->Area->height();
     const double t = form->Toolbar1->height();
     const double s = form->StatusBar1->height();
     EXPECT_EQ(LatoCasella, std::min(std::lrint((w - 16) / 3), std::lrint((h - t - s - 18) / 3)));
@@ -223,26 +223,30 @@ TEST_F(Form1Test, KeepsTheEditButtonPressedBehindEachButtonOfTheToolbar) {
   EXPECT_EQ(ModoGriglia, 1);
 }
 
+// Sent straight to the control: the offscreen platform follows no pointer.
+void MoveOver(QWidget* control) {
+  const QPointF point(5, 5);
+  QMouseEvent move(QEvent::MouseMove, point, control->mapToGlobal(point), Qt::NoButton,
+                   Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(control, &move);
+}
+
 TEST_F(Form1Test, ShowsTheLogoPointerOverTheLogoAlone) {
   StartWith({"CASA"});
-  // Sent straight to the control: the offscreen platform follows no pointer.
-  const auto moveOver = [](QWidget* control) {
-    const QPointF point(5, 5);
-    QMouseEvent move(QEvent::MouseMove, point, control->mapToGlobal(point), Qt::NoButton,
-                     Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(control, &move);
-  };
-  moveOver(form->Picture2);
+  MoveOver(form->Picture2);
   EXPECT_EQ(PuntatoreMouse, 99);
-  moveOver(form->Toolbar1);
+  MoveOver(form->Toolbar1);
   EXPECT_EQ(PuntatoreMouse, 99);
-  moveOver(form->Superficie);
+  MoveOver(form->Area);
   EXPECT_EQ(PuntatoreMouse, 0);
   ImpostaPuntatoreMouse(7);
   form->Label1->move(10, 10);
-  moveOver(form->Toolbar1);
+  MoveOver(form->Toolbar1);
   EXPECT_EQ(PuntatoreMouse, 0);
-  EXPECT_GE(form->Label1->y(), form->Superficie->height());
+  EXPECT_GE(form->Label1->y(), form->Area->height());
+  Resize(500, 400);
+  Resize(700, 600);
+  EXPECT_GE(form->Label1->y(), form->Area->height()) << "parked below the old height";
 }
 
 TEST_F(Form1Test, FillsTheGridBeforeTheUsersEyes) {
@@ -258,8 +262,8 @@ TEST_F(Form1Test, FillsTheGridBeforeTheUsersEyes) {
     const bool goesOn = form->SeguiEstrazione(progress);
     sealedOff = sealedOff && !form->Toolbar1->isEnabled() && !form->menuBar()->isEnabled() &&
                 form->Avanzamento->isVisible();
-    if (progress.slotPresi == 1) {  // the first word is on the screen
-      const QImage shown = form->Superficie->grab().toImage();
+    if (progress.slotCollocati == 1) {  // the first word is on the screen
+      const QImage shown = form->Area->grab().toImage();
       for (int x = 0; x < shown.width(); ++x)
         letterPixels +=
             shown.pixelColor(x, static_cast<int>((OrigineY + LatoCasella / 2) *
@@ -289,12 +293,13 @@ class EndlessFill : public Form1Test {
     form->Voce("MenuInf").trigger();
     user.Answer(Risposta::Ok);
     user.StopFillWhen([&](const AvanzamentoEstrazione& p) {
-      if (p.tentativo == 3 && p.slotPresi == 0) QTimer::singleShot(0, form.get(), stop);
+      if (p.tentativo == 3 && p.slotCollocati == 0) QTimer::singleShot(0, form.get(), stop);
       return !form->SeguiEstrazione(p);
     });
     ClickButton(ExtractionButton);
     user.TakeTexts();
-    EXPECT_EQ(ModoGriglia, 1) << "behind the button, editing";
+    EXPECT_EQ(ModoGriglia, 0) << "the Edit button was not pressed yet";
+    EXPECT_TRUE(form->EditPremuto());
     EXPECT_FALSE(form->Avanzamento->isVisible());
     EXPECT_EQ(Drawing().size(), 3u);
   }
@@ -318,6 +323,8 @@ TEST_F(EndlessFill, EndsByEscAndHearsNothingElse) {
     EXPECT_EQ(SchemaModificato, Vero) << "saved in the middle of a fill";
     form->close();
     EXPECT_TRUE(form->isVisible());
+    MoveOver(form->Picture2);
+    EXPECT_EQ(PuntatoreMouse, PuntatoreClessidra);
     form->RiceviDaFuori(InFolder("missing.tlrm"));  // waits for the end
     EXPECT_EQ(user.TakeMessages().size(), 1u) << "only the question before the run";
     form->resize(form->width() - 100, form->height() - 100);

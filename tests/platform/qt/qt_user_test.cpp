@@ -109,7 +109,7 @@ TEST_F(UserTest, AnInputBoxGivesItsTextOrNone) {
   EXPECT_EQ(user.ChiediTesto({.richiesta = "x"}), std::nullopt);
 }
 
-TEST_F(UserTest, ThePointerFollowsItsStateAndIsAnArrowOverBoxes) {
+TEST_F(UserTest, ThePointerFollowsItsStateAndIsOrdinaryOverBoxes) {
   user.Immagine(99, QCursor(Qt::PointingHandCursor));
   const std::pair<int, Qt::CursorShape> shapes[] = {
       {11, Qt::WaitCursor},   {2, Qt::CrossCursor},         {7, Qt::SizeVerCursor},
@@ -118,8 +118,11 @@ TEST_F(UserTest, ThePointerFollowsItsStateAndIsAnArrowOverBoxes) {
     user.FormaPuntatore(value);
     ASSERT_TRUE(QGuiApplication::overrideCursor());
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), shape) << value;
-    WhenOpen<QMessageBox>([](QMessageBox& box) {
-      EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+    WhenOpen<QMessageBox>([&](QMessageBox& box) {
+      EXPECT_FALSE(QGuiApplication::overrideCursor());
+      user.FormaPuntatore(0);  // as the logo under the box does when the pointer leaves it
+      user.FormaPuntatore(value);
+      EXPECT_FALSE(QGuiApplication::overrideCursor());
       QTest::keyClick(&box, Qt::Key_Return);
     });
     user.MostraMessaggio({.testo = "x"});
