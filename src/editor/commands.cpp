@@ -1,13 +1,9 @@
 #include "editor/commands.h"
 
 #include "dictionary/dictionary.h"
-#include "editor/commit.h"
 #include "editor/main_window.h"
 #include "editor/redraw.h"
 #include "editor/settings.h"
-#include "editor/startup.h"
-#include "model/crossword_file.h"
-#include "model/words.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
@@ -45,10 +41,12 @@ void EntraInModifica() {
 void ChiudiAnteprima() {
   FinestraEditor& finestra = LaFinestra();
   PrendiCongedo();
+  // Giving up the open window puts the grid into the mode of a preview without a crossword too.
+  const bool cruciverba = !NomeCruciverba.empty();
   for (int numero = PrimoPulsanteSenzaAnteprima; numero <= UltimoPulsanteSenzaAnteprima; ++numero)
-    finestra.AbilitaPulsante(numero, true);
-  finestra.AbilitaVoce("MenuUtiliti", true);
-  finestra.AbilitaVoce("MenuEdit", true);
+    finestra.AbilitaPulsante(numero, cruciverba);
+  finestra.AbilitaVoce("MenuUtiliti", cruciverba);
+  finestra.AbilitaVoce("MenuEdit", cruciverba);
   finestra.MostraCommand3d15(false);
   RidisegnaSchema();
   finestra.MettiGraficaAiMenu();
@@ -57,36 +55,6 @@ void ChiudiAnteprima() {
 
 void LasciaAnteprima() {
   if (ModoGriglia == ModoAnteprima) ChiudiAnteprima();
-}
-
-void SalvaCruciverba() {
-  LaFinestra().NascondiShape1();
-  ImpostaPuntatoreMouse(PuntatoreFreccia);
-  if (LaFinestra().Command3d15Visibile()) ChiudiAnteprima();
-  RidisegnaSchema();
-  LaFinestra().TogliLabel1();
-  if (NumColonne == 0 || NomeCruciverba.empty() || NomeCruciverba == NomeMaiSalvato) {
-    Avvisa("Il cruciverba non ha ancora uno schema o un nome: non è possibile salvarlo."_cp, {},
-           Icona::Avviso);
-  } else if (ScriviCruciverba(NomeCruciverba)) {
-    SchemaModificato = Falso;
-  }
-}
-
-void ChiediSalvataggio() {
-  const Messaggio domanda{.testo = Unisci("Il file ", Maiuscole(TestoPercorso(NomeCruciverba)),
-                                          " è cambiato, si desidera salvare"_cp),
-                          .titolo = "Modifica del file corrente",
-                          .pulsanti = Pulsanti::OkAnnulla};
-  if (ChiUsa().MostraMessaggio(domanda) == Risposta::Ok) SalvaCruciverba();
-}
-
-void EsciDalProgramma() {
-  EliminaIstantanea();
-  PrendiCongedo();
-  if (SchemaModificato) ChiediSalvataggio();
-  AbbandonaIstantanea();  // the redraw of a save may have written it again
-  TerminaProgramma();
 }
 
 void CambiaLingua(int lingua) {
@@ -132,24 +100,19 @@ void ApriAiuto() {
   LasciaAnteprima();
 }
 
-void ApriDaFuori(const Percorso& nome) {
-  ImpostaPuntatoreMouse(PuntatoreFreccia);
-  LaFinestra().NascondiShape1();
-  if (LaFinestra().Command3d15Visibile()) ChiudiAnteprima();
+void ScegliCarattere() {
+  ModoGriglia = ModoNeutro;
   LaFinestra().TogliLabel1();
-  if (SchemaModificato) ChiediSalvataggio();
-  std::error_code ignorato;
-  if (!std::filesystem::is_regular_file(nome, ignorato)) {
-    Avvisa("Errore: file inesistente!");
-    return;
-  }
-  if (ApriCruciverba(nome) == Apertura::Rifiutata) return;
-  RicalcolaCaselle();                     // the writer wants the words of the grid
-  static_cast<void>(ScriviIstantanea());  // a failure has shown its message
-  NomeCruciverba = nome;
-  SchemaModificato = Falso;
-  ModoGriglia = ModoModifica;
-  LaFinestra().MostraPicture1(false);
+  LaFinestra().MostraModale(Modale::fONTEN);
+}
+
+void RegolaSchema() {
+  LaFinestra().MostraModale(Modale::Settaggi);
+  RidisegnaSchema();
+}
+
+void GestisciModelli() {
+  LaFinestra().MostraModale(Modale::FormModels);
 }
 
 void AggiornaSpunte() {

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "platform/files.h"
-
-// The commands of the main window that need no dialog of their own.
+// The commands of the main window that belong to no subject of their own.
 namespace telarium {
 
 /// Menudef, and whatever leads back to editing: presses the Edit button and runs CambiaModoEdit.
@@ -19,16 +17,6 @@ void ChiudiAnteprima();
 /// MenuAiuto, MenuInfo and MenuLudarium begin or end with it: leaves a print preview if one shows.
 void LasciaAnteprima();
 
-/// menuSalva: saves under the current name and sets SchemaModificato to 0. A failure shows its
-/// message and leaves both, and so does a crossword without a name or without a grid.
-void SalvaCruciverba();
-
-/// Asks whether to save a changed crossword, and does. Either way the caller goes on.
-void ChiediSalvataggio();
-
-/// MenuEsci: ends the program, after the saving question.
-void EsciDalProgramma();
-
 /// MenuL1 to MenuL4: opens the dictionary of a language, 1 Italian, 2 English, 3 Latin, 4 French.
 /// Nothing happens when it is the current one.
 void CambiaLingua(int lingua);
@@ -43,10 +31,14 @@ void LanciaLudarium();
 /// MenuAiuto: opens the help file.
 void ApriAiuto();
 
-/// Opens a crossword that another start of the program was given, as the open dialog does: after
-/// the saving question, for the activation that follows to show. A file that is no crossword shows
-/// a message and leaves the one that was there.
-void ApriDaFuori(const Percorso& nome);
+/// MenuFont: shows fONTEN.
+void ScegliCarattere();
+
+/// menusetschema: shows Settaggi and redraws.
+void RegolaSchema();
+
+/// Menuschemi: shows FormModels.
+void GestisciModelli();
 
 /// The check marks of the menus, from the settings and the language as they are.
 void AggiornaSpunte();

@@ -2,11 +2,22 @@
 
 #include <string_view>
 
+#include "platform/surface.h"
+
 namespace telarium {
 
 // The buttons of Toolbar1 count from 1, separators included.
 inline constexpr int NumPulsanti = 22;
 inline constexpr int PulsanteEdit = 21;
+
+/// The program's own windows that a command opens modally.
+enum class Modale { FormNew, FormModels, Form2, TelarSav, Settaggi, fONTEN, TelarDef };
+
+/// The word rectangle: place and size on the surface in pixels, and its colour.
+struct Rettangolo {
+  double sinistra, cima, larghezza, altezza;
+  Colore colore;
+};
 
 /// What the editor needs of the main window beyond its drawing surface. Controls are meant by the
 /// names they carry. This class itself stands for a program without a window: nothing happens.
@@ -20,13 +31,26 @@ class FinestraEditor {
 
   virtual void Titolo(std::string_view) {}
   virtual void RinfrescaToolbar1() {}
+  /// Brings what was drawn to the screen now, ahead of longer work.
+  virtual void MostraSubito() {}
+
+  /// Lays the word rectangle over the grid, or takes it away.
+  virtual void MostraShape1(const Rettangolo&) {}
   virtual void NascondiShape1() {}
-  /// Takes the tip Label1 out of view.
+
+  /// The tip beside the pointer: gives it a text and returns the width it then has, puts its left
+  /// top corner somewhere on the surface, takes it out of view.
+  virtual double ScriviLabel1(std::string_view) { return 0; }
+  virtual void CollocaLabel1(double, double) {}
   virtual void TogliLabel1() {}
 
   virtual void MostraCommand3d15(bool) {}
   virtual bool Command3d15Visibile() const { return false; }
   virtual void MostraPicture1(bool) {}
+  virtual bool Picture1Visibile() const { return false; }
+
+  /// Shows a window until it closes, and queues the activation that follows.
+  virtual void MostraModale(Modale) {}
 
   /// Toolbar buttons by number; PulsanteEdit is the one that stays pressed.
   virtual void AbilitaPulsante(int, bool) {}

@@ -16,14 +16,7 @@ namespace {
 constexpr int MargineProvvisorio = 6;  // pixels on each side, for the size of a cell
 constexpr int DistanzaCornice = 2;     // white ground between the cells and the frame
 constexpr double MinCorpoLettere = 6;  // points
-
-double SinistraDi(int colonna) {
-  return (colonna - 1) * LatoCasella + OrigineX;
-}
-
-double CimaDi(int riga) {
-  return (riga - 1) * LatoCasella + OrigineY;
-}
+constexpr int RientroCasellaBianca = 2;
 
 // Fits the cells into the band between the bars and centres the grid there.
 void CalcolaGeometria(const Superficie& superficie) {
@@ -61,8 +54,8 @@ void DisegnaCaselle(Superficie& superficie) {
   const double meta = LatoCasella / 2.0;
   for (int r = 1; r <= NumRighe; ++r) {
     for (int c = 1; c <= NumColonne; ++c) {
-      const double x = SinistraDi(c);
-      const double y = CimaDi(r);
+      const double x = BordoSinistro(c);
+      const double y = BordoAlto(r);
       superficie.Riquadro(x, y, x + LatoCasella, y + LatoCasella, ColoreNero);
       const char lettera = LetteraCasella(c, r);
       if (lettera == CellaNera) {
@@ -80,7 +73,7 @@ void DisegnaNumeri(Superficie& superficie) {
   for (int r = 1; r <= NumRighe; ++r) {
     for (int c = 1; c <= NumColonne; ++c) {
       if (NumeroCasella(c, r) == 0) continue;
-      superficie.Posizione(SinistraDi(c) + 2 + distanza, CimaDi(r) + distanza);
+      superficie.Posizione(BordoSinistro(c) + 2 + distanza, BordoAlto(r) + distanza);
       superficie.Scrivi(std::to_string(NumeroCasella(c, r)));
     }
   }
@@ -118,6 +111,28 @@ void RidisegnaSchema() {
   if (!superficie) return;
   DisegnaSchema(*superficie);
   if (HaColori()) AggiornaIstantanea();
+}
+
+double BordoSinistro(int colonna) {
+  return (colonna - 1) * LatoCasella + OrigineX;
+}
+
+double BordoAlto(int riga) {
+  return (riga - 1) * LatoCasella + OrigineY;
+}
+
+void AnticipaCasella(Casella casella, bool nera) {
+  Superficie* superficie = FinestraPrincipale();
+  if (!superficie) return;
+  const double x = BordoSinistro(casella.colonna);
+  const double y = BordoAlto(casella.riga);
+  if (nera) {
+    DisegnaCasellaNera(*superficie, x, y, ColoreCasella(casella.colonna, casella.riga));
+  } else {
+    const int g = RientroCasellaBianca;
+    superficie->RiquadroPieno(x + g, y + g, x + LatoCasella - g, y + LatoCasella - g, ColoreBianco);
+  }
+  LaFinestra().MostraSubito();
 }
 
 }  // namespace telarium

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/words.h"
 #include "platform/surface.h"
 
 // The grid as it stands on the main window, between the toolbar and the status bar: as large as the
@@ -13,5 +14,13 @@ inline constexpr Colore ColoreCornice = 0x000080;  // dark red
 /// has a colour the snapshot is written once. With NumColonne 0 nothing happens; without a window
 /// only the tables are set.
 void RidisegnaSchema();
+
+/// Left and top edge of a column or row of cells on the surface, as last drawn.
+double BordoSinistro(int colonna);
+double BordoAlto(int riga);
+
+/// Paints a cell that is about to turn black or white, and puts it on the screen at once: the
+/// redraw comes only when the change is committed.
+void AnticipaCasella(Casella casella, bool nera);
 
 }  // namespace telarium

@@ -74,10 +74,17 @@ extern std::int16_t
 extern std::int16_t OrigineX;  // left and top of the grid on the main window, in pixels
 extern std::int16_t OrigineY;
 
-// Values of ModoGriglia. Only ModoModifica and ModoAnteprima are ever tested.
-inline constexpr std::int16_t ModoAnteprima = -1;  // the surface shows a print preview
+// Values of ModoGriglia. Only ModoModifica and ModoAnteprima are ever tested; the others tell which
+// command was the last.
+inline constexpr std::int16_t ModoAnteprima = -1;  // the surface shows a print preview, or nothing
 inline constexpr std::int16_t ModoNeutro = 0;
 inline constexpr std::int16_t ModoModifica = 1;  // the mouse finds and edits words
+inline constexpr std::int16_t ModoAggiungiColonna = 3;
+inline constexpr std::int16_t ModoTogliColonna = 4;
+inline constexpr std::int16_t ModoAggiungiRiga = 5;
+inline constexpr std::int16_t ModoTogliRiga = 6;
+inline constexpr std::int16_t ModoCasellaNera = 7;  // the tool itself is told by PuntatoreMouse
+inline constexpr std::int16_t ModoCasellaBianca = 8;
 /// What the mouse does on the grid.
 extern std::int16_t ModoGriglia;
 /// Shape of the mouse pointer, a value of platform/user.h, by which the mouse routines decide what

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/machine.h"
+#include "platform/printer.h"
 #include "platform/surface.h"
 #include "platform/user.h"
 
@@ -16,6 +17,9 @@ class Piattaforma {
 
   /// The surface of the main window; null where there is no window.
   virtual Superficie* FinestraPrincipale() = 0;
+
+  /// The printer; null where there is none.
+  virtual Stampante* LaStampante() { return nullptr; }
 
   /// Ends the program: the process in the desktop, by an exception in tests and in `telar`. What
   /// comes behind the call never runs.
@@ -36,6 +40,9 @@ inline Macchina& Sistema() {
 }
 inline Superficie* FinestraPrincipale() {
   return LaPiattaforma().FinestraPrincipale();
+}
+inline Stampante* LaStampante() {
+  return LaPiattaforma().LaStampante();
 }
 [[noreturn]] void TerminaProgramma();
 

@@ -10,6 +10,7 @@ using Colore = std::int32_t;
 
 inline constexpr Colore ColoreNero = 0x000000;
 inline constexpr Colore ColoreBianco = 0xFFFFFF;
+inline constexpr Colore NessunColore = -1;
 
 /// What the core draws on: the main window, the printer, a picture, a recorder in tests.
 /// Coordinates and text measures are in the surface's own units, pixels on a window; type sizes are
@@ -27,12 +28,15 @@ class Superficie {
   virtual void Riquadro(double x1, double y1, double x2, double y2, Colore colore) = 0;
   virtual void RiquadroPieno(double x1, double y1, double x2, double y2, Colore colore) = 0;
 
-  /// Typeface by name, size in points, bold: they hold for measures and texts until set again.
+  /// Typeface by name, size in points, bold, italic: they hold for measures and texts until set
+  /// again.
   virtual void Carattere(std::string_view nome) = 0;
   virtual void CorpoCarattere(double punti) = 0;
   virtual double CorpoCarattere() const = 0;
   virtual void Grassetto(bool grassetto) = 0;
   virtual bool Grassetto() const = 0;
+  virtual void Corsivo(bool corsivo) = 0;
+  virtual bool Corsivo() const = 0;
 
   /// Extent of a text in the current type.
   virtual double LarghezzaTesto(std::string_view testo) const = 0;

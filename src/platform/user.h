@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/surface.h"
+
 namespace telarium {
 
 enum class Pulsanti { Ok, OkAnnulla, SiNo, SiNoAnnulla };
@@ -51,6 +53,10 @@ class Utente {
 
   /// Asks for a line of text in an input box. None when the user gave up; it may be empty.
   virtual std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) = 0;
+
+  /// Lets the user choose a colour in a small window at the pointer that begins with `iniziale`.
+  /// NessunColore when none was chosen.
+  virtual Colore ScegliColore(Colore iniziale) = 0;
 
   /// Puts a dead end of the fill before the user: Si accepts it, No starts anew, Annulla stops.
   virtual Risposta ChiediVicoloCieco(const std::string& testo) = 0;

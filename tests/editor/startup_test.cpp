@@ -7,6 +7,7 @@
 #include "editor/activation.h"
 #include "editor/commands.h"
 #include "editor/commit.h"
+#include "editor/file_commands.h"
 #include "editor/settings.h"
 #include "editor/update_check.h"
 #include "model/crossword_file.h"
@@ -233,6 +234,7 @@ TEST_F(StartupTest, SavesWhatTheUserWantsSavedAndEndsEitherWay) {
   NomeCruciverba = NomeMaiSalvato;
   SchemaModificato = Vero;
   SalvaCruciverba();
+  EXPECT_EQ(window.shown, std::vector{Modale::TelarSav});
   EXPECT_EQ(SchemaModificato, Vero);
   NomeCruciverba = InFolder("nowhere/mio.tlrm");
   SalvaCruciverba();
@@ -242,7 +244,8 @@ TEST_F(StartupTest, SavesWhatTheUserWantsSavedAndEndsEitherWay) {
   const std::string whole = ReadFile(file);
   SalvaCruciverba();
   EXPECT_EQ(ReadFile(file), whole);
-  EXPECT_EQ(user.TakeTexts().size(), 3u) << "none could be saved";
+  EXPECT_EQ(user.TakeTexts().size(), 1u) << "the folder is missing";
+  EXPECT_EQ(window.shown.size(), 2u) << "without a grid nothing is written over";
 }
 
 TEST_F(StartupTest, ClosingAPreviewAllowsAllCommandsAndEntersEditing) {

@@ -43,6 +43,11 @@ void RecordingSurface::Grassetto(bool grassetto) {
   calls.push_back(grassetto ? "Grassetto si" : "Grassetto no");
 }
 
+void RecordingSurface::Corsivo(bool corsivo) {
+  italic_ = corsivo;
+  calls.push_back(corsivo ? "Corsivo si" : "Corsivo no");
+}
+
 double RecordingSurface::LarghezzaTesto(std::string_view testo) const {
   return static_cast<double>(testo.size()) * size_ / 2;
 }

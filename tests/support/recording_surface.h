@@ -26,6 +26,8 @@ class RecordingSurface : public Superficie {
   double CorpoCarattere() const override { return size_; }
   void Grassetto(bool grassetto) override;
   bool Grassetto() const override { return bold_; }
+  void Corsivo(bool corsivo) override;
+  bool Corsivo() const override { return italic_; }
   double LarghezzaTesto(std::string_view testo) const override;
   double AltezzaTesto(std::string_view testo) const override;
   void Posizione(double x, double y) override;
@@ -37,6 +39,7 @@ class RecordingSurface : public Superficie {
  private:
   double size_ = 8.25;
   bool bold_ = false;
+  bool italic_ = false;
   double x_ = 0;
   double y_ = 0;
 };

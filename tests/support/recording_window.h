@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -25,6 +26,12 @@ class RecordingWindow : public FinestraEditor {
   std::set<int> enabledButtons;
   std::map<std::string, bool, std::less<>> enabled;
   std::map<std::string, bool, std::less<>> checked;
+  std::string tip;
+  double tipLeft = 0, tipTop = 0;
+  bool tipShows = false;
+  std::optional<Rettangolo> rectangle;
+  std::vector<Modale> shown;         // the modal windows so far
+  std::function<void()> whenShown;   // what the user does in one
   std::vector<std::string> calls;    // the calls without a state, by their names
   std::function<void()> whenPlaced;  // what CollocaPicture2, of the first activation, does besides
 
@@ -32,11 +39,27 @@ class RecordingWindow : public FinestraEditor {
   double AltezzaStatusBar1() const override { return statusBarHeight; }
   void Titolo(std::string_view titolo) override { title = titolo; }
   void RinfrescaToolbar1() override { calls.push_back("RinfrescaToolbar1"); }
-  void NascondiShape1() override { calls.push_back("NascondiShape1"); }
-  void TogliLabel1() override { calls.push_back("TogliLabel1"); }
+  void MostraShape1(const Rettangolo& rettangolo) override { rectangle = rettangolo; }
+  void NascondiShape1() override { rectangle.reset(); }
+  /// A character of the tip is 10 pixels wide.
+  double ScriviLabel1(std::string_view testo) override {
+    tip = testo;
+    return 10.0 * static_cast<double>(testo.size());
+  }
+  void CollocaLabel1(double sinistra, double cima) override {
+    tipLeft = sinistra;
+    tipTop = cima;
+    tipShows = true;
+  }
+  void TogliLabel1() override { tipShows = false; }
   void MostraCommand3d15(bool visibile) override { preview = visibile; }
   bool Command3d15Visibile() const override { return preview; }
   void MostraPicture1(bool visibile) override { splash = visibile; }
+  bool Picture1Visibile() const override { return splash; }
+  void MostraModale(Modale quale) override {
+    shown.push_back(quale);
+    if (whenShown) whenShown();
+  }
   void AbilitaPulsante(int numero, bool abilitato) override {
     if (abilitato) {
       enabledButtons.insert(numero);

@@ -35,6 +35,7 @@ void ScriptedUser::VerifyNothingLeft() {
     ADD_FAILURE() << "nobody looked at the message: " << AUtf8(message.testo);
   }
   EXPECT_TRUE(answers_.empty()) << "an answer was prepared for a question that never came";
+  EXPECT_TRUE(colours.empty()) << "a colour was prepared for a chooser that never came";
   EXPECT_TRUE(deadEndAnswers_.empty()) << "an answer was prepared for a dead end that never came";
 }
 
@@ -51,6 +52,12 @@ std::optional<std::string> ScriptedUser::ChiediTesto(const RichiestaDiTesto& ric
   return std::nullopt;
 }
 
+Colore ScriptedUser::ScegliColore(Colore) {
+  const auto colour = TakeFirst(colours);
+  if (!colour) ADD_FAILURE() << "a colour chooser nobody expected";
+  return colour.value_or(NessunColore);
+}
+
 Risposta ScriptedUser::ChiediVicoloCieco(const std::string& testo) {
   messages_.push_back({.testo = testo, .pulsanti = Pulsanti::SiNoAnnulla});
   auto answer = TakeFirst(deadEndAnswers_);
@@ -62,6 +69,12 @@ Risposta ScriptedUser::ChiediVicoloCieco(const std::string& testo) {
 bool ScriptedUser::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) {
   polls.push_back(avanzamento);
   return !stop_ || !stop_(avanzamento);
+}
+
+bool ScriptedPrinter::Carattere(std::string_view nome) {
+  if (nome == refused) return false;
+  typeface = nome;
+  return true;
 }
 
 double ScriptedMachine::Casuale() {

@@ -37,6 +37,9 @@ class ScriptedUser : public Utente {
   /// The messages shown so far with titles and buttons; they count as looked at.
   std::vector<Messaggio> TakeMessages();
 
+  /// The colours that the next choosers give; NessunColore is a cancelled one.
+  std::deque<Colore> colours;
+
   int beeps = 0;
   std::vector<int> pointerShapes;
   std::vector<AvanzamentoEstrazione> polls;
@@ -46,6 +49,7 @@ class ScriptedUser : public Utente {
 
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) override;
+  Colore ScegliColore(Colore iniziale) override;
   Risposta ChiediVicoloCieco(const std::string& testo) override;
   bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
   void FormaPuntatore(int forma) override { pointerShapes.push_back(forma); }
@@ -86,6 +90,22 @@ class ScriptedMachine : public MacchinaIsolata {
                                      std::chrono::milliseconds limite) override;
 };
 
+/// A printer that takes every typeface but one.
+class ScriptedPrinter : public Stampante {
+ public:
+  std::string refused;
+  std::string typeface;
+  bool italic = false;
+  bool bold = false;
+
+  bool Carattere(std::string_view nome) override;
+  const std::string& Carattere() const override { return typeface; }
+  void Corsivo(bool corsivo) override { italic = corsivo; }
+  bool Corsivo() const override { return italic; }
+  void Grassetto(bool grassetto) override { bold = grassetto; }
+  bool Grassetto() const override { return bold; }
+};
+
 class ScriptedPlatform : public Piattaforma {
  public:
   ScriptedUser user;
@@ -93,10 +113,13 @@ class ScriptedPlatform : public Piattaforma {
   RecordingSurface window;
   Superficie* surface = &window;  // what the main window draws on, if there is one
   bool hasWindow = false;
+  ScriptedPrinter printer;
+  bool hasPrinter = true;
 
   Utente& ChiUsa() override { return user; }
   Macchina& Sistema() override { return machine; }
   Superficie* FinestraPrincipale() override { return hasWindow ? surface : nullptr; }
+  Stampante* LaStampante() override { return hasPrinter ? &printer : nullptr; }
   void Termina() override { throw ProgramEnded(); }
 };
 

@@ -13,16 +13,21 @@
 
 #include "auxiliary/addresses.h"
 #include "editor/activation.h"
+#include "editor/cell_editing.h"
 #include "editor/commands.h"
+#include "editor/file_commands.h"
 #include "editor/redraw.h"
 #include "editor/settings.h"
 #include "editor/startup.h"
 #include "editor/windows/form_commands.h"
 #include "editor/windows/menu_table.h"
+#include "editor/windows/modal_windows.h"
 #include "editor/windows/pictures.h"
+#include "editor/word_pointing.h"
 #include "fill/extraction.h"
 #include "platform/check.h"
 #include "platform/platform.h"
+#include "platform/qt/qt_colour.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/qt_user.h"
 
@@ -37,6 +42,7 @@ constexpr int DistanzaPicture2 = 134;  // twips from the right edge
 constexpr int RialzoPicture1 = 10;     // pixels above the middle
 constexpr int SchermoPiccolo = 700;    // pixels: narrower ones get the small splash picture
 constexpr int MargineCommand3d15 = 8;  // pixels
+constexpr std::size_t MaxCaratteriLabel1 = 1000;  // a clue from a file can have any length
 constexpr QPoint PuntaDellaMano(11, 2);
 
 constexpr int InPixel(int twip) {
@@ -115,6 +121,8 @@ void Form1::CreaControlli() {
   giallo.setColor(QPalette::WindowText, Qt::black);
   Label1->setPalette(giallo);
   Label1->setFrameStyle(QFrame::Box | QFrame::Plain);
+  Label1->setMouseTracking(true);
+  Label1->installEventFilter(this);
 
   Picture2->setPixmap(Figura("logo", devicePixelRatioF()));
   Picture2->setToolTip(QStringLiteral("Visita il sito dell'autore ..."));
@@ -130,8 +138,9 @@ void Form1::CreaControlli() {
 
   connect(Command3d15, &QPushButton::clicked, this, [this] { Esegui(ChiudiAnteprima); });
   StatusBar1->QuandoPremuta([this] { Voce("MenuInfo").trigger(); });
-  Toolbar1->QuandoPassaIlMouse([this] { PassaSu(true); });
-  Area->QuandoPassaIlMouse([this] { PassaSu(false); });
+  Toolbar1->QuandoPassaIlMouse(PassaSuToolbar1);
+  Area->QuandoPassaIlMouse([this](QPointF punto) { PassaSuArea(punto); });
+  Area->QuandoPremuta([this](Qt::MouseButton tasto, QPointF punto) { PremutaArea(tasto, punto); });
   Area->QuandoCambiaMisura([this] { CambiataMisura(); });
 }
 
@@ -264,6 +273,31 @@ void Form1::Titolo(std::string_view titolo) {
   setWindowTitle(AQt(titolo).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
+void Form1::MostraShape1(const Rettangolo& rettangolo) {
+  Shape1->setGeometry(
+      QRectF(rettangolo.sinistra, rettangolo.cima, rettangolo.larghezza, rettangolo.altezza)
+          .toRect());
+  Shape1->Tinta(ColoreQt(rettangolo.colore));
+  Shape1->show();
+}
+
+double Form1::ScriviLabel1(std::string_view testo) {
+  const QString nuovo = AQt(testo.substr(0, MaxCaratteriLabel1));
+  if (Label1->text() != nuovo) {
+    Label1->setText(nuovo);
+    Label1->adjustSize();
+  }
+  return Label1->width();
+}
+
+void Form1::CollocaLabel1(double sinistra, double cima) {
+  Label1->move(QPointF(sinistra, cima).toPoint());
+}
+
+void Form1::MostraModale(Modale quale) {
+  if (MostraFinestraModale(quale, *this)) AccodaAttivazione();
+}
+
 void Form1::MostraPicture1(bool visibile) {
   if (visibile && Picture1->pixmap(Qt::ReturnByValue).isNull()) {
     const bool piccolo = screen()->size().width() < SchermoPiccolo;
@@ -340,15 +374,15 @@ void Form1::CambiataMisura() {
   RidisegnaSchema();
 }
 
-void Form1::PassaSu(bool suToolbar1) {
-  if (!suToolbar1) {
-    if (PuntatoreMouse == PuntatoreMano) ImpostaPuntatoreMouse(PuntatoreFreccia);
-    return;
-  }
-  TogliLabel1();
-  const bool tenuto = PuntatoreMouse == PuntatoreMano || PuntatoreMouse == PuntatoreCasellaNera ||
-                      PuntatoreMouse == PuntatoreCasellaBianca;
-  if (!tenuto && PuntatoreMouse != PuntatoreFreccia) ImpostaPuntatoreMouse(PuntatoreFreccia);
+void Form1::PassaSuArea(QPointF punto) {
+  if (!estrazioneInCorso_) PassaSullaSuperficie(punto.x(), punto.y());
+}
+
+void Form1::PremutaArea(Qt::MouseButton tasto, QPointF punto) {
+  const TastoMouse quale = tasto == Qt::LeftButton    ? TastoMouse::Sinistro
+                           : tasto == Qt::RightButton ? TastoMouse::Destro
+                                                      : TastoMouse::Altro;
+  Esegui([&] { PremiSullaSuperficie(quale, punto.x(), punto.y()); });
 }
 
 void Form1::closeEvent(QCloseEvent* evento) {
@@ -356,6 +390,10 @@ void Form1::closeEvent(QCloseEvent* evento) {
 }
 
 bool Form1::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (oggetto == Label1 && evento->type() == QEvent::MouseMove) {
+    TogliLabel1();  // never between the pointer and the grid
+    return true;
+  }
   if (oggetto == Picture2 && !estrazioneInCorso_) {
     switch (evento->type()) {
       case QEvent::MouseMove:
@@ -365,7 +403,7 @@ bool Form1::eventFilter(QObject* oggetto, QEvent* evento) {
         Voce("MenuPHP").trigger();
         return true;
       case QEvent::Leave:
-        PassaSu(false);
+        if (PuntatoreMouse == PuntatoreMano) ImpostaPuntatoreMouse(PuntatoreFreccia);
         break;
       default:
         break;

@@ -67,11 +67,17 @@ class Form1 : public QMainWindow, public FinestraEditor {
   double AltezzaStatusBar1() const override { return StatusBar1->height(); }
   void Titolo(std::string_view titolo) override;
   void RinfrescaToolbar1() override { Toolbar1->update(); }
+  void MostraSubito() override { Area->repaint(); }
+  void MostraShape1(const Rettangolo& rettangolo) override;
   void NascondiShape1() override { Shape1->hide(); }
+  double ScriviLabel1(std::string_view testo) override;
+  void CollocaLabel1(double sinistra, double cima) override;
   void TogliLabel1() override { Label1->move(Label1->x(), height()); }
   void MostraCommand3d15(bool visibile) override { Command3d15->setVisible(visibile); }
   bool Command3d15Visibile() const override { return !Command3d15->isHidden(); }
   void MostraPicture1(bool visibile) override;
+  bool Picture1Visibile() const override { return !Picture1->isHidden(); }
+  void MostraModale(Modale quale) override;
   void AbilitaPulsante(int numero, bool abilitato) override;
   void PremiEdit(bool premuto) override;
   bool EditPremuto() const override;
@@ -93,7 +99,8 @@ class Form1 : public QMainWindow, public FinestraEditor {
   void Disponi();
   void CambiataMisura();
   void ApriRicevuti();
-  void PassaSu(bool suToolbar1);
+  void PassaSuArea(QPointF punto);
+  void PremutaArea(Qt::MouseButton tasto, QPointF punto);
 
   std::map<std::string_view, QAction*> voci_;
   std::vector<Percorso> ricevuti_;

@@ -8,35 +8,22 @@
 
 namespace telarium {
 
-AreaDisegno::AreaDisegno(QWidget* genitore) : QWidget(genitore) {
+AreaDisegno::AreaDisegno(QWidget* genitore) : Tela(genitore) {
   setObjectName(u"Area");
-  setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
-  superficie_.Sfondo(palette().color(QPalette::Window));
-  superficie_.QuandoCambia([this] { update(); });
 }
 
-void AreaDisegno::AdattaSuperficie() {
-  rapporto_ = devicePixelRatioF();
-  superficie_.Ridimensiona(size(), rapporto_);
-  if (cambiaMisura_) cambiaMisura_();
-}
-
-void AreaDisegno::resizeEvent(QResizeEvent* evento) {
-  QWidget::resizeEvent(evento);
-  AdattaSuperficie();
-}
-
-void AreaDisegno::paintEvent(QPaintEvent*) {
-  QPainter pittore(this);
-  superficie_.Copia(pittore);
-  // The window has come to a display of another scale factor: no drawing while a paint goes on.
-  if (rapporto_ != devicePixelRatioF()) QTimer::singleShot(0, this, [this] { AdattaSuperficie(); });
+void AreaDisegno::paintEvent(QPaintEvent* evento) {
+  Tela::paintEvent(evento);
   if (dipinta_) QTimer::singleShot(0, this, std::exchange(dipinta_, {}));
 }
 
-void AreaDisegno::mouseMoveEvent(QMouseEvent*) {
-  if (passaIlMouse_) passaIlMouse_();
+void AreaDisegno::mouseMoveEvent(QMouseEvent* evento) {
+  if (passa_) passa_(evento->position());
+}
+
+void AreaDisegno::mousePressEvent(QMouseEvent* evento) {
+  if (premuta_) premuta_(evento->button(), evento->position());
 }
 
 RettangoloDiParola::RettangoloDiParola(QWidget* genitore) : QWidget(genitore) {

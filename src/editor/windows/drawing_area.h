@@ -1,40 +1,35 @@
 #pragma once
 
-#include <QWidget>
 #include <functional>
 
-#include "platform/qt/qt_surface.h"
+#include "platform/qt/qt_canvas.h"
 
 namespace telarium {
 
-/// The whole client area of Form1 under the menu bar, as a drawing surface that keeps what was
-/// drawn on it. The bars lie over its top and bottom.
-class AreaDisegno : public QWidget {
+/// The whole client area of Form1 under the menu bar, the surface on which the grid is drawn. The
+/// bars lie over its top and bottom.
+class AreaDisegno : public Tela {
  public:
   explicit AreaDisegno(QWidget* genitore);
 
-  SuperficieQt& Superficie() { return superficie_; }
-
-  /// What a change of the size, or of the display's scale factor, calls once the surface has it.
-  void QuandoCambiaMisura(std::function<void()> chiama) { cambiaMisura_ = std::move(chiama); }
   /// What the first painting on the screen calls, once.
   void QuandoDipinta(std::function<void()> chiama) { dipinta_ = std::move(chiama); }
-  /// What a pointer movement over the surface calls.
-  void QuandoPassaIlMouse(std::function<void()> chiama) { passaIlMouse_ = std::move(chiama); }
+  /// What a pointer movement over the surface calls, with the place in logical pixels.
+  void QuandoPassaIlMouse(std::function<void(QPointF)> chiama) { passa_ = std::move(chiama); }
+  /// What the press of a mouse button on the surface calls.
+  void QuandoPremuta(std::function<void(Qt::MouseButton, QPointF)> chiama) {
+    premuta_ = std::move(chiama);
+  }
 
  protected:
-  void resizeEvent(QResizeEvent* evento) override;
   void paintEvent(QPaintEvent* evento) override;
   void mouseMoveEvent(QMouseEvent* evento) override;
+  void mousePressEvent(QMouseEvent* evento) override;
 
  private:
-  void AdattaSuperficie();
-
-  SuperficieQt superficie_;
-  double rapporto_ = 0;
-  std::function<void()> cambiaMisura_;
   std::function<void()> dipinta_;
-  std::function<void()> passaIlMouse_;
+  std::function<void(QPointF)> passa_;
+  std::function<void(Qt::MouseButton, QPointF)> premuta_;
 };
 
 /// The word rectangle Shape1: a tinted frame over a word, through which the mouse passes.

@@ -4,7 +4,10 @@
 #include <iterator>
 
 #include "auxiliary/links.h"
+#include "editor/cell_editing.h"
 #include "editor/commands.h"
+#include "editor/file_commands.h"
+#include "editor/resizing.h"
 #include "editor/windows/Form1.h"
 #include "fill/extraction.h"
 
@@ -27,6 +30,13 @@ void EstraiDalPulsante(Form1& form) {
   CambiaModoEdit();
 }
 
+// A menu entry of the resizing commands also leaves the tool that was active.
+template <void (*Ridimensiona)()>
+void RidimensionaDaMenu(Form1&) {
+  ImpostaPuntatoreMouse(PuntatoreFreccia);
+  Ridimensiona();
+}
+
 template <int Lingua>
 void ImpostaLingua(Form1&) {
   CambiaLingua(Lingua);
@@ -38,17 +48,29 @@ void VaiA(Form1&) {
 }
 
 constexpr ComandoDiVoce comandi[] = {
+    {"MenuNuovo", [](Form1&) { NuovoCruciverba(); }},
+    {"MenuApri", [](Form1&) { ApriConFinestra(); }},
     {"menuSalva", [](Form1&) { SalvaCruciverba(); }},
+    {"MenuSalvaCN", [](Form1&) { SalvaConNome(); }},
     {"MenuEsci", [](Form1&) { EsciDalProgramma(); }},
+    {"MenuAC", RidimensionaDaMenu<AggiungiColonna>},
+    {"MenuAR", RidimensionaDaMenu<AggiungiRiga>},
+    {"MenuTC", RidimensionaDaMenu<TogliColonna>},
+    {"MenuTR", RidimensionaDaMenu<TogliRiga>},
+    {"MenuCN", [](Form1&) { AttivaCasellaNera(); }},
+    {"MenuCB", [](Form1&) { AttivaCasellaBianca(); }},
     {"Menudef", [](Form1&) { EntraInModifica(); }},
+    {"MenuFont", [](Form1&) { ScegliCarattere(); }},
     {"MenuLudarium", [](Form1&) { LanciaLudarium(); }},
     {"MenuEstrazione", [](Form1& form) { form.Estrai(); }},
     {"menuRidisegna", [](Form1&) { ChiudiAnteprima(); }},
+    {"Menuschemi", [](Form1&) { GestisciModelli(); }},
     {"Menui0", VaiA<Indirizzo::Menui0>},
     {"MenuI1", VaiA<Indirizzo::MenuI1>},
     {"Menui2", VaiA<Indirizzo::Menui2>},
     {"Menui3", VaiA<Indirizzo::Menui3>},
     {"Menui4", VaiA<Indirizzo::Menui4>},
+    {"menusetschema", [](Form1&) { RegolaSchema(); }},
     {"MenuInf", CommutaProvaInfinita},
     {"MenuL1", ImpostaLingua<1>},
     {"MenuL2", ImpostaLingua<2>},
@@ -68,10 +90,10 @@ constexpr AzioneDiPulsante pulsanti[] = {
     {.chiave = "Salva", .voce = "menuSalva"},
     {.chiave = "HTML", .menu = "Menuhtml"},
     {.chiave = "CambiaFont", .voce = "MenuFont"},
-    {.chiave = "AggColonna", .voce = "MenuAC"},
-    {.chiave = "TogliColonna", .voce = "MenuTC"},
-    {.chiave = "AggRiga", .voce = "MenuAR"},
-    {.chiave = "TogliRiga", .voce = "MenuTR"},
+    {.chiave = "AggColonna", .comando = [](Form1&) { AggiungiColonna(); }},
+    {.chiave = "TogliColonna", .comando = [](Form1&) { TogliColonna(); }},
+    {.chiave = "AggRiga", .comando = [](Form1&) { AggiungiRiga(); }},
+    {.chiave = "TogliRiga", .comando = [](Form1&) { TogliRiga(); }},
     {.chiave = "CasBianca", .voce = "MenuCB"},
     {.chiave = "CasNera", .voce = "MenuCN"},
     {.chiave = "Tabella", .voce = "MenuParole"},

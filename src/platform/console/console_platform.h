@@ -34,6 +34,7 @@ class UtenteConsole : public Utente {
 
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) override;
+  Colore ScegliColore(Colore) override { return NessunColore; }
   Risposta ChiediVicoloCieco(const std::string& testo) override;
   /// False when Ctrl+C was pressed (see AscoltaInterruzione) or the attempts are used up.
   bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "platform/qt/qt_machine.h"
+#include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_user.h"
 
 namespace telarium {
@@ -13,6 +14,8 @@ class PiattaformaQt : public Piattaforma {
   Macchina& Sistema() override { return macchina_; }
   Superficie* FinestraPrincipale() override { return finestra_; }
 
+  Stampante* LaStampante() override { return &stampante_; }
+
   /// The surface of the main window; the caller keeps it alive.
   void FinestraPrincipale(Superficie* finestra) { finestra_ = finestra; }
 
@@ -22,6 +25,7 @@ class PiattaformaQt : public Piattaforma {
  private:
   UtenteQt utente_;
   MacchinaQt macchina_;
+  StampanteQt stampante_;
   Superficie* finestra_ = nullptr;
 };
 

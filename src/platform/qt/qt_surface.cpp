@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/qt/qt_colour.h"
 #include "platform/qt/qt_text.h"
 
 namespace telarium {
@@ -19,10 +20,6 @@ constexpr std::size_t MaxTipi = 32;
 // Far outside of any picture, and safe in 32 bits whatever the scale factor.
 constexpr double MaxCoordinata = 100'000;
 
-QColor ColoreQt(Colore colore) {
-  return QColor(colore & 0xFF, (colore >> 8) & 0xFF, (colore >> 16) & 0xFF);
-}
-
 double Limitata(double coordinata) {
   return std::isnan(coordinata) ? 0 : std::clamp(coordinata, -MaxCoordinata, MaxCoordinata);
 }
@@ -33,23 +30,26 @@ struct SuperficieQt::Tipo {
   std::string famiglia;
   double punti;
   bool grassetto;
+  bool corsivo;
   QFont font;
   QFontMetricsF misure;
   mutable std::array<double, 256> larghezze;  // of single characters; negative: not known yet
 
-  Tipo(const std::string& famiglia_, double punti_, bool grassetto_)
+  Tipo(const std::string& famiglia_, double punti_, bool grassetto_, bool corsivo_)
       : famiglia(famiglia_),
         punti(punti_),
         grassetto(grassetto_),
-        font(FontDi(famiglia_, punti_, grassetto_)),
+        corsivo(corsivo_),
+        font(FontDi(famiglia_, punti_, grassetto_, corsivo_)),
         misure(font, Campione()) {
     larghezze.fill(-1);
   }
 
-  static QFont FontDi(const std::string& famiglia, double punti, bool grassetto) {
+  static QFont FontDi(const std::string& famiglia, double punti, bool grassetto, bool corsivo) {
     QFont font(AQt(famiglia));
     font.setPointSizeF(std::clamp(punti, MinPunti, MaxPunti));
     font.setBold(grassetto);
+    font.setItalic(corsivo);
     return font;
   }
 
@@ -165,15 +165,21 @@ void SuperficieQt::Grassetto(bool grassetto) {
   tipo_ = nullptr;
 }
 
+void SuperficieQt::Corsivo(bool corsivo) {
+  corsivo_ = corsivo;
+  tipo_ = nullptr;
+}
+
 const SuperficieQt::Tipo& SuperficieQt::TipoCorrente() const {
   if (tipo_) return *tipo_;
   const auto trovato = std::find_if(tipi_.begin(), tipi_.end(), [this](const auto& tipo) {
-    return tipo->punti == punti_ && tipo->grassetto == grassetto_ && tipo->famiglia == famiglia_;
+    return tipo->punti == punti_ && tipo->grassetto == grassetto_ && tipo->corsivo == corsivo_ &&
+           tipo->famiglia == famiglia_;
   });
   if (trovato == tipi_.end()) {
     // Noted texts point to their types.
     if (tipi_.size() >= MaxTipi && disegni_.empty()) tipi_.clear();
-    tipi_.push_back(std::make_unique<Tipo>(famiglia_, punti_, grassetto_));
+    tipi_.push_back(std::make_unique<Tipo>(famiglia_, punti_, grassetto_, corsivo_));
     tipo_ = tipi_.back().get();
   } else {
     tipo_ = trovato->get();

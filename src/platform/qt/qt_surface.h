@@ -48,6 +48,8 @@ class SuperficieQt : public Superficie {
   double CorpoCarattere() const override { return punti_; }
   void Grassetto(bool grassetto) override;
   bool Grassetto() const override { return grassetto_; }
+  void Corsivo(bool corsivo) override;
+  bool Corsivo() const override { return corsivo_; }
   double LarghezzaTesto(std::string_view testo) const override;
   double AltezzaTesto(std::string_view testo) const override;
   void Posizione(double x, double y) override;
@@ -79,6 +81,7 @@ class SuperficieQt : public Superficie {
   std::string famiglia_ = "Arial";
   double punti_ = 8.25;
   bool grassetto_ = false;
+  bool corsivo_ = false;
   double x_ = 0;
   double y_ = 0;
   mutable std::vector<std::unique_ptr<Tipo>> tipi_;

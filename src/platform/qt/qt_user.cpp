@@ -1,11 +1,15 @@
 #include "platform/qt/qt_user.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QInputDialog>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 #include <span>
 
+#include "platform/qt/qt_colour.h"
 #include "platform/qt/qt_text.h"
 
 namespace telarium {
@@ -82,25 +86,14 @@ QString TestoQt(const std::string& testo) {
 
 }  // namespace
 
-// While a box is open the pointer has its ordinary shapes, also in the middle of a long run.
-class UtenteQt::Scatola {
- public:
-  explicit Scatola(UtenteQt& utente) : utente_(utente) {
-    ++utente_.scatole_;
-    utente_.MostraForma();
-  }
-  ~Scatola() {
-    --utente_.scatole_;
-    utente_.MostraForma();
-  }
-
- private:
-  UtenteQt& utente_;
-};
+// A box belongs to the window that brought it up.
+QWidget* UtenteQt::Genitore() const {
+  QWidget* modale = QApplication::activeModalWidget();
+  return modale ? modale : finestra_.data();
+}
 
 Risposta UtenteQt::MostraMessaggio(const Messaggio& messaggio) {
-  const Scatola aperta(*this);
-  QMessageBox scatola(finestra_);
+  QMessageBox scatola(Genitore());
   scatola.setObjectName(u"MessageBox");
   scatola.setWindowTitle(TitoloQt(messaggio.titolo));
   scatola.setIcon(IconaQt(messaggio.icona));
@@ -122,8 +115,7 @@ Risposta UtenteQt::MostraMessaggio(const Messaggio& messaggio) {
 }
 
 std::optional<std::string> UtenteQt::ChiediTesto(const RichiestaDiTesto& richiesta) {
-  const Scatola aperta(*this);
-  QInputDialog scatola(finestra_);
+  QInputDialog scatola(Genitore());
   scatola.setObjectName(u"InputBox");
   scatola.setWindowTitle(TitoloQt(richiesta.titolo));
   scatola.setLabelText(TestoQt(richiesta.richiesta));
@@ -132,6 +124,33 @@ std::optional<std::string> UtenteQt::ChiediTesto(const RichiestaDiTesto& richies
   scatola.setCancelButtonText(QString::fromUtf16(Annulla.testo));
   if (scatola.exec() != QDialog::Accepted) return std::nullopt;
   return DaQt(scatola.textValue());
+}
+
+Colore UtenteQt::ScegliColore(Colore iniziale) {
+  QColorDialog scatola(ColoreQt(iniziale), Genitore());
+  scatola.setObjectName(u"ColorDialog");
+  scatola.setWindowTitle(QStringLiteral("Colore della casella"));
+  scatola.setOption(QColorDialog::DontUseNativeDialog);
+  scatola.ensurePolished();
+  scatola.layout()->activate();
+  scatola.move(AlPuntatore(scatola.sizeHint()));
+  return scatola.exec() == QDialog::Accepted ? ColoreDaQt(scatola.selectedColor()) : NessunColore;
+}
+
+// Where a box of that size goes that should begin at the pointer: left or up of it where it would
+// pass the right or lower edge of the main window.
+QPoint UtenteQt::AlPuntatore(QSize misura) const {
+  QRect scatola(QCursor::pos(), misura);
+  if (finestra_) {
+    const QRect finestra = finestra_->geometry();
+    // Both windows have the same frame around them.
+    scatola.setSize(misura + finestra_->frameGeometry().size() - finestra.size());
+    scatola.moveRight(std::min(scatola.right(), finestra.right()));
+    scatola.moveBottom(std::min(scatola.bottom(), finestra.bottom()));
+    scatola.moveLeft(std::max(scatola.left(), finestra.left()));
+    scatola.moveTop(std::max(scatola.top(), finestra.top()));
+  }
+  return scatola.topLeft();
 }
 
 Risposta UtenteQt::ChiediVicoloCieco(const std::string& testo) {
@@ -161,21 +180,9 @@ QCursor UtenteQt::PuntatorePer(int forma) const {
   }
 }
 
+// The shape is the main window's: over other windows, menus and boxes the pointer is ordinary.
 void UtenteQt::FormaPuntatore(int forma) {
-  forma_ = forma;
-  MostraForma();
-}
-
-void UtenteQt::MostraForma() {
-  const bool nostra = forma_ != PuntatoreFreccia && scatole_ == 0;
-  if (!nostra) {
-    if (cambiato_) QGuiApplication::restoreOverrideCursor();
-  } else if (cambiato_) {
-    QGuiApplication::changeOverrideCursor(PuntatorePer(forma_));
-  } else {
-    QGuiApplication::setOverrideCursor(PuntatorePer(forma_));
-  }
-  cambiato_ = nostra;
+  if (finestra_) finestra_->setCursor(PuntatorePer(forma));
 }
 
 void PortaInPrimoPiano(QWidget& finestra) {

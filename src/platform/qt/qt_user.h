@@ -16,7 +16,8 @@ void PortaInPrimoPiano(QWidget& finestra);
 /// The person at a desktop: message boxes, input boxes and pointer shapes of the window system.
 class UtenteQt : public Utente {
  public:
-  /// The main window, to which the boxes belong.
+  /// The main window, which has the pointer shapes; boxes belong to it, or to the modal window that
+  /// is open.
   void Finestra(QWidget* finestra) { finestra_ = finestra; }
 
   /// The pointer for a value of PuntatoreMouse that has no shape of the system.
@@ -29,6 +30,7 @@ class UtenteQt : public Utente {
 
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) override;
+  Colore ScegliColore(Colore iniziale) override;
   Risposta ChiediVicoloCieco(const std::string& testo) override;
   bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
   void FormaPuntatore(int forma) override;
@@ -36,17 +38,13 @@ class UtenteQt : public Utente {
   void CediAiMessaggi() override;
 
  private:
-  class Scatola;
-
+  QWidget* Genitore() const;
+  QPoint AlPuntatore(QSize misura) const;
   QCursor PuntatorePer(int forma) const;
-  void MostraForma();
 
   QPointer<QWidget> finestra_;
   std::map<int, QCursor> immagini_;
   std::function<bool(const AvanzamentoEstrazione&)> segue_;
-  int forma_ = 0;
-  int scatole_ = 0;        // boxes that are open
-  bool cambiato_ = false;  // the pointer has a shape of ours
 };
 
 }  // namespace telarium

@@ -99,7 +99,7 @@ constexpr int ExtractionButton = 20;
 
 TEST_F(Form1Test, OffersOnlyWhatCanBeDoneWithoutACrossword) {
   Start();
-  EXPECT_EQ(EnabledButtons(), "");
+  EXPECT_EQ(EnabledButtons(), "Nuovo Apri ");
   EXPECT_FALSE(form->Voce("MenuEdit").isEnabled() || form->Voce("MenuUtiliti").isEnabled());
   EXPECT_FALSE(form->Voce("menuSalva").isEnabled());
   EXPECT_TRUE(form->Voce("MenuL2").isEnabled() && form->Voce("MenuEsci").isEnabled());
@@ -113,7 +113,9 @@ TEST_F(Form1Test, OffersOnlyWhatCanBeDoneWithoutACrossword) {
 
 TEST_F(Form1Test, OffersTheCommandsOfThisProgramOnceThereIsACrossword) {
   StartWith({"CASA", "....", "#..#"});
-  EXPECT_EQ(EnabledButtons(), "Salva HTML Estrazione Edit Compila ");
+  EXPECT_EQ(EnabledButtons(),
+            "Nuovo Apri Salva HTML CambiaFont AggColonna TogliColonna AggRiga TogliRiga CasBianca "
+            "CasNera Estrazione Edit Compila ");
   EXPECT_TRUE(form->Voce("MenuEdit").isEnabled() && form->Voce("MenuUtiliti").isEnabled());
   EXPECT_TRUE(form->Voce("menuSalva").isEnabled());
   EXPECT_FALSE(form->Voce("MenuStampa").isEnabled()) << "nothing stands behind it yet";

@@ -1,6 +1,7 @@
 #include "platform/qt/qt_user.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -109,28 +110,37 @@ TEST_F(UserTest, AnInputBoxGivesItsTextOrNone) {
   EXPECT_EQ(user.ChiediTesto({.richiesta = "x"}), std::nullopt);
 }
 
-TEST_F(UserTest, ThePointerFollowsItsStateAndIsOrdinaryOverBoxes) {
+TEST_F(UserTest, ThePointerFollowsItsStateOverTheMainWindowAlone) {
+  QWidget window;
+  user.Finestra(&window);
   user.Immagine(99, QCursor(Qt::PointingHandCursor));
   const std::pair<int, Qt::CursorShape> shapes[] = {
-      {11, Qt::WaitCursor},   {2, Qt::CrossCursor},         {7, Qt::SizeVerCursor},
-      {9, Qt::SizeHorCursor}, {99, Qt::PointingHandCursor}, {12345, Qt::ArrowCursor}};
+      {11, Qt::WaitCursor},    {2, Qt::CrossCursor}, {7, Qt::SizeVerCursor},
+      {9, Qt::SizeHorCursor},  {0, Qt::ArrowCursor}, {99, Qt::PointingHandCursor},
+      {12345, Qt::ArrowCursor}};
   for (const auto& [value, shape] : shapes) {
     user.FormaPuntatore(value);
-    ASSERT_TRUE(QGuiApplication::overrideCursor());
-    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), shape) << value;
-    WhenOpen<QMessageBox>([&](QMessageBox& box) {
-      EXPECT_FALSE(QGuiApplication::overrideCursor());
-      user.FormaPuntatore(0);  // as the logo under the box does when the pointer leaves it
-      user.FormaPuntatore(value);
-      EXPECT_FALSE(QGuiApplication::overrideCursor());
-      QTest::keyClick(&box, Qt::Key_Return);
-    });
-    user.MostraMessaggio({.testo = "x"});
-    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), shape) << value;
+    EXPECT_EQ(window.cursor().shape(), shape) << value;
+    EXPECT_FALSE(QGuiApplication::overrideCursor());
   }
-  user.FormaPuntatore(0);
-  user.FormaPuntatore(0);
-  EXPECT_FALSE(QGuiApplication::overrideCursor());
+}
+
+TEST_F(UserTest, TheColourChooserStaysOnTheMainWindowAndGivesAColourOrNone) {
+  QWidget window;
+  window.setGeometry(30, 20, 780, 570);
+  user.Finestra(&window);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  QCursor::setPos(window.geometry().bottomRight());
+  for (const bool chosen : {true, false}) {
+    WhenOpen<QColorDialog>([&](QColorDialog& box) {
+      EXPECT_TRUE(window.geometry().contains(box.geometry())) << box.x() << ", " << box.y();
+      EXPECT_EQ(box.currentColor(), QColor(0x12, 0x34, 0x56)) << "red is the low byte";
+      box.setCurrentColor(QColor(1, 2, 3));
+      QTest::keyClick(&box, chosen ? Qt::Key_Return : Qt::Key_Escape);
+    });
+    EXPECT_EQ(user.ScegliColore(0x563412), chosen ? 0x030201 : NessunColore);
+  }
 }
 
 }  // namespace

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/files.h"
+
+// The commands that make, open and save crosswords, and the end of the program. Those that leave
+// the crossword ask first whether to save a changed one; whatever the answer, they go on.
+namespace telarium {
+
+/// MenuNuovo and MenuApri: show FormNew, or Form2. The crossword that the window leaves in the
+/// snapshot shows at the activation that follows.
+void NuovoCruciverba();
+void ApriConFinestra();
+
+/// menuSalva: saves under the current name and sets SchemaModificato to 0. A failure shows its
+/// message and leaves both. A crossword that was never saved, or has no grid, goes to SalvaConNome.
+void SalvaCruciverba();
+
+/// MenuSalvaCN: shows TelarSav.
+void SalvaConNome();
+
+/// Asks whether to save a changed crossword, and does. Either way the caller goes on.
+void ChiediSalvataggio();
+
+/// MenuEsci: ends the program, after the saving question.
+void EsciDalProgramma();
+
+/// Takes a crossword file over, by its path: into the state and the snapshot, for the activation
+/// that follows to show, and enters editing. A file that is missing or has no valid header is told,
+/// and so is a snapshot that cannot be written; false then, and the crossword that was there stays.
+/// A file that breaks off later is told, and is taken as far as it goes.
+[[nodiscard]] bool ApriFileDiCruciverba(const Percorso& nome);
+
+/// Opens a crossword that another start of the program was given.
+void ApriDaFuori(const Percorso& nome);
+
+}  // namespace telarium

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "editor/main_window.h"
+
+class QWidget;
+
+namespace telarium {
+
+/// Opens one of the program's own windows over the main window and waits until it closes. False
+/// when nothing stands behind it yet.
+bool MostraFinestraModale(Modale quale, QWidget& principale);
+
+}  // namespace telarium

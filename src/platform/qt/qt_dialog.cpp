@@ -1,0 +1,38 @@
+#include "platform/qt/qt_dialog.h"
+
+#include <QFocusEvent>
+#include <QScreen>
+#include <QTimer>
+#include <utility>
+
+namespace telarium {
+
+FinestraModale::FinestraModale(const QString& nome, const QString& titolo, QWidget* genitore)
+    : QDialog(genitore) {
+  setObjectName(nome);
+  setWindowTitle(titolo);
+  setModal(true);
+}
+
+void FinestraModale::showEvent(QShowEvent* evento) {
+  QDialog::showEvent(evento);
+  if (evento->spontaneous()) return;  // only comes back from an icon
+  QRect dove = frameGeometry();
+  dove.moveCenter(screen()->availableGeometry().center());
+  move(dove.topLeft());
+  // Behind the show, for it may bring up a message.
+  QTimer::singleShot(0, this, [this] { Attivata(); });
+}
+
+void CasellaDiTesto::focusInEvent(QFocusEvent* evento) {
+  QLineEdit::focusInEvent(evento);
+  appenaRaggiunta_ = evento->reason() == Qt::MouseFocusReason;
+  selectAll();
+}
+
+void CasellaDiTesto::mousePressEvent(QMouseEvent* evento) {
+  QLineEdit::mousePressEvent(evento);
+  if (std::exchange(appenaRaggiunta_, false)) selectAll();
+}
+
+}  // namespace telarium

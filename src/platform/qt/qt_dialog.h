@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QString>
+
+// What the program's own windows and their controls have in common.
+namespace telarium {
+
+/// Gives a control its name, by which tests and style sheets find it.
+template <class Controllo>
+Controllo* Chiamato(const QString& nome, Controllo* controllo) {
+  controllo->setObjectName(nome);
+  return controllo;
+}
+
+/// A modal window. It opens in the middle of the screen each time it is shown; Esc and its close
+/// box are Cancel.
+class FinestraModale : public QDialog {
+ protected:
+  FinestraModale(const QString& nome, const QString& titolo, QWidget* genitore);
+
+  /// What a window does once it is on the screen, each time it opens.
+  virtual void Attivata() {}
+
+  void showEvent(QShowEvent* evento) override;
+};
+
+/// A line of text that is selected whole whenever it gets the focus.
+class CasellaDiTesto : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void focusInEvent(QFocusEvent* evento) override;
+  void mousePressEvent(QMouseEvent* evento) override;
+
+ private:
+  bool appenaRaggiunta_ = false;  // by the mouse, whose press would end the selection
+};
+
+}  // namespace telarium

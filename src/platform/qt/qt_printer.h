@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/printer.h"
+
+namespace telarium {
+
+/// The system's printers and its PDF printer, which is always there: the type that they print with.
+class StampanteQt : public Stampante {
+ public:
+  bool Carattere(std::string_view nome) override;
+  const std::string& Carattere() const override { return famiglia_; }
+  void Corsivo(bool corsivo) override { corsivo_ = corsivo; }
+  bool Corsivo() const override { return corsivo_; }
+  void Grassetto(bool grassetto) override { grassetto_ = grassetto; }
+  bool Grassetto() const override { return grassetto_; }
+
+ private:
+  std::string famiglia_ = "Arial";
+  bool corsivo_ = false;
+  bool grassetto_ = false;
+};
+
+}  // namespace telarium
