@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "model/state.h"
+#include "platform/platform.h"
 #include "platform/text.h"
 
 namespace telarium {
@@ -31,6 +32,19 @@ EsitoModelli LeggiModelli(const Percorso& nome, std::vector<Modello>& modelli) {
   }
 }
 
+bool CaricaModelli(const Percorso& nome, std::vector<Modello>& modelli) {
+  switch (LeggiModelli(nome, modelli)) {
+    case EsitoModelli::Letti:
+      return true;
+    case EsitoModelli::Assente:
+      Avvisa("Errore: Non trovato file di definizione modelli standard!");
+      return false;
+    default:
+      Avvisa("Impossibile leggere il file modelli: " + TestoPercorso(nome));
+      return false;
+  }
+}
+
 std::vector<Modello> InterpretaModelli(std::string_view contenuto) {
   std::vector<Modello> modelli;
   Modello righe;
@@ -48,6 +62,12 @@ bool ModelloValido(const Modello& modello) {
     return riga.size() == modello.front().size() &&
            std::all_of(riga.begin(), riga.end(), CarattereDiModello);
   });
+}
+
+void EsigiModelloValido(const Modello& modello) {
+  if (ModelloValido(modello)) return;
+  Avvisa("Tipo di file modelli non valido!");
+  TerminaProgramma();
 }
 
 }  // namespace telarium

@@ -24,10 +24,16 @@ enum class EsitoModelli {
 /// Reads all models of a file.
 [[nodiscard]] EsitoModelli LeggiModelli(const Percorso& nome, std::vector<Modello>& modelli);
 
+/// LeggiModelli for a window: false when there are none to have, which has been told.
+[[nodiscard]] bool CaricaModelli(const Percorso& nome, std::vector<Modello>& modelli);
+
 /// The models in the contents of a file.
 std::vector<Modello> InterpretaModelli(std::string_view contenuto);
 
 /// Whether all rows have the length of the first and all characters are those of a model.
 bool ModelloValido(const Modello& modello);
+
+/// Ends the program, with a message, unless a model is valid: such a file is none of ours.
+void EsigiModelloValido(const Modello& modello);
 
 }  // namespace telarium

@@ -75,11 +75,6 @@ std::string Raddoppiata(std::string_view riga) {
   return doppia;
 }
 
-EsitoNuovo RifiutaModello(std::string testo) {
-  Avvisa(std::move(testo));
-  return EsitoNuovo::ModelloRifiutato;
-}
-
 }  // namespace
 
 EsitoNuovo NuovoVuoto(int colonne, int righe) {
@@ -98,24 +93,15 @@ EsitoNuovo NuovoVuoto(int colonne, int righe) {
 
 EsitoNuovo NuovoDaModello(const Percorso& fileModelli, int numero) {
   std::vector<Modello> modelli;
-  switch (LeggiModelli(fileModelli, modelli)) {
-    case EsitoModelli::Assente:
-      return RifiutaModello("Errore: Non trovato file di definizione modelli standard!");
-    case EsitoModelli::NonLeggibile:
-      return RifiutaModello("Impossibile leggere il file modelli: " + TestoPercorso(fileModelli));
-    case EsitoModelli::Letti:
-      break;
-  }
+  if (!CaricaModelli(fileModelli, modelli)) return EsitoNuovo::ModelloRifiutato;
   if (numero < 0 || numero >= static_cast<int>(modelli.size())) return EsitoNuovo::ModelloAssente;
   const Modello& modello = modelli[static_cast<std::size_t>(numero)];
   if (modello.empty()) return EsitoNuovo::ModelloAssente;
-  if (!ModelloValido(modello)) {
-    Avvisa("Tipo di file modelli non valido!");
-    TerminaProgramma();
-  }
+  EsigiModelloValido(modello);
   if (modello.front().size() > MaxColonne || modello.size() > MaxRighe) {
-    return RifiutaModello(Unisci("Il modello supera le dimensioni massime di ", MaxColonne,
-                                 " colonne e ", MaxRighe, " righe."));
+    Avvisa(Unisci("Il modello supera le dimensioni massime di ", MaxColonne, " colonne e ",
+                  MaxRighe, " righe."));
+    return EsitoNuovo::ModelloRifiutato;
   }
   return Finisci(static_cast<int>(modello.front().size()), static_cast<int>(modello.size()),
                  [&](int r) { return Raddoppiata(modello[static_cast<std::size_t>(r) - 1]); });

@@ -109,7 +109,10 @@ void PremiSullaSuperficie(TastoMouse tasto, double x, double y) {
   const Casella casella = CasellaSotto(x, y);
   const bool dentro = SulloSchema(x, y, casella);
   if (dentro && sinistro && puntatore == PuntatoreFreccia) return Colora(casella);
-  if (!dentro || (!sinistro && !strumento)) return EntraInModifica();
+  if (!dentro || (!sinistro && !strumento)) {
+    LaFinestra().TogliLabel1();  // the tool's name holds no longer
+    return EntraInModifica();
+  }
   if (strumento && tasto != TastoMouse::Altro)
     return TrasformaSeDiversa(casella, (puntatore == PuntatoreCasellaNera) == sinistro);
   if (ModoGriglia == ModoModifica) ModificaParolaIndicata(puntatore);

@@ -2,7 +2,7 @@
 
 #include <array>
 #include <charconv>
-#include <optional>
+#include <utility>
 
 #include "model/words.h"
 #include "platform/codepage.h"
@@ -35,29 +35,19 @@ bool LeggiIntestazione(LettoreDiRighe& righe) {
 // Sets the size from line 4; both numbers 0, and false, when it is none that the state has room
 // for.
 bool PrendiDimensioni() {
-  const auto dal = [](std::size_t carattere) {
-    const std::string_view riga = Schema(4);
-    return ValoreNumerico(riga.substr(std::min(carattere - 1, riga.size())));
-  };
-  const int colonne = dal(14);
-  const int righe = dal(17);
-  const bool valide = colonne >= 1 && colonne <= MaxColonne && righe >= 1 && righe <= MaxRighe;
-  NumColonne = static_cast<std::int16_t>(valide ? colonne : 0);
-  NumRighe = static_cast<std::int16_t>(valide ? righe : 0);
-  return valide;
+  const auto dimensioni = DimensioniDichiarate(Schema(4));
+  NumColonne = static_cast<std::int16_t>(dimensioni ? dimensioni->colonne : 0);
+  NumRighe = static_cast<std::int16_t>(dimensioni ? dimensioni->righe : 0);
+  return dimensioni.has_value();
 }
 
 bool LeggiGriglia(LettoreDiRighe& righe) {
   for (int i = 1 + RigheIntestazione; i <= NumRighe + RigheIntestazione; ++i) {
     std::string_view letta;
     if (!LeggiRiga(righe, letta)) return false;
-    std::string& riga = Schema(i);
-    riga = letta;
-    for (std::size_t p = 0; p < riga.size(); p += 2) {
-      const int codice = static_cast<unsigned char>(riga[p]) - Spostamento;
-      if (codice < 0) return false;  // no cell character has that code
-      riga[p] = static_cast<char>(codice);
-    }
+    auto riga = RigaDiSchema(letta);
+    if (!riga) return false;
+    Schema(i) = std::move(*riga);
   }
   return true;
 }
@@ -243,6 +233,26 @@ bool istantaneaSuperata = false;
 const AzzeramentoDiSottosistema azzeramento([] { istantaneaSuperata = false; });
 
 }  // namespace
+
+std::optional<Dimensioni> DimensioniDichiarate(std::string_view riga4) {
+  const auto dal = [riga4](std::size_t carattere) {
+    return ValoreNumerico(riga4.substr(std::min(carattere - 1, riga4.size())));
+  };
+  const Dimensioni dimensioni{dal(14), dal(17)};
+  const auto [colonne, righe] = dimensioni;
+  const bool valide = colonne >= 1 && colonne <= MaxColonne && righe >= 1 && righe <= MaxRighe;
+  return valide ? std::optional(dimensioni) : std::nullopt;
+}
+
+std::optional<std::string> RigaDiSchema(std::string_view riga) {
+  std::string schema(riga);
+  for (std::size_t p = 0; p < schema.size(); p += 2) {
+    const int codice = static_cast<unsigned char>(schema[p]) - Spostamento;
+    if (codice < 0) return std::nullopt;
+    schema[p] = static_cast<char>(codice);
+  }
+  return schema;
+}
 
 bool InterpretaCruciverba(std::string_view contenuto) {
   LettoreDiRighe righe(contenuto);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "model/state.h"
@@ -60,6 +61,19 @@ void EliminaIstantanea();
 /// ScriviIstantanea without a message: for a redraw, which runs at every change of the window's
 /// size. The next commit tells what is wrong. Gives whether it could be written.
 bool AggiornaIstantanea();
+
+struct Dimensioni {
+  int colonne = 0;
+  int righe = 0;
+};
+
+/// The size that header line 4 of a file declares; none when the state has no room for it, or when
+/// it is 0.
+std::optional<Dimensioni> DimensioniDichiarate(std::string_view riga4);
+
+/// A grid line as the state holds it from one as the file does, cells and companion marks; none
+/// when a byte stands for no cell character.
+std::optional<std::string> RigaDiSchema(std::string_view riga);
 
 /// Whether a white cell can hold a character and the file can hold the cell: a letter or another
 /// printable character with a code up to 229.

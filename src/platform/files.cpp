@@ -140,19 +140,31 @@ bool EsisteFile(const Percorso& nome) {
   return fs::exists(stato) && !fs::is_directory(stato);
 }
 
+// The names of the entries of a folder for which `condizione` holds, in the order of the bytes.
 template <class Condizione>
-std::vector<Percorso> NomiDiFile(const Percorso& cartella, Condizione condizione) {
+std::vector<Percorso> NomiDelleVoci(const Percorso& cartella, std::error_code& errore,
+                                    Condizione condizione) {
   std::vector<Percorso> nomi;
-  std::error_code errore;
   const fs::path aperta = cartella.empty() ? fs::path(".") : cartella;
   for (fs::directory_iterator voce(aperta, errore), fine; !errore && voce != fine;
        voce.increment(errore)) {
-    std::error_code ignorato;
-    const Percorso nome = voce->path().filename();
-    if (condizione(nome) && !voce->is_directory(ignorato)) nomi.push_back(nome);
+    if (condizione(*voce)) nomi.push_back(voce->path().filename());
   }
   std::sort(nomi.begin(), nomi.end());
   return nomi;
+}
+
+template <class Condizione>
+std::vector<Percorso> NomiDiFile(const Percorso& cartella, Condizione condizione) {
+  std::error_code ignorato;
+  return NomiDelleVoci(cartella, ignorato, [&](const fs::directory_entry& voce) {
+    std::error_code nonCartella;
+    return condizione(voce.path().filename()) && !voce.is_directory(nonCartella);
+  });
+}
+
+bool Nascosto(const Percorso& nome) {
+  return nome.native().starts_with('.');
 }
 
 }  // namespace
@@ -250,6 +262,16 @@ std::vector<Percorso> ElencaFile(const Percorso& cartella, std::string_view mode
   return NomiDiFile(cartella, [&](const Percorso& nome) {
     return CorrispondeAlModello(InMaiuscole(nome), capitali);
   });
+}
+
+std::error_code ElencaCartelle(const Percorso& cartella, std::vector<Percorso>& cartelle) {
+  std::error_code errore;
+  std::vector<Percorso> nomi = NomiDelleVoci(cartella, errore, [](const fs::directory_entry& voce) {
+    std::error_code illeggibile;
+    return !Nascosto(voce.path().filename()) && voce.is_directory(illeggibile);
+  });
+  if (!errore) cartelle = std::move(nomi);
+  return errore;
 }
 
 std::string TestoPercorso(const Percorso& nome) {

@@ -51,6 +51,11 @@ Percorso PercorsoNellaCartella(const Percorso& cartella, const Percorso& nome);
 /// in the order of the bytes. An unreadable folder gives none.
 std::vector<Percorso> ElencaFile(const Percorso& cartella, std::string_view modello);
 
+/// The names of the folders in a folder but for hidden ones, in the order of the bytes. The error
+/// of reading it, 0 for none; then `cartelle` stays as it was.
+[[nodiscard]] std::error_code ElencaCartelle(const Percorso& cartella,
+                                             std::vector<Percorso>& cartelle);
+
 /// A file name as text for a message or a page: in the code page, "?" for what that cannot write.
 std::string TestoPercorso(const Percorso& nome);
 

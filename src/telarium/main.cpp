@@ -1,5 +1,8 @@
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTimer>
+#include <QTranslator>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -57,6 +60,15 @@ void DiciTempi(Form1& form) {
     std::fprintf(stderr, "avvio: %lld ms fino alla prima immagine\n",
                  static_cast<long long>(EtaDelProcesso().count()));
   });
+}
+
+// Qt's own texts, as those of the colour chooser, in Italian whatever the language of the system.
+void ParlaItaliano(QApplication& applicazione) {
+  QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+  auto* traduttore = new QTranslator(&applicazione);
+  if (traduttore->load(QStringLiteral("qtbase_it"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(traduttore);
 }
 
 int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
@@ -120,5 +132,6 @@ int main(int argc, char** argv) {
   // A display name would be put behind every title.
   QApplication::setApplicationName(QStringLiteral("Telarium"));
   QApplication::setApplicationVersion(QStringLiteral(TELARIUM_VERSION));
+  ParlaItaliano(applicazione);
   return EseguiDesktop(applicazione, file);
 }

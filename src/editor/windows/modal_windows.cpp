@@ -1,6 +1,9 @@
 #include "editor/windows/modal_windows.h"
 
-#include <QDialog>
+#include "crossworddialogs/windows/Form2.h"
+#include "crossworddialogs/windows/FormModels.h"
+#include "crossworddialogs/windows/FormNew.h"
+#include "crossworddialogs/windows/TelarSav.h"
 
 namespace telarium {
 namespace {
@@ -17,14 +20,17 @@ struct VoceModale {
 };
 
 constexpr VoceModale finestre[] = {
-    {Modale::TelarDef, nullptr},
+    {Modale::FormNew, Mostra<FormNew>},
+    {Modale::FormModels, Mostra<FormModels>},
+    {Modale::Form2, Mostra<Form2>},
+    {Modale::TelarSav, Mostra<TelarSav>},
 };
 
 }  // namespace
 
 bool MostraFinestraModale(Modale quale, QWidget& principale) {
   for (const VoceModale& voce : finestre) {
-    if (voce.quale != quale || !voce.mostra) continue;
+    if (voce.quale != quale) continue;
     voce.mostra(principale);
     return true;
   }

@@ -1,0 +1,138 @@
+#include "crossworddialogs/windows/Form2.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "crossworddialogs/crossword_archive.h"
+#include "crossworddialogs/crossword_preview.h"
+#include "editor/file_commands.h"
+#include "model/state.h"
+#include "platform/qt/qt_text.h"
+
+namespace telarium {
+namespace {
+
+// Logical pixels.
+constexpr QSize MisuraIniziale(820, 560);
+constexpr QSize MisuraMinimaAnteprima(260, 200);
+constexpr int LarghezzaElenchi = 220;
+
+}  // namespace
+
+Form2::Form2(QWidget* genitore)
+    : FinestraModale(QStringLiteral("Form2"),
+                     QStringLiteral("Telarium  - Apertura layout parole crociate"), genitore) {
+  CreaControlli();
+  Disponi();
+  elenchi_.emplace(Drive1, Dir1, File1);
+  elenchi_->Vai(CartellaArchivio());
+  Collega();
+  resize(MisuraIniziale);
+}
+
+void Form2::CreaControlli() {
+  Drive1 = Chiamato(QStringLiteral("Drive1"), new ListaUnita(this));
+  Frame2 = Chiamato(QStringLiteral("Frame2"), new QGroupBox(QStringLiteral("Cartella"), this));
+  Dir1 = Chiamato(QStringLiteral("Dir1"), new AlberoCartelle(Frame2));
+  Label4 =
+      Chiamato(QStringLiteral("Label4"), new QLabel(QStringLiteral("Files di cruciverba "), this));
+  File1 = Chiamato(QStringLiteral("File1"), new ListaFile(ModelloCruciverba, this));
+  Label4->setBuddy(File1);
+  Frame3 = Chiamato(QStringLiteral("Frame3"), new QGroupBox(QStringLiteral("Nome file"), this));
+  Text1 = Chiamato(QStringLiteral("Text1"), new CasellaDiTesto(Frame3));
+  Frame1 = Chiamato(QStringLiteral("Frame1"), new QGroupBox(this));
+  Picture1 = Chiamato(QStringLiteral("Picture1"), new Tela(Frame1));
+  Picture1->Superficie().Sfondo(Qt::white);
+  Picture1->setMinimumSize(MisuraMinimaAnteprima);
+  StatusBar1 = Chiamato(QStringLiteral("StatusBar1"), new QLabel(this));
+  StatusBar1->setTextFormat(Qt::PlainText);
+  StatusBar1->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+  // Data of any length must not widen the window.
+  StatusBar1->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  Command3d1 =
+      Chiamato(QStringLiteral("Command3d1"), new QPushButton(QStringLiteral("A&pri"), this));
+  Command3d1->setDefault(true);
+  Command3d2 =
+      Chiamato(QStringLiteral("Command3d2"), new QPushButton(QStringLiteral("&Annulla"), this));
+  Command3d2->setAutoDefault(false);
+}
+
+void Form2::Disponi() {
+  auto* cartella = new QVBoxLayout(Frame2);
+  cartella->addWidget(Dir1);
+  auto* elenchi = new QVBoxLayout;
+  elenchi->addWidget(Drive1);
+  elenchi->addWidget(Frame2, 1);
+  elenchi->addWidget(Label4);
+  elenchi->addWidget(File1, 1);
+
+  auto* nome = new QVBoxLayout(Frame3);
+  nome->addWidget(Text1);
+  auto* anteprima = new QVBoxLayout(Frame1);
+  anteprima->addWidget(Picture1);
+  auto* pulsanti = new QHBoxLayout;
+  pulsanti->addStretch(1);
+  pulsanti->addWidget(Command3d1);
+  pulsanti->addWidget(Command3d2);
+  auto* destra = new QVBoxLayout;
+  destra->addWidget(Frame1, 1);
+  destra->addWidget(Frame3);
+  destra->addLayout(pulsanti);
+
+  auto* sopra = new QHBoxLayout;
+  sopra->addLayout(elenchi, 2);
+  sopra->addLayout(destra, 3);
+  auto* tutto = new QVBoxLayout(this);
+  tutto->addLayout(sopra, 1);
+  tutto->addWidget(StatusBar1);
+  for (QWidget* elenco : {static_cast<QWidget*>(Drive1), static_cast<QWidget*>(Frame2)})
+    elenco->setMinimumWidth(LarghezzaElenchi);
+  Drive1->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void Form2::Collega() {
+  File1->QuandoScelta([this] { MostraScelto(); });
+  connect(File1, &QListWidget::itemDoubleClicked, this, [this] { Apri(); });
+  connect(Command3d1, &QPushButton::clicked, this, [this] { Apri(); });
+  connect(Command3d2, &QPushButton::clicked, this, &Form2::reject);
+  Picture1->QuandoCambiaMisura([this] {
+    if (isVisible() && File1->Scelto()) MostraScelto();
+  });
+  Frame1->setTitle(QStringLiteral("Anteprima"));
+}
+
+void Form2::Attivata() {
+  File1->setFocus();
+  File1->setCurrentRow(0);
+  ImpostaPuntatoreMouse(PuntatoreFreccia);
+}
+
+void Form2::MostraScelto() {
+  const Percorso nome = File1->Scelto().value_or(Percorso());
+  Text1->setText(PercorsoAQt(nome));
+  const DatiAnteprima dati = MostraAnteprima(File1->Cartella() / nome, Picture1->Superficie());
+  StatusBar1->setText(AQt(dati.autoreDataTipo));
+  Frame1->setTitle(dati.dimensioni.empty()
+                       ? QStringLiteral("Anteprima")
+                       : QStringLiteral("Anteprima: ") +
+                             AQt(dati.dimensioni).replace(u'&', QStringLiteral("&&")));
+}
+
+// The name in the text box; that of the selected file as the disk has it, which text cannot always
+// hold.
+Percorso Form2::FileScritto() const {
+  const auto scelto = File1->Scelto();
+  const bool loStesso = scelto && PercorsoAQt(*scelto) == Text1->text();
+  return Dir1->Cartella() / (loStesso ? *scelto : PercorsoDaQt(Text1->text()));
+}
+
+void Form2::Apri() {
+  if (ApriFileDiCruciverba(FileScritto())) accept();
+}
+
+void Form2::reject() {
+  RinunciaAdAprire();
+  FinestraModale::reject();
+}
+
+}  // namespace telarium

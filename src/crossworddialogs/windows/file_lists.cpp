@@ -1,0 +1,176 @@
+#include "crossworddialogs/windows/file_lists.h"
+
+#include <QKeyEvent>
+#include <QStorageInfo>
+#include <QStyle>
+#include <algorithm>
+#include <utility>
+
+#include "platform/platform.h"
+#include "platform/qt/qt_text.h"
+
+namespace telarium {
+namespace {
+
+constexpr int RuoloPercorso = Qt::UserRole;
+
+// A path as the data of an entry; what Qt's text of it cannot hold stays.
+QVariant Dato(const Percorso& percorso) {
+  return QByteArray::fromStdString(percorso.string());
+}
+
+Percorso PercorsoDi(const QVariant& dato) {
+  return dato.toByteArray().toStdString();
+}
+
+void OrdinaPerNome(std::vector<Percorso>& nomi) {
+  std::stable_sort(nomi.begin(), nomi.end(), [](const Percorso& uno, const Percorso& altro) {
+    return PercorsoAQt(uno).compare(PercorsoAQt(altro), Qt::CaseInsensitive) < 0;
+  });
+}
+
+// The folders that are no storage of the user's: where the system shows itself.
+bool DelSistema(const QString& radice) {
+  for (const char* cartella : {"/proc", "/sys", "/dev", "/run/lock", "/boot"}) {
+    const QLatin1StringView nome(cartella);
+    if (radice == nome || radice.startsWith(nome + u'/')) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+ListaFile::ListaFile(std::string modello, QWidget* genitore)
+    : QListWidget(genitore), modello_(std::move(modello)) {
+  setUniformItemSizes(true);
+  setTextElideMode(Qt::ElideMiddle);
+  connect(this, &QListWidget::itemSelectionChanged, this, [this] {
+    appenaScelta_ = true;
+    if (Scelto() && scelta_) scelta_();
+  });
+  connect(this, &QListWidget::itemClicked, this, [this] {
+    if (!appenaScelta_ && scelta_) scelta_();
+  });
+}
+
+void ListaFile::Vai(const Percorso& cartella) {
+  clear();
+  cartella_ = cartella;
+  nomi_ = ElencaFile(cartella, modello_);
+  std::erase_if(nomi_, [](const Percorso& nome) { return nome.native().starts_with('.'); });
+  OrdinaPerNome(nomi_);
+  QStringList testi;
+  for (const Percorso& nome : nomi_)
+    testi.append(PercorsoAQt(nome));
+  addItems(testi);
+}
+
+void ListaFile::mousePressEvent(QMouseEvent* evento) {
+  appenaScelta_ = false;
+  QListWidget::mousePressEvent(evento);
+}
+
+void ListaFile::Scegli(const Percorso& nome) {
+  const auto voci = findItems(PercorsoAQt(nome), Qt::MatchFixedString);
+  if (!voci.isEmpty()) setCurrentItem(voci.front());
+}
+
+std::optional<Percorso> ListaFile::Scelto() const {
+  const int riga = currentRow();
+  if (riga < 0 || !currentItem()->isSelected()) return std::nullopt;
+  return nomi_[static_cast<std::size_t>(riga)];
+}
+
+AlberoCartelle::AlberoCartelle(QWidget* genitore) : QTreeWidget(genitore) {
+  setHeaderHidden(true);
+  setRootIsDecorated(false);
+  setItemsExpandable(false);
+  setUniformRowHeights(true);
+  connect(this, &QTreeWidget::itemDoubleClicked, this,
+          [this](QTreeWidgetItem* voce) { ApriVoce(voce); });
+}
+
+bool AlberoCartelle::Vai(const Percorso& cartella) {
+  std::vector<Percorso> contenute;
+  if (ElencaCartelle(cartella, contenute)) return false;
+  OrdinaPerNome(contenute);
+  cartella_ = cartella;
+  clear();
+  const auto aggiungi = [this](QTreeWidgetItem* sopra, const Percorso& nome,
+                               const Percorso& percorso, QStyle::StandardPixmap icona) {
+    auto* voce = sopra ? new QTreeWidgetItem(sopra) : new QTreeWidgetItem(this);
+    voce->setText(0, PercorsoAQt(nome));
+    voce->setIcon(0, style()->standardIcon(icona));
+    voce->setData(0, RuoloPercorso, Dato(percorso));
+    return voce;
+  };
+  QTreeWidgetItem* voce = nullptr;
+  Percorso fino;
+  for (const Percorso& parte : cartella) {
+    if (parte.empty()) continue;  // behind a last separator
+    fino /= parte;
+    voce = aggiungi(voce, parte, fino, QStyle::SP_DirOpenIcon);
+  }
+  for (const Percorso& nome : contenute)
+    aggiungi(voce, nome, fino / nome, QStyle::SP_DirClosedIcon);
+  expandAll();
+  setCurrentItem(voce);
+  scrollToItem(voce);
+  return true;
+}
+
+void AlberoCartelle::ApriVoce(QTreeWidgetItem* voce) {
+  const Percorso cartella = PercorsoDi(voce->data(0, RuoloPercorso));
+  if (!Vai(cartella)) {
+    Avvisa("Impossibile leggere la cartella: " + TestoPercorso(cartella));
+  } else if (cambia_) {
+    cambia_();
+  }
+}
+
+// Enter is the tree's own: the window's button is not meant.
+void AlberoCartelle::keyPressEvent(QKeyEvent* evento) {
+  const bool invio = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+  if (!invio) return QTreeWidget::keyPressEvent(evento);
+  if (currentItem()) ApriVoce(currentItem());
+}
+
+ListaUnita::ListaUnita(QWidget* genitore) : QComboBox(genitore) {
+  for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+    const QString radice = volume.rootPath();
+    if (!volume.isValid() || !volume.isReady() || DelSistema(radice)) continue;
+    const QString nome = volume.name();
+    addItem(nome.isEmpty() ? radice : QStringLiteral("%1  [%2]").arg(radice, nome),
+            Dato(PercorsoDaQt(radice)));
+  }
+}
+
+void ListaUnita::Mostra(const Percorso& cartella) {
+  const Percorso radice = PercorsoDaQt(QStorageInfo(PercorsoAQt(cartella)).rootPath());
+  setCurrentIndex(findData(Dato(radice)));
+}
+
+Percorso ListaUnita::Scelta() const {
+  return PercorsoDi(currentData());
+}
+
+ElenchiDiFile::ElenchiDiFile(ListaUnita* unita, AlberoCartelle* cartelle, ListaFile* file)
+    : unita_(unita), cartelle_(cartelle), file_(file) {
+  cartelle_->QuandoCambia([this] { file_->Vai(cartelle_->Cartella()); });
+  QObject::connect(unita_, &QComboBox::activated, unita_, [this] { CambiataUnita(); });
+}
+
+void ElenchiDiFile::Vai(const Percorso& cartella) {
+  if (!cartelle_->Vai(cartella)) {
+    Avvisa("Errore di lettura dal drive specificato");
+  } else {
+    file_->Vai(cartella);
+  }
+  unita_->Mostra(cartelle_->Cartella());
+}
+
+void ElenchiDiFile::CambiataUnita() {
+  Vai(unita_->Scelta());
+}
+
+}  // namespace telarium

@@ -1,0 +1,150 @@
+#include "crossworddialogs/windows/model_choice.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "model/state.h"
+#include "platform/qt/qt_text.h"
+
+namespace telarium {
+namespace {
+
+constexpr int FigurePerRiga = 4;
+constexpr QSize MisuraFigura(164, 148);  // logical pixels
+constexpr QPoint SpostamentoPremuta(6, 6);
+constexpr int LarghezzaElenco = 150;
+constexpr const char* ModelloDiFile = "*.dfc";
+
+}  // namespace
+
+FiguraModello::FiguraModello(QWidget* genitore) : Tela(genitore) {
+  Superficie().Sfondo(Qt::white);
+  setMinimumSize(MisuraFigura);
+}
+
+QSize FiguraModello::sizeHint() const {
+  return MisuraFigura;
+}
+
+void FiguraModello::Piena(bool piena) {
+  setEnabled(piena);
+  setFocusPolicy(piena ? Qt::StrongFocus : Qt::NoFocus);
+  setCursor(piena ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void FiguraModello::Premi() {
+  move(pos() + SpostamentoPremuta);
+  window()->repaint();
+}
+
+void FiguraModello::paintEvent(QPaintEvent* evento) {
+  Tela::paintEvent(evento);
+  QPainter pittore(this);
+  const QColor bordo = palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid);
+  pittore.setPen(QPen(bordo, hasFocus() ? 3 : 1));
+  pittore.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+void FiguraModello::mousePressEvent(QMouseEvent*) {
+  if (scelta_) scelta_();
+}
+
+void FiguraModello::keyPressEvent(QKeyEvent* evento) {
+  const bool scelta = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter ||
+                      evento->key() == Qt::Key_Space;
+  if (!scelta) return Tela::keyPressEvent(evento);
+  if (scelta_) scelta_();
+}
+
+void FiguraModello::focusInEvent(QFocusEvent*) {
+  update();
+}
+
+void FiguraModello::focusOutEvent(QFocusEvent*) {
+  update();
+}
+
+SceltaModello::SceltaModello(const QString& nome, const QString& istruzione, QWidget* genitore)
+    : FinestraModale(nome, QStringLiteral("Telarium - Nuovo cruciverba"), genitore) {
+  for (std::size_t n = 0; n < Picture1.size(); ++n) {
+    Picture1[n] = Chiamato(QStringLiteral("Picture1_%1").arg(n), new FiguraModello(this));
+    Picture1[n]->Piena(false);
+    Picture1[n]->QuandoScelta([this, n] { Scegli(static_cast<int>(n)); });
+  }
+  File1 = Chiamato(QStringLiteral("File1"), new ListaFile(ModelloDiFile, this));
+  File1->setFixedWidth(LarghezzaElenco);
+  File1->QuandoScelta([this] { CambiatoFile(); });
+  Label5 = Chiamato(QStringLiteral("Label5"), new QLabel(istruzione, this));
+  Label5->setWordWrap(true);
+  Command3d1 = Chiamato(QStringLiteral("Command3d1"), new QPushButton(QStringLiteral("&OK"), this));
+  Command3d1->setDefault(true);
+  connect(Command3d1, &QPushButton::clicked, this, [this] { Crea(); });
+  Command3d2 =
+      Chiamato(QStringLiteral("Command3d2"), new QPushButton(QStringLiteral("&Annulla"), this));
+  Command3d2->setAutoDefault(false);
+  connect(Command3d2, &QPushButton::clicked, this, &SceltaModello::reject);
+}
+
+QVBoxLayout* SceltaModello::PostoDi(int numero) {
+  auto* posto = new QVBoxLayout;
+  posto->setSpacing(2);
+  posto->addWidget(Picture1[static_cast<std::size_t>(numero)], 1);
+  return posto;
+}
+
+void SceltaModello::Disponi(QLayout* extra) {
+  auto* figure = new QGridLayout;
+  for (int n = 0; n < MaxModelli; ++n)
+    figure->addLayout(PostoDi(n), n / FigurePerRiga, n % FigurePerRiga);
+  auto* pulsanti = new QHBoxLayout;
+  if (extra) pulsanti->addLayout(extra);
+  pulsanti->addStretch(1);
+  pulsanti->addWidget(Command3d1);
+  pulsanti->addWidget(Command3d2);
+  auto* sopra = new QHBoxLayout;
+  sopra->addLayout(figure, 1);
+  sopra->addWidget(File1);
+  auto* tutto = new QVBoxLayout(this);
+  tutto->addLayout(sopra, 1);
+  tutto->addWidget(Label5);
+  tutto->addLayout(pulsanti);
+  setFixedSize(sizeHint());  // a larger preview would show no more
+}
+
+void SceltaModello::Attivata() {
+  File1->Vai(CartellaProgramma);
+  if (nomeModelli_.empty()) nomeModelli_ = NomeModelliIniziale;
+  const QSignalBlocker muto(File1);
+  File1->Scegli(nomeModelli_);
+  MostraIModelli();
+}
+
+void SceltaModello::CambiatoFile() {
+  nomeModelli_ = File1->Scelto().value_or(nomeModelli_);
+  MostraIModelli();
+}
+
+void SceltaModello::MostraIModelli() {
+  std::array<telarium::Superficie*, MaxModelli> figure;
+  for (std::size_t n = 0; n < figure.size(); ++n)
+    figure[n] = &Picture1[n]->Superficie();
+  const std::vector<std::string> nomi =
+      MostraModelli(PercorsoNellaCartella(CartellaProgramma, nomeModelli_), figure);
+  for (std::size_t n = 0; n < figure.size(); ++n)
+    Picture1[n]->Piena(n < nomi.size() && !nomi[n].empty());
+  MostraNomi(nomi);
+}
+
+void SceltaModello::Scegli(int numero) {
+  FiguraModello& figura = *Picture1[static_cast<std::size_t>(numero)];
+  const QPoint posto = figura.pos();
+  figura.Premi();
+  const Percorso file = PercorsoNellaCartella(CartellaProgramma, nomeModelli_);
+  if (NuovoDaModello(file, numero) == EsitoNuovo::Fatto) return accept();
+  figura.move(posto);
+}
+
+}  // namespace telarium

@@ -1,0 +1,281 @@
+#include "editor/cell_editing.h"
+
+#include "editor/commit.h"
+#include "editor/redraw.h"
+#include "editor/resizing.h"
+#include "editor/word_pointing.h"
+#include "model/crossword_file.h"
+#include "support/recording_window.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+using Rows = std::vector<std::string>;
+
+constexpr auto Left = TastoMouse::Sinistro;
+constexpr auto Right = TastoMouse::Destro;
+
+class Editing : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    platform.hasWindow = true;
+  }
+
+  void Open(const Rows& rows) {
+    Draw(rows);
+    ASSERT_TRUE(ScriviIstantanea());
+    RiprendiSchema();
+    ModoGriglia = ModoModifica;
+  }
+
+  // The pointer goes to the upper right, or lower left, half of a cell; a button is pressed there.
+  void MoveTo(int column, int row, bool upperRight = true) {
+    const double high = LatoCasella * 0.25;
+    const double low = LatoCasella * 0.75;
+    PassaSullaSuperficie(BordoSinistro(column) + (upperRight ? low : high),
+                         BordoAlto(row) + (upperRight ? high : low));
+  }
+  void Press(TastoMouse button, int column, int row) {
+    PremiSullaSuperficie(button, BordoSinistro(column) + 3, BordoAlto(row) + 3);
+  }
+  void PressBeside(TastoMouse button = Left) { PremiSullaSuperficie(button, 1, 1); }
+
+  RecordingWindow window;
+};
+
+TEST_F(Editing, ToolsTurnCellsBlackAndWhiteWithBothButtons) {
+  Open({"CASA", "A...", "NE.."});
+  Definizione(1, 1, Orizzontale) = "Si abita";
+  struct Case {
+    void (*tool)();
+    TastoMouse button;
+    int column, row;
+    Rows grid;
+    int pointer;
+    bool changes;
+  };
+  const Case cases[] = {
+      {AttivaCasellaNera, Left, 2, 1, {"C#SA", "A...", "NE.."}, 4, true},
+      {AttivaCasellaNera, Left, 2, 1, {"C#SA", "A...", "NE.."}, 4, false},
+      {AttivaCasellaNera, Right, 2, 1, {"C.SA", "A...", "NE.."}, 2, true},
+      {AttivaCasellaBianca, Left, 2, 1, {"C.SA", "A...", "NE.."}, 2, false},
+      {AttivaCasellaBianca, Left, 1, 2, {"C.SA", "A...", "NE.."}, 2, false},
+      {AttivaCasellaBianca, Right, 4, 3, {"C.SA", "A...", "NE.#"}, 4, true},
+      {AttivaCasellaBianca, Left, 4, 3, {"C.SA", "A...", "NE.."}, 2, true},
+  };
+  for (const Case& one : cases) {
+    SCOPED_TRACE(&one - cases);
+    one.tool();
+    window.editPressed = true;  // as behind a button of the toolbar
+    SchemaModificato = Falso;
+    Press(one.button, one.column, one.row);
+    EXPECT_EQ(Drawing(), one.grid);
+    EXPECT_EQ(DrawingOfSchema(), one.grid);
+    EXPECT_EQ(PuntatoreMouse, one.pointer);
+    EXPECT_EQ(SchemaModificato, one.changes ? Vero : Falso);
+    EXPECT_EQ(window.editPressed, !one.changes);
+  }
+  EXPECT_EQ(Schema(5), "C...S.A.") << "the companion marks are in line again";
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "Si abita");
+  EXPECT_EQ(ModoGriglia, 8) << "the mode of the tool that was chosen";
+  PressBeside();
+  EXPECT_EQ(PuntatoreMouse, 0);
+  EXPECT_EQ(ModoGriglia, 1);
+  EXPECT_TRUE(window.editPressed);
+}
+
+TEST_F(Editing, ACellShowsItsNewGroundBeforeTheSnapshotIsWritten) {
+  Open({"....", "...."});
+  AttivaCasellaNera();
+  platform.window.calls.clear();
+  Press(Left, 1, 1);
+  EXPECT_TRUE(platform.window.calls.front().starts_with("RiquadroPieno"));
+  EXPECT_TRUE(platform.window.calls.front().ends_with(" 0"));
+  AttivaCasellaBianca();
+  platform.window.calls.clear();
+  Press(Left, 1, 1);
+  const double left = BordoSinistro(1) + 2;
+  const double top = BordoAlto(1) + 2;
+  platform.window.RiquadroPieno(left, top, left + LatoCasella - 4, top + LatoCasella - 4,
+                                ColoreBianco);
+  EXPECT_EQ(platform.window.calls.front(), platform.window.calls.back());
+}
+
+TEST_F(Editing, AChangeThatCannotReachTheSnapshotStays) {
+  Open({"....", "...."});
+  CartellaIstantanea = InFolder("manca");
+  AttivaCasellaNera();
+  Press(Left, 1, 1);
+  AggiungiColonna();
+  EXPECT_EQ(Drawing(), (Rows{"#....", "....."}));
+  EXPECT_EQ(user.TakeTexts().size(), 2u);
+  CartellaIstantanea.clear();
+  RiprendiSchema();
+  EXPECT_EQ(Drawing(), (Rows{"#....", "....."}));
+}
+
+TEST_F(Editing, AToolLeavesThePreviewThatShows) {
+  Open({"...."});
+  ModoGriglia = ModoAnteprima;
+  platform.window.calls.clear();
+  AttivaCasellaBianca();
+  EXPECT_FALSE(platform.window.calls.empty());
+  EXPECT_EQ(ModoGriglia, 8);
+}
+
+TEST_F(Editing, APressOutsideOfEditingOrWithoutMeaningEntersEditing) {
+  Open({"CASA"});
+  for (const int mode : {0, -1, 3, 20}) {
+    ModoGriglia = static_cast<std::int16_t>(mode);
+    Press(Left, 1, 1);
+    EXPECT_EQ(ModoGriglia, 1);
+    EXPECT_TRUE(window.editPressed);
+  }
+  window.editPressed = false;
+  MoveTo(1, 1);
+  Press(Right, 1, 1);
+  EXPECT_TRUE(window.editPressed) << "inside of the grid";
+  EXPECT_TRUE(window.shown.empty());
+  PressBeside();
+  EXPECT_EQ(ModoGriglia, 1);
+}
+
+TEST_F(Editing, AColourStaysAndACancelledChooserChangesNothing) {
+  Open({"CA#A"});
+  user.colours = {0x3060C0, NessunColore, 0};
+  Press(Left, 3, 1);
+  Press(Left, 3, 1);
+  EXPECT_EQ(ColoreCasella(3, 1), 0x3060C0);
+  EXPECT_EQ(ColoreScelto, NessunColore);
+  RiprendiSchema();
+  EXPECT_EQ(ColoreCasella(3, 1), 0x3060C0);
+  Press(Left, 3, 1);
+  RiprendiSchema();
+  EXPECT_EQ(ColoreCasella(3, 1), 0) << "plain black again, also for the read-back";
+  EXPECT_EQ(SchemaModificato, Falso);
+}
+
+TEST_F(Editing, AWordGoesToTheClueEditorAndComesBackIntoTheGrid) {
+  Open({"CASA", "A...", "NE.."});
+  MoveTo(1, 1, false);
+  Press(Left, 1, 1);
+  EXPECT_EQ(window.shown, std::vector{Modale::TelarDef});
+  EXPECT_EQ(CursoreX + CursoreY + Direzione, 4);
+  EXPECT_EQ(SchemaModificato, Falso) << "nothing was changed";
+
+  window.whenShown = [] {
+    ParolaCasella(1, 1, Verticale) = "COT";
+    Definizione(1, 1, Verticale) = "Nuova";
+  };
+  Press(Left, 1, 1);
+  EXPECT_EQ(Drawing(), (Rows{"CASA", "O...", "TE.."}));
+  EXPECT_EQ(SchemaModificato, Vero);
+  EXPECT_EQ(ParolaCasella(1, 1, Verticale), "COT");
+
+  MoveTo(1, 2);
+  MoveTo(3, 2);  // along the word: nothing changes but the cell, one behind
+  window.whenShown = [] {
+    ParolaCasella(MouseCol, MouseRiga, Direzione) = "RTEXXXXX";  // longer than the grid has room
+  };
+  Press(Left, 3, 2);
+  EXPECT_EQ(Drawing(), (Rows{"CASA", "ORTE", "TE.."}));
+
+  TogliColonna();
+  ModoGriglia = ModoModifica;
+  ImpostaPuntatoreMouse(PuntatoreOrizzontale);
+  MouseCol = 4;  // as it was before the column went
+  window.shown.clear();
+  Press(Left, 3, 1);
+  EXPECT_TRUE(window.shown.empty());
+}
+
+TEST_F(Editing, WithoutAGridNoPressDoesAnything) {
+  Press(Left, 1, 1);
+  AttivaCasellaNera();
+  Press(Left, 1, 1);
+  EXPECT_EQ(PuntatoreMouse, 4) << "LatoCasella 0";
+  Open({"CASA"});
+  NumColonne = NumRighe = 0;
+  AttivaCasellaNera();
+  Press(Left, 1, 1);
+  EXPECT_EQ(PuntatoreMouse, 0) << "beside the grid";
+  Press(Left, 1, 1);
+  for (const auto operation : {AggiungiColonna, AggiungiRiga, TogliColonna, TogliRiga})
+    operation();
+  EXPECT_EQ(user.TakeTexts().size(), 2u) << "too small to lose any";
+  EXPECT_EQ(NumColonne + NumRighe, 0);
+  EXPECT_EQ(SchemaModificato, Falso);
+}
+
+TEST_F(Editing, TheGridGrowsAndShrinksByOne) {
+  Open({"CASA", "A.#.", "NEL.", "...."});
+  Definizione(1, 4, Orizzontale) = "In basso";
+  ColoreCasella(3, 2) = 255;
+  ColoreCasella(4, 4) = 99;
+  struct Case {
+    void (*operation)();
+    Rows grid;
+    int mode;
+  };
+  const Case cases[] = {
+      {TogliRiga, {"CASA", "A.#.", "NEL."}, 6},
+      {TogliColonna, {"CAS", "A.#", "NEL"}, 4},
+      {AggiungiColonna, {"CAS.", "A.#.", "NEL."}, 3},
+      {AggiungiRiga, {"CAS.", "A.#.", "NEL.", "...."}, 5},
+  };
+  for (const Case& one : cases) {
+    SCOPED_TRACE(one.mode);
+    SchemaModificato = Falso;
+    one.operation();
+    EXPECT_EQ(Drawing(), one.grid);
+    EXPECT_EQ(Schema(4), Unisci("Dimensioni : ", DueCifre(NumColonne), 'x', DueCifre(NumRighe)));
+    EXPECT_EQ(ModoGriglia, one.mode);
+    EXPECT_EQ(PuntatoreMouse, 0);
+    EXPECT_EQ(SchemaModificato, Vero);
+    EXPECT_EQ(ColoreCasella(3, 2), 255);
+  }
+  EXPECT_EQ(Definizione(1, 4, Orizzontale), "In basso") << "the row is back";
+  EXPECT_EQ(ColoreCasella(4, 4), 99);
+  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "CAS.");
+}
+
+TEST_F(Editing, SizesHaveTheirLimits) {
+  struct Case {
+    Rows grid;
+    void (*operation)();
+    const char* told;
+  };
+  const Case cases[] = {
+      {{std::string(53, '.')}, AggiungiColonna, "Numero massimo consentito di colonne: 53"},
+      {Rows(30, "..."), AggiungiRiga, "Numero massimo consentito di righe: 30"},
+      {{"...", "..."}, TogliColonna, "Non ha senso fare un cruciverba con 3 caselle!"},
+      {{"....", "....", "...."}, TogliRiga, "Non ha senso un cruciverba con meno di 3 righe"},
+  };
+  for (const Case& one : cases) {
+    Open(one.grid);
+    ImpostaPuntatoreMouse(4);
+    one.operation();
+    EXPECT_EQ(user.TakeTexts(), Rows{one.told});
+    EXPECT_EQ(Drawing(), one.grid);
+    EXPECT_EQ(SchemaModificato, Falso);
+    EXPECT_EQ(PuntatoreMouse, 4);
+    EXPECT_EQ(ModoGriglia, 1);
+  }
+  Open({"....", "....", "....", "...."});
+  TogliColonna();
+  TogliRiga();
+  EXPECT_EQ(Drawing(), Rows(3, "..."));
+}
+
+TEST_F(Editing, RowLinesOfAnyLengthGrowInStep) {
+  Open({"....", "...."});
+  Schema(5) = "A.";
+  Schema(6) = "B.C.D.E.F.G.";
+  AggiungiColonna();
+  EXPECT_EQ(Drawing(), (Rows{"A....", "BCDE."}));
+}
+
+}  // namespace
+}  // namespace telarium
