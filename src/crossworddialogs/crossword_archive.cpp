@@ -78,7 +78,7 @@ Percorso NomeProposto() {
 bool SalvaNellArchivio(const Percorso& cartella, const Percorso& nome, const std::string& autore) {
   const Percorso intero = NomeIntero(cartella, nome);
   // No drive has a letter here.
-  if (nome.empty() || ConUnita(nome) || !NomePossibile(intero)) {
+  if (nome.filename().empty() || ConUnita(nome) || !NomePossibile(intero)) {
     Avvisa("Errore di nome file o accesso al disco!");
     return false;
   }

@@ -1,0 +1,121 @@
+#include "crossworddialogs/crossword_archive.h"
+
+#include <filesystem>
+
+#include "model/crossword_file.h"
+#include "platform/codepage.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+namespace fs = std::filesystem;
+using Texts = std::vector<std::string>;
+
+class Archive : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    Draw({"CASA"});
+    SchemaModificato = Vero;
+  }
+
+  bool Save(const Percorso& name, const std::string& author = "Ada") const {
+    return SalvaNellArchivio(InFolder(""), name, author);
+  }
+
+  void ExpectNotSaved(const char* told) {
+    EXPECT_EQ(user.TakeTexts(), Texts{told});
+    EXPECT_EQ(NomeCruciverba, "prova.tlrm");
+    EXPECT_EQ(SchemaModificato, Vero);
+    EXPECT_EQ(Schema(1), "Autore     : Prova");
+  }
+};
+
+TEST_F(Archive, ANameBecomesAFullOneWithAnEnding) {
+  fs::create_directory(InFolder("con.punto"));
+  const std::pair<Percorso, Percorso> names[] = {
+      {"uno", "uno.tlrm"},
+      {"due.txt", "due.txt"},
+      {"con.punto/tre", "con.punto/tre.tlrm"},
+      {InFolder("con.punto/quattro"), "con.punto/quattro.tlrm"},
+      {"Perché no à è ì ò ù", "Perché no à è ì ò ù.tlrm"},
+      {"漢字", "漢字.tlrm"},
+  };
+  for (const auto& [name, file] : names) {
+    NomeCruciverba = NomeMaiSalvato;
+    SchemaModificato = Vero;
+    ASSERT_TRUE(Save(name, "Ada"));
+    EXPECT_EQ(NomeCruciverba, InFolder(file));
+    EXPECT_EQ(SchemaModificato, Falso);
+    const std::string bytes = ReadFile(InFolder(file));
+    EXPECT_TRUE(bytes.starts_with("Autore     : Ada\r\nData"));
+    EXPECT_EQ(ReadFile(PercorsoIstantanea()), bytes);
+  }
+  EXPECT_EQ(AutoreDelCruciverba(), "Ada");
+  Schema(1) = "x";
+  EXPECT_EQ(AutoreDelCruciverba(), "");
+  ASSERT_TRUE(Save("corto"));
+  EXPECT_EQ(Schema(1), "x            Ada");
+}
+
+TEST_F(Archive, AFileIsWrittenOverOnlyWhenTheUserSaysSo) {
+  const Percorso old = WriteFile("già.tlrm", "old");
+  user.Answer(Risposta::Annulla);
+  EXPECT_TRUE(Save("già")) << "the window closes";
+  EXPECT_TRUE(fs::exists(PercorsoIstantanea()));
+  const Messaggio asked = user.TakeMessages().front();
+  EXPECT_EQ(asked.titolo, "Salvataggio file");
+  EXPECT_EQ(asked.testo,
+            Unisci("Il file ", Maiuscole(TestoPercorso(old)), " esiste già; vuoi riscriverlo?"_cp));
+  EXPECT_EQ(ReadFile(old), "old");
+  EXPECT_EQ(NomeCruciverba, "prova.tlrm");
+  EXPECT_EQ(SchemaModificato, Vero);
+  user.Answer(Risposta::Ok);
+  EXPECT_TRUE(Save("già"));
+  EXPECT_NE(ReadFile(old), "old");
+  user.TakeTexts();
+}
+
+TEST_F(Archive, ABadNameOrAFaultOfTheDiskCostsNothing) {
+  fs::create_directory(InFolder("cartella.tlrm"));
+  fs::create_directory(InFolder("con.punto"));
+  for (const Percorso& bad :
+       {Percorso(), Percorso("cartella.tlrm"), Percorso("manca/uno"), Percorso("C:\\uno"),
+        Percorso("con.punto/"), Percorso(std::string(300, 'n'))}) {
+    EXPECT_FALSE(Save(bad)) << bad;
+    ExpectNotSaved("Errore di nome file o accesso al disco!");
+  }
+  EXPECT_FALSE(Save("/dev/null/uno"));
+  ExpectNotSaved("Errore di nome file o accesso al disco!");
+  // A cell that no file can hold stands for a disk that takes nothing more.
+  const Percorso old = WriteFile("vecchio.tlrm", "old");
+  Schema(5)[0] = '\xFF';
+  user.Answer(Risposta::Ok);
+  EXPECT_FALSE(Save("vecchio"));
+  EXPECT_EQ(user.TakeTexts().back(), "Errore di scrittura del file!");
+  EXPECT_EQ(ReadFile(old), "old");
+  EXPECT_EQ(NomeCruciverba, "prova.tlrm");
+  EXPECT_EQ(Schema(1), "Autore     : Prova");
+}
+
+TEST_F(Archive, TheFolderIsMadeWhereItCanBe) {
+  EXPECT_EQ(CartellaArchivio(), InFolder("Archivio cruciverba"));
+  EXPECT_TRUE(fs::is_directory(InFolder("Archivio cruciverba")));
+  fs::remove(InFolder("Archivio cruciverba"));
+  WriteFile("Archivio cruciverba", "a file");
+  EXPECT_EQ(CartellaArchivio(), CartellaProgramma);
+}
+
+TEST_F(Archive, GivingUpWithoutACrosswordShowsNoGrid) {
+  EXPECT_EQ(NomeProposto(), "prova.tlrm");
+  RinunciaAdAprire();
+  EXPECT_EQ(ModoGriglia, 0);
+  NomeCruciverba.clear();
+  EXPECT_EQ(NomeProposto(), "Telar000.tlrm");
+  RinunciaAdAprire();
+  EXPECT_EQ(ModoGriglia, -1);
+}
+
+}  // namespace
+}  // namespace telarium

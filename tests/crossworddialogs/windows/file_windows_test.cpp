@@ -1,0 +1,211 @@
+#include <filesystem>
+
+#include "crossworddialogs/windows/Form2.h"
+#include "crossworddialogs/windows/TelarSav.h"
+#include "model/crossword_file.h"
+#include "model/state.h"
+#include "support/telarium_test.h"
+#include "support/window_helpers.h"
+
+namespace telarium {
+namespace {
+
+namespace fs = std::filesystem;
+using Texts = std::vector<std::string>;
+
+class FileWindows : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    fs::create_directory(archive);
+    Save("Beta.tlrm", {"SOLE", "...."});
+    Save("alfa.TLRM", {"CA#A"});
+    WriteFile("Archivio cruciverba/note.txt", "no crossword");
+    Draw({"OGGI"});
+  }
+
+  void Save(const char* name, const std::vector<std::string>& rows) const {
+    Draw(rows);
+    ASSERT_TRUE(ScriviCruciverba(archive / name));
+  }
+
+  static QString Names(const QListWidget& list) {
+    QStringList names;
+    for (int i = 0; i < list.count(); ++i)
+      names.append(list.item(i)->text());
+    return names.join(u' ');
+  }
+
+  // The folder of the tree that has this name.
+  static void GoTo(AlberoCartelle& tree, const QString& name) {
+    const auto found = tree.findItems(name, Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_FALSE(found.isEmpty());
+    tree.setCurrentItem(found.front());
+    QTest::keyClick(&tree, Qt::Key_Return);
+  }
+
+  const Percorso archive = InFolder("") / "Archivio cruciverba";
+};
+
+TEST_F(FileWindows, OpenShowsTheFirstFileAndTakesTheSelectedOne) {
+  Form2 window(nullptr);
+  Open(window);
+  EXPECT_EQ(Names(*window.File1), QStringLiteral("alfa.TLRM Beta.tlrm")) << "case ignored";
+  EXPECT_EQ(window.Text1->text(), QStringLiteral("alfa.TLRM"));
+  EXPECT_EQ(window.Frame1->title(), QStringLiteral("Anteprima: 04x01"));
+  EXPECT_EQ(window.StatusBar1->text(), QStringLiteral(" Prova - 05-03-2024 - Crociate Normale"));
+  const QImage shown = window.Picture1->grab().toImage();
+  const double cell = (window.Picture1->width() - 10) / 4;
+  const double ratio = shown.devicePixelRatio();
+  EXPECT_EQ(shown.pixelColor(
+                QPointF(window.Picture1->width() / 2.0 + cell / 2, window.Picture1->height() / 2.0)
+                    .toPoint() *
+                ratio),
+            QColor(Qt::black));
+  EXPECT_EQ(DrawingOfSchema(), Texts{"OGGI"}) << "a preview leaves the crossword alone";
+
+  QTest::keyClick(window.File1, Qt::Key_Down);
+  EXPECT_EQ(window.Frame1->title(), QStringLiteral("Anteprima: 04x02"));
+  QTest::keyClick(window.File1, Qt::Key_Return);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(NomeCruciverba, archive / "Beta.tlrm");
+  EXPECT_EQ(SchemaModificato, Falso);
+  EXPECT_EQ(ModoGriglia, 1);
+  EXPECT_EQ(ReadFile(PercorsoIstantanea()), ReadFile(archive / "Beta.tlrm"));
+}
+
+TEST_F(FileWindows, OpenTakesATypedNameADoubleClickAndRefusesWhatIsNotThere) {
+  Form2 window(nullptr);
+  Open(window);
+  QTest::keyClicks(window.Text1, QStringLiteral("x"));
+  QTest::keyClick(window.Text1, Qt::Key_Return);
+  window.Text1->clear();
+  QTest::mouseClick(window.Command3d1, Qt::LeftButton);
+  EXPECT_EQ(user.TakeTexts(), Texts(2, "Errore: file inesistente!"));
+  EXPECT_TRUE(window.isVisible());
+  const QPoint second = window.File1->visualItemRect(window.File1->item(1)).center();
+  QTest::mouseClick(window.File1->viewport(), Qt::LeftButton, {}, second);
+  QTest::mouseDClick(window.File1->viewport(), Qt::LeftButton, {}, second);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(NomeCruciverba, archive / "Beta.tlrm");
+}
+
+TEST_F(FileWindows, WhatThePreviewRefusesCanBeOpenedAsFarAsTheReaderTakesIt) {
+  std::string bytes = ReadFile(archive / "Beta.tlrm");
+  bytes.at(bytes.find("m.i.f._.")) = '{';  // "SOLE" as the file holds it, the S a small letter
+  Form2 window(nullptr);
+  Open(window);
+  WriteFile("Archivio cruciverba/alfa.TLRM", bytes);
+  window.File1->setCurrentRow(1);
+  window.File1->setCurrentRow(0);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Tipo di file non valido!"});
+  EXPECT_EQ(window.Frame1->title(), QStringLiteral("Anteprima"));
+  EXPECT_EQ(window.StatusBar1->text(), QString());
+  WriteFile("Archivio cruciverba/alfa.TLRM", "no crossword");
+  QTest::mouseClick(window.Command3d1, Qt::LeftButton);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Errore di lettura del file!"});
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_EQ(DrawingOfSchema(), Texts{"OGGI"});
+  WriteFile("Archivio cruciverba/alfa.TLRM", bytes);
+  QTest::mouseClick(window.Command3d1, Qt::LeftButton);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(NomeCruciverba, archive / "alfa.TLRM");
+}
+
+TEST_F(FileWindows, TheListsMoveTogether) {
+  fs::create_directories(InFolder(".nascosta/.sotto"));
+  fs::create_directory(archive / "vuota");
+  Form2 window(nullptr);
+  Open(window);
+  GoTo(*window.Dir1, QStringLiteral("vuota"));
+  EXPECT_EQ(window.File1->count(), 0);
+  EXPECT_EQ(window.Dir1->Cartella(), archive / "vuota");
+  EXPECT_TRUE(window.isVisible()) << "Enter in the tree opens no crossword";
+  GoTo(*window.Dir1, QStringLiteral("Archivio cruciverba"));
+  EXPECT_EQ(window.File1->count(), 2);
+  EXPECT_TRUE(window.Dir1->findItems(QStringLiteral(".nascosta"), Qt::MatchRecursive).isEmpty());
+  ASSERT_TRUE(window.Dir1->Vai(InFolder(".nascosta")));
+  EXPECT_EQ(window.Dir1->currentItem()->text(0), QStringLiteral(".nascosta"));
+  ASSERT_TRUE(window.Dir1->Vai(archive));
+
+  fs::remove(archive / "vuota");
+  GoTo(*window.Dir1, QStringLiteral("vuota"));
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+  EXPECT_EQ(window.Dir1->Cartella(), archive);
+
+  const int drive = window.Drive1->currentIndex();
+  EXPECT_GE(drive, 0);
+  window.Drive1->addItem(QStringLiteral("X"), QByteArray("/nowhere"));
+  window.Drive1->setCurrentIndex(window.Drive1->count() - 1);
+  emit window.Drive1->activated(window.Drive1->count() - 1);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Errore di lettura dal drive specificato"});
+  EXPECT_EQ(window.Dir1->Cartella(), archive);
+  EXPECT_EQ(window.Drive1->currentIndex(), drive);
+  EXPECT_EQ(window.File1->count(), 2);
+}
+
+TEST_F(FileWindows, AFolderThatGoesAwayCostsAMessage) {
+  Form2 window(nullptr);
+  Open(window);
+  fs::remove_all(archive);
+  window.File1->setCurrentRow(1);
+  QTest::mouseClick(window.Command3d1, Qt::LeftButton);
+  EXPECT_EQ(user.TakeTexts(),
+            (Texts{"Nessun file di cruciverba trovato!", "Errore: file inesistente!"}));
+  TelarSav save(nullptr);
+  Open(save);  // makes the folder again
+  fs::remove_all(archive);
+  save.Text1->setText(QStringLiteral("nuovo"));
+  QTest::keyClick(save.Text1, Qt::Key_Return);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Errore di nome file o accesso al disco!"});
+  EXPECT_TRUE(save.isVisible());
+}
+
+TEST_F(FileWindows, GivingUpOpensNothing) {
+  NomeCruciverba.clear();
+  Form2 window(nullptr);
+  Open(window);
+  QTest::keyClick(window.File1, Qt::Key_Escape);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(ModoGriglia, -1);
+  fs::remove_all(archive);
+  Open(window);
+  EXPECT_EQ(user.TakeTexts(), Texts()) << "an empty folder is no fault";
+}
+
+TEST_F(FileWindows, SaveTakesNameAndAuthorAndStaysAfterAFailure) {
+  NomeCruciverba = NomeMaiSalvato;
+  SchemaModificato = Vero;
+  TelarSav window(nullptr);
+  Open(window);
+  EXPECT_EQ(window.Text1->selectedText(), QStringLiteral("NuovoCruciverba.tlrm"));
+  EXPECT_EQ(window.Text2->text(), QStringLiteral("Prova"));
+  window.Text1->setText(QStringLiteral("manca/mio"));
+  QTest::keyClick(window.Text1, Qt::Key_Return);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Errore di nome file o accesso al disco!"});
+  EXPECT_TRUE(window.isVisible());
+  QTest::mouseClick(window.File1->viewport(), Qt::LeftButton, {},
+                    window.File1->visualItemRect(window.File1->item(1)).center());
+  EXPECT_EQ(window.Text1->text(), QStringLiteral("Beta.tlrm"));
+  window.Text1->setText(QStringLiteral("Citt\u00E0"));
+  window.Text2->setText(QStringLiteral("Nicol\u00F2, Forl\u00EC"));
+  QTest::keyClick(window.Text2, Qt::Key_Return);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(NomeCruciverba, archive / "Città.tlrm");
+  EXPECT_EQ(SchemaModificato, Falso);
+  EXPECT_TRUE(ReadFile(archive / "Città.tlrm").starts_with("Autore     : Nicol\xF2, Forl\xEC\r\n"));
+}
+
+TEST_F(FileWindows, TheKeyboardReachesEverything) {
+  Form2 open(nullptr);
+  Open(open);
+  EXPECT_EQ(TabOrder(open), QStringLiteral("File1 Text1 Command3d1 Command3d2 Drive1 Dir1"));
+  ExpectNamesOnce(open);
+  TelarSav save(nullptr);
+  Open(save);
+  EXPECT_EQ(TabOrder(save), QStringLiteral("Text1 Text2 Command3d1 Command3d2 Drive1 Dir1 File1"));
+  ExpectNamesOnce(save);
+}
+
+}  // namespace
+}  // namespace telarium
