@@ -1,20 +1,42 @@
 #pragma once
 
+#include <QApplication>
 #include <QSet>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
+#include <functional>
 
 #include <gtest/gtest.h>
+
+#include "platform/qt/qt_dialog.h"
 
 namespace telarium {
 
 inline constexpr int Patience = 10'000;  // milliseconds, for what takes none
 
 /// Shows a window and waits until it has done what it does when it opens.
-inline void Open(QWidget& window) {
+inline void Open(FinestraModale& window) {
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window, Patience));
-  QCoreApplication::processEvents();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window.Pronta(); }, Patience));
+}
+
+/// Does this to the next modal window of a class as soon as it is open, while the test waits for it
+/// to close. `context` outlives it.
+template <class Window>
+void WhenOpen(QObject& context, std::function<void(Window&)> act) {
+  QTimer::singleShot(0, &context, [&context, act] {
+    auto* window = dynamic_cast<Window*>(QApplication::activeModalWidget());
+    const auto* ours = dynamic_cast<FinestraModale*>(window);
+    if (!window || !window->isVisible() || (ours && !ours->Pronta())) {
+      return WhenOpen(context, act);
+    }
+    act(*window);
+    if (!window->isVisible()) return;
+    ADD_FAILURE() << "the window was left open";
+    window->close();
+  });
 }
 
 /// The named controls of a window in the order in which Tab goes through them, beginning with the

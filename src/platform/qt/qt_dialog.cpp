@@ -20,8 +20,12 @@ void FinestraModale::showEvent(QShowEvent* evento) {
   QRect dove = frameGeometry();
   dove.moveCenter(screen()->availableGeometry().center());
   move(dove.topLeft());
+  pronta_ = false;
   // Behind the show, for it may bring up a message.
-  QTimer::singleShot(0, this, [this] { Attivata(); });
+  QTimer::singleShot(0, this, [this] {
+    Attivata();
+    pronta_ = true;
+  });
 }
 
 void CasellaDiTesto::focusInEvent(QFocusEvent* evento) {

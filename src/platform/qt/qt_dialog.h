@@ -17,6 +17,10 @@ Controllo* Chiamato(const QString& nome, Controllo* controllo) {
 /// A modal window. It opens in the middle of the screen each time it is shown; Esc and its close
 /// box are Cancel.
 class FinestraModale : public QDialog {
+ public:
+  /// Whether it has done, since it was shown, what it does when it opens.
+  bool Pronta() const { return pronta_; }
+
  protected:
   FinestraModale(const QString& nome, const QString& titolo, QWidget* genitore);
 
@@ -24,6 +28,9 @@ class FinestraModale : public QDialog {
   virtual void Attivata() {}
 
   void showEvent(QShowEvent* evento) override;
+
+ private:
+  bool pronta_ = false;
 };
 
 /// A line of text that is selected whole whenever it gets the focus.

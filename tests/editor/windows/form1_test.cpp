@@ -5,13 +5,16 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
 #include <filesystem>
 #include <memory>
 #include <set>
 
+#include "crossworddialogs/windows/Form2.h"
+#include "crossworddialogs/windows/FormNew.h"
+#include "crossworddialogs/windows/TelarSav.h"
 #include "editor/commit.h"
+#include "editor/redraw.h"
 #include "editor/settings.h"
 #include "editor/startup.h"
 #include "editor/windows/form_commands.h"
@@ -19,11 +22,10 @@
 #include "fill/extraction.h"
 #include "model/crossword_file.h"
 #include "support/telarium_test.h"
+#include "support/window_helpers.h"
 
 namespace telarium {
 namespace {
-
-constexpr int Patience = 10'000;  // milliseconds
 
 class Form1Test : public TelariumTest {
  protected:
@@ -333,6 +335,120 @@ TEST_F(EndlessFill, EndsByEscAndHearsNothingElse) {
     user.Answer(Risposta::Annulla);  // to the saving question of the file from outside
     QTest::keyClick(form.get(), Qt::Key_Escape);
   });
+}
+
+// What a person does with the mouse on the grid, by cells.
+class RoadTest : public Form1Test {
+ protected:
+  void MoveTo(int column, int row) {
+    SendMouse(QEvent::MouseMove, Qt::NoButton, Middle(column, row));
+  }
+  void Click(int column, int row, Qt::MouseButton button = Qt::LeftButton) {
+    MoveTo(column, row);
+    SendMouse(QEvent::MouseButtonPress, button, Middle(column, row));
+    SendMouse(QEvent::MouseButtonRelease, button, Middle(column, row));
+  }
+  void ClickBeside() { SendMouse(QEvent::MouseButtonPress, Qt::LeftButton, QPointF(2, 100)); }
+
+  std::string Row(int row) const { return Drawing().at(static_cast<std::size_t>(row) - 1); }
+
+ private:
+  static QPointF Middle(int column, int row) {
+    return {BordoSinistro(column) + LatoCasella / 2.0, BordoAlto(row) + LatoCasella / 2.0};
+  }
+  void SendMouse(QEvent::Type type, Qt::MouseButton button, QPointF point) {
+    QMouseEvent event(type, point, form->Area->mapToGlobal(point), button, button, Qt::NoModifier);
+    QCoreApplication::sendEvent(form->Area, &event);
+  }
+};
+
+constexpr int BlackCellButton = 17;
+
+TEST_F(RoadTest, ACrosswordFromNothingToTheArchiveAndBack) {
+  WriteFile("STANDARD.dfc", ".....\r\n.*.*.\r\n.....\r\n.*.*.\r\n.....\r\n-\r\n");
+  Start();
+  const Percorso file = InFolder("Archivio cruciverba") / "Primo.tlrm";
+
+  WhenOpen<FormNew>(*form,
+                    [](FormNew& window) { QTest::mouseClick(window.Picture1[0], Qt::LeftButton); });
+  ClickButton(1);
+  EXPECT_EQ(Row(2), ".#.#.");
+  EXPECT_TRUE(form->windowTitle().endsWith(QStringLiteral("5x5  NuovoCruciverba.tlrm")));
+  EXPECT_FALSE(form->Picture1->isVisible());
+  EXPECT_TRUE(form->Voce("MenuSalvaCN").isEnabled());
+  EXPECT_EQ(PuntatoreMouse, 0);
+
+  ClickButton(BlackCellButton);
+  Click(1, 1);
+  Click(5, 1);
+  Click(5, 1, Qt::RightButton);
+  EXPECT_EQ(Row(1), "#....");
+  MoveTo(5, 1);
+  EXPECT_EQ(form->Label1->text(), QStringLiteral(" Casella bianca "));
+  Click(4, 2);
+  Click(4, 2, Qt::RightButton);
+  ClickBeside();
+  EXPECT_EQ(ModoGriglia, 1);
+  MoveTo(2, 2);
+  EXPECT_EQ(PuntatoreMouse, 0);
+  user.colours = {0x3060C0};
+  Click(2, 2);
+  EXPECT_EQ(Shown(BordoSinistro(2) + LatoCasella / 2.0, BordoAlto(2) + LatoCasella / 2.0),
+            QColor(0xC0, 0x60, 0x30));
+  MoveTo(1, 2);
+  EXPECT_EQ(form->Label1->text(), QStringLiteral("  4 vert. - "));
+  EXPECT_TRUE(form->Shape1->isVisible());
+  EXPECT_LT(form->Label1->y(), form->Area->height());
+  MoveOver(form->Label1);
+  EXPECT_GE(form->Label1->y(), form->Area->height()) << "never between the pointer and the grid";
+
+  for (const char* entry : {"MenuAC", "MenuAR", "MenuTC", "MenuTR"}) {
+    form->Voce(entry).trigger();
+    EXPECT_FALSE(form->Shape1->isVisible());
+  }
+  EXPECT_EQ(Drawing().size() * Row(1).size(), 25u);
+
+  WhenOpen<TelarSav>(*form, [](TelarSav& window) {
+    window.Text1->setText(QStringLiteral("Primo"));
+    QTest::keyClick(window.Text1, Qt::Key_Return);
+  });
+  form->Voce("menuSalva").trigger();
+  EXPECT_EQ(NomeCruciverba, file);
+  const std::string saved = ReadFile(file);
+
+  for (const Risposta answer : {Risposta::Annulla, Risposta::Ok}) {
+    form->Voce("MenuCN").trigger();
+    Click(3, 3);
+    user.Answer(answer);
+    WhenOpen<Form2>(*form, [](Form2& window) {
+      EXPECT_EQ(window.Text1->text(), QStringLiteral("Primo.tlrm"));
+      EXPECT_EQ(window.Frame1->title(), QStringLiteral("Anteprima: 05x05"));
+      QTest::mouseClick(window.Command3d1, Qt::LeftButton);
+    });
+    form->Voce("MenuApri").trigger();
+    EXPECT_EQ(ReadFile(file) == saved, answer == Risposta::Annulla);
+    EXPECT_EQ(Row(3), answer == Risposta::Annulla ? "....." : "..#..");
+    EXPECT_EQ(SchemaModificato, Falso);
+    EXPECT_EQ(ModoGriglia, 1);
+  }
+  EXPECT_EQ(ColoreCasella(2, 2), 0x3060C0);
+  EXPECT_EQ(user.TakeTexts().size(), 2u);
+}
+
+TEST_F(RoadTest, GivingUpWithoutACrosswordBringsTheSplashBack) {
+  Start();
+  WhenOpen<Form2>(*form, [&](Form2& window) {
+    EXPECT_FALSE(form->Picture1->isVisible());
+    window.close();
+  });
+  form->Voce("MenuApri").trigger();
+  EXPECT_TRUE(form->Picture1->isVisible());
+  EXPECT_EQ(EnabledButtons(), "Nuovo Apri ");
+  form->Voce("MenuAiuto").trigger();  // ends the look of a preview
+  EXPECT_EQ(EnabledButtons(), "Nuovo Apri ");
+  EXPECT_FALSE(form->Voce("MenuEdit").isEnabled());
+  ClickBeside();
+  EXPECT_EQ(NumColonne, 0);
 }
 
 TEST_F(Form1Test, TakesAFileFromAnotherStart) {

@@ -6,29 +6,19 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <functional>
 
-#include <gtest/gtest.h>
-
 #include "platform/codepage.h"
+#include "support/window_helpers.h"
 
 namespace telarium {
 namespace {
 
 class UserTest : public ::testing::Test {
  protected:
-  // Does this to the next box as soon as it is open.
   template <class Box>
   void WhenOpen(std::function<void(Box&)> act) {
-    QTimer::singleShot(0, &context_, [this, act] {
-      auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
-      if (box && box->isVisible()) {
-        act(*box);
-      } else {
-        WhenOpen(act);
-      }
-    });
+    telarium::WhenOpen<Box>(context_, std::move(act));
   }
 
   UtenteQt user;
