@@ -1,6 +1,8 @@
 #include "editor/windows/modal_windows.h"
 
-#include <QDialog>
+#include <QWidget>
+
+#include "auxiliary/windows/fONTEN.h"
 
 namespace telarium {
 namespace {
@@ -11,12 +13,23 @@ void Mostra(QWidget& principale) {
   Finestra(&principale).exec();
 }
 
+// Makes a window at its first showing and keeps it, as the user left it, with the main window.
+template <class Finestra>
+void MostraConservata(QWidget& principale) {
+  Finestra* finestra = nullptr;
+  for (QObject* figlio : principale.children())
+    if (!finestra) finestra = dynamic_cast<Finestra*>(figlio);
+  if (!finestra) finestra = new Finestra(&principale);
+  finestra->exec();
+}
+
 struct VoceModale {
   Modale quale;
   void (*mostra)(QWidget& principale);
 };
 
 constexpr VoceModale finestre[] = {
+    {Modale::fONTEN, MostraConservata<fONTEN>},
     {Modale::TelarDef, nullptr},
 };
 
