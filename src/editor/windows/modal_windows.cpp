@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "auxiliary/windows/fONTEN.h"
+#include "editor/windows/Settaggi.h"
 
 namespace telarium {
 namespace {
@@ -29,6 +30,7 @@ struct VoceModale {
 };
 
 constexpr VoceModale finestre[] = {
+    {Modale::Settaggi, Mostra<Settaggi>},
     {Modale::fONTEN, MostraConservata<fONTEN>},
     {Modale::TelarDef, nullptr},
 };
