@@ -1,9 +1,13 @@
 #include "editor/windows/modal_windows.h"
 
+#include <QWidget>
+
+#include "auxiliary/windows/fONTEN.h"
 #include "crossworddialogs/windows/Form2.h"
 #include "crossworddialogs/windows/FormModels.h"
 #include "crossworddialogs/windows/FormNew.h"
 #include "crossworddialogs/windows/TelarSav.h"
+#include "editor/windows/Settaggi.h"
 
 namespace telarium {
 namespace {
@@ -14,16 +18,25 @@ void Mostra(QWidget& principale) {
   Finestra(&principale).exec();
 }
 
+// Makes a window at its first showing and keeps it, as the user left it, with the main window.
+template <class Finestra>
+void MostraConservata(QWidget& principale) {
+  Finestra* finestra = nullptr;
+  for (QObject* figlio : principale.children())
+    if (!finestra) finestra = dynamic_cast<Finestra*>(figlio);
+  if (!finestra) finestra = new Finestra(&principale);
+  finestra->exec();
+}
+
 struct VoceModale {
   Modale quale;
   void (*mostra)(QWidget& principale);
 };
 
 constexpr VoceModale finestre[] = {
-    {Modale::FormNew, Mostra<FormNew>},
-    {Modale::FormModels, Mostra<FormModels>},
-    {Modale::Form2, Mostra<Form2>},
-    {Modale::TelarSav, Mostra<TelarSav>},
+    {Modale::Settaggi, Mostra<Settaggi>}, {Modale::fONTEN, MostraConservata<fONTEN>},
+    {Modale::FormNew, Mostra<FormNew>},   {Modale::FormModels, Mostra<FormModels>},
+    {Modale::Form2, Mostra<Form2>},       {Modale::TelarSav, Mostra<TelarSav>},
 };
 
 }  // namespace

@@ -102,9 +102,8 @@ TEST_F(NewWindows, EscapeAndTheCloseBoxLeaveAllAsItWas) {
 TEST_F(NewWindows, TheKeyboardGoesThroughTheSizeTheButtonsAndTheModels) {
   FormNew window(nullptr);
   Open(window);
-  EXPECT_EQ(TabOrder(window),
-            QStringLiteral("Text1 Text2 Command3d1 Command3d2 Picture1_0 Picture1_1 File1"));
-  ExpectNamesOnce(window);
+  EXPECT_EQ(TabOrder(window), "Text1 Text2 Command3d1 Command3d2 Picture1_0 Picture1_1 File1 ");
+  ExpectNamedControls(window);
 }
 
 TEST_F(NewWindows, TheWindowOfTheModelsBeginsAFixedGridOrAModel) {
@@ -117,7 +116,7 @@ TEST_F(NewWindows, TheWindowOfTheModelsBeginsAFixedGridOrAModel) {
   Open(window);
   QTest::mouseClick(window.Picture1[1], Qt::LeftButton);
   EXPECT_EQ(Schema(4), "Dimensioni : 04x02");
-  ExpectNamesOnce(window);
+  ExpectNamedControls(window);
 }
 
 }  // namespace

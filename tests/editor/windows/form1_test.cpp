@@ -10,6 +10,7 @@
 #include <memory>
 #include <set>
 
+#include "auxiliary/windows/fONTEN.h"
 #include "crossworddialogs/windows/Form2.h"
 #include "crossworddialogs/windows/FormNew.h"
 #include "crossworddialogs/windows/TelarSav.h"
@@ -17,6 +18,7 @@
 #include "editor/redraw.h"
 #include "editor/settings.h"
 #include "editor/startup.h"
+#include "editor/windows/Settaggi.h"
 #include "editor/windows/form_commands.h"
 #include "editor/windows/menu_table.h"
 #include "fill/extraction.h"
@@ -225,6 +227,31 @@ TEST_F(Form1Test, KeepsTheEditButtonPressedBehindEachButtonOfTheToolbar) {
   form->Voce("menuRidisegna").trigger();
   EXPECT_TRUE(form->Command3d15->isHidden());
   EXPECT_EQ(ModoGriglia, 1);
+}
+
+TEST_F(Form1Test, DrawsWhatItsModalWindowsSet) {
+  StartWith({"CA#", "...", "..."});
+  const auto whenOpen = [](auto act) {
+    QTimer::singleShot(0, qApp, [act] {
+      auto* window = QApplication::activeModalWidget();
+      ASSERT_TRUE(window);
+      act(*window);
+      QTest::keyClick(window, Qt::Key_Return);
+      EXPECT_FALSE(window->isVisible());
+    });
+  };
+  const auto frameColour = [this] { return Shown(OrigineX + LatoCasella, OrigineY - 7 + 0.5); };
+  EXPECT_NE(frameColour(), QColor(128, 0, 0));
+  whenOpen([](QWidget& window) { static_cast<Settaggi&>(window).HScroll6->setValue(5); });
+  form->Voce("menusetschema").trigger();
+  EXPECT_EQ(frameColour(), QColor(128, 0, 0));
+  whenOpen([](QWidget& window) {
+    auto& list = *static_cast<fONTEN&>(window).LstFonts;
+    EXPECT_EQ(list.currentItem()->text(), QStringLiteral("Arial"));
+    QTest::keyClicks(&list, QStringLiteral("Liberation Mono"));
+  });
+  form->Voce("MenuFont").trigger();
+  EXPECT_EQ(NomeFont, "Liberation Mono");
 }
 
 // Sent straight to the control: the offscreen platform follows no pointer.

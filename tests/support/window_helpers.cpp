@@ -1,0 +1,43 @@
+#include "support/window_helpers.h"
+
+#include <QAbstractScrollArea>
+#include <QTest>
+#include <set>
+
+#include <gtest/gtest.h>
+
+namespace telarium {
+namespace {
+
+void CheckNames(const QWidget& widget, std::set<QString>& names) {
+  if (qobject_cast<const QAbstractScrollArea*>(&widget)) return;
+  for (const QObject* child : widget.children()) {
+    if (!child->isWidgetType()) continue;
+    const QString& name = child->objectName();
+    if (name.startsWith(QStringLiteral("qt_"))) continue;
+    EXPECT_FALSE(name.isEmpty()) << "a " << child->metaObject()->className() << " without a name";
+    EXPECT_TRUE(names.insert(name).second) << "two controls named " << name.toStdString();
+    CheckNames(static_cast<const QWidget&>(*child), names);
+  }
+}
+
+}  // namespace
+
+void ExpectNamedControls(const QWidget& window) {
+  std::set<QString> names;
+  CheckNames(window, names);
+  EXPECT_FALSE(names.empty());
+}
+
+std::string TabOrder(QWidget& window) {
+  std::string order;
+  const QWidget* first = window.focusWidget();
+  for (const QWidget* reached = first; reached; reached = window.focusWidget()) {
+    order += reached->objectName().toStdString() + ' ';
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    if (window.focusWidget() == first) break;
+  }
+  return order;
+}
+
+}  // namespace telarium
