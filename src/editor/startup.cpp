@@ -97,6 +97,7 @@ void AbbandonaIstantanea() {
 void MostraAvvio() {
   if (Superficie* superficie = FinestraPrincipale()) {
     superficie->Grassetto(false);
+    superficie->Corsivo(false);
     superficie->Carattere(FontDelleLettere());
   }
   AggiornaSpunte();
