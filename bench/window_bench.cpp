@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QMouseEvent>
 #include <QPainter>
 #include <cstdio>
 #include <cstdlib>
@@ -6,6 +7,7 @@
 #include <benchmark/benchmark.h>
 
 #include "crossworddialogs/new_crossword.h"
+#include "editor/cell_editing.h"
 #include "editor/commit.h"
 #include "editor/redraw.h"
 #include "editor/startup.h"
@@ -57,6 +59,25 @@ void BM_Repaint(benchmark::State& state, Form1& form) {
   }
 }
 
+// A cell turns black, and white again at the next click: from the press of the mouse to the picture
+// on the screen.
+void BM_Click(benchmark::State& state, Form1& form) {
+  FullGrid();
+  AttivaCasellaNera();
+  const QPointF cell(BordoSinistro(1) + LatoCasella / 2.0, BordoAlto(1) + LatoCasella / 2.0);
+  const bool black = LetteraCasella(1, 1) == CellaNera;
+  Qt::MouseButton button = black ? Qt::RightButton : Qt::LeftButton;
+  for (auto _ : state) {
+    QMouseEvent press(QEvent::MouseButtonPress, cell, form.Area->mapToGlobal(cell), button, button,
+                      Qt::NoModifier);
+    QApplication::sendEvent(form.Area, &press);
+    QApplication::processEvents();
+    benchmark::DoNotOptimize(form.Area->Superficie().Immagine());
+    // Each click changes the tool too, so that the other button undoes it.
+    button = Qt::RightButton;
+  }
+}
+
 void OpenModelGrid() {
   if (NuovoDaModello(CartellaProgramma / NomeModelliIniziale, ModelNumber) != EsitoNuovo::Fatto) {
     abort();
@@ -92,6 +113,8 @@ void PrintTable(std::map<std::string, double>& medians) {
   std::printf("| redraw of a full 53x30 with %d coloured cells at 1920x1080 | %.2f | under 16 |\n",
               ColouredCells, medians["redraw"]);
   std::printf("| repaint of it | %.2f | under 2 |\n", medians["repaint"]);
+  std::printf("| click to screen, a cell of it turns black or white | %.2f | under 30 |\n",
+              medians["click"]);
   std::printf("| an attempt of the endless run, 13x13: searching | %.2f | |\n", hidden);
   std::printf("| what its painting adds | %.2f | less than the searching |\n", shown - hidden);
 }
@@ -113,6 +136,7 @@ int Main() {
 
   Register("redraw", [&](benchmark::State& state) { BM_Redraw(state, form); });
   Register("repaint", [&](benchmark::State& state) { BM_Repaint(state, form); });
+  Register("click", [&](benchmark::State& state) { BM_Click(state, form); });
   Register("attempts/hidden",
            [&](benchmark::State& state) { BM_Attempts(state, platform, form, false); });
   Register("attempts/shown",
