@@ -1,3 +1,5 @@
+#include "crossworddialogs/crossword_preview.h"
+#include "editor/resizing.h"
 #include "fuzz/fuzz_target.h"
 #include "model/crossword_file.h"
 #include "model/words.h"
@@ -16,20 +18,41 @@ std::string Written() {
   return bytes;
 }
 
+// A preview stays on its surface and leaves the crossword alone.
+void Preview(std::string_view input) {
+  const Percorso file = CartellaProgramma / "fuzz.tlrm";
+  if (ScriviFile(file, input, Permanenza::Provvisoria)) return;
+  RecordingSurface surface;
+  const std::string line = Schema(5);
+  MostraAnteprima(file, surface);
+  Verifica(surface.calls.size() <= 3u + 4 * MaxColonne * MaxRighe, "more than a grid was drawn");
+  Verifica(Schema(5) == line, "the preview changed the crossword");
+}
+
+// The grid grows and shrinks whatever the lengths of its lines.
+void Resize() {
+  const int cells = NumColonne * NumRighe;
+  for (const auto operation : {AggiungiColonna, AggiungiRiga, TogliColonna, TogliRiga})
+    operation();
+  Verifica(NumColonne * NumRighe <= cells || NumColonne < 4 || NumRighe < 4, "it only grew");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   StartFresh();
   const std::string_view input = TextOf(data, size);
+  const bool slow = OneIn(8, input);
   const bool read = InterpretaCruciverba(input);
   RicalcolaCaselle();
+  if (slow) Preview(input);
   if (NumColonne == 0) return 0;
   for (const char cell : {CellaNera, 'A', CellaVuota}) {
     ScriviInSchema({NumColonne, NumRighe}, cell);
     ScriviInSchema({1, NumRighe}, cell);
     RicalcolaCaselle();
   }
-  if (!read || !OneIn(8, input)) return 0;
+  if (!read || !slow) return 0;
   // What is written reads as the same.
   const std::string first = Written();
   if (first.empty()) return 0;
@@ -37,5 +60,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
            "what was written cannot be read");
   RicalcolaCaselle();
   Verifica(Written() == first, "the second file differs from the first");
+  Resize();
   return 0;
 }

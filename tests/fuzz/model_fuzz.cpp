@@ -1,4 +1,7 @@
+#include <array>
+
 #include "crossworddialogs/model_file.h"
+#include "crossworddialogs/model_preview.h"
 #include "crossworddialogs/new_crossword.h"
 #include "fuzz/fuzz_target.h"
 #include "model/crossword_file.h"
@@ -12,6 +15,18 @@ void TryNew(const Percorso& file, int number) {
   try {
     if (NuovoDaModello(file, number) != EsitoNuovo::Fatto) return;
     Verifica(LeggiIstantanea(), "the new crossword cannot be read");
+  } catch (const ProgramEnded&) {
+    // A bad row or character.
+  }
+}
+
+void TryPreviews(const Percorso& file) {
+  std::array<RecordingSurface, MaxModelli> surfaces;
+  std::array<Superficie*, MaxModelli> pictures;
+  for (std::size_t i = 0; i < pictures.size(); ++i)
+    pictures[i] = &surfaces[i];
+  try {
+    MostraModelli(file, pictures);
   } catch (const ProgramEnded&) {
     // A bad row or character.
   }
@@ -32,6 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!OneIn(8, input)) return 0;
   const Percorso file = CartellaProgramma / "fuzz.dfc";
   if (ScriviFile(file, input, Permanenza::Provvisoria)) return 0;
+  TryPreviews(file);
   for (int n = -1; n <= static_cast<int>(models.size()); ++n) {
     TryNew(file, n);
   }
