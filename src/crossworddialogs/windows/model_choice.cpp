@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "model/state.h"
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int FigurePerRiga = 4;
 constexpr QSize MisuraFigura(164, 148);  // logical pixels
+constexpr QSize MisuraMinimaFigura(96, 84);
 constexpr QPoint SpostamentoPremuta(6, 6);
 constexpr int LarghezzaElenco = 150;
 constexpr const char* ModelloDiFile = "*.dfc";
@@ -22,7 +24,7 @@ constexpr const char* ModelloDiFile = "*.dfc";
 
 FiguraModello::FiguraModello(QWidget* genitore) : Tela(genitore) {
   Superficie().Sfondo(Qt::white);
-  setMinimumSize(MisuraFigura);
+  setMinimumSize(MisuraMinimaFigura);
 }
 
 QSize FiguraModello::sizeHint() const {
@@ -111,7 +113,15 @@ void SceltaModello::Disponi(QLayout* extra) {
   tutto->addLayout(sopra, 1);
   tutto->addWidget(Label5);
   tutto->addLayout(pulsanti);
-  setFixedSize(sizeHint());  // a larger preview would show no more
+}
+
+// All pictures have their new sizes when they are drawn anew, and a file that cannot be shown has
+// been told.
+void SceltaModello::resizeEvent(QResizeEvent* evento) {
+  FinestraModale::resizeEvent(evento);
+  QTimer::singleShot(0, this, [this] {
+    if (Picture1.front()->isEnabled()) MostraIModelli();
+  });
 }
 
 void SceltaModello::Attivata() {

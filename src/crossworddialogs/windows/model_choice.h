@@ -69,6 +69,7 @@ class SceltaModello : public FinestraModale {
   /// Arranges the controls, those of `extra` between the previews and the buttons.
   void Disponi(QLayout* extra);
   void Attivata() override;
+  void resizeEvent(QResizeEvent* evento) override;
 
  private:
   void MostraIModelli();

@@ -17,8 +17,10 @@ FinestraModale::FinestraModale(const QString& nome, const QString& titolo, QWidg
 void FinestraModale::showEvent(QShowEvent* evento) {
   QDialog::showEvent(evento);
   if (evento->spontaneous()) return;  // only comes back from an icon
+  const QRect schermo = screen()->availableGeometry();
+  resize(size().boundedTo(schermo.size()));
   QRect dove = frameGeometry();
-  dove.moveCenter(screen()->availableGeometry().center());
+  dove.moveCenter(schermo.center());
   move(dove.topLeft());
   pronta_ = false;
   // Behind the show, for it may bring up a message.

@@ -6,13 +6,23 @@
 
 namespace telarium {
 
+namespace {
+
+// Where two foundries have a family of one name, Qt puts theirs behind it: "C059 [urw]".
+QString SenzaFonderia(const QString& nome) {
+  const qsizetype parentesi = nome.endsWith(u']') ? nome.lastIndexOf(QStringLiteral(" [")) : -1;
+  return parentesi > 0 ? nome.left(parentesi) : nome;
+}
+
+}  // namespace
+
 QStringList FamiglieInstallate() {
-  const QString arial = QStringLiteral("Arial");
-  QStringList nomi = QFontDatabase::families();
-  nomi.removeIf([](const QString& nome) {
-    return QFontDatabase::isPrivateFamily(nome) || AQt(DaQt(nome)) != nome;
-  });
-  if (!nomi.contains(arial)) nomi.append(arial);
+  QStringList nomi{QStringLiteral("Arial")};
+  for (const QString& famiglia : QFontDatabase::families()) {
+    if (!QFontDatabase::isPrivateFamily(famiglia)) nomi.append(SenzaFonderia(famiglia));
+  }
+  nomi.removeIf([](const QString& nome) { return AQt(DaQt(nome)) != nome; });
+  nomi.removeDuplicates();
   nomi.sort(Qt::CaseInsensitive);
   return nomi;
 }

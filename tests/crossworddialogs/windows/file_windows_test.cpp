@@ -2,6 +2,7 @@
 
 #include "crossworddialogs/windows/Form2.h"
 #include "crossworddialogs/windows/TelarSav.h"
+#include "editor/settings.h"
 #include "model/crossword_file.h"
 #include "model/state.h"
 #include "support/telarium_test.h"
@@ -17,6 +18,7 @@ class FileWindows : public TelariumTest {
  protected:
   void SetUp() override {
     TelariumTest::SetUp();
+    ImpostazioniIniziali();
     fs::create_directory(archive);
     Save("Beta.tlrm", {"SOLE", "...."});
     Save("alfa.TLRM", {"CA#A"});
