@@ -113,6 +113,7 @@ void SceltaModello::Disponi(QLayout* extra) {
   tutto->addLayout(sopra, 1);
   tutto->addWidget(Label5);
   tutto->addLayout(pulsanti);
+  resize(sizeHint());
 }
 
 // All pictures have their new sizes when they are drawn anew, and a file that cannot be shown has
