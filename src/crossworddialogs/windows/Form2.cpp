@@ -54,7 +54,6 @@ void Form2::CreaControlli() {
   Command3d1->setDefault(true);
   Command3d2 =
       Chiamato(QStringLiteral("Command3d2"), new QPushButton(QStringLiteral("&Annulla"), this));
-  Command3d2->setAutoDefault(false);
 }
 
 void Form2::Disponi() {

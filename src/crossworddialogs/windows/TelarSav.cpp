@@ -50,7 +50,6 @@ void TelarSav::CreaControlli() {
   Command3d1->setDefault(true);
   Command3d2 =
       Chiamato(QStringLiteral("Command3d2"), new QPushButton(QStringLiteral("&Annulla"), this));
-  Command3d2->setAutoDefault(false);
 }
 
 void TelarSav::Disponi() {

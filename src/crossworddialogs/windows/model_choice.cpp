@@ -86,7 +86,6 @@ SceltaModello::SceltaModello(const QString& nome, const QString& istruzione, QWi
   connect(Command3d1, &QPushButton::clicked, this, [this] { Crea(); });
   Command3d2 =
       Chiamato(QStringLiteral("Command3d2"), new QPushButton(QStringLiteral("&Annulla"), this));
-  Command3d2->setAutoDefault(false);
   connect(Command3d2, &QPushButton::clicked, this, &SceltaModello::reject);
 }
 

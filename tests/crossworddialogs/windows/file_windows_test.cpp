@@ -207,6 +207,10 @@ TEST_F(FileWindows, TheKeyboardReachesEverything) {
   Open(save);
   EXPECT_EQ(TabOrder(save), "Text1 Text2 Command3d1 Command3d2 Drive1 Dir1 File1 ");
   ExpectNamedControls(save);
+  save.Command3d2->setFocus();
+  QTest::keyClick(save.Command3d2, Qt::Key_Return);
+  EXPECT_FALSE(save.isVisible());
+  EXPECT_EQ(NomeCruciverba, "prova.tlrm") << "the button that has the focus is meant";
 }
 
 }  // namespace
