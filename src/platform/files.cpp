@@ -121,7 +121,11 @@ void FissaCartella(const Percorso& cartella) {
 
 std::string InMaiuscole(const Percorso& nome) {
   if (const auto testo = DaUtf8Esatto(nome.string())) return Maiuscole(*testo);
-  return nome.string();  // a name that the code page cannot write is compared by its bytes
+  // In a name that the code page cannot write only the letters of ASCII have two cases.
+  std::string byte = nome.string();
+  for (char& uno : byte)
+    if (static_cast<unsigned char>(uno) < 0x80) uno = Maiuscola(uno);
+  return byte;
 }
 
 bool CorrispondeAlModello(std::string_view nome, std::string_view modello) {
@@ -152,19 +156,6 @@ std::vector<Percorso> NomiDelleVoci(const Percorso& cartella, std::error_code& e
   }
   std::sort(nomi.begin(), nomi.end());
   return nomi;
-}
-
-template <class Condizione>
-std::vector<Percorso> NomiDiFile(const Percorso& cartella, Condizione condizione) {
-  std::error_code ignorato;
-  return NomiDelleVoci(cartella, ignorato, [&](const fs::directory_entry& voce) {
-    std::error_code nonCartella;
-    return condizione(voce.path().filename()) && !voce.is_directory(nonCartella);
-  });
-}
-
-bool Nascosto(const Percorso& nome) {
-  return nome.native().starts_with('.');
 }
 
 }  // namespace
@@ -246,9 +237,12 @@ std::optional<Percorso> TrovaFile(const Percorso& cartella, const Percorso& nome
   if (EsisteFile(esatto)) return esatto;
   if (nome.filename().empty()) return std::nullopt;
   const std::string cercato = InMaiuscole(nome.filename());
-  const auto trovati = NomiDiFile(esatto.parent_path(), [&](const Percorso& presente) {
-    return InMaiuscole(presente) == cercato;
-  });
+  std::error_code ignorato;
+  const auto trovati =
+      NomiDelleVoci(esatto.parent_path(), ignorato, [&](const fs::directory_entry& voce) {
+        std::error_code nonCartella;
+        return InMaiuscole(voce.path().filename()) == cercato && !voce.is_directory(nonCartella);
+      });
   if (trovati.empty()) return std::nullopt;
   return esatto.parent_path() / trovati.front();
 }
@@ -259,8 +253,11 @@ Percorso PercorsoNellaCartella(const Percorso& cartella, const Percorso& nome) {
 
 std::vector<Percorso> ElencaFile(const Percorso& cartella, std::string_view modello) {
   const std::string capitali = Maiuscole(modello);
-  return NomiDiFile(cartella, [&](const Percorso& nome) {
-    return CorrispondeAlModello(InMaiuscole(nome), capitali);
+  std::error_code ignorato;
+  return NomiDelleVoci(cartella, ignorato, [&](const fs::directory_entry& voce) {
+    std::error_code nonFile;
+    return CorrispondeAlModello(InMaiuscole(voce.path().filename()), capitali) &&
+           voce.is_regular_file(nonFile);
   });
 }
 
@@ -268,10 +265,14 @@ std::error_code ElencaCartelle(const Percorso& cartella, std::vector<Percorso>& 
   std::error_code errore;
   std::vector<Percorso> nomi = NomiDelleVoci(cartella, errore, [](const fs::directory_entry& voce) {
     std::error_code illeggibile;
-    return !Nascosto(voce.path().filename()) && voce.is_directory(illeggibile);
+    return !FileNascosto(voce.path()) && voce.is_directory(illeggibile);
   });
   if (!errore) cartelle = std::move(nomi);
   return errore;
+}
+
+bool FileNascosto(const Percorso& nome) {
+  return nome.filename().native().starts_with('.');
 }
 
 std::string TestoPercorso(const Percorso& nome) {

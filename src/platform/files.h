@@ -47,14 +47,17 @@ std::optional<Percorso> TrovaFile(const Percorso& cartella, const Percorso& nome
 /// making.
 Percorso PercorsoNellaCartella(const Percorso& cartella, const Percorso& nome);
 
-/// The names of the files of a folder that match a pattern with "*" and "?", whatever their case,
-/// in the order of the bytes. An unreadable folder gives none.
+/// The names of the ordinary files of a folder that match a pattern with "*" and "?", whatever
+/// their case, in the order of the bytes. An unreadable folder gives none.
 std::vector<Percorso> ElencaFile(const Percorso& cartella, std::string_view modello);
 
 /// The names of the folders in a folder but for hidden ones, in the order of the bytes. The error
 /// of reading it, 0 for none; then `cartelle` stays as it was.
 [[nodiscard]] std::error_code ElencaCartelle(const Percorso& cartella,
                                              std::vector<Percorso>& cartelle);
+
+/// Whether the system's own lists leave a file or folder out.
+bool FileNascosto(const Percorso& nome);
 
 /// A file name as text for a message or a page: in the code page, "?" for what that cannot write.
 std::string TestoPercorso(const Percorso& nome);

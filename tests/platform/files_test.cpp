@@ -88,6 +88,21 @@ TEST_F(Files, NamesAreFoundWhateverTheirCase) {
   EXPECT_EQ(ElencaFile(CartellaProgramma, "P*H?.d*"), Names{"Perché.dat"});
   EXPECT_EQ(ElencaFile(InFolder("manca"), "*"), Names{});
   EXPECT_EQ(TestoPercorso("è→.tlrm"), "è?.tlrm"_cp);
+  WriteFile("Zażółć.Tlrm", "x");
+  WriteFile("byte\xE8.tlrm", "x");
+  EXPECT_EQ(ElencaFile(CartellaProgramma, "*.tlr*"), (Names{"Zażółć.Tlrm", "byte\xE8.tlrm"}));
+  EXPECT_EQ(found("zAżółć.TLRM"), InFolder("Zażółć.Tlrm"));
+}
+
+TEST_F(Files, FoldersAreListedWithoutHiddenOnes) {
+  for (const char* name : {"b", "A", ".nascosta"})
+    fs::create_directory(InFolder(name));
+  WriteFile("file", "x");
+  Names folders;
+  EXPECT_FALSE(ElencaCartelle(CartellaProgramma, folders));
+  EXPECT_EQ(folders, (Names{"A", "b"}));
+  EXPECT_TRUE(ElencaCartelle(InFolder("manca"), folders));
+  EXPECT_EQ(folders, (Names{"A", "b"})) << "as they were";
 }
 
 }  // namespace
