@@ -23,6 +23,15 @@ double RientroCasellaNera(double lato) {
   return m < 1 ? 1 : m * lato / 100;
 }
 
+void DisegnaContorno(Superficie& superficie, double x, double y, double lato) {
+  superficie.Riquadro(x, y, x + lato, y + lato, ColoreNero);
+}
+
+void DisegnaCasellaNera(Superficie& superficie, double x, double y, double lato, Colore colore) {
+  const double g = RientroCasellaNera(lato);
+  superficie.RiquadroPieno(x + g, y + g, x + lato - g, y + lato - g, colore);
+}
+
 double CorpoLettere(double lato, double minimo) {
   return std::max(Corpo(AltezzaCaratteri, lato), minimo);
 }

@@ -12,6 +12,11 @@ namespace telarium {
 /// much that the square turns inside out.
 double RientroCasellaNera(double lato);
 
+/// Draws the outline of a cell of that side from its left top corner, and the square that fills a
+/// black one.
+void DisegnaContorno(Superficie& superficie, double x, double y, double lato);
+void DisegnaCasellaNera(Superficie& superficie, double x, double y, double lato, Colore colore);
+
 /// Type size of the letters for cells of that side, from AltezzaCaratteri: at least `minimo`, and
 /// no larger than a letter that overfills its cell already, whatever the settings say.
 double CorpoLettere(double lato, double minimo);

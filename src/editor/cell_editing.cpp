@@ -50,14 +50,9 @@ void Colora(Casella casella) {
   ColoreScelto = ChiUsa().ScegliColore(colore);
   if (ColoreScelto < 0) return;
   colore = ColoreScelto;
+  // Else the redraw does it. No older colour shall come back.
+  if (!SchemaColorato()) AggiornaIstantanea();
   RidisegnaSchema();
-  // The redraw writes coloured black cells alone; no older colour shall come back.
-  AggiornaIstantanea();
-}
-
-bool NelloSchema(Casella casella) {
-  return casella.colonna >= 1 && casella.colonna <= NumColonne && casella.riga >= 1 &&
-         casella.riga <= NumRighe;
 }
 
 // Hands the word from the cell on to the clue editor, which works on the two entries themselves,
@@ -107,14 +102,16 @@ void PremiSullaSuperficie(TastoMouse tasto, double x, double y) {
   LaFinestra().MostraCommand3d15(false);
   if (LatoCasella == 0) return;
   const Casella casella = CasellaSotto(x, y);
-  const bool dentro = SulloSchema(x, y, casella);
+  const bool dentro = NelloSchema(casella);
   if (dentro && sinistro && puntatore == PuntatoreFreccia) return Colora(casella);
   if (!dentro || (!sinistro && !strumento)) {
     LaFinestra().TogliLabel1();  // the tool's name holds no longer
     return EntraInModifica();
   }
-  if (strumento && tasto != TastoMouse::Altro)
-    return TrasformaSeDiversa(casella, (puntatore == PuntatoreCasellaNera) == sinistro);
+  if (strumento && tasto != TastoMouse::Altro) {
+    TrasformaSeDiversa(casella, (puntatore == PuntatoreCasellaNera) == sinistro);
+    return PassaSullaSuperficie(x, y);  // the tool may be the other one now
+  }
   if (ModoGriglia == ModoModifica) ModificaParolaIndicata(puntatore);
 }
 

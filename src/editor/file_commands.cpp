@@ -13,30 +13,30 @@
 namespace telarium {
 namespace {
 
-// What each of these commands does first.
-void LasciaLoSchema(int puntatore) {
-  LaFinestra().NascondiShape1();
-  ImpostaPuntatoreMouse(puntatore);
-}
-
 void ChiudiAnteprimaSeVisibile() {
   if (LaFinestra().Command3d15Visibile()) ChiudiAnteprima();
 }
 
-// Clears the way for another crossword.
-void LasciaIlCruciverba() {
-  if (LaFinestra().Picture1Visibile()) {
-    LaFinestra().MostraPicture1(false);
-    if (Superficie* superficie = FinestraPrincipale()) superficie->Pulisci();
-  }
+// What each of these commands does first.
+void LasciaLoSchema() {
+  LaFinestra().NascondiShape1();
+  ImpostaPuntatoreMouse(PuntatoreFreccia);
   ChiudiAnteprimaSeVisibile();
   LaFinestra().TogliLabel1();
-  if (SchemaModificato) ChiediSalvataggio();
 }
 
+void TogliPicture1() {
+  if (!LaFinestra().Picture1Visibile()) return;
+  LaFinestra().MostraPicture1(false);
+  if (Superficie* superficie = FinestraPrincipale()) superficie->Pulisci();
+}
+
+// Without a crossword the splash picture comes back, also when the user gave up opening one.
 void PrendiAltroCruciverba(Modale finestra) {
-  LasciaLoSchema(PuntatoreClessidra);
-  LasciaIlCruciverba();
+  TogliPicture1();
+  LasciaLoSchema();
+  ImpostaPuntatoreMouse(PuntatoreClessidra);
+  if (SchemaModificato) ChiediSalvataggio();
   LaFinestra().MostraModale(finestra);
   ImpostaPuntatoreMouse(PuntatoreFreccia);
   if (NomeCruciverba.empty()) {
@@ -61,45 +61,42 @@ void ApriConFinestra() {
 }
 
 void SalvaCruciverba() {
-  LasciaLoSchema(PuntatoreFreccia);
-  ChiudiAnteprimaSeVisibile();
-  RidisegnaSchema();
-  LaFinestra().TogliLabel1();
+  LasciaLoSchema();
+  RidisegnaSchema();  // the writer wants the words of the grid
   if (MaiSalvato()) return SalvaConNome();
   if (ScriviCruciverba(NomeCruciverba)) SchemaModificato = Falso;
 }
 
 void SalvaConNome() {
-  LasciaLoSchema(PuntatoreFreccia);
-  ChiudiAnteprimaSeVisibile();
-  LaFinestra().TogliLabel1();
+  LasciaLoSchema();
   LaFinestra().MostraModale(Modale::TelarSav);
 }
 
-void ChiediSalvataggio() {
+bool ChiediSalvataggio() {
   const Messaggio domanda{.testo = Unisci("Il file ", Maiuscole(TestoPercorso(NomeCruciverba)),
                                           " è cambiato, si desidera salvare"_cp),
                           .titolo = "Modifica del file corrente",
                           .pulsanti = Pulsanti::OkAnnulla};
-  if (ChiUsa().MostraMessaggio(domanda) == Risposta::Ok) SalvaCruciverba();
+  if (ChiUsa().MostraMessaggio(domanda) != Risposta::Ok) return true;
+  SalvaCruciverba();
+  return !SchemaModificato;
 }
 
 void EsciDalProgramma() {
-  EliminaIstantanea();
   LaFinestra().TogliLabel1();
   ImpostaPuntatoreMouse(PuntatoreFreccia);
-  if (SchemaModificato) ChiediSalvataggio();
-  AbbandonaIstantanea();  // a save may have written it again
+  if (SchemaModificato && !ChiediSalvataggio()) return;
+  AbbandonaIstantanea();
   TerminaProgramma();
 }
 
 bool ApriFileDiCruciverba(const Percorso& nome) {
   std::error_code ignorato;
-  if (!std::filesystem::is_regular_file(nome, ignorato)) {
-    Avvisa("Errore: file inesistente!");
-    return false;
-  }
-  if (ApriCruciverba(nome) == Apertura::Rifiutata) return false;
+  // A pipe could keep the reader waiting for ever.
+  const bool file = std::filesystem::is_regular_file(nome, ignorato);
+  const Apertura esito = file ? ApriCruciverba(nome) : Apertura::Assente;
+  if (esito == Apertura::Assente) Avvisa("Errore: file inesistente!");
+  if (esito == Apertura::Assente || esito == Apertura::Rifiutata) return false;
   RicalcolaCaselle();                     // the writer wants the words of the grid
   static_cast<void>(ScriviIstantanea());  // a failure has shown its message
   NomeCruciverba = nome;
@@ -109,10 +106,8 @@ bool ApriFileDiCruciverba(const Percorso& nome) {
 }
 
 void ApriDaFuori(const Percorso& nome) {
-  LasciaLoSchema(PuntatoreFreccia);
-  ChiudiAnteprimaSeVisibile();
-  LaFinestra().TogliLabel1();
-  if (SchemaModificato) ChiediSalvataggio();
+  LasciaLoSchema();
+  if (SchemaModificato && !ChiediSalvataggio()) return;
   if (ApriFileDiCruciverba(nome)) LaFinestra().MostraPicture1(false);
 }
 

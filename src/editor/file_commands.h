@@ -3,7 +3,7 @@
 #include "platform/files.h"
 
 // The commands that make, open and save crosswords, and the end of the program. Those that leave
-// the crossword ask first whether to save a changed one; whatever the answer, they go on.
+// the crossword ask first whether to save a changed one, and go on whatever the answer.
 namespace telarium {
 
 /// MenuNuovo and MenuApri: show FormNew, or Form2. The crossword that the window leaves in the
@@ -18,19 +18,21 @@ void SalvaCruciverba();
 /// MenuSalvaCN: shows TelarSav.
 void SalvaConNome();
 
-/// Asks whether to save a changed crossword, and does. Either way the caller goes on.
-void ChiediSalvataggio();
+/// Asks whether to save a changed crossword, and does. False when the user wanted it saved and it
+/// is not: what comes next must not cost the changes.
+bool ChiediSalvataggio();
 
-/// MenuEsci: ends the program, after the saving question.
+/// MenuEsci: ends the program, after the saving question, unless the save that was wanted failed.
 void EsciDalProgramma();
 
 /// Takes a crossword file over, by its path: into the state and the snapshot, for the activation
 /// that follows to show, and enters editing. A file that is missing or has no valid header is told,
-/// and so is a snapshot that cannot be written; false then, and the crossword that was there stays.
-/// A file that breaks off later is told, and is taken as far as it goes.
+/// and gives false: the crossword that was there stays. One that breaks off later is told, and is
+/// taken as far as it goes; a snapshot that cannot be written is told, and is tried again later.
 [[nodiscard]] bool ApriFileDiCruciverba(const Percorso& nome);
 
-/// Opens a crossword that another start of the program was given.
+/// Opens a crossword that another start of the program was given, after the saving question, unless
+/// the save that was wanted failed.
 void ApriDaFuori(const Percorso& nome);
 
 }  // namespace telarium

@@ -43,11 +43,6 @@ void DisegnaFondoECornice(Superficie& superficie) {
     superficie.Riquadro(x1 - i, y1 - i, x2 + i, y2 + i, ColoreCornice);
 }
 
-void DisegnaCasellaNera(Superficie& superficie, double x, double y, Colore colore) {
-  const double g = RientroCasellaNera(LatoCasella);
-  superficie.RiquadroPieno(x + g, y + g, x + LatoCasella - g, y + LatoCasella - g, colore);
-}
-
 void DisegnaCaselle(Superficie& superficie) {
   superficie.CorpoCarattere(CorpoLettere(LatoCasella, MinCorpoLettere));
   superficie.Carattere(FontDelleLettere());
@@ -56,10 +51,10 @@ void DisegnaCaselle(Superficie& superficie) {
     for (int c = 1; c <= NumColonne; ++c) {
       const double x = BordoSinistro(c);
       const double y = BordoAlto(r);
-      superficie.Riquadro(x, y, x + LatoCasella, y + LatoCasella, ColoreNero);
+      DisegnaContorno(superficie, x, y, LatoCasella);
       const char lettera = LetteraCasella(c, r);
       if (lettera == CellaNera) {
-        DisegnaCasellaNera(superficie, x, y, ColoreCasella(c, r));
+        DisegnaCasellaNera(superficie, x, y, LatoCasella, ColoreCasella(c, r));
       } else if (lettera != CellaVuota && !NascondiSoluzioni) {
         ScriviLettera(superficie, x + meta, y + meta, LatoCasella, lettera);
       }
@@ -77,15 +72,6 @@ void DisegnaNumeri(Superficie& superficie) {
       superficie.Scrivi(std::to_string(NumeroCasella(c, r)));
     }
   }
-}
-
-bool HaColori() {
-  for (int r = 1; r <= NumRighe; ++r) {
-    for (int c = 1; c <= NumColonne; ++c) {
-      if (LetteraCasella(c, r) == CellaNera && ColoreCasella(c, r) != ColoreNero) return true;
-    }
-  }
-  return false;
 }
 
 void DisegnaSchema(Superficie& superficie) {
@@ -110,7 +96,16 @@ void RidisegnaSchema() {
   Superficie* superficie = FinestraPrincipale();
   if (!superficie) return;
   DisegnaSchema(*superficie);
-  if (HaColori()) AggiornaIstantanea();
+  if (SchemaColorato()) AggiornaIstantanea();
+}
+
+bool SchemaColorato() {
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c) {
+      if (LetteraCasella(c, r) == CellaNera && ColoreCasella(c, r) != ColoreNero) return true;
+    }
+  }
+  return false;
 }
 
 double BordoSinistro(int colonna) {
@@ -127,7 +122,8 @@ void AnticipaCasella(Casella casella, bool nera) {
   const double x = BordoSinistro(casella.colonna);
   const double y = BordoAlto(casella.riga);
   if (nera) {
-    DisegnaCasellaNera(*superficie, x, y, ColoreCasella(casella.colonna, casella.riga));
+    DisegnaCasellaNera(*superficie, x, y, LatoCasella,
+                       ColoreCasella(casella.colonna, casella.riga));
   } else {
     const int g = RientroCasellaBianca;
     superficie->RiquadroPieno(x + g, y + g, x + LatoCasella - g, y + LatoCasella - g, ColoreBianco);

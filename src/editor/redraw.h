@@ -15,6 +15,9 @@ inline constexpr Colore ColoreCornice = 0x000080;  // dark red
 /// only the tables are set.
 void RidisegnaSchema();
 
+/// Whether a black cell has a colour, so that a redraw writes the snapshot.
+bool SchemaColorato();
+
 /// Left and top edge of a column or row of cells on the surface, as last drawn.
 double BordoSinistro(int colonna);
 double BordoAlto(int riga);

@@ -61,7 +61,9 @@ void LeggiImpostazioniOTermina() {
 // Whatever could not be opened leaves the program as it is without a crossword.
 void ApriRigaDiComando() {
   FileComando = NomeCruciverba = RigaDiComando;
-  if (ApriCruciverba(NomeCruciverba) == Apertura::Rifiutata) {
+  const Apertura esito = ApriCruciverba(NomeCruciverba);
+  if (esito == Apertura::Assente) TerminaSenzaCruciverba(NomeCruciverba);
+  if (esito == Apertura::Rifiutata) {
     NomeCruciverba.clear();
     LaFinestra().MostraPicture1(true);
     return;

@@ -99,13 +99,10 @@ void PassaSuUnaCasella(Casella casella, double x, double y) {
 }  // namespace
 
 Casella CasellaSotto(double x, double y) {
-  return {ArrotondaPari(x - OrigineX) / LatoCasella + 1,
-          ArrotondaPari(y - OrigineY) / LatoCasella + 1};
-}
-
-bool SulloSchema(double x, double y, Casella casella) {
-  return x >= OrigineX && y >= OrigineY && casella.colonna <= NumColonne &&
-         casella.riga <= NumRighe;
+  const auto indice = [](double coordinata, int origine) {
+    return coordinata < origine ? 0 : ArrotondaPari(coordinata - origine) / LatoCasella + 1;
+  };
+  return {indice(x, OrigineX), indice(y, OrigineY)};
 }
 
 Indicazione IndicazioneDa(Casella casella, bool altoDestra) {
@@ -130,7 +127,7 @@ void PassaSullaSuperficie(double x, double y) {
   if (ModoGriglia != ModoModifica) return LaFinestra().TogliLabel1();
   if (LatoCasella == 0) return;
   const Casella casella = CasellaSotto(x, y);
-  if (SulloSchema(x, y, casella)) return PassaSuUnaCasella(casella, x, y);
+  if (NelloSchema(casella)) return PassaSuUnaCasella(casella, x, y);
   MouseCol = casella.colonna;
   MouseRiga = casella.riga;
   ImpostaPuntatoreMouse(PuntatoreFreccia);

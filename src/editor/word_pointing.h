@@ -11,12 +11,9 @@ namespace telarium {
 extern int MouseCol;
 extern int MouseRiga;
 
-/// The cell under a point of the surface, in pixels; it can lie outside of the grid. Wants a
-/// LatoCasella that is not 0.
+/// The cell under a point of the surface, in pixels; it lies outside of the grid when the point
+/// does, 0 being left of it or above it. Wants a LatoCasella that is not 0.
 Casella CasellaSotto(double x, double y);
-
-/// Whether a point lies on the grid, and the cell under it in it.
-bool SulloSchema(double x, double y, Casella casella);
 
 /// What the pointer over a cell of the grid leads to.
 struct Indicazione {

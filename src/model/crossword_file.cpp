@@ -159,19 +159,10 @@ std::optional<std::string> TestoDelFile() {
   return testo;
 }
 
-// The bytes of a crossword file. A missing one ends the program; none, told, if it cannot be read.
-std::optional<std::string> Contenuto(const Percorso& percorso, const Percorso& nomeMostrato) {
-  std::string contenuto;
-  const EsitoLettura esito = LeggiFile(percorso, MaxByteCruciverba, contenuto);
-  if (esito == EsitoLettura::Letto) return contenuto;
-  if (esito == EsitoLettura::Assente) {
-    Avvisa(Unisci("Errore: Cruciverba  ", TestoPercorso(nomeMostrato),
-                  "  Non trovato! Esecuzione terminata."),
-           "Telarium", Icona::Informazione);
-    TerminaProgramma();
-  }
-  Avvisa(MessaggioLettura);
-  return std::nullopt;
+// Whether a file could be read, other than a missing one; what could not is told.
+bool LettoOAvvisato(EsitoLettura esito) {
+  if (esito != EsitoLettura::Letto) Avvisa(MessaggioLettura);
+  return esito == EsitoLettura::Letto;
 }
 
 // Takes the header and the size; a failure has been told.
@@ -214,8 +205,10 @@ class CopiaIntestazione {
 };
 
 bool LeggiDa(const Percorso& percorso, const Percorso& nomeMostrato) {
-  const auto contenuto = Contenuto(percorso, nomeMostrato);
-  return contenuto && InterpretaCruciverba(*contenuto);
+  std::string contenuto;
+  const EsitoLettura esito = LeggiFile(percorso, MaxByteCruciverba, contenuto);
+  if (esito == EsitoLettura::Assente) TerminaSenzaCruciverba(nomeMostrato);
+  return LettoOAvvisato(esito) && InterpretaCruciverba(contenuto);
 }
 
 bool ScriviInSilenzio(const Percorso& percorso, Permanenza permanenza) {
@@ -263,16 +256,27 @@ bool LeggiCruciverba(const Percorso& nome) {
   return LeggiDa(CartellaProgramma / nome, nome);
 }
 
+void TerminaSenzaCruciverba(const Percorso& nome) {
+  Avvisa(
+      Unisci("Errore: Cruciverba  ", TestoPercorso(nome), "  Non trovato! Esecuzione terminata."),
+      "Telarium", Icona::Informazione);
+  TerminaProgramma();
+}
+
 Apertura ApriCruciverba(const Percorso& nome) {
-  const auto contenuto = Contenuto(nome, nome);
-  if (!contenuto) return Apertura::Rifiutata;
-  LettoreDiRighe righe(*contenuto);
+  std::string contenuto;
+  const EsitoLettura esito = LeggiFile(nome, MaxByteCruciverba, contenuto);
+  if (esito == EsitoLettura::Assente) return Apertura::Assente;
+  if (!LettoOAvvisato(esito)) return Apertura::Rifiutata;
+  LettoreDiRighe righe(contenuto);
   const CopiaIntestazione prima;
   if (!PrendiIntestazione(righe)) {
     prima.Ripristina();
     return Apertura::Rifiutata;
   }
   SvuotaCruciverba();
+  for (int i = RigheIntestazione + 1; i <= RigheSchema; ++i)
+    Schema(i).clear();  // a file that breaks off must not show rows of another crossword
   return PrendiCorpo(righe) ? Apertura::Intera : Apertura::Parziale;
 }
 

@@ -34,12 +34,16 @@ enum class Apertura {
   Intera,
   Parziale,   // up to a read error, which was told
   Rifiutata,  // told; the state is as it was
+  Assente,    // there is no such file: not told; the state is as it was
 };
 
 /// Opens a crossword for the user, by its path as given: as LeggiCruciverba, but a file that cannot
 /// be read or has no valid header changes nothing, and any other clears by SvuotaCruciverba what is
 /// there before its grid is taken.
 [[nodiscard]] Apertura ApriCruciverba(const Percorso& nome);
+
+/// Ends the program with the message that a crossword file is missing.
+[[noreturn]] void TerminaSenzaCruciverba(const Percorso& nome);
 
 /// What LeggiCruciverba does with the contents of a file.
 bool InterpretaCruciverba(std::string_view contenuto);

@@ -25,11 +25,24 @@ struct Slot {
   }
 };
 
+/// Whether a cell lies in the current grid.
+inline bool NelloSchema(Casella casella) {
+  return casella.colonna >= 1 && casella.colonna <= NumColonne && casella.riga >= 1 &&
+         casella.riga <= NumRighe;
+}
+
 inline constexpr std::array<int, 2> Direzioni = {Orizzontale, Verticale};
 
 /// The other direction.
 constexpr int Traversa(int direzione) {
   return direzione == Orizzontale ? Verticale : Orizzontale;
+}
+
+/// Whether a cell character is one of those that model files and previews know: black, empty, or a
+/// capital from A to Z.
+constexpr bool CarattereSemplice(char carattere) {
+  return carattere == CellaNera || carattere == CellaVuota ||
+         (carattere >= 'A' && carattere <= 'Z');
 }
 
 /// Sets LetteraCasella, TipoCasella, NumeroCasella and ParolaCasella of all cells of the current

@@ -18,7 +18,9 @@ namespace {
 // Opens the crossword of the command line, as the desktop does at its start.
 bool Apri(const std::string& file) {
   NomeCruciverba = file;
-  if (ApriCruciverba(NomeCruciverba) != Apertura::Intera) return false;
+  const Apertura esito = ApriCruciverba(NomeCruciverba);
+  if (esito == Apertura::Assente) TerminaSenzaCruciverba(NomeCruciverba);
+  if (esito != Apertura::Intera) return false;
   RidisegnaSchema();
   return true;
 }

@@ -237,14 +237,18 @@ TEST_F(StartupTest, SavesWhatTheUserWantsSavedAndEndsEitherWay) {
   EXPECT_EQ(window.shown, std::vector{Modale::TelarSav});
   EXPECT_EQ(SchemaModificato, Vero);
   NomeCruciverba = InFolder("nowhere/mio.tlrm");
-  SalvaCruciverba();
+  user.Answer(Risposta::Ok);
+  EXPECT_NO_THROW(EsciDalProgramma()) << "a save that failed costs no work";
   EXPECT_EQ(SchemaModificato, Vero);
+  user.Answer(Risposta::Ok);
+  ApriDaFuori(file);
+  EXPECT_EQ(NomeCruciverba, InFolder("nowhere/mio.tlrm"));
+  EXPECT_EQ(user.TakeTexts().size(), 4u) << "two questions, two failures";
   NomeCruciverba = file;
   NumColonne = NumRighe = 0;  // a damaged snapshot was read
   const std::string whole = ReadFile(file);
   SalvaCruciverba();
   EXPECT_EQ(ReadFile(file), whole);
-  EXPECT_EQ(user.TakeTexts().size(), 1u) << "the folder is missing";
   EXPECT_EQ(window.shown.size(), 2u) << "without a grid nothing is written over";
 }
 

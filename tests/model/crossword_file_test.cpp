@@ -151,6 +151,16 @@ TEST_F(CrosswordFile, OpeningClearsTheEarlierCrosswordAndReadingDoesNot) {
   EXPECT_EQ(ColoreCasella(9, 9), 0);
 }
 
+TEST_F(CrosswordFile, ACutFileShowsNothingOfTheEarlierCrossword) {
+  Draw({"PRI", "MAX", "QUI"});
+  EXPECT_EQ(ApriCruciverba(WriteFile("uno.tlrm", Header("03x03") + "].[.t.\r\n")),
+            Apertura::Parziale);
+  EXPECT_EQ(user.TakeTexts(), ReadError);
+  RicalcolaCaselle();
+  EXPECT_EQ(Drawing(), (std::vector<std::string>{"CAZ", "...", "..."}));
+  EXPECT_EQ(Schema(6) + Schema(7), "");
+}
+
 TEST_F(CrosswordFile, IsRefusedPastSixteenMegabytesAndMissingEndsTheProgram) {
   const Percorso path = WriteFile("uno.tlrm", SmallFile());
   std::filesystem::resize_file(path, 16777216);  // zeros behind the colours, which nobody reads

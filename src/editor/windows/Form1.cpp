@@ -222,7 +222,9 @@ QCursor Form1::PuntatoreDelLogo() const {
 void Form1::Esegui(const std::function<void()>& comando) {
   if (estrazioneInCorso_) return;
   EseguiComandoDiFinestra(comando);
-  if (!ComandoInCorso()) ApriRicevuti();
+  if (ComandoInCorso()) return;
+  if (std::exchange(misuraCambiata_, false)) CambiataMisura();
+  ApriRicevuti();
 }
 
 void Form1::RiceviDaFuori(const Percorso& nome) {
@@ -256,7 +258,6 @@ void Form1::Estrai() {
   EstraiSchema();
   Avanzamento->hide();
   inCorso(false);
-  if (std::exchange(misuraCambiata_, false)) CambiataMisura();
 }
 
 bool Form1::SeguiEstrazione(const AvanzamentoEstrazione& avanzamento) {
@@ -364,9 +365,9 @@ void Form1::Disponi() {
 void Form1::CambiataMisura() {
   Disponi();
   TogliLabel1();  // parked below the old height, it would come into view
-  // A running fill holds the grid's tables and geometry.
-  misuraCambiata_ = estrazioneInCorso_;
-  if (isMinimized() || estrazioneInCorso_) return;
+  // A fill holds the grid's tables and geometry, and a modal window the word that it edits.
+  misuraCambiata_ = ComandoInCorso();
+  if (isMinimized() || misuraCambiata_) return;
   Shape1->hide();
   if (NomeCruciverba.empty()) return;
   const QSize minima(InPixel(MinLarghezza), InPixel(MinAltezza));

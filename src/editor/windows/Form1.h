@@ -105,7 +105,7 @@ class Form1 : public QMainWindow, public FinestraEditor {
   std::map<std::string_view, QAction*> voci_;
   std::vector<Percorso> ricevuti_;
   bool estrazioneInCorso_ = false;
-  bool misuraCambiata_ = false;  // during a fill
+  bool misuraCambiata_ = false;  // during a command
   QShortcut* esc_;
 };
 
