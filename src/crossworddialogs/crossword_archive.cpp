@@ -18,14 +18,20 @@ constexpr const char* NomeSenzaCruciverba = "Telar000.tlrm";
 constexpr const char* Estensione = ".tlrm";
 constexpr std::size_t FineEtichettaAutore = 13;  // characters of line 1 before the author's data
 
+bool Leggibile(const Percorso& cartella) {
+  std::vector<Percorso> ignorate;
+  return !ElencaCartelle(cartella, ignorate);
+}
+
 bool ConUnita(const Percorso& nome) {
   return nome.native().size() > 1 && nome.native()[1] == ':';
 }
 
 Percorso NomeIntero(const Percorso& cartella, const Percorso& nome) {
   Percorso intero = cartella / nome;
-  const bool conPunto = intero.filename().native().find('.') != std::string::npos;
-  if (!conPunto) intero += Estensione;
+  // Separators of either kind count, whichever the user's habit.
+  const std::string& testo = intero.native();
+  if (testo.find('.', testo.find_last_of("/\\")) == std::string::npos) intero += Estensione;
   return intero;
 }
 
@@ -60,7 +66,7 @@ Percorso CartellaArchivio() {
   const Percorso archivio = CartellaProgramma / NomeArchivio;
   std::error_code errore;
   fs::create_directory(archivio, errore);
-  return fs::is_directory(archivio, errore) ? archivio : CartellaProgramma;
+  return Leggibile(archivio) ? archivio : CartellaProgramma;
 }
 
 void RinunciaAdAprire() {

@@ -9,7 +9,7 @@ namespace telarium {
 inline constexpr const char* ModelloCruciverba = "*.tlr*";
 
 /// The folder in which they start: "Archivio cruciverba" in the program folder, which is made when
-/// it is missing; the program folder itself where it cannot be made.
+/// it is missing; the program folder itself where it cannot be made or read.
 Percorso CartellaArchivio();
 
 /// Gives up opening: without a crossword the surface shows no grid.
@@ -21,8 +21,8 @@ Percorso NomeProposto();
 
 /// Saves the open crossword as `nome`, which belongs to `cartella` unless it is a full name and
 /// gets the ending ".tlrm" when it has none, with the author's data. Asks before it writes over a
-/// file; a No leaves all as it was. Gives whether the window is done: a failure has been told, and
-/// has changed nothing.
+/// file; when the user gives up, only the snapshot is written. Gives whether the window is done: a
+/// failure has been told, and has changed nothing.
 [[nodiscard]] bool SalvaNellArchivio(const Percorso& cartella, const Percorso& nome,
                                      const std::string& autore);
 

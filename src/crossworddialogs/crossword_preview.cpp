@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
+#include <filesystem>
 
 #include "crossworddialogs/grid_preview.h"
-#include "editor/cell_drawing.h"
-#include "model/crossword_file.h"
+#include "model/words.h"
 #include "platform/platform.h"
 #include "platform/text.h"
 
@@ -15,21 +14,12 @@ namespace {
 
 constexpr double Margine = 10;  // both sides together
 constexpr double MinCorpo = 5;  // points
+constexpr std::string_view NonLeggibile = "Errore di lettura del file!";
+constexpr std::size_t MaxCaratteri = 200;  // of a text beside the picture
+constexpr std::size_t MaxDimensioni = 20;
 
-// A crossword file as far as a preview shows it.
-struct FileLetto {
-  std::array<std::string, RigheIntestazione> intestazione;
-  Dimensioni dimensioni;
-  std::vector<std::string> caselle;  // a text per row, a character per cell
-};
-
-std::string_view Dal(std::string_view riga, std::size_t carattere) {
-  return riga.substr(std::min(carattere - 1, riga.size()));
-}
-
-bool Mostrabile(char carattere) {
-  return carattere == CellaNera || carattere == CellaVuota ||
-         (carattere >= 'A' && carattere <= 'Z');
+std::string Dal(std::string_view riga, std::size_t carattere, std::size_t massimo = MaxCaratteri) {
+  return std::string(riga.substr(std::min(carattere - 1, riga.size()), massimo));
 }
 
 // The cell characters of a grid line; none when one is no cell that a preview shows.
@@ -39,72 +29,70 @@ std::optional<std::string> Caselle(std::string_view riga, int colonne) {
   std::string caselle;
   for (std::size_t p = 0; p < schema->size() && std::ssize(caselle) < colonne; p += 2)
     caselle += (*schema)[p];
-  if (!std::all_of(caselle.begin(), caselle.end(), Mostrabile)) return std::nullopt;
+  if (!std::all_of(caselle.begin(), caselle.end(), CarattereSemplice)) return std::nullopt;
   return caselle;
 }
 
-// Reads a file for a preview; what is wrong with it otherwise.
-std::string_view Leggi(const Percorso& nome, FileLetto& file) {
-  constexpr std::string_view nonLeggibile = "Errore di lettura del file!";
-  std::string contenuto;
-  const EsitoLettura esito = LeggiFile(nome, MaxByteCruciverba, contenuto);
-  if (esito == EsitoLettura::Assente) return "Nessun file di cruciverba trovato!";
-  if (esito != EsitoLettura::Letto) return nonLeggibile;
+// Takes a preview from the contents of a file; what is wrong with them otherwise.
+std::string_view Interpreta(std::string_view contenuto, AnteprimaCruciverba& anteprima) {
+  constexpr std::string_view formato = "Formato del file non valido!";
   LettoreDiRighe righe(contenuto);
-  std::string_view riga;
-  for (std::string& testo : file.intestazione) {
-    if (!righe.Prossima(riga)) return "Formato del file non valido!";
-    testo = riga;
-  }
-  const auto dimensioni = DimensioniDichiarate(file.intestazione.back());
-  if (!dimensioni) return "Formato del file non valido!";
-  file.dimensioni = *dimensioni;
-  while (std::ssize(file.caselle) < dimensioni->righe) {
-    if (!righe.Prossima(riga)) return nonLeggibile;
-    const auto caselle = Caselle(riga, dimensioni->colonne);
+  std::array<std::string_view, RigheIntestazione> intestazione;
+  for (std::string_view& riga : intestazione)
+    if (!righe.Prossima(riga)) return formato;
+  const auto& [autore, data, tipo, dimensioni] = intestazione;
+  const auto misure = DimensioniDichiarate(dimensioni);
+  if (!misure) return formato;
+  anteprima.misure = *misure;
+  for (int r = 1; r <= misure->righe; ++r) {
+    std::string_view riga;
+    if (!righe.Prossima(riga)) return NonLeggibile;
+    const auto caselle = Caselle(riga, misure->colonne);
     if (!caselle) return "Tipo di file non valido!";
-    file.caselle.push_back(*caselle);
+    anteprima.caselle.push_back(*caselle);
   }
+  anteprima.autoreDataTipo = Unisci(Dal(autore, 13), " - ", Dal(data, 14), " - ", Dal(tipo, 14));
+  anteprima.dimensioni = Dal(dimensioni, 14, MaxDimensioni);
   return {};
 }
 
-void DisegnaCasella(Superficie& superficie, const AnteprimaDiSchema& anteprima, int colonna,
-                    int riga, char carattere) {
-  anteprima.Contorno(colonna, riga);
-  if (carattere == CellaNera) {
-    anteprima.Nera(colonna, riga, ColoreCasella(colonna, riga));
-  } else if (carattere != CellaVuota) {
-    ScriviLettera(superficie, anteprima.CentroX(colonna), anteprima.CentroY(riga), anteprima.Lato(),
-                  carattere);
-  }
-}
-
-void Disegna(Superficie& superficie, const FileLetto& file) {
-  const auto [colonne, righe] = file.dimensioni;
-  const AnteprimaDiSchema anteprima(superficie, colonne, righe, Margine);
-  superficie.Carattere("Arial");
-  superficie.CorpoCarattere(
-      std::max<double>(ArrotondaPari(CorpoLettere(anteprima.Lato(), 0)), MinCorpo));
-  for (int r = 1; r <= righe; ++r) {
-    const std::string& caselle = file.caselle[static_cast<std::size_t>(r) - 1];
-    for (int c = 1; c <= static_cast<int>(caselle.size()); ++c)
-      DisegnaCasella(superficie, anteprima, c, r, caselle[static_cast<std::size_t>(c) - 1]);
-  }
+std::string_view Leggi(const Percorso& nome, AnteprimaCruciverba& anteprima) {
+  std::string contenuto;
+  std::error_code ignorato;
+  // A pipe could keep the reader waiting for ever.
+  const bool file = std::filesystem::is_regular_file(nome, ignorato);
+  const EsitoLettura esito =
+      file ? LeggiFile(nome, MaxByteCruciverba, contenuto) : EsitoLettura::Assente;
+  if (esito == EsitoLettura::Assente) return "Nessun file di cruciverba trovato!";
+  return esito == EsitoLettura::Letto ? Interpreta(contenuto, anteprima) : NonLeggibile;
 }
 
 }  // namespace
 
-DatiAnteprima MostraAnteprima(const Percorso& file, Superficie& superficie) {
+std::optional<AnteprimaCruciverba> LeggiAnteprima(const Percorso& file) {
+  AnteprimaCruciverba anteprima;
+  const std::string_view difetto = Leggi(file, anteprima);
+  if (difetto.empty()) return anteprima;
+  Avvisa(difetto);
+  return std::nullopt;
+}
+
+void DisegnaAnteprima(const AnteprimaCruciverba& anteprima, Superficie& superficie) {
   superficie.Pulisci();
-  FileLetto letto;
-  if (const std::string_view difetto = Leggi(file, letto); !difetto.empty()) {
-    Avvisa(difetto);
-    return {};
+  const auto [colonne, righe] = anteprima.misure;
+  const AnteprimaDiSchema schema(superficie, colonne, righe, Margine);
+  superficie.Carattere("Arial");
+  superficie.CorpoCarattere(
+      std::max<double>(ArrotondaPari(CorpoLettere(schema.Lato(), 0)), MinCorpo));
+  for (int r = 1; r <= righe; ++r) {
+    const std::string& caselle = anteprima.caselle[static_cast<std::size_t>(r) - 1];
+    for (int c = 1; c <= static_cast<int>(caselle.size()); ++c) {
+      const char carattere = caselle[static_cast<std::size_t>(c) - 1];
+      schema.Casella(c, r, carattere, ColoreCasella(c, r), [&](double x, double y) {
+        ScriviLettera(superficie, x, y, schema.Lato(), carattere);
+      });
+    }
   }
-  Disegna(superficie, letto);
-  const auto& [autore, data, tipo, dimensioni] = letto.intestazione;
-  return {.autoreDataTipo = Unisci(Dal(autore, 13), " - ", Dal(data, 14), " - ", Dal(tipo, 14)),
-          .dimensioni = std::string(Dal(dimensioni, 14))};
 }
 
 }  // namespace telarium

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/surface.h"
+#include "editor/cell_drawing.h"
+#include "model/state.h"
 
 // How a small grid is drawn in a preview, whatever it was read from.
 namespace telarium {
@@ -14,18 +15,21 @@ class AnteprimaDiSchema {
 
   int Lato() const { return lato_; }
 
-  /// The middle of a cell, both counted from 1.
-  double CentroX(int colonna) const { return Sinistra(colonna) + lato_ / 2.0; }
-  double CentroY(int riga) const { return Cima(riga) + lato_ / 2.0; }
-
-  /// Draws the outline of a cell, and the square that fills a black one.
-  void Contorno(int colonna, int riga) const;
-  void Nera(int colonna, int riga, Colore colore) const;
+  /// Draws a cell, both counted from 1: its outline, the square of a black one in that colour, and
+  /// the letter of any other that is not empty by `scrivi`, which gets the middle of the cell.
+  template <class Scrivi>
+  void Casella(int colonna, int riga, char carattere, Colore nera, Scrivi scrivi) const {
+    const double x = sinistra_ + (colonna - 1) * lato_;
+    const double y = cima_ + (riga - 1) * lato_;
+    DisegnaContorno(superficie_, x, y, lato_);
+    if (carattere == CellaNera) {
+      DisegnaCasellaNera(superficie_, x, y, lato_, nera);
+    } else if (carattere != CellaVuota) {
+      scrivi(x + lato_ / 2.0, y + lato_ / 2.0);
+    }
+  }
 
  private:
-  double Sinistra(int colonna) const { return sinistra_ + (colonna - 1) * lato_; }
-  double Cima(int riga) const { return cima_ + (riga - 1) * lato_; }
-
   Superficie& superficie_;
   int lato_;
   int sinistra_;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "model/state.h"
+#include "model/words.h"
 #include "platform/platform.h"
 #include "platform/text.h"
 
@@ -12,10 +12,6 @@ namespace {
 
 // Thousands of models of the largest size fit into this.
 constexpr std::size_t MaxByteModelli = 4u << 20;
-
-bool CarattereDiModello(char c) {
-  return c == CellaNera || c == CellaVuota || (c >= 'A' && c <= 'Z');
-}
 
 }  // namespace
 
@@ -60,7 +56,7 @@ std::vector<Modello> InterpretaModelli(std::string_view contenuto) {
 bool ModelloValido(const Modello& modello) {
   return std::all_of(modello.begin(), modello.end(), [&](const std::string& riga) {
     return riga.size() == modello.front().size() &&
-           std::all_of(riga.begin(), riga.end(), CarattereDiModello);
+           std::all_of(riga.begin(), riga.end(), CarattereSemplice);
   });
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <span>
 #include <string>
 #include <vector>
 
+#include "crossworddialogs/model_file.h"
 #include "platform/files.h"
 #include "platform/surface.h"
 
@@ -12,10 +12,14 @@ namespace telarium {
 inline constexpr int MaxModelli = 12;       // that a window shows; there are no places for more
 inline constexpr int MaxRigheModello = 20;  // that a preview shows of one
 
-/// Draws the first models of a file, one on each surface, and empties the other surfaces. Gives the
-/// names of the models that were drawn, "Telar " and the size; empty for one without rows. A file
-/// that is missing or unreadable is told; a model that is none ends the program.
-std::vector<std::string> MostraModelli(const Percorso& fileModelli,
-                                       std::span<Superficie* const> figure);
+/// The first models of a file, as many as a window shows. A file that is missing or unreadable is
+/// told and gives none; a model that is no such thing ends the program.
+std::vector<Modello> ModelliDaMostrare(const Percorso& fileModelli);
+
+/// "Telar " and the size; empty for a model without rows, which nobody can begin with.
+std::string NomeDelModello(const Modello& modello);
+
+/// Draws a model alone on a surface; nothing of one without rows.
+void DisegnaModello(const Modello& modello, Superficie& superficie);
 
 }  // namespace telarium

@@ -19,16 +19,13 @@ class Previews : public TelariumTest {
     surface.height = 310;
   }
 
-  DatiAnteprima Preview(std::string_view bytes) {
-    surface.calls.clear();
-    return MostraAnteprima(WriteFile("p.tlrm", bytes), surface);
+  std::optional<AnteprimaCruciverba> Read(std::string_view bytes) const {
+    return LeggiAnteprima(WriteFile("p.tlrm", bytes));
   }
 
   void ExpectRefused(std::string_view bytes, const char* told) {
-    const DatiAnteprima data = Preview(bytes);
+    EXPECT_FALSE(Read(bytes));
     EXPECT_EQ(user.TakeTexts(), Texts{told});
-    EXPECT_EQ(surface.calls, Texts{"Pulisci"});
-    EXPECT_EQ(data.autoreDataTipo + data.dimensioni, "");
   }
 
   RecordingSurface surface;
@@ -44,9 +41,11 @@ TEST_F(Previews, ACrosswordIsDrawnFromItsFileAlone) {
   Draw({"XY"});
   ColoreCasella(1, 1) = 255;
   // "A" and "." with the code raised by 26 are "[" and "H", a black cell "D".
-  const DatiAnteprima data = Preview(Head("02x02") + "D*[.\r\nH.[.XXXX\r\n  1  11-Casa\r\n");
-  EXPECT_EQ(data.autoreDataTipo, " Ada - 05-03-2024 - Crociate Normale");
-  EXPECT_EQ(data.dimensioni, "02x02");
+  const auto preview = Read(Head("02x02") + "D*[.\r\nH.[.XXXX\r\n  1  11-Casa\r\n");
+  ASSERT_TRUE(preview);
+  EXPECT_EQ(preview->autoreDataTipo, " Ada - 05-03-2024 - Crociate Normale");
+  EXPECT_EQ(preview->dimensioni, "02x02");
+  DisegnaAnteprima(*preview, surface);
   EXPECT_EQ(surface.calls,
             (Texts{"Pulisci", "Carattere Arial", "CorpoCarattere 75", "Riquadro 55 5 205 155 0",
                    "RiquadroPieno 62.5 12.5 197.5 147.5 255", "Riquadro 205 5 355 155 0",
@@ -57,16 +56,29 @@ TEST_F(Previews, ACrosswordIsDrawnFromItsFileAlone) {
   EXPECT_EQ(NumColonne, 2);
 }
 
-TEST_F(Previews, TheTypeIsNeverSmallerThanFivePoints) {
+TEST_F(Previews, TheLargestGridFitsAndItsTypeStaysReadable) {
   std::string grid;
   for (int r = 1; r <= 30; ++r)
     grid += std::string(106, 'H') + "\r\n";
-  Preview(Head("53x30") + grid);
+  const auto preview = Read(Head("53x30") + grid);
+  ASSERT_TRUE(preview);
+  surface.width = 260;  // where half a pixel more for each cell would be too much
+  DisegnaAnteprima(*preview, surface);
   EXPECT_EQ(surface.calls[2], "CorpoCarattere 5");
   EXPECT_EQ(std::ssize(surface.calls), 3 + 53 * 30);
+  EXPECT_EQ(surface.calls.back(), "Riquadro 232 211 236 215 0");
 }
 
-TEST_F(Previews, AFileThatIsNoCrosswordIsToldAndLeavesTheSurfaceEmpty) {
+TEST_F(Previews, TextsOfAnyLengthAreCut) {
+  const std::string much(1 << 20, 'W');
+  const auto preview = Read("Autore     : " + much + "\r\nd\r\n" + much + "\r\nDimensioni : 02x01" +
+                            much + "\r\nH.H.\r\n");
+  ASSERT_TRUE(preview);
+  EXPECT_LT(preview->autoreDataTipo.size(), 500u);
+  EXPECT_EQ(preview->dimensioni, "02x01WWWWWWWWWWWWWWW");
+}
+
+TEST_F(Previews, AFileThatIsNoCrosswordIsTold) {
   const char* format = "Formato del file non valido!";
   for (const char* size : {"00x05", "05x00", "54x03", "03x31", "99999999999x3", "", "ab"})
     ExpectRefused(Head(size) + "H.H.H.\r\n", format);
@@ -76,47 +88,48 @@ TEST_F(Previews, AFileThatIsNoCrosswordIsToldAndLeavesTheSurfaceEmpty) {
     ExpectRefused(Head("02x01") + row, "Tipo di file non valido!");
   ExpectRefused(Head("02x02") + "H.H.\r\n", "Errore di lettura del file!");
   for (const Percorso& none : {InFolder("manca.tlrm"), InFolder("")}) {
-    MostraAnteprima(none, surface);
+    EXPECT_FALSE(LeggiAnteprima(none));
     EXPECT_EQ(user.TakeTexts(), Texts{"Nessun file di cruciverba trovato!"});
   }
 }
 
-TEST_F(Previews, ModelsAreDrawnOneToASurface) {
-  RecordingSurface second;
-  std::vector<Superficie*> surfaces = {&surface, &second};
+TEST_F(Previews, AModelIsDrawnWithItsLetters) {
   surface.width = surface.height = 240;
-  second.width = second.height = 100;
-  ImpostaPuntatoreMouse(PuntatoreClessidra);
-  const Percorso file = WriteFile("m.dfc", "*A\r\n..\r\n-\r\n-\r\nthird is not shown\r\n-\r\n");
-  EXPECT_EQ(MostraModelli(file, surfaces), (Texts{"Telar 2x2", ""}));
+  const auto models = ModelliDaMostrare(WriteFile("m.dfc", "*A\r\n..\r\n-\r\n-\r\nno\r\n"));
+  ASSERT_EQ(models.size(), 2u);
+  EXPECT_EQ(NomeDelModello(models[0]), "Telar 2x2");
+  EXPECT_EQ(NomeDelModello(models[1]), "");
+  DisegnaModello(models[0], surface);
   // A letter begins in the middle of its cell, moved down.
   EXPECT_EQ(surface.calls,
             (Texts{"Pulisci", "Carattere Arial", "CorpoCarattere 37.5", "Riquadro 20 20 120 120 0",
                    "RiquadroPieno 25 25 115 115 0", "Riquadro 120 20 220 120 0", "Posizione 170 80",
                    "Scrivi A", "Riquadro 20 120 120 220 0", "Riquadro 120 120 220 220 0"}));
-  EXPECT_EQ(second.calls, Texts{"Pulisci"});
-  EXPECT_EQ(PuntatoreMouse, 0);
-
-  std::string tall;
-  for (int r = 1; r <= 21; ++r)
-    tall += "..\r\n";
   surface.calls.clear();
-  EXPECT_EQ(MostraModelli(WriteFile("m.dfc", tall + "-\r\n" + std::string(1 << 20, '.') + "\r\n-"),
-                          surfaces),
-            (Texts{"Telar 2x21", "Telar 1048576x1"}));
+  DisegnaModello(models[1], surface);
+  EXPECT_EQ(surface.calls, Texts{"Pulisci"});
+}
+
+TEST_F(Previews, ModelsPastTheTwelfthAndRowsPastTheTwentiethDoNotShow) {
+  std::string many;
+  for (int n = 1; n <= 13; ++n)
+    many += "..\r\n-\r\n";
+  EXPECT_EQ(ModelliDaMostrare(WriteFile("m.dfc", many)).size(), 12u);
+  DisegnaModello(Modello(21, ".."), surface);
   EXPECT_EQ(surface.calls.size(), 3u + 40);
-  EXPECT_EQ(second.calls.size(), 2u) << "its cells would have no size";
+  surface.calls.clear();
+  DisegnaModello({std::string(1 << 20, '.')}, surface);
+  EXPECT_EQ(surface.calls, Texts{"Pulisci"}) << "its cells would have no size";
 }
 
 TEST_F(Previews, AModelFileThatCannotBeShownIsTold) {
-  std::vector<Superficie*> surfaces = {&surface};
-  EXPECT_TRUE(MostraModelli(InFolder("manca.dfc"), surfaces).empty());
+  EXPECT_TRUE(ModelliDaMostrare(InFolder("manca.dfc")).empty());
   EXPECT_EQ(user.TakeTexts(), Texts{"Errore: Non trovato file di definizione modelli standard!"});
   for (const char* model : {"...\r\n..\r\n-", "..\r\n.x\r\n-", "MZ\x90\r\n-"}) {
-    EXPECT_THROW(MostraModelli(WriteFile("m.dfc", model), surfaces), ProgramEnded);
+    EXPECT_THROW(ModelliDaMostrare(WriteFile("m.dfc", model)), ProgramEnded);
     EXPECT_EQ(user.TakeTexts(), Texts{"Tipo di file modelli non valido!"});
   }
-  EXPECT_TRUE(MostraModelli(WriteFile("m.dfc", "..\r\n.."), surfaces).empty()) << "no terminator";
+  EXPECT_TRUE(ModelliDaMostrare(WriteFile("m.dfc", "..\r\n..")).empty()) << "no terminator";
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ void Preview(std::string_view input) {
   if (ScriviFile(file, input, Permanenza::Provvisoria)) return;
   RecordingSurface surface;
   const std::string line = Schema(5);
-  MostraAnteprima(file, surface);
+  if (const auto preview = LeggiAnteprima(file)) DisegnaAnteprima(*preview, surface);
   Verifica(surface.calls.size() <= 3u + 4 * MaxColonne * MaxRighe, "more than a grid was drawn");
   Verifica(Schema(5) == line, "the preview changed the crossword");
 }

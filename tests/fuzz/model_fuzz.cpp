@@ -1,5 +1,3 @@
-#include <array>
-
 #include "crossworddialogs/model_file.h"
 #include "crossworddialogs/model_preview.h"
 #include "crossworddialogs/new_crossword.h"
@@ -21,12 +19,10 @@ void TryNew(const Percorso& file, int number) {
 }
 
 void TryPreviews(const Percorso& file) {
-  std::array<RecordingSurface, MaxModelli> surfaces;
-  std::array<Superficie*, MaxModelli> pictures;
-  for (std::size_t i = 0; i < pictures.size(); ++i)
-    pictures[i] = &surfaces[i];
+  RecordingSurface surface;
   try {
-    MostraModelli(file, pictures);
+    for (const Modello& model : ModelliDaMostrare(file))
+      DisegnaModello(model, surface);
   } catch (const ProgramEnded&) {
     // A bad row or character.
   }

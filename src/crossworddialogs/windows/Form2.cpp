@@ -2,9 +2,9 @@
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "crossworddialogs/crossword_archive.h"
-#include "crossworddialogs/crossword_preview.h"
 #include "editor/file_commands.h"
 #include "model/state.h"
 #include "platform/qt/qt_text.h"
@@ -39,7 +39,7 @@ void Form2::CreaControlli() {
   File1 = Chiamato(QStringLiteral("File1"), new ListaFile(ModelloCruciverba, this));
   Label4->setBuddy(File1);
   Frame3 = Chiamato(QStringLiteral("Frame3"), new QGroupBox(QStringLiteral("Nome file"), this));
-  Text1 = Chiamato(QStringLiteral("Text1"), new CasellaDiTesto(Frame3));
+  Text1 = Chiamato(QStringLiteral("Text1"), new CasellaDiNome(Frame3));
   Frame1 = Chiamato(QStringLiteral("Frame1"), new QGroupBox(this));
   Picture1 = Chiamato(QStringLiteral("Picture1"), new Tela(Frame1));
   Picture1->Superficie().Sfondo(Qt::white);
@@ -90,14 +90,13 @@ void Form2::Disponi() {
 }
 
 void Form2::Collega() {
-  File1->QuandoScelta([this] { MostraScelto(); });
+  File1->QuandoScelta([this](const Percorso& nome) { Leggi(nome); });
   connect(File1, &QListWidget::itemDoubleClicked, this, [this] { Apri(); });
   connect(Command3d1, &QPushButton::clicked, this, [this] { Apri(); });
   connect(Command3d2, &QPushButton::clicked, this, &Form2::reject);
-  Picture1->QuandoCambiaMisura([this] {
-    if (isVisible() && File1->Scelto()) MostraScelto();
-  });
-  Frame1->setTitle(QStringLiteral("Anteprima"));
+  Picture1->QuandoCambiaMisura([this] { Ridisegna(); });
+  elenchi_->QuandoCambia([this] { CambiataCartella(); });
+  Mostra(std::nullopt);
 }
 
 void Form2::Attivata() {
@@ -106,27 +105,37 @@ void Form2::Attivata() {
   ImpostaPuntatoreMouse(PuntatoreFreccia);
 }
 
-void Form2::MostraScelto() {
-  const Percorso nome = File1->Scelto().value_or(Percorso());
-  Text1->setText(PercorsoAQt(nome));
-  const DatiAnteprima dati = MostraAnteprima(File1->Cartella() / nome, Picture1->Superficie());
-  StatusBar1->setText(AQt(dati.autoreDataTipo));
-  Frame1->setTitle(dati.dimensioni.empty()
-                       ? QStringLiteral("Anteprima")
-                       : QStringLiteral("Anteprima: ") +
-                             AQt(dati.dimensioni).replace(u'&', QStringLiteral("&&")));
+void Form2::Leggi(const Percorso& nome) {
+  Text1->Mostra(nome);
+  Mostra(std::nullopt);
+  Mostra(LeggiAnteprima(File1->Cartella() / nome));
 }
 
-// The name in the text box; that of the selected file as the disk has it, which text cannot always
-// hold.
-Percorso Form2::FileScritto() const {
-  const auto scelto = File1->Scelto();
-  const bool loStesso = scelto && PercorsoAQt(*scelto) == Text1->text();
-  return Dir1->Cartella() / (loStesso ? *scelto : PercorsoDaQt(Text1->text()));
+// In another folder nothing is selected; a name that was typed stays.
+void Form2::CambiataCartella() {
+  if (Text1->Immutata()) Text1->Mostra({});
+  Mostra(std::nullopt);
+}
+
+void Form2::Mostra(std::optional<AnteprimaCruciverba> anteprima) {
+  anteprima_ = std::move(anteprima);
+  Ridisegna();
+  StatusBar1->setText(anteprima_ ? AQt(anteprima_->autoreDataTipo) : QString());
+  QString titolo = QStringLiteral("Anteprima");
+  if (anteprima_) titolo += QStringLiteral(": ") + AQt(anteprima_->dimensioni);
+  Frame1->setTitle(titolo.replace(u'&', QStringLiteral("&&")));
+}
+
+void Form2::Ridisegna() {
+  if (anteprima_) {
+    DisegnaAnteprima(*anteprima_, Picture1->Superficie());
+  } else {
+    Picture1->Superficie().Pulisci();
+  }
 }
 
 void Form2::Apri() {
-  if (ApriFileDiCruciverba(FileScritto())) accept();
+  if (ApriFileDiCruciverba(Dir1->Cartella() / Text1->Nome())) accept();
 }
 
 void Form2::reject() {

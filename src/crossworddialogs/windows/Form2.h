@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <optional>
 
+#include "crossworddialogs/crossword_preview.h"
 #include "crossworddialogs/windows/file_lists.h"
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_dialog.h"
@@ -23,15 +24,12 @@ class Form2 : public FinestraModale {
   QLabel* Label4;
   ListaFile* File1;
   QGroupBox* Frame3;
-  CasellaDiTesto* Text1;  // the file name
+  CasellaDiNome* Text1;  // the file name
   QGroupBox* Frame1;
   Tela* Picture1;  // the preview
   QLabel* StatusBar1;
   QPushButton* Command3d1;  // opens
   QPushButton* Command3d2;  // closes
-
-  /// Reads the selected file and shows it; nothing selected is told.
-  void MostraScelto();
 
   void reject() override;
 
@@ -42,10 +40,14 @@ class Form2 : public FinestraModale {
   void CreaControlli();
   void Disponi();
   void Collega();
+  void Leggi(const Percorso& nome);
+  void CambiataCartella();
+  void Mostra(std::optional<AnteprimaCruciverba> anteprima);
+  void Ridisegna();
   void Apri();
-  Percorso FileScritto() const;
 
   std::optional<ElenchiDiFile> elenchi_;
+  std::optional<AnteprimaCruciverba> anteprima_;  // none: the picture is empty
 };
 
 }  // namespace telarium

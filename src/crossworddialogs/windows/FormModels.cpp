@@ -14,6 +14,11 @@ FormModels::FormModels(QWidget* genitore)
   Disponi(nullptr);
 }
 
+void FormModels::Attivata() {
+  SceltaModello::Attivata();
+  Command3d1->setFocus();
+}
+
 void FormModels::Crea() {
   if (NuovoVuoto(ColonneIniziali, RigheIniziali) == EsitoNuovo::Fatto) accept();
 }

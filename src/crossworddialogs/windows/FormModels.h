@@ -12,6 +12,7 @@ class FormModels : public SceltaModello {
 
  protected:
   void Crea() override;
+  void Attivata() override;
 };
 
 }  // namespace telarium

@@ -1,7 +1,7 @@
 #include "crossworddialogs/windows/FormNew.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -65,9 +65,8 @@ QVBoxLayout* FormNew::PostoDi(int numero) {
   return posto;
 }
 
-void FormNew::MostraNomi(const std::vector<std::string>& nomi) {
-  for (std::size_t n = 0; n < Label3.size(); ++n)
-    Label3[n]->setText(n < nomi.size() ? AQt(nomi[n]) : QString());
+void FormNew::MostraNome(int numero, const std::string& nome) {
+  Label3[static_cast<std::size_t>(numero)]->setText(AQt(nome));
 }
 
 void FormNew::Attivata() {
@@ -92,8 +91,9 @@ void FormNew::Crea() {
 // A click on a name is one on its picture.
 bool FormNew::eventFilter(QObject* oggetto, QEvent* evento) {
   const auto nome = std::find(Label3.begin(), Label3.end(), oggetto);
-  if (nome == Label3.end() || evento->type() != QEvent::MouseButtonPress)
+  if (nome == Label3.end() || evento->type() != QEvent::MouseButtonRelease)
     return SceltaModello::eventFilter(oggetto, evento);
+  if (static_cast<QMouseEvent*>(evento)->button() != Qt::LeftButton) return true;
   const auto n = nome - Label3.begin();
   if (Picture1[static_cast<std::size_t>(n)]->isEnabled()) Scegli(static_cast<int>(n));
   return true;

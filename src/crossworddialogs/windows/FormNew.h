@@ -17,7 +17,7 @@ class FormNew : public SceltaModello {
 
  protected:
   QVBoxLayout* PostoDi(int numero) override;
-  void MostraNomi(const std::vector<std::string>& nomi) override;
+  void MostraNome(int numero, const std::string& nome) override;
   void Crea() override;
   void Attivata() override;
   bool eventFilter(QObject* oggetto, QEvent* evento) override;

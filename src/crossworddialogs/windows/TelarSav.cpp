@@ -4,6 +4,8 @@
 #include <QVBoxLayout>
 
 #include "crossworddialogs/crossword_archive.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
 #include "platform/qt/qt_text.h"
 
 namespace telarium {
@@ -20,7 +22,7 @@ TelarSav::TelarSav(QWidget* genitore)
   Disponi();
   elenchi_.emplace(Drive1, Dir1, File1);
   elenchi_->Vai(CartellaArchivio());
-  File1->QuandoScelta([this] { Text1->setText(PercorsoAQt(*File1->Scelto())); });
+  File1->QuandoScelta([this](const Percorso& nome) { Text1->Mostra(nome); });
   connect(File1, &QListWidget::itemDoubleClicked, this, [this] { Salva(); });
   connect(Command3d1, &QPushButton::clicked, this, [this] { Salva(); });
   connect(Command3d2, &QPushButton::clicked, this, &TelarSav::reject);
@@ -38,7 +40,7 @@ void TelarSav::CreaControlli() {
   Frame1 = Chiamato(QStringLiteral("Frame1"),
                     new QGroupBox(QStringLiteral("Dati per il salvataggio : "), this));
   Label1 = Chiamato(QStringLiteral("Label1"), new QLabel(QStringLiteral("Nome File"), Frame1));
-  Text1 = Chiamato(QStringLiteral("Text1"), new CasellaDiTesto(Frame1));
+  Text1 = Chiamato(QStringLiteral("Text1"), new CasellaDiNome(Frame1));
   Label1->setBuddy(Text1);
   Frame2 = Chiamato(QStringLiteral("Frame2"), new QGroupBox(this));
   Frame2->setToolTip(QStringLiteral("Inserire autore/indirizzo/e-mail ecc."));
@@ -81,14 +83,17 @@ void TelarSav::Disponi() {
 }
 
 void TelarSav::Attivata() {
-  Text1->setText(PercorsoAQt(NomeProposto()));
+  Text1->Mostra(NomeProposto());
   Text1->setFocus();
   Text1->selectAll();
 }
 
 void TelarSav::Salva() {
-  if (SalvaNellArchivio(Dir1->Cartella(), PercorsoDaQt(Text1->text()), DaQt(Text2->text())))
-    accept();
+  if (AQt(DaQt(Text2->text())) != Text2->text()) {
+    Avvisa("I dati autore contengono caratteri che il file del cruciverba non può tenere."_cp);
+    return Text2->setFocus();
+  }
+  if (SalvaNellArchivio(Dir1->Cartella(), Text1->Nome(), DaQt(Text2->text()))) accept();
 }
 
 }  // namespace telarium

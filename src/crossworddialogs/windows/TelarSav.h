@@ -21,7 +21,7 @@ class TelarSav : public FinestraModale {
   ListaFile* File1;
   QGroupBox* Frame1;
   QLabel* Label1;
-  CasellaDiTesto* Text1;  // the file name
+  CasellaDiNome* Text1;  // the file name
   QGroupBox* Frame2;
   QLabel* Label2;
   CasellaDiTesto* Text2;    // the author's data

@@ -46,18 +46,23 @@ ListaFile::ListaFile(std::string modello, QWidget* genitore)
   setTextElideMode(Qt::ElideMiddle);
   connect(this, &QListWidget::itemSelectionChanged, this, [this] {
     appenaScelta_ = true;
-    if (Scelto() && scelta_) scelta_();
+    SegnalaScelta();
   });
   connect(this, &QListWidget::itemClicked, this, [this] {
-    if (!appenaScelta_ && scelta_) scelta_();
+    if (!appenaScelta_) SegnalaScelta();
   });
+}
+
+void ListaFile::SegnalaScelta() {
+  const auto scelto = Scelto();
+  if (scelto && scelta_) scelta_(*scelto);
 }
 
 void ListaFile::Vai(const Percorso& cartella) {
   clear();
   cartella_ = cartella;
   nomi_ = ElencaFile(cartella, modello_);
-  std::erase_if(nomi_, [](const Percorso& nome) { return nome.native().starts_with('.'); });
+  std::erase_if(nomi_, FileNascosto);
   OrdinaPerNome(nomi_);
   QStringList testi;
   for (const Percorso& nome : nomi_)
@@ -79,6 +84,15 @@ std::optional<Percorso> ListaFile::Scelto() const {
   const int riga = currentRow();
   if (riga < 0 || !currentItem()->isSelected()) return std::nullopt;
   return nomi_[static_cast<std::size_t>(riga)];
+}
+
+// By the keyboard the first file can be chosen at once.
+void ListaFile::focusInEvent(QFocusEvent* evento) {
+  QListWidget::focusInEvent(evento);
+  const Qt::FocusReason motivo = evento->reason();
+  const bool daTastiera = motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason ||
+                          motivo == Qt::ShortcutFocusReason;
+  if (daTastiera && !Scelto()) setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
 }
 
 AlberoCartelle::AlberoCartelle(QWidget* genitore) : QTreeWidget(genitore) {
@@ -154,23 +168,38 @@ Percorso ListaUnita::Scelta() const {
   return PercorsoDi(currentData());
 }
 
+void CasellaDiNome::Mostra(const Percorso& nome) {
+  mostrato_ = nome;
+  setText(PercorsoAQt(nome));
+}
+
+Percorso CasellaDiNome::Nome() const {
+  return Immutata() ? mostrato_ : PercorsoDaQt(text());
+}
+
+bool CasellaDiNome::Immutata() const {
+  return text() == PercorsoAQt(mostrato_);
+}
+
 ElenchiDiFile::ElenchiDiFile(ListaUnita* unita, AlberoCartelle* cartelle, ListaFile* file)
     : unita_(unita), cartelle_(cartelle), file_(file) {
-  cartelle_->QuandoCambia([this] { file_->Vai(cartelle_->Cartella()); });
-  QObject::connect(unita_, &QComboBox::activated, unita_, [this] { CambiataUnita(); });
+  cartelle_->QuandoCambia([this] { MostraFile(); });
+  QObject::connect(unita_, &QComboBox::activated, unita_, [this] { Vai(unita_->Scelta()); });
 }
 
 void ElenchiDiFile::Vai(const Percorso& cartella) {
   if (!cartelle_->Vai(cartella)) {
     Avvisa("Errore di lettura dal drive specificato");
+    unita_->Mostra(cartelle_->Cartella());
   } else {
-    file_->Vai(cartella);
+    MostraFile();
   }
-  unita_->Mostra(cartelle_->Cartella());
 }
 
-void ElenchiDiFile::CambiataUnita() {
-  Vai(unita_->Scelta());
+void ElenchiDiFile::MostraFile() {
+  file_->Vai(cartelle_->Cartella());
+  unita_->Mostra(cartelle_->Cartella());
+  if (cambia_) cambia_();
 }
 
 }  // namespace telarium

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "platform/qt/qt_dialog.h"
 
 // The lists by which a window goes through drives, folders and files.
 namespace telarium {
@@ -29,16 +30,19 @@ class ListaFile : public QListWidget {
   std::optional<Percorso> Scelto() const;
 
   /// What a file calls that gets selected, or is clicked while it is.
-  void QuandoScelta(std::function<void()> chiama) { scelta_ = std::move(chiama); }
+  void QuandoScelta(std::function<void(const Percorso&)> chiama) { scelta_ = std::move(chiama); }
 
  protected:
   void mousePressEvent(QMouseEvent* evento) override;
+  void focusInEvent(QFocusEvent* evento) override;
 
  private:
+  void SegnalaScelta();
+
   std::string modello_;
   Percorso cartella_;
   std::vector<Percorso> nomi_;
-  std::function<void()> scelta_;
+  std::function<void(const Percorso&)> scelta_;
   bool appenaScelta_ = false;  // by the press that becomes a click
 };
 
@@ -57,6 +61,7 @@ class AlberoCartelle : public QTreeWidget {
 
  protected:
   void keyPressEvent(QKeyEvent* evento) override;
+  void drawBranches(QPainter*, const QRect&, const QModelIndex&) const override {}
 
  private:
   void ApriVoce(QTreeWidgetItem* voce);
@@ -75,6 +80,22 @@ class ListaUnita : public QComboBox {
   Percorso Scelta() const;
 };
 
+/// A line of text for a file name. The text of a name cannot always hold its bytes: as long as
+/// nobody changes it, the name that was put into it counts.
+class CasellaDiNome : public CasellaDiTesto {
+ public:
+  using CasellaDiTesto::CasellaDiTesto;
+
+  void Mostra(const Percorso& nome);
+  Percorso Nome() const;
+
+  /// Whether the text is still that of the name that was put into it.
+  bool Immutata() const;
+
+ private:
+  Percorso mostrato_;
+};
+
 /// The three lists, moving together.
 class ElenchiDiFile {
  public:
@@ -84,12 +105,16 @@ class ElenchiDiFile {
   /// Goes to a folder. A folder that cannot be read is told and leaves the lists as they are.
   void Vai(const Percorso& cartella);
 
+  /// What a folder calls that the user has gone to.
+  void QuandoCambia(std::function<void()> chiama) { cambia_ = std::move(chiama); }
+
  private:
-  void CambiataUnita();
+  void MostraFile();
 
   ListaUnita* unita_;
   AlberoCartelle* cartelle_;
   ListaFile* file_;
+  std::function<void()> cambia_;
 };
 
 }  // namespace telarium

@@ -50,8 +50,10 @@ void FiguraModello::paintEvent(QPaintEvent* evento) {
   pittore.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
-void FiguraModello::mousePressEvent(QMouseEvent*) {
-  if (scelta_) scelta_();
+// A click is over when the button is up: a second one must not reach the window below.
+void FiguraModello::mouseReleaseEvent(QMouseEvent* evento) {
+  const bool scelta = evento->button() == Qt::LeftButton && rect().contains(evento->pos());
+  if (scelta && scelta_) scelta_();
 }
 
 void FiguraModello::keyPressEvent(QKeyEvent* evento) {
@@ -78,7 +80,10 @@ SceltaModello::SceltaModello(const QString& nome, const QString& istruzione, QWi
   }
   File1 = Chiamato(QStringLiteral("File1"), new ListaFile(ModelloDiFile, this));
   File1->setFixedWidth(LarghezzaElenco);
-  File1->QuandoScelta([this] { CambiatoFile(); });
+  File1->QuandoScelta([this](const Percorso& nome) {
+    nomeModelli_ = nome;
+    MostraIModelli();
+  });
   Label5 = Chiamato(QStringLiteral("Label5"), new QLabel(istruzione, this));
   Label5->setWordWrap(true);
   Command3d1 = Chiamato(QStringLiteral("Command3d1"), new QPushButton(QStringLiteral("&OK"), this));
@@ -115,13 +120,10 @@ void SceltaModello::Disponi(QLayout* extra) {
   resize(sizeHint());
 }
 
-// All pictures have their new sizes when they are drawn anew, and a file that cannot be shown has
-// been told.
 void SceltaModello::resizeEvent(QResizeEvent* evento) {
   FinestraModale::resizeEvent(evento);
-  QTimer::singleShot(0, this, [this] {
-    if (Picture1.front()->isEnabled()) MostraIModelli();
-  });
+  // Behind it all pictures have their new sizes.
+  QTimer::singleShot(0, this, [this] { Ridisegna(); });
 }
 
 void SceltaModello::Attivata() {
@@ -132,28 +134,32 @@ void SceltaModello::Attivata() {
   MostraIModelli();
 }
 
-void SceltaModello::CambiatoFile() {
-  nomeModelli_ = File1->Scelto().value_or(nomeModelli_);
-  MostraIModelli();
+Percorso SceltaModello::FileModelli() const {
+  return PercorsoNellaCartella(CartellaProgramma, nomeModelli_);
 }
 
 void SceltaModello::MostraIModelli() {
-  std::array<telarium::Superficie*, MaxModelli> figure;
-  for (std::size_t n = 0; n < figure.size(); ++n)
-    figure[n] = &Picture1[n]->Superficie();
-  const std::vector<std::string> nomi =
-      MostraModelli(PercorsoNellaCartella(CartellaProgramma, nomeModelli_), figure);
-  for (std::size_t n = 0; n < figure.size(); ++n)
-    Picture1[n]->Piena(n < nomi.size() && !nomi[n].empty());
-  MostraNomi(nomi);
+  modelli_ = ModelliDaMostrare(FileModelli());
+  modelli_.resize(MaxModelli);
+  for (int n = 0; n < MaxModelli; ++n) {
+    const Modello& modello = modelli_[static_cast<std::size_t>(n)];
+    Picture1[static_cast<std::size_t>(n)]->Piena(!modello.empty());
+    MostraNome(n, NomeDelModello(modello));
+  }
+  Ridisegna();
+  ImpostaPuntatoreMouse(PuntatoreFreccia);
+}
+
+void SceltaModello::Ridisegna() {
+  for (std::size_t n = 0; n < modelli_.size(); ++n)
+    DisegnaModello(modelli_[n], Picture1[n]->Superficie());
 }
 
 void SceltaModello::Scegli(int numero) {
   FiguraModello& figura = *Picture1[static_cast<std::size_t>(numero)];
   const QPoint posto = figura.pos();
   figura.Premi();
-  const Percorso file = PercorsoNellaCartella(CartellaProgramma, nomeModelli_);
-  if (NuovoDaModello(file, numero) == EsitoNuovo::Fatto) return accept();
+  if (NuovoDaModello(FileModelli(), numero) == EsitoNuovo::Fatto) return accept();
   figura.move(posto);
 }
 

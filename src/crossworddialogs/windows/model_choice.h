@@ -26,14 +26,14 @@ class FiguraModello : public Tela {
   void Piena(bool piena);
   void QuandoScelta(std::function<void()> chiama) { scelta_ = std::move(chiama); }
 
-  /// Puts the picture where a pressed one is, until the next arrangement of the window.
+  /// Puts the picture where a pressed one is.
   void Premi();
 
   QSize sizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* evento) override;
-  void mousePressEvent(QMouseEvent* evento) override;
+  void mouseReleaseEvent(QMouseEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
   void focusInEvent(QFocusEvent* evento) override;
   void focusOutEvent(QFocusEvent* evento) override;
@@ -60,8 +60,8 @@ class SceltaModello : public FinestraModale {
 
   /// A picture with what belongs to it, for its place among the previews.
   virtual QVBoxLayout* PostoDi(int numero);
-  /// The names of the models that show now.
-  virtual void MostraNomi(const std::vector<std::string>&) {}
+  /// Tells the name of a model, empty for none, beside its picture.
+  virtual void MostraNome(int, const std::string&) {}
   /// Command3d1.
   virtual void Crea() = 0;
 
@@ -72,10 +72,12 @@ class SceltaModello : public FinestraModale {
   void resizeEvent(QResizeEvent* evento) override;
 
  private:
+  Percorso FileModelli() const;
   void MostraIModelli();
-  void CambiatoFile();
+  void Ridisegna();
 
   Percorso nomeModelli_;
+  std::vector<Modello> modelli_;  // that show now
 };
 
 }  // namespace telarium

@@ -6,6 +6,11 @@
 #include <utility>
 
 namespace telarium {
+namespace {
+
+constexpr QSize Cornice(10, 40);  // of a window, roughly: it is not known before the first showing
+
+}  // namespace
 
 FinestraModale::FinestraModale(const QString& nome, const QString& titolo, QWidget* genitore)
     : QDialog(genitore) {
@@ -18,7 +23,7 @@ void FinestraModale::showEvent(QShowEvent* evento) {
   QDialog::showEvent(evento);
   if (evento->spontaneous()) return;  // only comes back from an icon
   const QRect schermo = screen()->availableGeometry();
-  resize(size().boundedTo(schermo.size()));
+  resize(size().boundedTo(schermo.size() - Cornice));
   QRect dove = frameGeometry();
   dove.moveCenter(schermo.center());
   move(dove.topLeft());
@@ -32,8 +37,11 @@ void FinestraModale::showEvent(QShowEvent* evento) {
 
 void CasellaDiTesto::focusInEvent(QFocusEvent* evento) {
   QLineEdit::focusInEvent(evento);
-  appenaRaggiunta_ = evento->reason() == Qt::MouseFocusReason;
-  selectAll();
+  const Qt::FocusReason motivo = evento->reason();
+  appenaRaggiunta_ = motivo == Qt::MouseFocusReason;
+  // It only comes back from its own menu or from another window.
+  const bool tornata = motivo == Qt::PopupFocusReason || motivo == Qt::ActiveWindowFocusReason;
+  if (!tornata) selectAll();
 }
 
 void CasellaDiTesto::mousePressEvent(QMouseEvent* evento) {

@@ -131,6 +131,8 @@ Colore UtenteQt::ScegliColore(Colore iniziale) {
   scatola.setObjectName(u"ColorDialog");
   scatola.setWindowTitle(QStringLiteral("Colore della casella"));
   scatola.setOption(QColorDialog::DontUseNativeDialog);
+  for (auto* pulsante : scatola.findChildren<QPushButton*>())
+    pulsante->setIcon({});  // no other box has pictures on its buttons
   scatola.ensurePolished();
   scatola.layout()->activate();
   scatola.move(AlPuntatore(scatola.sizeHint()));

@@ -1,4 +1,5 @@
 #include <filesystem>
+#include <sys/stat.h>
 
 #include "crossworddialogs/windows/Form2.h"
 #include "crossworddialogs/windows/TelarSav.h"
@@ -23,6 +24,7 @@ class FileWindows : public TelariumTest {
     Save("Beta.tlrm", {"SOLE", "...."});
     Save("alfa.TLRM", {"CA#A"});
     WriteFile("Archivio cruciverba/note.txt", "no crossword");
+    ASSERT_EQ(::mkfifo((archive / "pipe.tlrm").c_str(), 0600), 0);
     Draw({"OGGI"});
   }
 
@@ -170,9 +172,64 @@ TEST_F(FileWindows, GivingUpOpensNothing) {
   QTest::keyClick(window.File1, Qt::Key_Escape);
   EXPECT_FALSE(window.isVisible());
   EXPECT_EQ(ModoGriglia, -1);
+}
+
+TEST_F(FileWindows, AnEmptyFolderIsNoFault) {
   fs::remove_all(archive);
+  Form2 window(nullptr);
   Open(window);
-  EXPECT_EQ(user.TakeTexts(), Texts()) << "an empty folder is no fault";
+  EXPECT_EQ(window.File1->count(), 0);
+  EXPECT_EQ(window.Text1->text(), QString());
+  EXPECT_EQ(window.Frame1->title(), QStringLiteral("Anteprima"));
+}
+
+TEST_F(FileWindows, ANewSizeOfTheWindowOnlyDrawsAnew) {
+  WriteFile("Archivio cruciverba/aaa.tlrm", "no crossword");
+  Form2 window(nullptr);
+  Open(window);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Formato del file non valido!"});
+  window.Text1->setText(QStringLiteral("scritto a mano"));
+  for (const int width : {700, 650}) {
+    window.resize(width, 500);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.width() == width; }, Patience));
+  }
+  EXPECT_EQ(window.Text1->text(), QStringLiteral("scritto a mano"));
+  const int wide = window.minimumSizeHint().width();
+  Save("largo.tlrm", {"CA"});
+  std::string bytes = ReadFile(archive / "largo.tlrm");
+  bytes.insert(bytes.find("02x01") + 5, 20'000, 'W');
+  WriteFile("Archivio cruciverba/largo.tlrm", bytes);
+  window.File1->Vai(archive);
+  window.File1->Scegli("largo.tlrm");
+  EXPECT_LE(window.minimumSizeHint().width(), wide) << "no text of a file widens the window";
+}
+
+TEST_F(FileWindows, ANameThatNoTextCanHoldIsSavedUnderItself) {
+  Save("caff\xE8.tlrm", {"CA"});
+  fs::remove(archive / "Beta.tlrm");
+  fs::remove(archive / "alfa.TLRM");
+  Form2 open(nullptr);
+  Open(open);
+  QTest::mouseClick(open.Command3d1, Qt::LeftButton);
+  EXPECT_EQ(NomeCruciverba, archive / "caff\xE8.tlrm");
+  TelarSav save(nullptr);
+  Open(save);
+  user.Answer(Risposta::Ok);
+  QTest::keyClick(save.Text1, Qt::Key_Return);
+  EXPECT_EQ(user.TakeTexts().size(), 1u) << "it is there already";
+  EXPECT_EQ(save.File1->count(), 1);
+  EXPECT_EQ(NomeCruciverba, archive / "caff\xE8.tlrm");
+}
+
+TEST_F(FileWindows, ATextBoxIsSelectedWholeWhenItIsReachedAndOnlyThen) {
+  TelarSav window(nullptr);
+  Open(window);
+  window.Text2->setFocus();
+  EXPECT_EQ(window.Text2->selectedText(), window.Text2->text());
+  window.Text2->setSelection(0, 2);
+  QFocusEvent fromItsMenu(QEvent::FocusIn, Qt::PopupFocusReason);
+  QCoreApplication::sendEvent(window.Text2, &fromItsMenu);
+  EXPECT_EQ(window.Text2->selectedText(), QStringLiteral("Pr"));
 }
 
 TEST_F(FileWindows, SaveTakesNameAndAuthorAndStaysAfterAFailure) {

@@ -51,7 +51,8 @@ TEST_F(NewWindows, AModelIsPickedByItsPictureItsNameOrAKey) {
     EXPECT_EQ(window.Label3[2]->text(), QString());
     QTest::mouseClick(window.Picture1[2], Qt::LeftButton);
     QTest::mouseClick(window.Label3[2], Qt::LeftButton);
-    EXPECT_TRUE(window.isVisible()) << "an empty place";
+    QTest::mouseClick(window.Picture1[0], Qt::RightButton);
+    EXPECT_TRUE(window.isVisible()) << "an empty place, another button";
     if (way == 0) QTest::mouseClick(window.Picture1[0], Qt::LeftButton);
     if (way == 1) QTest::mouseClick(window.Label3[0], Qt::LeftButton);
     if (way == 2) QTest::keyClick(window.Picture1[0], Qt::Key_Return);
@@ -111,7 +112,7 @@ TEST_F(NewWindows, TheWindowOfTheModelsBeginsAFixedGridOrAModel) {
   Open(window);
   EXPECT_EQ(window.Label5->text(), QStringLiteral("Modificare e salvare gli schemi di modello"));
   EXPECT_TRUE(window.Picture1[1]->isEnabled());
-  QTest::keyClick(&window, Qt::Key_Return);
+  QTest::keyClick(window.focusWidget(), Qt::Key_Return);
   EXPECT_EQ(Schema(4), "Dimensioni : 26x15");
   Open(window);
   QTest::mouseClick(window.Picture1[1], Qt::LeftButton);
