@@ -1,5 +1,6 @@
 #include "crossworddialogs/windows/file_lists.h"
 
+#include <QDir>
 #include <QKeyEvent>
 #include <QStorageInfo>
 #include <QStyle>
@@ -150,6 +151,7 @@ void AlberoCartelle::keyPressEvent(QKeyEvent* evento) {
 }
 
 ListaUnita::ListaUnita(QWidget* genitore) : QComboBox(genitore) {
+  const QString radiceDiTutto = QDir::rootPath();
   for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
     const QString radice = volume.rootPath();
     if (!volume.isValid() || !volume.isReady() || DelSistema(radice)) continue;
@@ -157,11 +159,24 @@ ListaUnita::ListaUnita(QWidget* genitore) : QComboBox(genitore) {
     addItem(nome.isEmpty() ? radice : QStringLiteral("%1  [%2]").arg(radice, nome),
             Dato(PercorsoDaQt(radice)));
   }
+  // A confined program may not be told what the root folder lies on.
+  if (findData(Dato(PercorsoDaQt(radiceDiTutto))) < 0)
+    insertItem(0, radiceDiTutto, Dato(PercorsoDaQt(radiceDiTutto)));
 }
 
 void ListaUnita::Mostra(const Percorso& cartella) {
-  const Percorso radice = PercorsoDaQt(QStorageInfo(PercorsoAQt(cartella)).rootPath());
-  setCurrentIndex(findData(Dato(radice)));
+  int migliore = -1;
+  std::ptrdiff_t parti = 0;
+  for (int i = 0; i < count(); ++i) {
+    const Percorso radice = PercorsoDi(itemData(i));
+    const auto [fine, ignorato] =
+        std::mismatch(radice.begin(), radice.end(), cartella.begin(), cartella.end());
+    const std::ptrdiff_t comuni = std::distance(radice.begin(), radice.end());
+    if (fine != radice.end() || comuni <= parti) continue;
+    migliore = i;
+    parti = comuni;
+  }
+  setCurrentIndex(migliore);
 }
 
 Percorso ListaUnita::Scelta() const {
