@@ -1,7 +1,7 @@
 #include "crossworddialogs/crossword_archive.h"
 
 #include <algorithm>
-#include <utility>
+#include <cctype>
 
 #include "model/crossword_file.h"
 #include "platform/codepage.h"
@@ -16,15 +16,17 @@ namespace fs = std::filesystem;
 constexpr const char* NomeArchivio = "Archivio cruciverba";
 constexpr const char* NomeSenzaCruciverba = "Telar000.tlrm";
 constexpr const char* Estensione = ".tlrm";
-constexpr std::size_t FineEtichettaAutore = 13;  // characters of line 1 before the author's data
 
 bool Leggibile(const Percorso& cartella) {
   std::vector<Percorso> ignorate;
   return !ElencaCartelle(cartella, ignorate);
 }
 
-bool ConUnita(const Percorso& nome) {
-  return nome.native().size() > 1 && nome.native()[1] == ':';
+// Whether a name begins with the letter of a drive, as "C:" or "C:\\uno".
+bool ConUnita(const std::string& nome) {
+  const bool lettera =
+      nome.size() > 1 && nome[1] == ':' && std::isalpha(static_cast<unsigned char>(nome[0]));
+  return lettera && (nome.size() == 2 || nome[2] == '/' || nome[2] == '\\');
 }
 
 Percorso NomeIntero(const Percorso& cartella, const Percorso& nome) {
@@ -52,12 +54,12 @@ bool RiscrivereFile(const Percorso& nome) {
 }
 
 bool ScriviConAutore(const Percorso& nome, const std::string& autore) {
-  std::string riga = Schema(1);
-  riga.resize(FineEtichettaAutore, ' ');
-  std::swap(Schema(1), riga += autore);
-  if (ScriviCruciverba(nome)) return true;
-  Schema(1) = riga;
-  return false;
+  const std::string prima = Schema(1);
+  Schema(1).resize(LunghezzaEtichetta, ' ');
+  Schema(1) += autore;
+  const bool scritto = ScriviCruciverba(nome);
+  if (!scritto) Schema(1) = prima;
+  return scritto;
 }
 
 }  // namespace
@@ -74,7 +76,7 @@ void RinunciaAdAprire() {
 }
 
 std::string AutoreDelCruciverba() {
-  return Schema(1).substr(std::min(FineEtichettaAutore, Schema(1).size()));
+  return Schema(1).substr(std::min(LunghezzaEtichetta, Schema(1).size()));
 }
 
 Percorso NomeProposto() {
@@ -82,9 +84,13 @@ Percorso NomeProposto() {
 }
 
 bool SalvaNellArchivio(const Percorso& cartella, const Percorso& nome, const std::string& autore) {
+  if (NumColonne == 0) {  // a damaged snapshot was read: no file shall pay for it
+    Avvisa("Il cruciverba non ha uno schema: non è possibile salvarlo."_cp, {}, Icona::Avviso);
+    return false;
+  }
   const Percorso intero = NomeIntero(cartella, nome);
   // No drive has a letter here.
-  if (nome.filename().empty() || ConUnita(nome) || !NomePossibile(intero)) {
+  if (nome.filename().empty() || ConUnita(nome.native()) || !NomePossibile(intero)) {
     Avvisa("Errore di nome file o accesso al disco!");
     return false;
   }

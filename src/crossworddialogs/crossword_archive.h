@@ -12,7 +12,7 @@ inline constexpr const char* ModelloCruciverba = "*.tlr*";
 /// it is missing; the program folder itself where it cannot be made or read.
 Percorso CartellaArchivio();
 
-/// Gives up opening: without a crossword the surface shows no grid.
+/// Gives up opening: without a crossword ModoGriglia tells that the surface shows no grid.
 void RinunciaAdAprire();
 
 /// The author's data of the open crossword, and the name that it is to be saved under.

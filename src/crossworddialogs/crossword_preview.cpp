@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 
 #include "crossworddialogs/grid_preview.h"
 #include "model/words.h"
@@ -18,8 +17,9 @@ constexpr std::string_view NonLeggibile = "Errore di lettura del file!";
 constexpr std::size_t MaxCaratteri = 200;  // of a text beside the picture
 constexpr std::size_t MaxDimensioni = 20;
 
+// What stands in a header line from that character on, counted from 0.
 std::string Dal(std::string_view riga, std::size_t carattere, std::size_t massimo = MaxCaratteri) {
-  return std::string(riga.substr(std::min(carattere - 1, riga.size()), massimo));
+  return std::string(riga.substr(std::min(carattere, riga.size()), massimo));
 }
 
 // The cell characters of a grid line; none when one is no cell that a preview shows.
@@ -51,18 +51,18 @@ std::string_view Interpreta(std::string_view contenuto, AnteprimaCruciverba& ant
     if (!caselle) return "Tipo di file non valido!";
     anteprima.caselle.push_back(*caselle);
   }
-  anteprima.autoreDataTipo = Unisci(Dal(autore, 13), " - ", Dal(data, 14), " - ", Dal(tipo, 14));
-  anteprima.dimensioni = Dal(dimensioni, 14, MaxDimensioni);
+  // The author's data begin with the blank of the label.
+  anteprima.autoreDataTipo =
+      Unisci(Dal(autore, LunghezzaEtichetta - 1), " - ", Dal(data, LunghezzaEtichetta), " - ",
+             Dal(tipo, LunghezzaEtichetta));
+  anteprima.dimensioni = Dal(dimensioni, LunghezzaEtichetta, MaxDimensioni);
   return {};
 }
 
 std::string_view Leggi(const Percorso& nome, AnteprimaCruciverba& anteprima) {
   std::string contenuto;
-  std::error_code ignorato;
-  // A pipe could keep the reader waiting for ever.
-  const bool file = std::filesystem::is_regular_file(nome, ignorato);
   const EsitoLettura esito =
-      file ? LeggiFile(nome, MaxByteCruciverba, contenuto) : EsitoLettura::Assente;
+      FileOrdinario(nome) ? LeggiFile(nome, MaxByteCruciverba, contenuto) : EsitoLettura::Assente;
   if (esito == EsitoLettura::Assente) return "Nessun file di cruciverba trovato!";
   return esito == EsitoLettura::Letto ? Interpreta(contenuto, anteprima) : NonLeggibile;
 }
@@ -81,7 +81,7 @@ void DisegnaAnteprima(const AnteprimaCruciverba& anteprima, Superficie& superfic
   superficie.Pulisci();
   const auto [colonne, righe] = anteprima.misure;
   const AnteprimaDiSchema schema(superficie, colonne, righe, Margine);
-  superficie.Carattere("Arial");
+  superficie.Carattere(CarattereIniziale);
   superficie.CorpoCarattere(
       std::max<double>(ArrotondaPari(CorpoLettere(schema.Lato(), 0)), MinCorpo));
   for (int r = 1; r <= righe; ++r) {

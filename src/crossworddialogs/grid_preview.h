@@ -19,6 +19,7 @@ class AnteprimaDiSchema {
   /// the letter of any other that is not empty by `scrivi`, which gets the middle of the cell.
   template <class Scrivi>
   void Casella(int colonna, int riga, char carattere, Colore nera, Scrivi scrivi) const {
+    if (lato_ == 0) return;
     const double x = sinistra_ + (colonna - 1) * lato_;
     const double y = cima_ + (riga - 1) * lato_;
     DisegnaContorno(superficie_, x, y, lato_);

@@ -51,7 +51,7 @@ void ScriviLettera(Superficie& superficie, double centroX, double centroY, doubl
 }
 
 const std::string& FontDelleLettere() {
-  if (NomeFont.empty()) NomeFont = "Arial";
+  if (NomeFont.empty()) NomeFont = CarattereIniziale;
   return NomeFont;
 }
 

@@ -1,5 +1,7 @@
 #include "editor/cell_editing.h"
 
+#include <algorithm>
+
 #include "editor/commands.h"
 #include "editor/commit.h"
 #include "editor/main_window.h"
@@ -55,19 +57,21 @@ void Colora(Casella casella) {
   RidisegnaSchema();
 }
 
-// Hands the word from the cell on to the clue editor, which works on the two entries themselves,
-// and takes what it changed back into the grid.
+// Hands the characters from the cell to the end of their run on to the clue editor, which works on
+// the two entries themselves, and takes what it changed back into the grid.
 void ModificaParola(Casella casella, int direzione) {
   Direzione = static_cast<std::int16_t>(direzione);
   std::string& definizione = Definizione(casella.colonna, casella.riga, direzione);
   std::string& parola = ParolaCasella(casella.colonna, casella.riga, direzione);
+  if (parola.empty()) return;  // the pointer keeps its shape over cells without a word that way
   const std::string definizionePrima = definizione;
   const std::string parolaPrima = parola;
+  const Slot slot = SlotDa(casella, direzione);
   LaFinestra().MostraModale(Modale::TelarDef);
   if (definizione == definizionePrima && parola == parolaPrima) return;
   SchemaModificato = Vero;
-  const Slot slot = SlotDa(casella, direzione);
-  for (int k = 1; k <= slot.lunghezza && NelloSchema(slot.Cella(k)); ++k)
+  const int lunghezza = std::min(slot.lunghezza, static_cast<int>(parola.size()));
+  for (int k = 1; k <= lunghezza; ++k)
     ScriviInSchema(slot.Cella(k), parola[static_cast<std::size_t>(k) - 1]);
   ConsolidaSchema();
 }

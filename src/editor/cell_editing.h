@@ -6,7 +6,8 @@
 // goes to the clue editor.
 namespace telarium {
 
-/// The word handed to the clue editor: its start cell, and its direction.
+/// The word handed to the clue editor: its start cell, or the cell from which on its rest is meant,
+/// and its direction.
 extern std::int16_t CursoreX;
 extern std::int16_t CursoreY;
 extern std::int16_t Direzione;
@@ -15,12 +16,15 @@ extern Colore ColoreScelto;
 
 enum class TastoMouse { Sinistro, Destro, Altro };
 
-/// MenuCN and MenuCB, CasNera and CasBianca: from now on the left button turns cells black, or
-/// white, and the right one does the opposite, until a click beside the grid.
+/// MenuCN and MenuCB, CasNera and CasBianca: choose the tool, by the shape of the pointer. Its left
+/// button turns cells black, or white; a cell that the right button turns the other way changes the
+/// tool too. It lasts until a click beside the grid or another command that sets the pointer.
 void AttivaCasellaNera();
 void AttivaCasellaBianca();
 
-/// A mouse button was pressed on the surface, at a point in pixels.
+/// A mouse button was pressed on the surface, at a point in pixels. By PuntatoreMouse and
+/// ModoGriglia it enters editing, turns a cell and commits it, colours a cell, or hands the word
+/// that the pointer last meant to the clue editor and commits what comes back.
 void PremiSullaSuperficie(TastoMouse tasto, double x, double y);
 
 }  // namespace telarium

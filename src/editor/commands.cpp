@@ -111,10 +111,6 @@ void RegolaSchema() {
   RidisegnaSchema();
 }
 
-void GestisciModelli() {
-  LaFinestra().MostraModale(Modale::FormModels);
-}
-
 void AggiornaSpunte() {
   FinestraEditor& finestra = LaFinestra();
   finestra.SpuntaVoce("MenuVis", StampaSoluzioni);

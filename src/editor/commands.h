@@ -37,9 +37,6 @@ void ScegliCarattere();
 /// menusetschema: shows Settaggi and redraws.
 void RegolaSchema();
 
-/// Menuschemi: shows FormModels.
-void GestisciModelli();
-
 /// The check marks of the menus, from the settings and the language as they are.
 void AggiornaSpunte();
 

@@ -17,7 +17,7 @@ void ChiudiAnteprimaSeVisibile() {
   if (LaFinestra().Command3d15Visibile()) ChiudiAnteprima();
 }
 
-// What each of these commands does first.
+// What these commands do before a window or another crossword takes the grid's place.
 void LasciaLoSchema() {
   LaFinestra().NascondiShape1();
   ImpostaPuntatoreMouse(PuntatoreFreccia);
@@ -60,6 +60,10 @@ void ApriConFinestra() {
   PrendiAltroCruciverba(Modale::Form2);
 }
 
+void GestisciModelli() {
+  PrendiAltroCruciverba(Modale::FormModels);
+}
+
 void SalvaCruciverba() {
   LasciaLoSchema();
   RidisegnaSchema();  // the writer wants the words of the grid
@@ -91,10 +95,7 @@ void EsciDalProgramma() {
 }
 
 bool ApriFileDiCruciverba(const Percorso& nome) {
-  std::error_code ignorato;
-  // A pipe could keep the reader waiting for ever.
-  const bool file = std::filesystem::is_regular_file(nome, ignorato);
-  const Apertura esito = file ? ApriCruciverba(nome) : Apertura::Assente;
+  const Apertura esito = FileOrdinario(nome) ? ApriCruciverba(nome) : Apertura::Assente;
   if (esito == Apertura::Assente) Avvisa("Errore: file inesistente!");
   if (esito == Apertura::Assente || esito == Apertura::Rifiutata) return false;
   RicalcolaCaselle();                     // the writer wants the words of the grid

@@ -7,7 +7,10 @@
 namespace telarium {
 namespace {
 
-constexpr const char* Ripiego = "Arial";
+// False when there is no printer, or none that takes the typeface.
+bool PrendeIlCarattere(Stampante* stampante, const std::string& nome) {
+  return stampante && stampante->Carattere(nome);
+}
 
 template <class Bersaglio>
 void ImpostaStile(Bersaglio* bersaglio, bool corsivo, bool grassetto) {
@@ -16,30 +19,21 @@ void ImpostaStile(Bersaglio* bersaglio, bool corsivo, bool grassetto) {
   bersaglio->Grassetto(grassetto);
 }
 
-void ImpostaSullaFinestra(const std::string& nome, bool corsivo, bool grassetto) {
-  Superficie* finestra = FinestraPrincipale();
-  if (finestra) finestra->Carattere(nome);
-  ImpostaStile(finestra, corsivo, grassetto);
-}
-
-void RipiegaSuArial() {
-  Avvisa("Font scelto non disponibile, verrà scelto l'Arial a video ed in stampa."_cp);
-  NomeFont = Ripiego;
-  Stampante* stampante = LaStampante();
-  // Nothing is left to fall back on when the printer does not take this one either.
-  if (stampante) static_cast<void>(stampante->Carattere(NomeFont));
-  ImpostaStile(stampante, false, false);
-  ImpostaSullaFinestra(NomeFont, false, false);
-}
-
 }  // namespace
 
 void ApplicaCarattere(const std::string& nome, bool corsivo, bool grassetto) {
   NomeFont = nome;
   Stampante* stampante = LaStampante();
-  if (!stampante || !stampante->Carattere(nome)) RipiegaSuArial();
+  if (!PrendeIlCarattere(stampante, nome)) {
+    Avvisa("Font scelto non disponibile, verrà scelto l'Arial a video ed in stampa."_cp);
+    NomeFont = CarattereIniziale;
+    // Nothing is left to fall back on when the printer does not take this one either.
+    static_cast<void>(PrendeIlCarattere(stampante, NomeFont));
+  }
   ImpostaStile(stampante, corsivo, grassetto);
-  ImpostaSullaFinestra(NomeFont, corsivo, grassetto);
+  Superficie* finestra = FinestraPrincipale();
+  if (finestra) finestra->Carattere(NomeFont);
+  ImpostaStile(finestra, corsivo, grassetto);
 }
 
 }  // namespace telarium

@@ -6,7 +6,6 @@
 #include "editor/main_window.h"
 #include "editor/settings.h"
 #include "model/crossword_file.h"
-#include "model/words.h"
 #include "platform/platform.h"
 #include "platform/text.h"
 

@@ -53,7 +53,7 @@ void AggiungiColonna() {
     return Avvisa(Unisci("Numero massimo consentito di colonne: ", MaxColonne));
   if (NumColonne == 0) return;
   Inizia(ModoAggiungiColonna);
-  AllineaRighe(NumColonne);
+  AllineaRighe(NumColonne);  // what a line holds past its last cell is no cell
   AllineaRighe(NumColonne + 1);
   ConsolidaColonne(NumColonne + 1);
 }

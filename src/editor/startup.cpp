@@ -61,7 +61,8 @@ void LeggiImpostazioniOTermina() {
 // Whatever could not be opened leaves the program as it is without a crossword.
 void ApriRigaDiComando() {
   FileComando = NomeCruciverba = RigaDiComando;
-  const Apertura esito = ApriCruciverba(NomeCruciverba);
+  const Apertura esito =
+      FileOrdinario(NomeCruciverba) ? ApriCruciverba(NomeCruciverba) : Apertura::Assente;
   if (esito == Apertura::Assente) TerminaSenzaCruciverba(NomeCruciverba);
   if (esito == Apertura::Rifiutata) {
     NomeCruciverba.clear();

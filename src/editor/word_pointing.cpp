@@ -22,10 +22,6 @@ constexpr double ASinistraDelPuntatore = 19;
 constexpr Colore ColoreOrizzontale = 65535;   // yellow
 constexpr Colore ColoreVerticale = 12632064;  // blue-green
 
-int Tipo(int colonna, int riga) {
-  return TipoCasella(colonna, riga);
-}
-
 // The look-back from a white cell where no word starts.
 Indicazione GuardaIndietro(Casella casella, bool altoDestra) {
   auto [c, r] = casella;
@@ -38,11 +34,12 @@ Indicazione GuardaIndietro(Casella casella, bool altoDestra) {
   const Casella indietro{c, r};
   if (orizzontale && IniziaParola(indietro, Orizzontale))
     return {Indicazione::Parola, indietro, Orizzontale};
-  if (Tipo(c, r) == 0) return {Indicazione::Neutra, indietro};
-  if (c == 1) return {Tipo(2, r) == 0 ? Indicazione::Neutra : Indicazione::Invariata, indietro};
+  if (TipoCasella(c, r) == 0) return {Indicazione::Neutra, indietro};
+  if (c == 1)
+    return {TipoCasella(2, r) == 0 ? Indicazione::Neutra : Indicazione::Invariata, indietro};
   if (!orizzontale && IniziaParola(indietro, Verticale))
     return {Indicazione::Parola, indietro, Verticale};
-  if (r == 1 && Tipo(c, 2) == 0) return {Indicazione::Neutra, indietro};
+  if (r == 1 && TipoCasella(c, 2) == 0) return {Indicazione::Neutra, indietro};
   return {Indicazione::Invariata, indietro};
 }
 
@@ -106,7 +103,7 @@ Casella CasellaSotto(double x, double y) {
 }
 
 Indicazione IndicazioneDa(Casella casella, bool altoDestra) {
-  switch (Tipo(casella.colonna, casella.riga)) {
+  switch (TipoCasella(casella.colonna, casella.riga)) {
     case 0:
       return {Indicazione::Neutra, casella};
     case 2:

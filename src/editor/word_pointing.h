@@ -6,8 +6,8 @@
 // rectangle Shape1. The shape of the pointer, PuntatoreMouse, is the state that a press reads.
 namespace telarium {
 
-/// The cell that the last movement settled on: the start of the word under the pointer, or the cell
-/// one step back from the pointer. It can lie outside of the grid.
+/// The cell that the last movement settled on: the one under the pointer, or the one a step back
+/// from it where a word may start. It can lie outside of the grid.
 extern int MouseCol;
 extern int MouseRiga;
 
@@ -31,7 +31,8 @@ struct Indicazione {
 /// one cell back, to the left in that half, above in the other one.
 Indicazione IndicazioneDa(Casella casella, bool altoDestra);
 
-/// The pointer has moved over the surface, to a point in pixels.
+/// The pointer has moved over the surface, to a point in pixels: sets MouseCol and MouseRiga, the
+/// pointer's shape, the tip and the rectangle.
 void PassaSullaSuperficie(double x, double y);
 
 /// The pointer has moved over Toolbar1: no word is meant any more.

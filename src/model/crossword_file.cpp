@@ -229,9 +229,9 @@ const AzzeramentoDiSottosistema azzeramento([] { istantaneaSuperata = false; });
 
 std::optional<Dimensioni> DimensioniDichiarate(std::string_view riga4) {
   const auto dal = [riga4](std::size_t carattere) {
-    return ValoreNumerico(riga4.substr(std::min(carattere - 1, riga4.size())));
+    return ValoreNumerico(riga4.substr(std::min(LunghezzaEtichetta + carattere, riga4.size())));
   };
-  const Dimensioni dimensioni{dal(14), dal(17)};
+  const Dimensioni dimensioni{dal(0), dal(3)};
   const auto [colonne, righe] = dimensioni;
   const bool valide = colonne >= 1 && colonne <= MaxColonne && righe >= 1 && righe <= MaxRighe;
   return valide ? std::optional(dimensioni) : std::nullopt;
@@ -275,8 +275,6 @@ Apertura ApriCruciverba(const Percorso& nome) {
     return Apertura::Rifiutata;
   }
   SvuotaCruciverba();
-  for (int i = RigheIntestazione + 1; i <= RigheSchema; ++i)
-    Schema(i).clear();  // a file that breaks off must not show rows of another crossword
   return PrendiCorpo(righe) ? Apertura::Intera : Apertura::Parziale;
 }
 
@@ -313,7 +311,7 @@ bool AggiornaIstantanea() {
 }
 
 void ScriviDimensioni(int colonne, int righe) {
-  Schema(4).resize(13, ' ');
+  Schema(4).resize(LunghezzaEtichetta, ' ');
   Schema(4) += Unisci(DueCifre(colonne), 'x', DueCifre(righe));
 }
 

@@ -43,6 +43,8 @@ void SvuotaDefinizioni() {
 }
 
 void SvuotaCruciverba() {
+  for (int i = RigheIntestazione + 1; i <= RigheSchema; ++i)
+    Schema(i).clear();
   SvuotaDefinizioni();
   ColoreCasella.Riempi(ColoreNero);
   LetteraCasella.Riempi(CellaVuota);

@@ -17,6 +17,8 @@ inline constexpr int MaxColonne = 53;
 inline constexpr int MaxRighe = 30;
 inline constexpr int RigheSchema = 350;  // lines of Schema, of which NumRighe + 4 have a meaning
 inline constexpr int RigheIntestazione = 4;  // row r of the grid is line r + 4 of Schema
+/// Characters of a header line before its value, as "Autore     : ".
+inline constexpr std::size_t LunghezzaEtichetta = 13;
 
 /// Flags of the shared state: 0 and -1, tested for not 0.
 using Booleano16 = std::int16_t;
@@ -111,8 +113,9 @@ void AzzeraStato();
 /// Empties all clues, as a new crossword needs it.
 void SvuotaDefinizioni();
 
-/// Empties clues, colours and the derived tables, so that a crossword that is opened shows nothing
-/// of an earlier one. Cells that its file does not hold count as empty white ones.
+/// Empties the grid lines, clues, colours and the derived tables, so that a crossword that is
+/// opened shows nothing of an earlier one, even if its file breaks off. Cells that its file does
+/// not hold count as empty white ones.
 void SvuotaCruciverba();
 
 /// Sets PuntatoreMouse and the visible shape.

@@ -271,6 +271,11 @@ std::error_code ElencaCartelle(const Percorso& cartella, std::vector<Percorso>& 
   return errore;
 }
 
+bool FileOrdinario(const Percorso& nome) {
+  std::error_code ignorato;
+  return fs::is_regular_file(nome, ignorato);
+}
+
 bool FileNascosto(const Percorso& nome) {
   return nome.filename().native().starts_with('.');
 }

@@ -56,6 +56,10 @@ std::vector<Percorso> ElencaFile(const Percorso& cartella, std::string_view mode
 [[nodiscard]] std::error_code ElencaCartelle(const Percorso& cartella,
                                              std::vector<Percorso>& cartelle);
 
+/// Whether a name is that of an ordinary file, or of a link to one. A pipe or a terminal could keep
+/// a reader waiting for ever.
+bool FileOrdinario(const Percorso& nome);
+
 /// Whether the system's own lists leave a file or folder out.
 bool FileNascosto(const Percorso& nome);
 

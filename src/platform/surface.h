@@ -12,6 +12,9 @@ inline constexpr Colore ColoreNero = 0x000000;
 inline constexpr Colore ColoreBianco = 0xFFFFFF;
 inline constexpr Colore NessunColore = -1;
 
+/// The typeface until another one is chosen; every machine has one of its metrics.
+inline constexpr std::string_view CarattereIniziale = "Arial";
+
 /// What the core draws on: the main window, the printer, a picture, a recorder in tests.
 /// Coordinates and text measures are in the surface's own units, pixels on a window; type sizes are
 /// in points.

@@ -38,6 +38,8 @@ TEST_F(Archive, ANameBecomesAFullOneWithAnEnding) {
       {"uno", "uno.tlrm"},
       {"due.txt", "due.txt"},
       {"con.punto/tre", "con.punto/tre.tlrm"},
+      {"con.punto\\tre", "con.punto\\tre.tlrm"},
+      {"1:cinque", "1:cinque.tlrm"},
       {InFolder("con.punto/quattro"), "con.punto/quattro.tlrm"},
       {"Perché no à è ì ò ù", "Perché no à è ì ò ù.tlrm"},
       {"漢字", "漢字.tlrm"},
@@ -82,7 +84,7 @@ TEST_F(Archive, ABadNameOrAFaultOfTheDiskCostsNothing) {
   fs::create_directory(InFolder("con.punto"));
   for (const Percorso& bad :
        {Percorso(), Percorso("cartella.tlrm"), Percorso("manca/uno"), Percorso("C:\\uno"),
-        Percorso("con.punto/"), Percorso(std::string(300, 'n'))}) {
+        Percorso("c:"), Percorso("con.punto/"), Percorso(std::string(300, 'n'))}) {
     EXPECT_FALSE(Save(bad)) << bad;
     ExpectNotSaved("Errore di nome file o accesso al disco!");
   }
@@ -97,6 +99,14 @@ TEST_F(Archive, ABadNameOrAFaultOfTheDiskCostsNothing) {
   EXPECT_EQ(ReadFile(old), "old");
   EXPECT_EQ(NomeCruciverba, "prova.tlrm");
   EXPECT_EQ(Schema(1), "Autore     : Prova");
+}
+
+TEST_F(Archive, WithoutAGridNoFileIsWrittenOver) {
+  const Percorso old = WriteFile("vecchio.tlrm", "old");
+  NumColonne = NumRighe = 0;
+  EXPECT_FALSE(Save("vecchio"));
+  ExpectNotSaved("Il cruciverba non ha uno schema: non \xE8 possibile salvarlo.");
+  EXPECT_EQ(ReadFile(old), "old");
 }
 
 TEST_F(Archive, TheFolderIsMadeWhereItCanBe) {

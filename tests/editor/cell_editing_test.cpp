@@ -158,36 +158,44 @@ TEST_F(Editing, AColourStaysAndACancelledChooserChangesNothing) {
 }
 
 TEST_F(Editing, AWordGoesToTheClueEditorAndComesBackIntoTheGrid) {
-  Open({"CASA", "A...", "NE.."});
-  MoveTo(1, 1, false);
-  Press(Left, 1, 1);
+  Open({"....", "CASA", "A#..", "NE.."});
+  MoveTo(4, 2, false);  // where no word starts
+  Press(Left, 4, 2);
   EXPECT_EQ(window.shown, std::vector{Modale::TelarDef});
-  EXPECT_EQ(CursoreX + CursoreY + Direzione, 4);
+  EXPECT_EQ(CursoreX, 4);
+  EXPECT_EQ(CursoreY, 1);
+  EXPECT_EQ(Direzione, 2);
   EXPECT_EQ(SchemaModificato, Falso) << "nothing was changed";
 
-  window.whenShown = [] {
-    ParolaCasella(1, 1, Verticale) = "COT";
-    Definizione(1, 1, Verticale) = "Nuova";
-  };
-  Press(Left, 1, 1);
-  EXPECT_EQ(Drawing(), (Rows{"CASA", "O...", "TE.."}));
-  EXPECT_EQ(SchemaModificato, Vero);
-  EXPECT_EQ(ParolaCasella(1, 1, Verticale), "COT");
-
   MoveTo(1, 2);
-  MoveTo(3, 2);  // along the word: nothing changes but the cell, one behind
   window.whenShown = [] {
-    ParolaCasella(MouseCol, MouseRiga, Direzione) = "RTEXXXXX";  // longer than the grid has room
+    ParolaCasella(1, 2, Orizzontale) = "COTE";
+    Definizione(1, 2, Orizzontale) = "Nuova";
   };
-  Press(Left, 3, 2);
-  EXPECT_EQ(Drawing(), (Rows{"CASA", "ORTE", "TE.."}));
+  Press(Left, 1, 2);
+  EXPECT_EQ(Drawing(), (Rows{"....", "COTE", "A#..", "NE.."}));
+  EXPECT_EQ(SchemaModificato, Vero);
+  EXPECT_EQ(ParolaCasella(1, 2, Orizzontale), "COTE");
 
+  MoveTo(3, 2);  // along the word: nothing changes but the cell, one behind
+  window.whenShown = [] { ParolaCasella(MouseCol, MouseRiga, Direzione) = "RTE*XXXX"; };
+  Press(Left, 3, 2);
+  EXPECT_EQ(Drawing(), (Rows{"....", "CRTE", "A#..", "NE.."})) << "no further than the run goes";
+}
+
+TEST_F(Editing, NoWordGoesToTheClueEditorWhereThereIsNone) {
+  Open({"#.#.", "....", "#.#.", "...."});
+  MoveTo(1, 4);
+  MoveTo(2, 4, false);  // the shape stays, and the cell above has no word that way
+  EXPECT_EQ(PuntatoreMouse, PuntatoreOrizzontale);
+  EXPECT_EQ(MouseRiga, 3);
+  Press(Left, 2, 4);
   TogliColonna();
   ModoGriglia = ModoModifica;
   ImpostaPuntatoreMouse(PuntatoreOrizzontale);
   MouseCol = 4;  // as it was before the column went
-  window.shown.clear();
-  Press(Left, 3, 1);
+  MouseRiga = 1;
+  Press(Left, 2, 2);
   EXPECT_TRUE(window.shown.empty());
 }
 

@@ -60,13 +60,19 @@ TEST_F(FileCommands, AChangedCrosswordIsAskedForBeforeAnotherOne) {
   EXPECT_FALSE(window.preview);
   EXPECT_EQ(user.TakeTexts().front(),
             "Il file NUOVOCRUCIVERBA.TLRM \xE8 cambiato, si desidera salvare");
+  user.Answer(Risposta::Annulla);
+  GestisciModelli();
+  EXPECT_EQ(window.shown, (Windows{Modale::Form2, Modale::FormModels}));
+  user.TakeTexts();
+}
+
+TEST_F(FileCommands, SettingsAndTypefaceHaveTheirWindows) {
+  ModoGriglia = ModoModifica;
+  RegolaSchema();
+  EXPECT_EQ(ModoGriglia, 1);
   ScegliCarattere();
   EXPECT_EQ(ModoGriglia, 0);
-  RegolaSchema();
-  GestisciModelli();
-  EXPECT_EQ(window.shown,
-            (Windows{Modale::Form2, Modale::fONTEN, Modale::Settaggi, Modale::FormModels}));
-  user.TakeTexts();
+  EXPECT_EQ(window.shown, (Windows{Modale::Settaggi, Modale::fONTEN}));
 }
 
 TEST_F(FileCommands, NoneNeedsAGrid) {

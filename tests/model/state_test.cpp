@@ -49,7 +49,7 @@ TEST_F(State, ResetPutsEveryVariableAsAtProgramStart) {
   EXPECT_EQ(Candidati(MaxParole) + NumCandidati + DistanzaSu(53) + DistanzaSinistra(0), 0);
 }
 
-TEST_F(State, EmptyingTheCrosswordLeavesItsText) {
+TEST_F(State, EmptyingTheCrosswordKeepsItsHeaderAndSize) {
   Draw({"AB", "CD"});
   Definizione(53, 30, Verticale) = "x";
   ColoreCasella(2, 2) = 255;
@@ -57,7 +57,7 @@ TEST_F(State, EmptyingTheCrosswordLeavesItsText) {
   EXPECT_EQ(Definizione(53, 30, Verticale) + ParolaCasella(1, 1, Verticale), "");
   EXPECT_EQ(ColoreCasella(2, 2) + TipoCasella(1, 1) + NumeroCasella(2, 1), 0);
   EXPECT_EQ(Drawing(), (std::vector<std::string>{"..", ".."}));
-  EXPECT_EQ(DrawingOfSchema(), (std::vector<std::string>{"AB", "CD"}));
+  EXPECT_EQ(Schema(4) + Schema(5) + Schema(6), "Dimensioni : 02x02");
 }
 
 }  // namespace

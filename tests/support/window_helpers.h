@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -25,12 +26,16 @@ inline void Open(FinestraModale& window) {
 /// Does this to the next modal window of a class as soon as it is open, while the test waits for it
 /// to close. `context` outlives it.
 template <class Window>
-void WhenOpen(QObject& context, std::function<void(Window&)> act) {
-  QTimer::singleShot(0, &context, [&context, act] {
+void WhenOpen(QObject& context, std::function<void(Window&)> act,
+              QDeadlineTimer deadline = QDeadlineTimer(Patience)) {
+  QTimer::singleShot(0, &context, [&context, act, deadline] {
     auto* window = dynamic_cast<Window*>(QApplication::activeModalWidget());
     const auto* ours = dynamic_cast<FinestraModale*>(window);
     if (!window || !window->isVisible() || (ours && !ours->Pronta())) {
-      return WhenOpen(context, act);
+      if (!deadline.hasExpired()) return WhenOpen(context, act, deadline);
+      ADD_FAILURE() << "the window did not open";
+      if (QWidget* other = QApplication::activeModalWidget()) other->close();
+      return;
     }
     act(*window);
     if (!window->isVisible()) return;

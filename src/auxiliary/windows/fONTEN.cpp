@@ -1,7 +1,6 @@
 #include "auxiliary/windows/fONTEN.h"
 
 #include <QHBoxLayout>
-#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include "editor/font_choice.h"
@@ -75,9 +74,7 @@ void fONTEN::Disponi() {
   resize(MisuraIniziale);
 }
 
-void fONTEN::showEvent(QShowEvent* evento) {
-  FinestraModale::showEvent(evento);
-  if (evento->spontaneous()) return;
+void fONTEN::Attivata() {
   LstFonts->setFocus();
   // Exactly this name: the list may have another one that differs in case alone.
   const QList<QListWidgetItem*> trovati =

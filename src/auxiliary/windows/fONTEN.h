@@ -26,7 +26,7 @@ class fONTEN : public FinestraModale {
   QPushButton* cmdCancel;
 
  protected:
-  void showEvent(QShowEvent* evento) override;
+  void Attivata() override;
 
  private:
   void CreaElenco();

@@ -20,26 +20,23 @@ constexpr int LarghezzaElenchi = 220;
 }  // namespace
 
 Form2::Form2(QWidget* genitore)
-    : FinestraModale(QStringLiteral("Form2"),
-                     QStringLiteral("Telarium  - Apertura layout parole crociate"), genitore) {
+    : FinestraArchivio(QStringLiteral("Form2"),
+                       QStringLiteral("Telarium  - Apertura layout parole crociate"),
+                       QStringLiteral("A&pri"), genitore) {
   CreaControlli();
   Disponi();
-  elenchi_.emplace(Drive1, Dir1, File1);
-  elenchi_->Vai(CartellaArchivio());
-  Collega();
+  File1->QuandoScelta([this](const Percorso& nome) { Leggi(nome); });
+  Picture1->QuandoCambiaMisura([this] { Ridisegna(); });
+  Mostra(std::nullopt);
   resize(MisuraIniziale);
 }
 
 void Form2::CreaControlli() {
-  Drive1 = Chiamato(QStringLiteral("Drive1"), new ListaUnita(this));
   Frame2 = Chiamato(QStringLiteral("Frame2"), new QGroupBox(QStringLiteral("Cartella"), this));
-  Dir1 = Chiamato(QStringLiteral("Dir1"), new AlberoCartelle(Frame2));
   Label4 =
       Chiamato(QStringLiteral("Label4"), new QLabel(QStringLiteral("Files di cruciverba "), this));
-  File1 = Chiamato(QStringLiteral("File1"), new ListaFile(ModelloCruciverba, this));
   Label4->setBuddy(File1);
   Frame3 = Chiamato(QStringLiteral("Frame3"), new QGroupBox(QStringLiteral("Nome file"), this));
-  Text1 = Chiamato(QStringLiteral("Text1"), new CasellaDiNome(Frame3));
   Frame1 = Chiamato(QStringLiteral("Frame1"), new QGroupBox(this));
   Picture1 = Chiamato(QStringLiteral("Picture1"), new Tela(Frame1));
   Picture1->Superficie().Sfondo(Qt::white);
@@ -49,11 +46,6 @@ void Form2::CreaControlli() {
   StatusBar1->setFrameStyle(QFrame::Panel | QFrame::Sunken);
   // Data of any length must not widen the window.
   StatusBar1->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  Command3d1 =
-      Chiamato(QStringLiteral("Command3d1"), new QPushButton(QStringLiteral("A&pri"), this));
-  Command3d1->setDefault(true);
-  Command3d2 =
-      Chiamato(QStringLiteral("Command3d2"), new QPushButton(QStringLiteral("&Annulla"), this));
 }
 
 void Form2::Disponi() {
@@ -69,14 +61,10 @@ void Form2::Disponi() {
   nome->addWidget(Text1);
   auto* anteprima = new QVBoxLayout(Frame1);
   anteprima->addWidget(Picture1);
-  auto* pulsanti = new QHBoxLayout;
-  pulsanti->addStretch(1);
-  pulsanti->addWidget(Command3d1);
-  pulsanti->addWidget(Command3d2);
   auto* destra = new QVBoxLayout;
   destra->addWidget(Frame1, 1);
   destra->addWidget(Frame3);
-  destra->addLayout(pulsanti);
+  destra->addLayout(Pulsanti());
 
   auto* sopra = new QHBoxLayout;
   sopra->addLayout(elenchi, 2);
@@ -86,17 +74,6 @@ void Form2::Disponi() {
   tutto->addWidget(StatusBar1);
   for (QWidget* elenco : {static_cast<QWidget*>(Drive1), static_cast<QWidget*>(Frame2)})
     elenco->setMinimumWidth(LarghezzaElenchi);
-  Drive1->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-}
-
-void Form2::Collega() {
-  File1->QuandoScelta([this](const Percorso& nome) { Leggi(nome); });
-  connect(File1, &QListWidget::itemDoubleClicked, this, [this] { Apri(); });
-  connect(Command3d1, &QPushButton::clicked, this, [this] { Apri(); });
-  connect(Command3d2, &QPushButton::clicked, this, &Form2::reject);
-  Picture1->QuandoCambiaMisura([this] { Ridisegna(); });
-  elenchi_->QuandoCambia([this] { CambiataCartella(); });
-  Mostra(std::nullopt);
 }
 
 void Form2::Attivata() {
@@ -134,7 +111,7 @@ void Form2::Ridisegna() {
   }
 }
 
-void Form2::Apri() {
+void Form2::Conferma() {
   if (ApriFileDiCruciverba(Dir1->Cartella() / Text1->Nome())) accept();
 }
 

@@ -93,7 +93,8 @@ bool FormNew::eventFilter(QObject* oggetto, QEvent* evento) {
   const auto nome = std::find(Label3.begin(), Label3.end(), oggetto);
   if (nome == Label3.end() || evento->type() != QEvent::MouseButtonRelease)
     return SceltaModello::eventFilter(oggetto, evento);
-  if (static_cast<QMouseEvent*>(evento)->button() != Qt::LeftButton) return true;
+  const auto* mouse = static_cast<QMouseEvent*>(evento);
+  if (mouse->button() != Qt::LeftButton || !(*nome)->rect().contains(mouse->pos())) return true;
   const auto n = nome - Label3.begin();
   if (Picture1[static_cast<std::size_t>(n)]->isEnabled()) Scegli(static_cast<int>(n));
   return true;

@@ -196,25 +196,4 @@ bool CasellaDiNome::Immutata() const {
   return text() == PercorsoAQt(mostrato_);
 }
 
-ElenchiDiFile::ElenchiDiFile(ListaUnita* unita, AlberoCartelle* cartelle, ListaFile* file)
-    : unita_(unita), cartelle_(cartelle), file_(file) {
-  cartelle_->QuandoCambia([this] { MostraFile(); });
-  QObject::connect(unita_, &QComboBox::activated, unita_, [this] { Vai(unita_->Scelta()); });
-}
-
-void ElenchiDiFile::Vai(const Percorso& cartella) {
-  if (!cartelle_->Vai(cartella)) {
-    Avvisa("Errore di lettura dal drive specificato");
-    unita_->Mostra(cartelle_->Cartella());
-  } else {
-    MostraFile();
-  }
-}
-
-void ElenchiDiFile::MostraFile() {
-  file_->Vai(cartelle_->Cartella());
-  unita_->Mostra(cartelle_->Cartella());
-  if (cambia_) cambia_();
-}
-
 }  // namespace telarium

@@ -96,25 +96,4 @@ class CasellaDiNome : public CasellaDiTesto {
   Percorso mostrato_;
 };
 
-/// The three lists, moving together.
-class ElenchiDiFile {
- public:
-  /// The lists are the window's, which outlives this.
-  ElenchiDiFile(ListaUnita* unita, AlberoCartelle* cartelle, ListaFile* file);
-
-  /// Goes to a folder. A folder that cannot be read is told and leaves the lists as they are.
-  void Vai(const Percorso& cartella);
-
-  /// What a folder calls that the user has gone to.
-  void QuandoCambia(std::function<void()> chiama) { cambia_ = std::move(chiama); }
-
- private:
-  void MostraFile();
-
-  ListaUnita* unita_;
-  AlberoCartelle* cartelle_;
-  ListaFile* file_;
-  std::function<void()> cambia_;
-};
-
 }  // namespace telarium

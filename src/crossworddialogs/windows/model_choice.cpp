@@ -157,10 +157,10 @@ void SceltaModello::Ridisegna() {
 
 void SceltaModello::Scegli(int numero) {
   FiguraModello& figura = *Picture1[static_cast<std::size_t>(numero)];
-  const QPoint posto = figura.pos();
   figura.Premi();
   if (NuovoDaModello(FileModelli(), numero) == EsitoNuovo::Fatto) return accept();
-  figura.move(posto);
+  layout()->invalidate();  // puts the picture back
+  layout()->activate();
 }
 
 }  // namespace telarium

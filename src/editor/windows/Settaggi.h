@@ -12,7 +12,8 @@
 namespace telarium {
 
 /// The six settings of drawing, each by a scroll bar, with a sample that follows them. They reach
-/// the real settings, and the settings file, by Command1 alone.
+/// the real settings, and the settings file, by Command1 alone, but for a SpessoreBordo below 1,
+/// which the opening raises to 1.
 class Settaggi : public FinestraModale {
  public:
   explicit Settaggi(QWidget* genitore);

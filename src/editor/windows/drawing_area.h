@@ -25,6 +25,7 @@ class AreaDisegno : public Tela {
   void paintEvent(QPaintEvent* evento) override;
   void mouseMoveEvent(QMouseEvent* evento) override;
   void mousePressEvent(QMouseEvent* evento) override;
+  void mouseDoubleClickEvent(QMouseEvent*) override {}  // its first press has done all
 
  private:
   std::function<void()> dipinta_;

@@ -1,6 +1,7 @@
 #include "editor/windows/modal_windows.h"
 
 #include <QWidget>
+#include <algorithm>
 
 #include "auxiliary/windows/fONTEN.h"
 #include "crossworddialogs/windows/Form2.h"
@@ -21,10 +22,12 @@ void Mostra(QWidget& principale) {
 // Makes a window at its first showing and keeps it, as the user left it, with the main window.
 template <class Finestra>
 void MostraConservata(QWidget& principale) {
-  Finestra* finestra = nullptr;
-  for (QObject* figlio : principale.children())
-    if (!finestra) finestra = dynamic_cast<Finestra*>(figlio);
-  if (!finestra) finestra = new Finestra(&principale);
+  const QObjectList& figli = principale.children();
+  const auto trovata = std::find_if(figli.begin(), figli.end(), [](QObject* figlio) {
+    return dynamic_cast<Finestra*>(figlio) != nullptr;
+  });
+  auto* finestra =
+      trovata == figli.end() ? new Finestra(&principale) : static_cast<Finestra*>(*trovata);
   finestra->exec();
 }
 

@@ -33,7 +33,8 @@ class FinestraModale : public QDialog {
   bool pronta_ = false;
 };
 
-/// A line of text that is selected whole whenever it gets the focus.
+/// A line of text that is selected whole when it gets the focus, but for the focus that only comes
+/// back from its own menu or another window.
 class CasellaDiTesto : public QLineEdit {
  public:
   using QLineEdit::QLineEdit;

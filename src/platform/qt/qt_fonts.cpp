@@ -3,6 +3,7 @@
 #include <QFontDatabase>
 
 #include "platform/qt/qt_text.h"
+#include "platform/surface.h"
 
 namespace telarium {
 
@@ -17,7 +18,7 @@ QString SenzaFonderia(const QString& nome) {
 }  // namespace
 
 QStringList FamiglieInstallate() {
-  QStringList nomi{QStringLiteral("Arial")};
+  QStringList nomi{AQt(CarattereIniziale)};
   for (const QString& famiglia : QFontDatabase::families()) {
     if (!QFontDatabase::isPrivateFamily(famiglia)) nomi.append(SenzaFonderia(famiglia));
   }

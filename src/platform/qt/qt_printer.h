@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/printer.h"
+#include "platform/surface.h"
 
 namespace telarium {
 
@@ -15,7 +16,7 @@ class StampanteQt : public Stampante {
   bool Grassetto() const override { return grassetto_; }
 
  private:
-  std::string famiglia_ = "Arial";
+  std::string famiglia_{CarattereIniziale};
   bool corsivo_ = false;
   bool grassetto_ = false;
 };

@@ -78,7 +78,7 @@ class SuperficieQt : public Superficie {
   QImage persistente_;
   std::optional<QImage> schermo_;  // while drawing goes to the screen alone
 
-  std::string famiglia_ = "Arial";
+  std::string famiglia_{CarattereIniziale};
   double punti_ = 8.25;
   bool grassetto_ = false;
   bool corsivo_ = false;

@@ -231,24 +231,18 @@ TEST_F(Form1Test, KeepsTheEditButtonPressedBehindEachButtonOfTheToolbar) {
 
 TEST_F(Form1Test, DrawsWhatItsModalWindowsSet) {
   StartWith({"CA#", "...", "..."});
-  const auto whenOpen = [](auto act) {
-    QTimer::singleShot(0, qApp, [act] {
-      auto* window = QApplication::activeModalWidget();
-      ASSERT_TRUE(window);
-      act(*window);
-      QTest::keyClick(window, Qt::Key_Return);
-      EXPECT_FALSE(window->isVisible());
-    });
-  };
   const auto frameColour = [this] { return Shown(OrigineX + LatoCasella, OrigineY - 7 + 0.5); };
   EXPECT_NE(frameColour(), QColor(128, 0, 0));
-  whenOpen([](QWidget& window) { static_cast<Settaggi&>(window).HScroll6->setValue(5); });
+  WhenOpen<Settaggi>(*form, [](Settaggi& window) {
+    window.HScroll6->setValue(5);
+    QTest::keyClick(&window, Qt::Key_Return);
+  });
   form->Voce("menusetschema").trigger();
   EXPECT_EQ(frameColour(), QColor(128, 0, 0));
-  whenOpen([](QWidget& window) {
-    auto& list = *static_cast<fONTEN&>(window).LstFonts;
-    EXPECT_EQ(list.currentItem()->text(), QStringLiteral("Arial"));
-    QTest::keyClicks(&list, QStringLiteral("Liberation Mono"));
+  WhenOpen<fONTEN>(*form, [](fONTEN& window) {
+    EXPECT_EQ(window.LstFonts->currentItem()->text(), QStringLiteral("Arial"));
+    QTest::keyClicks(window.LstFonts, QStringLiteral("Liberation Mono"));
+    QTest::keyClick(window.LstFonts, Qt::Key_Return);
   });
   form->Voce("MenuFont").trigger();
   EXPECT_EQ(NomeFont, "Liberation Mono");
