@@ -10,6 +10,7 @@
 #include "median_keeper.h"
 #include "model/crossword_file.h"
 #include "model/words.h"
+#include "offscreen_main.h"
 #include "support/scripted_platform.h"
 
 // Measures the window that opens a crossword on a folder with many files, on a screen that nobody
@@ -84,8 +85,5 @@ int Main() {
 }  // namespace telarium
 
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  return telarium::Main();
+  return telarium::RunOffscreen(argc, argv, telarium::Main);
 }

@@ -15,6 +15,7 @@
 #include "fill/extraction.h"
 #include "median_keeper.h"
 #include "model/words.h"
+#include "offscreen_main.h"
 #include "support/scripted_platform.h"
 
 // Measures what the main window paints, on a screen that nobody sees: a redraw, a repaint, and what
@@ -151,8 +152,5 @@ int Main() {
 }  // namespace telarium
 
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  return telarium::Main();
+  return telarium::RunOffscreen(argc, argv, telarium::Main);
 }

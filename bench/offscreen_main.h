@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QApplication>
+
+#include <benchmark/benchmark.h>
+
+namespace telarium {
+
+/// The main routine of a benchmark of windows: an application on a screen that nobody sees.
+inline int RunOffscreen(int argc, char** argv, int (*run)()) {
+  benchmark::Initialize(&argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  return run();
+}
+
+}  // namespace telarium
