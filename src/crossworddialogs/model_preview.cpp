@@ -12,7 +12,7 @@ namespace {
 constexpr double Margine = 40;  // of a model's preview, both sides together
 // Of the side of a cell, in points: the letter begins in the middle of its cell and has half the
 // cell for itself.
-constexpr double CorpoDellaLettera = 0.375;
+constexpr double CorpoDellaLettera = 0.28;
 
 }  // namespace
 

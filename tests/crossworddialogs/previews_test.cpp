@@ -102,7 +102,7 @@ TEST_F(Previews, AModelIsDrawnWithItsLetters) {
   DisegnaModello(models[0], surface);
   // A letter begins in the middle of its cell, moved down.
   EXPECT_EQ(surface.calls,
-            (Texts{"Pulisci", "Carattere Arial", "CorpoCarattere 37.5", "Riquadro 20 20 120 120 0",
+            (Texts{"Pulisci", "Carattere Arial", "CorpoCarattere 28", "Riquadro 20 20 120 120 0",
                    "RiquadroPieno 25 25 115 115 0", "Riquadro 120 20 220 120 0", "Posizione 170 80",
                    "Scrivi A", "Riquadro 20 120 120 220 0", "Riquadro 120 120 220 220 0"}));
   surface.calls.clear();
