@@ -1,7 +1,6 @@
 #include "dictionary/word_list.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "platform/codepage.h"
 
@@ -43,11 +42,12 @@ bool AccentoCombinato(char32_t carattere) {
   return carattere >= 0x300 && carattere <= 0x36F;
 }
 
-// The word of a line as a dictionary holds it; none when it has no place there.
-std::optional<std::string> ParolaDellaLista(std::string_view riga) {
+}  // namespace
+
+std::optional<std::string> PiegaParola(std::string_view utf8) {
   std::string parola;
-  while (!riga.empty()) {
-    const auto carattere = EstraiCarattereUtf8(riga);
+  while (!utf8.empty()) {
+    const auto carattere = EstraiCarattereUtf8(utf8);
     if (!carattere) return std::nullopt;
     if (*carattere < 0x80) {
       parola += Maiuscola(static_cast<char>(*carattere));
@@ -63,15 +63,13 @@ std::optional<std::string> ParolaDellaLista(std::string_view riga) {
   return parola;
 }
 
-}  // namespace
-
 void AggiungiLista(std::string_view utf8, ListeDiParole& liste) {
   constexpr std::string_view SegnoUtf8 = "\xEF\xBB\xBF";  // some editors begin a file with it
   if (utf8.starts_with(SegnoUtf8)) utf8.remove_prefix(SegnoUtf8.size());
   LettoreDiRighe righe(utf8);
   std::string_view riga;
   while (righe.Prossima(riga)) {
-    if (auto parola = ParolaDellaLista(riga)) {
+    if (auto parola = PiegaParola(riga)) {
       liste[parola->size() - MinLunghezza].push_back(std::move(*parola));
     }
   }

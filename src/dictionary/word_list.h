@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,9 +14,12 @@ namespace telarium {
 /// Words by their length less 3.
 using ListeDiParole = std::array<std::vector<std::string>, MaxLunghezza - MinLunghezza + 1>;
 
-/// Takes a list in UTF-8, one word a line, to `liste`: in capitals, accents folded ("È" to "E", "Œ"
-/// to "OE"). A word with any other character than A to Z, or of a length outside 3 to 15, is left
-/// out.
+/// A word in UTF-8 as a dictionary holds it: in capitals, accents folded ("È" to "E", "Œ" to "OE").
+/// None for one with any other character than A to Z then, or of a length outside 3 to 15.
+std::optional<std::string> PiegaParola(std::string_view utf8);
+
+/// Takes a list in UTF-8, one word a line, to `liste`, each as PiegaParola gives it; what it
+/// refuses is left out.
 void AggiungiLista(std::string_view utf8, ListeDiParole& liste);
 
 /// Sorts each list by character code and drops doubled words.

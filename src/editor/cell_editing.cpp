@@ -1,7 +1,5 @@
 #include "editor/cell_editing.h"
 
-#include <algorithm>
-
 #include "editor/commands.h"
 #include "editor/commit.h"
 #include "editor/main_window.h"
@@ -70,9 +68,7 @@ void ModificaParola(Casella casella, int direzione) {
   LaFinestra().MostraModale(Modale::TelarDef);
   if (definizione == definizionePrima && parola == parolaPrima) return;
   SchemaModificato = Vero;
-  const int lunghezza = std::min(slot.lunghezza, static_cast<int>(parola.size()));
-  for (int k = 1; k <= lunghezza; ++k)
-    ScriviInSchema(slot.Cella(k), parola[static_cast<std::size_t>(k) - 1]);
+  ScriviInSchema(slot, parola);
   ConsolidaSchema();
 }
 

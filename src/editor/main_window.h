@@ -11,7 +11,18 @@ inline constexpr int NumPulsanti = 22;
 inline constexpr int PulsanteEdit = 21;
 
 /// The program's own windows that a command opens modally.
-enum class Modale { FormNew, FormModels, Form2, TelarSav, Settaggi, fONTEN, TelarDef };
+enum class Modale {
+  FormNew,
+  FormModels,
+  Form2,
+  TelarSav,
+  Settaggi,
+  fONTEN,
+  TelarDef,
+  TelarBro,
+  telariummdb,
+  Form6
+};
 
 /// The word rectangle: place and size on the surface in pixels, and its colour.
 struct Rettangolo {
@@ -46,6 +57,9 @@ class FinestraEditor {
 
   virtual void MostraCommand3d15(bool) {}
   virtual bool Command3d15Visibile() const { return false; }
+  /// The caption of the hidden button of the import.
+  virtual void ScriviCommand1(std::string_view) {}
+
   virtual void MostraPicture1(bool) {}
   virtual bool Picture1Visibile() const { return false; }
 

@@ -103,4 +103,10 @@ void ScriviInSchema(Casella casella, char carattere) {
   riga[posto] = carattere;
 }
 
+void ScriviInSchema(const Slot& slot, std::string_view parola) {
+  const int lunghezza = std::min(slot.lunghezza, static_cast<int>(parola.size()));
+  for (int k = 1; k <= lunghezza; ++k)
+    ScriviInSchema(slot.Cella(k), parola[static_cast<std::size_t>(k) - 1]);
+}
+
 }  // namespace telarium

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "model/state.h"
 
@@ -75,5 +76,8 @@ void PerOgniParola(Visita visita) {
 /// Writes the character of a cell into its row line of Schema; the companion mark stays as it is. A
 /// line that is too short for the cell is first made longer by empty white cells.
 void ScriviInSchema(Casella casella, char carattere);
+
+/// Writes the characters of a word into its cells in Schema; what it has beyond them is left out.
+void ScriviInSchema(const Slot& slot, std::string_view parola);
 
 }  // namespace telarium

@@ -40,6 +40,9 @@ class Macchina {
   /// Opens a document in the word processor. False when there is none.
   virtual bool ApriInWord(const Percorso& documento) = 0;
 
+  /// Opens the word processor on a new document of that text. False when there is none.
+  virtual bool ScriviInWord(const std::string& testo) = 0;
+
   /// Hands a mail to the user's mail program. False when there is none.
   virtual bool PreparaMail(const Mail& mail) = 0;
 

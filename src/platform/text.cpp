@@ -51,6 +51,12 @@ int ArrotondaPari(double valore) {
   return static_cast<int>(std::nearbyint(valore));
 }
 
+std::string_view SenzaSpazi(std::string_view testo) {
+  const std::size_t inizio = testo.find_first_not_of(' ');
+  if (inizio == std::string_view::npos) return {};
+  return testo.substr(inizio, testo.find_last_not_of(' ') - inizio + 1);
+}
+
 std::string SenzaInterruzioni(std::string_view testo) {
   std::string riga;
   riga.reserve(testo.size());

@@ -26,6 +26,9 @@ std::string DueCifre(int numero);
 /// To the nearest integer, a value exactly between two going to the even one.
 int ArrotondaPari(double valore);
 
+/// The text without the blanks at its two ends.
+std::string_view SenzaSpazi(std::string_view testo);
+
 /// A copy of the text in which each line break, of one or two characters, is one blank.
 std::string SenzaInterruzioni(std::string_view testo);
 

@@ -34,5 +34,6 @@ const std::vector<Comando>& Comandi();
 
 std::vector<Comando> ComandiCruciverba();
 std::vector<Comando> ComandiDizionario();
+std::vector<Comando> ComandiDefinizioni();
 
 }  // namespace telarium::telar

@@ -10,20 +10,11 @@
 #include "model/words.h"
 #include "platform/platform.h"
 #include "telar/command.h"
+#include "telar/files.h"
 #include "telar/output.h"
 
 namespace telarium::telar {
 namespace {
-
-// Opens the crossword of the command line, as the desktop does at its start.
-bool Apri(const std::string& file) {
-  NomeCruciverba = file;
-  const Apertura esito = ApriCruciverba(NomeCruciverba);
-  if (esito == Apertura::Assente) TerminaSenzaCruciverba(NomeCruciverba);
-  if (esito != Apertura::Intera) return false;
-  RidisegnaSchema();
-  return true;
-}
 
 // The snapshot of this run lies in a folder of its own, so that no open desktop is disturbed and
 // many runs go on at once.
@@ -39,11 +30,6 @@ class IstantaneaPropria {
  private:
   CartellaTemporanea cartella_;
 };
-
-Stato Scrivi(const std::string& uscita) {
-  AscoltaInterruzione();
-  return ScriviCruciverba(uscita) ? Stato::Fatto : Stato::Fallito;
-}
 
 Stato Parole(const Argomenti& argomenti, PiattaformaConsole&) {
   if (!Apri(argomenti.liberi[0])) return Stato::Fallito;

@@ -8,6 +8,7 @@
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "telar/command.h"
+#include "telar/files.h"
 #include "telar/output.h"
 
 namespace telarium::telar {
@@ -75,34 +76,15 @@ Stato DizElenca(const Argomenti& argomenti, PiattaformaConsole&) {
   return Stato::Fatto;
 }
 
-// Why a word list cannot be taken; empty when it was read.
-std::string_view ErroreDellaLista(EsitoLettura esito) {
-  switch (esito) {
-    case EsitoLettura::Assente:
-      return "Non trovata la lista di parole: ";
-    case EsitoLettura::Illeggibile:
-      return "Impossibile leggere la lista di parole: ";
-    case EsitoLettura::TroppoGrande:
-      return "Troppo grande la lista di parole: ";
-    default:
-      return {};
-  }
-}
-
 Stato DizCrea(const Argomenti& argomenti, PiattaformaConsole&) {
   if (Percorso(argomenti.liberi[0]).filename().empty()) {
     throw ArgomentiErrati("NOME deve essere il nome di un file");
   }
   ListeDiParole liste;
   for (std::size_t i = 1; i < argomenti.liberi.size(); ++i) {
-    const Percorso nome = argomenti.liberi[i];
-    std::string contenuto;
-    const EsitoLettura esito = LeggiFile(nome, MaxByteLista, contenuto);
-    if (esito != EsitoLettura::Letto) {
-      Avvisa(std::string(ErroreDellaLista(esito)) + TestoPercorso(nome));
-      return Stato::Fallito;
-    }
-    AggiungiLista(contenuto, liste);
+    const auto contenuto = LeggiLista("lista di parole", argomenti.liberi[i], MaxByteLista);
+    if (!contenuto) return Stato::Fallito;
+    AggiungiLista(*contenuto, liste);
   }
   OrdinaListe(liste);
   AscoltaInterruzione();  // a file beside the dictionary must not be left

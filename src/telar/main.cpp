@@ -135,8 +135,8 @@ Stato EseguiRigaDiComando(std::vector<std::string> parole, PiattaformaConsole& p
 const std::vector<Comando>& Comandi() {
   static const std::vector<Comando> comandi = [] {
     std::vector<Comando> tutti = ComandiCruciverba();
-    for (Comando& uno : ComandiDizionario())
-      tutti.push_back(std::move(uno));
+    for (const auto& altri : {ComandiDizionario(), ComandiDefinizioni()})
+      tutti.insert(tutti.end(), altri.begin(), altri.end());
     return tutti;
   }();
   return comandi;

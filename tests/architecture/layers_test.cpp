@@ -18,8 +18,9 @@ using Folders = std::set<std::string>;
 
 // What each layer may include, by folders of the sources. A folder's windows are a layer above all
 // logic.
-const Folders Core = {"platform", "model", "dictionary",       "auxiliary",
-                      "editor",   "fill",  "crossworddialogs", "telarium_version.h"};
+const Folders Core = {"platform",         "model",  "dictionary",
+                      "auxiliary",        "editor", "fill",
+                      "crossworddialogs", "clues",  "telarium_version.h"};
 
 Folders With(Folders folders, const Folders& more) {
   folders.insert(more.begin(), more.end());
@@ -34,6 +35,7 @@ const std::map<std::string, Folders> Allowed = {
     {"editor", {"platform", "model", "dictionary", "auxiliary", "editor", "telarium_version.h"}},
     {"fill", {"platform", "model", "editor", "dictionary", "fill"}},
     {"crossworddialogs", {"platform", "model", "editor", "crossworddialogs"}},
+    {"clues", {"platform", "model", "dictionary", "auxiliary", "editor", "clues"}},
     {"platform/common", {"platform", "platform/common"}},
     {"platform/console", {"platform", "platform/common", "platform/console"}},
     {"platform/qt", {"platform", "platform/common", "platform/qt"}},

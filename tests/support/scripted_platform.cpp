@@ -97,6 +97,11 @@ bool ScriptedMachine::ApriIndirizzo(const std::string& indirizzo) {
   return opens;
 }
 
+bool ScriptedMachine::ScriviInWord(const std::string& testo) {
+  written.push_back(testo);
+  return opens;
+}
+
 std::optional<std::string> ScriptedMachine::Preleva(const std::string& indirizzo,
                                                     std::chrono::milliseconds) {
   fetched.push_back(indirizzo);

@@ -76,6 +76,7 @@ class ScriptedMachine : public MacchinaIsolata {
   std::vector<std::string> opened;   // files and addresses
   std::vector<std::string> started;  // programs
   std::vector<std::string> fetched;  // addresses
+  std::vector<std::string> written;  // texts for the word processor
   bool opens = true;
   std::error_code startError;
   std::optional<std::string> fetches;
@@ -86,6 +87,7 @@ class ScriptedMachine : public MacchinaIsolata {
                                 const std::vector<std::string>& argomenti) override;
   bool ApriFile(const Percorso& file) override;
   bool ApriIndirizzo(const std::string& indirizzo) override;
+  bool ScriviInWord(const std::string& testo) override;
   std::optional<std::string> Preleva(const std::string& indirizzo,
                                      std::chrono::milliseconds limite) override;
 };

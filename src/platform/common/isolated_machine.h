@@ -16,6 +16,7 @@ class MacchinaIsolata : public Macchina {
   bool ApriFile(const Percorso&) override { return false; }
   bool ApriIndirizzo(const std::string&) override { return false; }
   bool ApriInWord(const Percorso&) override { return false; }
+  bool ScriviInWord(const std::string&) override { return false; }
   bool PreparaMail(const Mail&) override { return false; }
   std::optional<std::string> Preleva(const std::string&, std::chrono::milliseconds) override {
     return std::nullopt;

@@ -31,6 +31,27 @@ bool Consegna(const std::vector<std::string>& parole) {
   return !finito || processo.esito.get() == 0;
 }
 
+// The word processor of an office suite; none without one.
+std::optional<std::string> ProgrammaDiScrittura() {
+  for (const char* programma : {"lowriter", "soffice", "libreoffice"}) {
+    if (Presente(programma)) return programma;
+  }
+  return std::nullopt;
+}
+
+// A document of one text, each character by its code: none of them is a mark of the format then.
+std::string InRtf(std::string_view testo) {
+  constexpr std::string_view cifre = "0123456789abcdef";
+  std::string documento = "{\\rtf1\\ansi\\ansicpg1252 ";
+  for (const char carattere : testo) {
+    const auto codice = static_cast<unsigned char>(carattere);
+    documento += "\\'";
+    documento += cifre[codice / 16];
+    documento += cifre[codice % 16];
+  }
+  return documento + "}";
+}
+
 // Opens a file or an address, both as the system's opener takes them.
 bool ApriNelSistema(const std::string& cosa, const QUrl& url) {
   if (Presente("xdg-open")) return Consegna({"xdg-open", cosa});
@@ -73,10 +94,20 @@ bool MacchinaQt::ApriIndirizzo(const std::string& indirizzo) {
 }
 
 bool MacchinaQt::ApriInWord(const Percorso& documento) {
-  for (const char* programma : {"lowriter", "soffice", "libreoffice"}) {
-    if (Presente(programma)) return Consegna({programma, documento.string()});
-  }
-  return ApriFile(documento);
+  const auto programma = ProgrammaDiScrittura();
+  return programma ? Consegna({*programma, documento.string()}) : ApriFile(documento);
+}
+
+bool MacchinaQt::ScriviInWord(const std::string& testo) {
+  const auto programma = ProgrammaDiScrittura();
+  if (!programma) return false;
+  // The word processor takes the text as a template, from which it makes a new document. It reads
+  // it in its own time, so the file stays until this program ends.
+  static const CartellaTemporanea cartella;
+  const Percorso modello = cartella.Nome() / "parola.rtf";
+  if (cartella.Nome().empty() || ScriviFile(modello, InRtf(testo), Permanenza::Provvisoria))
+    return false;
+  return Consegna({*programma, "-n", modello.string()});
 }
 
 bool MacchinaQt::PreparaMail(const Mail& mail) {

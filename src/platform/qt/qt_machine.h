@@ -16,6 +16,7 @@ class MacchinaQt : public Macchina {
   bool ApriFile(const Percorso& file) override;
   bool ApriIndirizzo(const std::string& indirizzo) override;
   bool ApriInWord(const Percorso& documento) override;
+  bool ScriviInWord(const std::string& testo) override;
   bool PreparaMail(const Mail& mail) override;
   std::optional<std::string> Preleva(const std::string& indirizzo,
                                      std::chrono::milliseconds limite) override;

@@ -1,0 +1,100 @@
+#include "clues/bulk.h"
+
+#include "clues/clue_family.h"
+#include "clues/encyclopedia.h"
+#include "clues/merging.h"
+#include "clues/store_use.h"
+#include "model/words.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
+#include "platform/text.h"
+
+namespace telarium {
+namespace {
+
+// Calls `visita` with each complete word: by columns, in a column by rows, at a cell the horizontal
+// word before the vertical one.
+template <class Visita>
+void PerOgniParolaCompleta(Visita visita) {
+  for (int c = 1; c <= NumColonne; ++c) {
+    for (int r = 1; r <= NumRighe; ++r) {
+      for (const int d : Direzioni) {
+        const bool inizia = IniziaParola({c, r}, d);
+        const std::string& parola = ParolaCasella(c, r, d);
+        if (inizia && parola.find(CellaVuota) == std::string::npos)
+          visita(parola, Definizione(c, r, d), d);
+      }
+    }
+  }
+}
+
+// The text from which a mode draws, of the current row.
+std::string TestoDelModo(Enciclopedia& enciclopedia, std::int16_t modo) {
+  std::string testo;
+  if (modo != ModoDifficili) testo = enciclopedia.LeggiFacili().value_or("");
+  if (modo == ModoTutte) testo += SeparatoreDefinizioni;
+  if (modo != ModoFacili) testo += enciclopedia.LeggiDifficili().value_or("");
+  return testo;
+}
+
+// One clue of a text, with equal chances; the empty one when it has none.
+const std::string& Sorteggia(std::string testo) {
+  spezzatesto(testo);
+  const int quante = ValoreNumerico(testo);
+  const auto estratta = static_cast<int>(Sistema().Casuale() * quante);
+  return ElencoDefinizioni(estratta + 1);
+}
+
+void Riferisci(const std::optional<std::string>& rapporto) {
+  if (rapporto) Avvisa(*rapporto);
+}
+
+}  // namespace
+
+std::optional<std::string> PrelevaTutte(std::int16_t modo) {
+  EnciclopediaAperta enciclopedia;
+  if (!ConEnciclopedia([&] { enciclopedia = ApriEnciclopedia(); })) return std::nullopt;
+  const Clessidra clessidra;
+  int orizzontali = 0, verticali = 0;
+  PerOgniParolaCompleta([&](const std::string& parola, std::string& definizione, int direzione) {
+    try {
+      if (!enciclopedia->CercaParola(parola)) return;
+      definizione = Sorteggia(TestoDelModo(*enciclopedia, modo));
+      ++(direzione == Orizzontale ? orizzontali : verticali);
+    } catch (const ErroreEnciclopedia&) {
+      // A bad row costs its word alone.
+    }
+  });
+  return Unisci(
+      "L'operazione di recupero delle definizioni è terminata con successo.\r\n"
+      "Dall'enciclopedia sono state trovate e compilate N. "_cp,
+      orizzontali, " definizioni orizzontali e N. ", verticali,
+      " definizioni verticali. Cliccare sul bottone 'Vista tabellare' della barra principale per "
+      "vedere le parole inserite.");
+}
+
+void Prelevadefinizioni(std::int16_t modo) {
+  Riferisci(PrelevaTutte(modo));
+}
+
+std::optional<std::string> SalvaTutte() {
+  ContoFusioni conto;
+  const bool riuscita = ConEnciclopedia([&] {
+    const EnciclopediaAperta enciclopedia = ApriEnciclopedia();
+    const Clessidra clessidra;
+    PerOgniParolaCompleta([&](const std::string& parola, const std::string& definizione, int) {
+      if (!definizione.empty()) UnisciDefinizione(*enciclopedia, parola, definizione, conto);
+    });
+  });
+  if (!riuscita) return std::nullopt;
+  return RapportoFusioni(
+      "Tutte le definizioni presenti in questo sdhema sono state salvate sull'enciclopedia con "
+      "successo.",
+      conto);
+}
+
+void SalvaDefinizioni() {
+  Riferisci(SalvaTutte());
+}
+
+}  // namespace telarium

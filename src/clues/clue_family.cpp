@@ -1,0 +1,49 @@
+#include "clues/clue_family.h"
+
+#include <algorithm>
+
+#include "model/state.h"
+#include "platform/text.h"
+
+namespace telarium {
+
+Tabella<std::string, Indici<1, MaxDefinizioni>> ElencoDefinizioni("ElencoDefinizioni");
+
+namespace {
+
+void SvuotaElenco() {
+  for (int i = 1; i <= MaxDefinizioni && !ElencoDefinizioni(i).empty(); ++i)
+    ElencoDefinizioni(i).clear();
+}
+
+const AzzeramentoDiSottosistema azzeramento(SvuotaElenco);
+
+}  // namespace
+
+std::vector<std::string_view> PartiDellaFamiglia(std::string_view famiglia) {
+  std::vector<std::string_view> parti;
+  for (;;) {
+    const std::size_t fine = famiglia.find(SeparatoreDefinizioni);
+    parti.push_back(famiglia.substr(0, fine));
+    if (fine == std::string_view::npos) return parti;
+    famiglia.remove_prefix(fine + SeparatoreDefinizioni.size());
+  }
+}
+
+std::vector<std::string_view> DefinizioniDellaFamiglia(std::string_view famiglia) {
+  std::vector<std::string_view> definizioni = PartiDellaFamiglia(famiglia);
+  std::erase_if(definizioni, [](std::string_view parte) { return SenzaSpazi(parte).empty(); });
+  return definizioni;
+}
+
+void spezzatesto(std::string& testo) {
+  SvuotaElenco();
+  int quante = 0;
+  for (const std::string_view definizione : DefinizioniDellaFamiglia(testo)) {
+    if (quante == MaxDefinizioni) break;
+    ElencoDefinizioni(++quante) = definizione;
+  }
+  testo = std::to_string(quante);
+}
+
+}  // namespace telarium

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+// Plain lists of clues, from which the encyclopedia is built: one clue a line, in UTF-8, as word
+// TAB family TAB clue, the family being F for an easy clue and D for a hard one.
+namespace telarium {
+
+struct VoceDiLista {
+  std::string parola;  // in capitals
+  bool difficile = false;
+  std::string definizione;
+};
+
+/// A line of a list, in the code page, blanks around word and clue taken off. None for a line of
+/// another shape, an empty clue, a word of more than one piece, or text that the code page lacks.
+std::optional<VoceDiLista> InterpretaVoce(std::string_view rigaUtf8);
+
+/// Whether a clue gives its answer away: the word stands in it as a word of its own, capitals and
+/// accents aside.
+bool ContieneRisposta(std::string_view definizione, std::string_view parola);
+
+}  // namespace telarium

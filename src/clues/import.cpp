@@ -1,0 +1,111 @@
+#include "clues/import.h"
+
+#include <chrono>
+
+#include "clues/encyclopedia.h"
+#include "clues/merging.h"
+#include "clues/store_use.h"
+#include "editor/main_window.h"
+#include "model/state.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
+#include "platform/text.h"
+
+namespace telarium {
+namespace {
+
+constexpr std::size_t MaxByteFile = 256u << 20;   // far above any list; it is held in memory
+constexpr std::chrono::milliseconds Cadenza{16};  // between two looks at the message loop
+
+// Tells on Command1 how far the import has come, as often as the screen can show it.
+class Avanzamento {
+ public:
+  void Aggiunta(int parole, std::string_view parola) {
+    const auto adesso = std::chrono::steady_clock::now();
+    if (adesso < prossimo_) return;
+    prossimo_ = adesso + Cadenza;
+    LaFinestra().ScriviCommand1(Unisci(parole, ' ', parola));
+    ChiUsa().CediAiMessaggi();
+  }
+
+ private:
+  std::chrono::steady_clock::time_point prossimo_;
+};
+
+// The text in the code page. A file that somebody has saved in UTF-8 is told by its multi-byte
+// characters, which no Italian text in the code page happens to hold.
+std::string NellaCodePage(std::string testo) {
+  constexpr std::string_view segnoUtf8 = "\xEF\xBB\xBF";
+  if (testo.starts_with(segnoUtf8)) return DaUtf8(std::string_view(testo).substr(segnoUtf8.size()));
+  if (auto convertito = DaUtf8Esatto(testo)) return std::move(*convertito);
+  return testo;
+}
+
+// Reads the file; a failure has been told.
+std::optional<std::string> LeggiFileDefinizioni() {
+  std::string testo;
+  const EsitoLettura esito =
+      LeggiFile(PercorsoNellaCartella(CartellaProgramma, NomeFileDefinizioni), MaxByteFile, testo);
+  if (esito == EsitoLettura::Letto) return NellaCodePage(std::move(testo));
+  const std::string_view perche = esito == EsitoLettura::Assente
+                                      ? "non c'è nella cartella del programma"_cp
+                                      : "non si può leggere"_cp;
+  Avvisa(Unisci("Il file ", NomeFileDefinizioni, ' ', perche,
+                ": nessuna definizione è stata importata."_cp));
+  return std::nullopt;
+}
+
+// A word that cannot be added counts all the same, and the run goes on.
+void UnisciCoppia(Enciclopedia& enciclopedia, std::string_view parola, std::string_view definizione,
+                  ContoFusioni& conto, Avanzamento& avanzamento) {
+  if (enciclopedia.CercaParola(parola)) return UnisciAllaRiga(enciclopedia, definizione, conto);
+  try {
+    enciclopedia.AggiungiParola(parola, definizione);
+  } catch (const ErroreEnciclopedia&) {
+    // The next word may fare better.
+  }
+  avanzamento.Aggiunta(++conto.parole, parola);
+}
+
+ContoFusioni UnisciCoppie(Enciclopedia& enciclopedia, std::string_view testo) {
+  ContoFusioni conto;
+  Avanzamento avanzamento;
+  LettoreDiRighe righe(testo);
+  // A last word without a line behind it is no pair.
+  for (std::string_view parola, definizione;
+       righe.Prossima(parola) && righe.Prossima(definizione);) {
+    parola = SenzaSpazi(parola);
+    definizione = SenzaSpazi(definizione);
+    if (CoppiaAmmessa(parola, definizione))
+      UnisciCoppia(enciclopedia, parola, definizione, conto, avanzamento);
+  }
+  return conto;
+}
+
+}  // namespace
+
+bool CoppiaAmmessa(std::string_view parola, std::string_view definizione) {
+  return !parola.empty() && !definizione.empty() &&
+         parola.find_first_of(" -,.'") == std::string_view::npos;
+}
+
+std::optional<std::string> ImportaDefinizioni() {
+  std::optional<std::string> rapporto;
+  ConEnciclopedia([&] {
+    const EnciclopediaAperta enciclopedia = ApriEnciclopedia();
+    const Clessidra clessidra;
+    const auto testo = LeggiFileDefinizioni();
+    if (!testo) return;
+    rapporto = RapportoFusioni(
+        "Le definizioni prelevate dal file di Internet sono state salvate sull'enciclopedia con "
+        "successo.",
+        UnisciCoppie(*enciclopedia, *testo));
+  });
+  return rapporto;
+}
+
+void Recupera_Definizioni() {
+  if (const auto rapporto = ImportaDefinizioni()) Avvisa(*rapporto);
+}
+
+}  // namespace telarium

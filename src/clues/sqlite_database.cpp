@@ -1,0 +1,168 @@
+#include "clues/sqlite_database.h"
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <new>
+#include <sqlite3.h>
+
+#include "clues/encyclopedia.h"
+#include "platform/codepage.h"
+#include "platform/text.h"
+
+namespace telarium {
+namespace {
+
+constexpr int AttesaDiAltri = 1000;  // milliseconds for which another program may hold the file
+
+struct Scelta {
+  int quale, valore;
+};
+constexpr Scelta scelteDiSicurezza[] = {{SQLITE_DBCONFIG_DEFENSIVE, 1},
+                                        {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+                                        {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+                                        {SQLITE_DBCONFIG_ENABLE_VIEW, 0}};
+
+struct Spiegazione {
+  int codice;
+  std::string_view testo;
+};
+
+constexpr Spiegazione spiegazioni[] = {
+    {SQLITE_CANTOPEN, "il file manca o non si può aprire"_cp},
+    {SQLITE_NOTADB, "il file non è un'enciclopedia"_cp},
+    {SQLITE_CORRUPT, "il file è danneggiato"_cp},
+    {SQLITE_BUSY, "il file è occupato da un altro programma"_cp},
+    {SQLITE_LOCKED, "il file è occupato da un altro programma"_cp},
+    {SQLITE_READONLY, "il file è di sola lettura"_cp},
+    {SQLITE_PERM, "non c'è il permesso di accedere al file"_cp},
+    {SQLITE_FULL, "il disco è pieno"_cp},
+    {SQLITE_IOERR, "errore di lettura o di scrittura del disco"},
+    {SQLITE_TOOBIG, "il testo è troppo lungo"_cp},
+    {SQLITE_NOMEM, "memoria esaurita"},
+};
+
+// What an error of SQLite means; for the others also its own words, in English.
+std::string Spiegata(int codice, const char* parole) {
+  if (codice == SQLITE_ERROR) {
+    return Unisci("il file non ha la tabella o le colonne di un'enciclopedia (", DaUtf8(parole),
+                  ')');
+  }
+  const auto trovata = std::find_if(std::begin(spiegazioni), std::end(spiegazioni),
+                                    [&](const Spiegazione& una) { return una.codice == codice; });
+  return trovata == std::end(spiegazioni) ? DaUtf8(parole) : std::string(trovata->testo);
+}
+
+}  // namespace
+
+BaseDati::BaseDati() : nome_("in memoria") {
+  Apri(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+}
+
+BaseDati::BaseDati(const Percorso& file) : nome_(TestoPercorso(file.filename())) {
+  Apri(file.c_str(), SQLITE_OPEN_READWRITE);
+}
+
+void BaseDati::Apri(const char* file, int come) {
+  if (sqlite3_open_v2(file, &connessione_, come, nullptr) != SQLITE_OK) {
+    const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> chiusa(connessione_, sqlite3_close);
+    Fallisci();
+  }
+  sqlite3_busy_timeout(connessione_, AttesaDiAltri);
+  // The file may come from anywhere: what its schema brings along is not run.
+  for (const auto& [scelta, valore] : scelteDiSicurezza)
+    sqlite3_db_config(connessione_, scelta, valore, nullptr);
+}
+
+BaseDati::~BaseDati() {
+  sqlite3_close(connessione_);
+}
+
+void BaseDati::Fallisci() const {
+  const int codice = sqlite3_errcode(connessione_) & 0xFF;  // the lower byte: without its details
+  // Who kept the file so long will not let go soon: a run over many words waits once.
+  if (codice == SQLITE_BUSY) sqlite3_busy_timeout(connessione_, 0);
+  throw ErroreEnciclopedia(
+      Unisci("Enciclopedia ", nome_, ": ", Spiegata(codice, sqlite3_errmsg(connessione_)), '.'));
+}
+
+void BaseDati::Esegui(const char* sql) {
+  if (sqlite3_exec(connessione_, sql, nullptr, nullptr, nullptr) != SQLITE_OK) Fallisci();
+}
+
+std::int64_t BaseDati::UltimaRiga() const {
+  return sqlite3_last_insert_rowid(connessione_);
+}
+
+int BaseDati::RigheCambiate() const {
+  return sqlite3_changes(connessione_);
+}
+
+std::string BaseDati::Immagine() const {
+  sqlite3_int64 byte = 0;
+  const std::unique_ptr<unsigned char, decltype(&sqlite3_free)> immagine(
+      sqlite3_serialize(connessione_, "main", &byte, 0), sqlite3_free);
+  if (!immagine) throw std::bad_alloc();
+  return {reinterpret_cast<const char*>(immagine.get()), static_cast<std::size_t>(byte)};
+}
+
+Istruzione::Istruzione(BaseDati& base, const char* sql) : base_(base) {
+  if (sqlite3_prepare_v3(base_.connessione_, sql, -1, SQLITE_PREPARE_PERSISTENT, &istruzione_,
+                         nullptr) != SQLITE_OK) {
+    base_.Fallisci();
+  }
+}
+
+Istruzione::~Istruzione() {
+  sqlite3_finalize(istruzione_);
+}
+
+Istruzione& Istruzione::Lega(int posto, std::string_view testo) {
+  const std::string utf8 = AUtf8(testo);
+  if (sqlite3_bind_text64(istruzione_, posto, utf8.data(), utf8.size(), SQLITE_TRANSIENT,
+                          SQLITE_UTF8) != SQLITE_OK) {
+    base_.Fallisci();
+  }
+  return *this;
+}
+
+Istruzione& Istruzione::Lega(int posto, const std::optional<std::string>& testo) {
+  if (testo) return Lega(posto, std::string_view(*testo));
+  sqlite3_bind_null(istruzione_, posto);
+  return *this;
+}
+
+Istruzione& Istruzione::Lega(int posto, std::int64_t numero) {
+  sqlite3_bind_int64(istruzione_, posto, numero);
+  return *this;
+}
+
+bool Istruzione::Passo() {
+  const int esito = sqlite3_step(istruzione_);
+  if (esito == SQLITE_ROW) return true;
+  // The cause is read before the reset, which says it once more.
+  if (sqlite3_reset(istruzione_) != SQLITE_OK) base_.Fallisci();
+  return false;
+}
+
+void Istruzione::Esegui() {
+  while (Passo()) {
+  }
+}
+
+void Istruzione::Ricomincia() {
+  sqlite3_reset(istruzione_);
+}
+
+std::optional<std::string> Istruzione::Testo(int colonna) const {
+  const auto* testo = reinterpret_cast<const char*>(sqlite3_column_text(istruzione_, colonna));
+  if (!testo) return std::nullopt;
+  const auto byte = static_cast<std::size_t>(sqlite3_column_bytes(istruzione_, colonna));
+  return DaUtf8({testo, byte});
+}
+
+std::int64_t Istruzione::Intero(int colonna) const {
+  return sqlite3_column_int64(istruzione_, colonna);
+}
+
+}  // namespace telarium

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/files.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+// The little that the encyclopedia needs of SQLite. Texts go to the database and come from it in
+// UTF-8 and are here in the code page. Every failure throws ErroreEnciclopedia.
+namespace telarium {
+
+class Istruzione;
+
+/// A connection to a database.
+class BaseDati {
+ public:
+  /// An empty one in memory.
+  BaseDati();
+  /// That of a file, for reading and, if the file allows it, writing. A missing file is an error.
+  explicit BaseDati(const Percorso& file);
+  ~BaseDati();
+  BaseDati(const BaseDati&) = delete;
+  BaseDati& operator=(const BaseDati&) = delete;
+
+  /// Runs statements that give no rows.
+  void Esegui(const char* sql);
+
+  /// The key of the row that the last insertion has made.
+  std::int64_t UltimaRiga() const;
+
+  /// How many rows the last statement has changed.
+  int RigheCambiate() const;
+
+  /// The bytes of a file that holds the database as it is.
+  std::string Immagine() const;
+
+ private:
+  friend class Istruzione;
+  void Apri(const char* file, int come);
+  [[noreturn]] void Fallisci() const;
+
+  std::string nome_;  // for messages
+  sqlite3* connessione_ = nullptr;
+};
+
+/// A prepared statement, which must not outlive its connection. Places of values count from 1,
+/// columns from 0.
+class Istruzione {
+ public:
+  Istruzione(BaseDati& base, const char* sql);
+  ~Istruzione();
+  Istruzione(const Istruzione&) = delete;
+  Istruzione& operator=(const Istruzione&) = delete;
+
+  /// Binds a value to a place. It holds until it is bound again; none is null.
+  Istruzione& Lega(int posto, std::string_view testo);
+  Istruzione& Lega(int posto, const std::optional<std::string>& testo);
+  Istruzione& Lega(int posto, std::int64_t numero);
+
+  /// Goes to the next row. False at the end, where the statement is ready to run again.
+  bool Passo();
+
+  /// Runs it to its end, whatever rows it gives.
+  void Esegui();
+
+  /// Lets go of a row before the end; the statement is ready to run again.
+  void Ricomincia();
+
+  /// Columns of the row.
+  std::optional<std::string> Testo(int colonna) const;
+  std::int64_t Intero(int colonna) const;
+
+ private:
+  BaseDati& base_;
+  sqlite3_stmt* istruzione_ = nullptr;
+};
+
+}  // namespace telarium

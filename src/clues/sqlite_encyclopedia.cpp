@@ -1,0 +1,167 @@
+#include "clues/encyclopedia.h"
+#include "clues/sqlite_database.h"
+#include "model/state.h"
+#include "platform/codepage.h"
+#include "platform/text.h"
+
+namespace telarium {
+namespace {
+
+// The store as an SQLite database, the table Parole with the columns PAROLA, DEFINIZ_FACILE and
+// DEFINIZ_DIFFIC and an index on PAROLA (encyclopedia_writer.cpp makes it). As long as it is only
+// read the file is never written to. The first write turns to a write-ahead log, in which a commit
+// waits for no disk; the end of the connection folds the log back into the file, which then opens
+// as it is on any medium.
+class EnciclopediaSqlite : public Enciclopedia {
+ public:
+  explicit EnciclopediaSqlite(const Percorso& file)
+      : base_(file),
+        prima_(base_, "SELECT rowid FROM Parole ORDER BY PAROLA, rowid LIMIT 1"),
+        cerca_(base_, "SELECT rowid FROM Parole WHERE PAROLA = ?1 ORDER BY rowid LIMIT 1"),
+        leggi_(base_, "SELECT PAROLA, DEFINIZ_FACILE, DEFINIZ_DIFFIC FROM Parole WHERE rowid = ?1"),
+        facili_(base_, "SELECT DEFINIZ_FACILE FROM Parole WHERE rowid = ?1"),
+        difficili_(base_, "SELECT DEFINIZ_DIFFIC FROM Parole WHERE rowid = ?1"),
+        inserisci_(base_,
+                   "INSERT INTO Parole (PAROLA, DEFINIZ_FACILE, DEFINIZ_DIFFIC)"
+                   " VALUES (?1, ?2, ?3)"),
+        aggiungi_(base_,
+                  "UPDATE Parole SET DEFINIZ_FACILE ="
+                  " coalesce(DEFINIZ_FACILE, '') || char(13, 10) || ?2 WHERE rowid = ?1") {
+    corrente_ = PrimaRiga(prima_);
+    // A log that a killed program has left is folded back too.
+    Istruzione modo(base_, "PRAGMA journal_mode");
+    conRegistro_ = modo.Passo() && modo.Testo(0) == "wal";
+  }
+
+  ~EnciclopediaSqlite() override {
+    if (!conRegistro_) return;
+    try {
+      base_.Esegui("PRAGMA journal_mode = DELETE");
+    } catch (const ErroreEnciclopedia&) {
+      // Another connection is still open: it folds the log back.
+    }
+  }
+
+  bool CercaParola(std::string_view parola) override {
+    if (parola.find('\'') != std::string_view::npos) {
+      throw ErroreEnciclopedia(Unisci("Enciclopedia ", NomeEnciclopedia, ": la parola \"", parola,
+                                      "\" contiene un apostrofo e non si può cercare."_cp));
+    }
+    cerca_.Lega(1, parola);
+    corrente_ = PrimaRiga(cerca_);
+    return corrente_.has_value();
+  }
+
+  std::optional<std::string> LeggiFacili() override { return LeggiCampo(facili_); }
+  std::optional<std::string> LeggiDifficili() override { return LeggiCampo(difficili_); }
+
+  void AggiungiParola(std::string_view parola, std::string_view definizione) override {
+    corrente_ = InserisciRiga({.parola = std::string(parola),
+                               .facili = std::string(definizione),
+                               .difficili = std::nullopt});
+  }
+
+  void ScriviFacili(std::string_view definizione) override {
+    PreparaScrittura();
+    // In the database itself, where no character is lost on the way through the code page.
+    aggiungi_.Lega(1, RigaCorrente()).Lega(2, definizione).Esegui();
+    VerificaTrovata();
+  }
+
+  std::vector<ChiaveRiga> Chiavi() override {
+    Istruzione tutte(base_, "SELECT rowid, PAROLA FROM Parole ORDER BY PAROLA, rowid");
+    std::vector<ChiaveRiga> chiavi;
+    while (tutte.Passo())
+      chiavi.push_back({tutte.Intero(0), tutte.Testo(1).value_or("")});
+    return chiavi;
+  }
+
+  RigaParole LeggiRiga(NumeroRiga numero) override {
+    if (!leggi_.Lega(1, numero).Passo()) Mancante();
+    RigaParole riga{leggi_.Testo(0).value_or(""), leggi_.Testo(1), leggi_.Testo(2)};
+    leggi_.Ricomincia();
+    return riga;
+  }
+
+  void ScriviRiga(NumeroRiga numero, const ModificheRiga& modifiche) override {
+    PreparaScrittura();
+    // Only what was changed: the other columns may hold characters that the code page lacks.
+    Istruzione scrivi(base_,
+                      "UPDATE Parole SET PAROLA = iif(?2, ?3, PAROLA),"
+                      " DEFINIZ_FACILE = iif(?4, ?5, DEFINIZ_FACILE),"
+                      " DEFINIZ_DIFFIC = iif(?6, ?7, DEFINIZ_DIFFIC) WHERE rowid = ?1");
+    scrivi.Lega(1, numero);
+    scrivi.Lega(2, modifiche.parola.has_value()).Lega(3, modifiche.parola);
+    scrivi.Lega(4, modifiche.facili.has_value()).Lega(5, Famiglia(modifiche.facili));
+    scrivi.Lega(6, modifiche.difficili.has_value()).Lega(7, Famiglia(modifiche.difficili));
+    scrivi.Esegui();
+    VerificaTrovata();
+  }
+
+  void EliminaRiga(NumeroRiga numero) override {
+    PreparaScrittura();
+    Istruzione(base_, "DELETE FROM Parole WHERE rowid = ?1").Lega(1, numero).Esegui();
+    if (corrente_ == numero) corrente_.reset();
+  }
+
+  NumeroRiga InserisciRiga(const ModificheRiga& modifiche) override {
+    PreparaScrittura();
+    inserisci_.Lega(1, std::string_view(modifiche.parola.value_or("")));
+    inserisci_.Lega(2, Famiglia(modifiche.facili)).Lega(3, Famiglia(modifiche.difficili));
+    inserisci_.Esegui();
+    return base_.UltimaRiga();
+  }
+
+ private:
+  static std::optional<NumeroRiga> PrimaRiga(Istruzione& ricerca) {
+    if (!ricerca.Passo()) return std::nullopt;
+    const NumeroRiga numero = ricerca.Intero(0);
+    ricerca.Ricomincia();
+    return numero;
+  }
+
+  static std::optional<std::string> Famiglia(const std::optional<std::string>& testo) {
+    return testo && testo->empty() ? std::nullopt : testo;
+  }
+
+  [[noreturn]] static void Mancante() {
+    throw ErroreEnciclopedia(
+        Unisci("Enciclopedia ", NomeEnciclopedia, ": la riga non c'è più."_cp));
+  }
+
+  void VerificaTrovata() const {
+    if (base_.RigheCambiate() == 0) Mancante();
+  }
+
+  NumeroRiga RigaCorrente() const {
+    if (!corrente_) Mancante();
+    return *corrente_;
+  }
+
+  std::optional<std::string> LeggiCampo(Istruzione& lettura) {
+    if (!lettura.Lega(1, RigaCorrente()).Passo()) Mancante();
+    auto testo = lettura.Testo(0);
+    lettura.Ricomincia();
+    return testo;
+  }
+
+  void PreparaScrittura() {
+    if (conRegistro_) return;
+    base_.Esegui("PRAGMA journal_mode = WAL");
+    conRegistro_ = true;
+  }
+
+  BaseDati base_;
+  Istruzione prima_, cerca_, leggi_, facili_, difficili_, inserisci_, aggiungi_;
+  std::optional<NumeroRiga> corrente_;
+  bool conRegistro_ = false;
+};
+
+}  // namespace
+
+EnciclopediaAperta ApriEnciclopedia() {
+  return EnciclopediaAperta(
+      new EnciclopediaSqlite(PercorsoNellaCartella(CartellaProgramma, NomeEnciclopedia)));
+}
+
+}  // namespace telarium

@@ -1,0 +1,116 @@
+#include "clues/bulk.h"
+#include "clues/clue_family.h"
+#include "clues/encyclopedia.h"
+#include "clues/encyclopedia_writer.h"
+#include "clues/import.h"
+#include "clues/store_use.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
+#include "platform/text.h"
+#include "telar/command.h"
+#include "telar/files.h"
+#include "telar/output.h"
+
+namespace telarium::telar {
+namespace {
+
+// Far above the largest list there is; it is held in memory.
+constexpr std::size_t MaxByteLista = 256u << 20;
+
+// A report is a result, on one line: its last line break ends it.
+Stato StampaRapporto(const std::optional<std::string>& rapporto) {
+  if (!rapporto) return Stato::Fallito;
+  const std::string_view testo = *rapporto;
+  StampaCampi({SenzaInterruzioni(testo.substr(0, testo.find_last_not_of("\r\n") + 1))});
+  return Stato::Fatto;
+}
+
+Stato EncCrea(const Argomenti& argomenti, PiattaformaConsole&) {
+  VociDiEnciclopedia voci;
+  for (const std::string& file : argomenti.liberi) {
+    const auto lista = LeggiLista("lista di definizioni", file, MaxByteLista);
+    if (!lista) return Stato::Fallito;
+    const auto [tralasciate, prima] = AggiungiVoci(*lista, voci);
+    if (tralasciate > 0) {
+      Avvisa(Unisci(TestoPercorso(file), ": righe tralasciate ", tralasciate, ", la prima è la "_cp,
+                    prima, '.'));
+    }
+  }
+  AscoltaInterruzione();  // a file beside the encyclopedia must not be left
+  const EsitoEnciclopedia esito = ScriviEnciclopedia(std::move(voci));
+  if (!esito.errore.empty()) {
+    Avvisa(esito.errore);
+    return Stato::Fallito;
+  }
+  StampaCampi({std::to_string(esito.parole), std::to_string(esito.definizioni)});
+  return Stato::Fatto;
+}
+
+std::int16_t ModoDa(const std::string& valore) {
+  if (valore == "1") return ModoTutte;
+  if (valore == "2") return ModoFacili;
+  if (valore == "3") return ModoDifficili;
+  throw ArgomentiErrati("--modo vuole 1, 2 o 3");
+}
+
+Stato Preleva(const Argomenti& argomenti, PiattaformaConsole&) {
+  const std::int16_t modo = ModoDa(argomenti.Valore("--modo", "1"));
+  if (!Apri(argomenti.liberi[0])) return Stato::Fallito;
+  const auto rapporto = PrelevaTutte(modo);
+  if (!rapporto || Scrivi(argomenti.liberi[1]) != Stato::Fatto) return Stato::Fallito;
+  return StampaRapporto(rapporto);
+}
+
+Stato Salva(const Argomenti& argomenti, PiattaformaConsole&) {
+  if (!Apri(argomenti.liberi[0])) return Stato::Fallito;
+  return StampaRapporto(SalvaTutte());
+}
+
+Stato Importa(const Argomenti&, PiattaformaConsole&) {
+  return StampaRapporto(ImportaDefinizioni());
+}
+
+void StampaFamiglia(std::string_view sigla, const std::optional<std::string>& famiglia) {
+  if (!famiglia) return;
+  for (const std::string_view definizione : DefinizioniDellaFamiglia(*famiglia))
+    StampaCampi({sigla, definizione});
+}
+
+Stato Definizioni(const Argomenti& argomenti, PiattaformaConsole&) {
+  bool trovata = false;
+  ConEnciclopedia([&] {
+    const EnciclopediaAperta enciclopedia = ApriEnciclopedia();
+    trovata = enciclopedia->CercaParola(Maiuscole(SenzaSpazi(DaUtf8(argomenti.liberi[0]))));
+    if (!trovata) return;
+    StampaFamiglia("F", enciclopedia->LeggiFacili());
+    StampaFamiglia("D", enciclopedia->LeggiDifficili());
+  });
+  return trovata ? Stato::Fatto : Stato::Fallito;
+}
+
+}  // namespace
+
+std::vector<Comando> ComandiDefinizioni() {
+  // clang-format off
+  return {
+      {"enc-crea", "LISTA...", "", 1, QuantiSiVuole, {},
+       "Fa l'enciclopedia da liste in UTF-8: parola, F o D, definizione, separate da TAB.",
+       EncCrea},
+      {"definizioni", "PAROLA", "", 1, 1, {},
+       "Mostra le definizioni facili (F) e difficili (D) di una parola.",
+       Definizioni},
+      {"preleva", "FILE USCITA", "", 2, 2,
+       {{"--modo", "1|2|3", "definizioni di ogni tipo, solo facili, solo difficili (1)"}},
+       "Dà a ogni parola del cruciverba una definizione dell'enciclopedia.",
+       Preleva},
+      {"salva-definizioni", "FILE", "", 1, 1, {},
+       "Aggiunge all'enciclopedia le definizioni del cruciverba.",
+       Salva},
+      {"importa-definizioni", "", "", 0, 0, {},
+       "Aggiunge all'enciclopedia le coppie di definizIONI.txt della cartella programma.",
+       Importa},
+  };
+  // clang-format on
+}
+
+}  // namespace telarium::telar
