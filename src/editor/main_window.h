@@ -74,6 +74,8 @@ class FinestraEditor {
   /// Menu entries by name.
   virtual void AbilitaVoce(std::string_view, bool) {}
   virtual void SpuntaVoce(std::string_view, bool) {}
+  /// Pops a menu up at the pointer.
+  virtual void ApriMenu(std::string_view) {}
   virtual void MettiGraficaAiMenu() {}
   /// The first three entries of the File menu get their bitmaps at the first activation.
   virtual void MettiGraficaAMenuFile() {}

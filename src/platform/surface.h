@@ -10,6 +10,8 @@ using Colore = std::int32_t;
 
 inline constexpr Colore ColoreNero = 0x000000;
 inline constexpr Colore ColoreBianco = 0xFFFFFF;
+inline constexpr Colore ColoreBlu = 0x800000;  // 1 and 14 of the 16-colour palette
+inline constexpr Colore ColoreGiallo = 0x00FFFF;
 inline constexpr Colore NessunColore = -1;
 
 /// The typeface until another one is chosen; every machine has one of its metrics.

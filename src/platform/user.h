@@ -36,6 +36,7 @@ struct AvanzamentoEstrazione {
 
 // Shapes of the mouse pointer.
 inline constexpr int PuntatoreFreccia = 0;
+inline constexpr int PuntatoreFrecciaFissa = 1;   // after a masked search
 inline constexpr int PuntatoreCasellaBianca = 2;  // a cross: the white-cell tool
 inline constexpr int PuntatoreCasellaNera = 4;    // a picture: the black-cell tool
 inline constexpr int PuntatoreVerticale = 7;      // over a vertical word

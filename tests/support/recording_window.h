@@ -23,6 +23,7 @@ class RecordingWindow : public FinestraEditor {
   bool preview = false;  // Command3d15 shows
   bool splash = false;   // Picture1 shows
   bool editPressed = false;
+  std::string importCaption;  // of Command1
   std::set<int> enabledButtons;
   std::map<std::string, bool, std::less<>> enabled;
   std::map<std::string, bool, std::less<>> checked;
@@ -75,6 +76,10 @@ class RecordingWindow : public FinestraEditor {
   void SpuntaVoce(std::string_view nome, bool spuntata) override {
     checked[std::string(nome)] = spuntata;
   }
+  void ApriMenu(std::string_view nome) override {
+    calls.push_back("ApriMenu " + std::string(nome));
+  }
+  void ScriviCommand1(std::string_view testo) override { importCaption = testo; }
   void MettiGraficaAiMenu() override { calls.push_back("MettiGraficaAiMenu"); }
   void MettiGraficaAMenuFile() override { calls.push_back("MettiGraficaAMenuFile"); }
   void CollocaPicture2() override {

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "auxiliary/addresses.h"
+#include "clues/import.h"
 #include "editor/activation.h"
 #include "editor/cell_editing.h"
 #include "editor/commands.h"
@@ -107,7 +108,7 @@ void Form1::CreaControlli() {
   Picture2 = new QLabel(Area);
   Picture3 = new QLabel(Area);
   Command3d15 = new QPushButton(QStringLiteral("Chiudi"), Area);
-  Command1 = new QPushButton(Area);
+  Command1 = new QPushButton(QStringLiteral("Bottone per importare le definizioni"), Area);
   const std::pair<QWidget*, QStringView> nomi[] = {
       {Picture1, u"Picture1"}, {Picture2, u"Picture2"},       {Picture3, u"Picture3"},
       {Label1, u"Label1"},     {Command3d15, u"Command3d15"}, {Command1, u"Command1"}};
@@ -137,6 +138,7 @@ void Form1::CreaControlli() {
     nascosto->hide();
 
   connect(Command3d15, &QPushButton::clicked, this, [this] { Esegui(ChiudiAnteprima); });
+  connect(Command1, &QPushButton::clicked, this, [this] { Esegui([this] { Importa(); }); });
   StatusBar1->QuandoPremuta([this] { Voce("MenuInfo").trigger(); });
   Toolbar1->QuandoPassaIlMouse(PassaSuToolbar1);
   Area->QuandoPassaIlMouse([this](QPointF punto) { PassaSuArea(punto); });
@@ -220,7 +222,7 @@ QCursor Form1::PuntatoreDelLogo() const {
 }
 
 void Form1::Esegui(const std::function<void()>& comando) {
-  if (estrazioneInCorso_) return;
+  if (occupata_) return;
   EseguiComandoDiFinestra(comando);
   if (ComandoInCorso()) return;
   if (std::exchange(misuraCambiata_, false)) CambiataMisura();
@@ -244,20 +246,28 @@ void Form1::ApriRicevuti() {
   }
 }
 
+void Form1::Occupa(bool occupata) {
+  occupata_ = occupata;
+  menuBar()->setEnabled(!occupata);
+  Toolbar1->setEnabled(!occupata);
+  StatusBar1->setEnabled(!occupata);
+  Picture2->setEnabled(!occupata);
+}
+
 void Form1::Estrai() {
-  const auto inCorso = [this](bool si) {
-    estrazioneInCorso_ = si;
-    menuBar()->setEnabled(!si);
-    Toolbar1->setEnabled(!si);
-    StatusBar1->setEnabled(!si);
-    Picture2->setEnabled(!si);
-    esc_->setEnabled(si);
-  };
   Shape1->hide();
-  inCorso(true);
+  Occupa(true);
+  esc_->setEnabled(true);
   EstraiSchema();
   Avanzamento->hide();
-  inCorso(false);
+  esc_->setEnabled(false);
+  Occupa(false);
+}
+
+void Form1::Importa() {
+  Occupa(true);
+  Recupera_Definizioni();
+  Occupa(false);
 }
 
 bool Form1::SeguiEstrazione(const AvanzamentoEstrazione& avanzamento) {
@@ -332,6 +342,14 @@ void Form1::SpuntaVoce(std::string_view nome, bool spuntata) {
   Voce(nome).setChecked(spuntata);
 }
 
+void Form1::ApriMenu(std::string_view nome) {
+  Voce(nome).menu()->popup(QCursor::pos());
+}
+
+void Form1::ScriviCommand1(std::string_view testo) {
+  Command1->setText(AQt(testo));
+}
+
 void Form1::MettiGraficaAiMenu() {
   for (const auto& [voce, immagine] : GraficaDeiMenu())
     Voce(voce).setIcon(Immagine(immagine));
@@ -376,7 +394,7 @@ void Form1::CambiataMisura() {
 }
 
 void Form1::PassaSuArea(QPointF punto) {
-  if (!estrazioneInCorso_) PassaSullaSuperficie(punto.x(), punto.y());
+  if (!occupata_) PassaSullaSuperficie(punto.x(), punto.y());
 }
 
 void Form1::PremutaArea(Qt::MouseButton tasto, QPointF punto) {
@@ -387,7 +405,7 @@ void Form1::PremutaArea(Qt::MouseButton tasto, QPointF punto) {
 }
 
 void Form1::closeEvent(QCloseEvent* evento) {
-  evento->setAccepted(!estrazioneInCorso_);
+  evento->setAccepted(!occupata_);
 }
 
 bool Form1::eventFilter(QObject* oggetto, QEvent* evento) {
@@ -395,7 +413,7 @@ bool Form1::eventFilter(QObject* oggetto, QEvent* evento) {
     TogliLabel1();  // never between the pointer and the grid
     return true;
   }
-  if (oggetto == Picture2 && !estrazioneInCorso_) {
+  if (oggetto == Picture2 && !occupata_) {
     switch (evento->type()) {
       case QEvent::MouseMove:
         if (PuntatoreMouse != PuntatoreMano) ImpostaPuntatoreMouse(PuntatoreMano);

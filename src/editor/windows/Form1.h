@@ -60,6 +60,8 @@ class Form1 : public QMainWindow, public FinestraEditor {
 
   /// Runs the automatic fill with its panel; nothing else of the window can be used meanwhile.
   void Estrai();
+  /// Runs the import of clues, likewise.
+  void Importa();
   bool SeguiEstrazione(const AvanzamentoEstrazione& avanzamento);
 
   // What the editor asks of the window.
@@ -83,6 +85,8 @@ class Form1 : public QMainWindow, public FinestraEditor {
   bool EditPremuto() const override;
   void AbilitaVoce(std::string_view nome, bool abilitata) override;
   void SpuntaVoce(std::string_view nome, bool spuntata) override;
+  void ApriMenu(std::string_view nome) override;
+  void ScriviCommand1(std::string_view testo) override;
   void MettiGraficaAiMenu() override;
   void MettiGraficaAMenuFile() override;
   void CollocaPicture2() override;
@@ -96,6 +100,7 @@ class Form1 : public QMainWindow, public FinestraEditor {
   void CreaMenu();
   void CollegaPulsanti();
   void PremutoPulsante(int numero);
+  void Occupa(bool occupata);
   void Disponi();
   void CambiataMisura();
   void ApriRicevuti();
@@ -104,7 +109,7 @@ class Form1 : public QMainWindow, public FinestraEditor {
 
   std::map<std::string_view, QAction*> voci_;
   std::vector<Percorso> ricevuti_;
-  bool estrazioneInCorso_ = false;
+  bool occupata_ = false;        // by a run that lets the message loop go on
   bool misuraCambiata_ = false;  // during a command
   QShortcut* esc_;
 };

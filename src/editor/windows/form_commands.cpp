@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "auxiliary/links.h"
+#include "clues/bulk.h"
 #include "editor/cell_editing.h"
 #include "editor/commands.h"
 #include "editor/file_commands.h"
@@ -42,6 +43,11 @@ void ImpostaLingua(Form1&) {
   CambiaLingua(Lingua);
 }
 
+template <std::int16_t Modo>
+void Preleva(Form1&) {
+  Prelevadefinizioni(Modo);
+}
+
 template <Indirizzo Quale>
 void VaiA(Form1&) {
   ApriPagina(Quale);
@@ -70,6 +76,10 @@ constexpr ComandoDiVoce comandi[] = {
     {"Menui2", VaiA<Indirizzo::Menui2>},
     {"Menui3", VaiA<Indirizzo::Menui3>},
     {"Menui4", VaiA<Indirizzo::Menui4>},
+    {"Menupreltutt", Preleva<ModoTutte>},
+    {"Menuprelfac", Preleva<ModoFacili>},
+    {"menupreldif", Preleva<ModoDifficili>},
+    {"menuSalvaDef", [](Form1&) { SalvaDefinizioni(); }},
     {"menusetschema", [](Form1&) { RegolaSchema(); }},
     {"MenuInf", CommutaProvaInfinita},
     {"MenuL1", ImpostaLingua<1>},

@@ -24,15 +24,19 @@ void FinestraModale::showEvent(QShowEvent* evento) {
   if (evento->spontaneous()) return;  // only comes back from an icon
   const QRect schermo = screen()->availableGeometry();
   resize(size().boundedTo(schermo.size() - Cornice));
-  QRect dove = frameGeometry();
-  dove.moveCenter(schermo.center());
-  move(dove.topLeft());
+  Colloca(schermo);
   pronta_ = false;
   // Behind the show, for it may bring up a message.
   QTimer::singleShot(0, this, [this] {
     Attivata();
     pronta_ = true;
   });
+}
+
+void FinestraModale::Colloca(const QRect& schermo) {
+  QRect dove = frameGeometry();
+  dove.moveCenter(schermo.center());
+  move(dove.topLeft());
 }
 
 void CasellaDiTesto::focusInEvent(QFocusEvent* evento) {

@@ -14,8 +14,7 @@ Controllo* Chiamato(const QString& nome, Controllo* controllo) {
   return controllo;
 }
 
-/// A modal window. It opens in the middle of the screen each time it is shown; Esc and its close
-/// box are Cancel.
+/// A modal window. Esc and its close box are Cancel.
 class FinestraModale : public QDialog {
  public:
   /// Whether it has done, since it was shown, what it does when it opens.
@@ -23,6 +22,10 @@ class FinestraModale : public QDialog {
 
  protected:
   FinestraModale(const QString& nome, const QString& titolo, QWidget* genitore);
+
+  /// Puts the window in its place on the usable part of a screen, each time it opens: in the
+  /// middle.
+  virtual void Colloca(const QRect& schermo);
 
   /// What a window does once it is on the screen, each time it opens.
   virtual void Attivata() {}

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "clues/windows/clue_box.h"
+#include "dictionary/dictionary.h"
+#include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_dialog.h"
+
+namespace telarium {
+
+/// The clue editor: writes the clue of one word and may change the word, with the help of the
+/// encyclopedia and of a masked search in the dictionaries. It opens beside the word.
+class TelarDef : public FinestraModale {
+ public:
+  explicit TelarDef(QWidget* genitore);
+
+  QLabel* Label1;  // number and direction
+  QLabel* Label3;
+  QLineEdit* Text2;  // the word
+  QGroupBox* Frame5;
+  CasellaDefinizione* Text1;
+  QPushButton* Command1;  // search in the encyclopedia
+  QPushButton* Command2;  // word processor
+  QPushButton* Command3;  // online dictionaries
+  QGroupBox* Frame4;
+  QLabel* Label6;
+  QListWidget* List1;  // easy clues found
+  QLabel* Label7;
+  QListWidget* List2;  // hard ones
+  // The mask: one box and the letter kept for each place.
+  std::array<QCheckBox*, MaxLunghezza> Check3d1;
+  std::array<QLabel*, MaxLunghezza> Label2;
+  QPushButton* Command3D4;  // masked search in the open dictionary
+  QPushButton* Command4;    // and in another one
+  QComboBox* Combo1;        // words found
+  QLabel* Label5;           // and their number
+  QLabel* Label8;
+  Tela* Picture1;  // how far the search has come
+  QPushButton* Command3d1;
+  QPushButton* Command3d2;
+  QPushButton* Command3D3;
+
+  QMenu* menudizionari;
+  std::vector<QAction*> menubrdiz;
+
+ public slots:
+  void done(int esito) override;
+
+ protected:
+  void Colloca(const QRect& schermo) override;
+  void Attivata() override;
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+ private:
+  void CreaParola();
+  void CreaDefinizione();
+  void CreaTrovate();
+  QListWidget* CreaElenco(const QString& nome);
+  void CreaMaschera();
+  void CreaRicerca();
+  void Disponi();
+  void Collega();
+
+  void PreparaMaschera();
+  std::string Maschera() const;
+  void CercaDefinizioni();
+  void CercaMaschera();
+  void DipingiBarra(double parte, Colore colore);
+  void ApriMenuDizionari();
+  void AccettaDefinizione();
+
+  std::string ParolaIniziale;
+};
+
+}  // namespace telarium

@@ -1,0 +1,272 @@
+#include "clues/windows/TelarDef.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+
+#include "dictionary/dictionary_choice.h"
+#include "editor/cell_editing.h"
+#include "platform/qt/qt_text.h"
+#include "support/clue_store.h"
+#include "support/recording_window.h"
+#include "support/telarium_test.h"
+#include "support/window_helpers.h"
+
+namespace telarium {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class TelarDefTest : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    Draw({"MO.A", "A#LE", "SOLE"});
+    Definizione(1, 1, Orizzontale) = "Una clue";
+    OpenDictionary({"MELA", "MALA", "MOLA", "CASA", "SOLE"});
+    MakeStore(
+        "MELA\tF\tFrutto\nMELA\tF\tCosì rossa\nMELA\tD\tCadde su un fisico\nALE\tD\tSola\n"
+        "AS\tF\tCarta\n");
+    Subject(1, 1, Orizzontale);
+  }
+
+  static void Subject(int column, int row, int direction) {
+    CursoreX = static_cast<std::int16_t>(column);
+    CursoreY = static_cast<std::int16_t>(row);
+    Direzione = static_cast<std::int16_t>(direction);
+  }
+
+  static void Click(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
+
+  static std::string Items(const QListWidget& list) {
+    std::string items;
+    for (int i = 0; i < list.count(); ++i)
+      items += list.item(i)->text().toStdString() + '|';
+    return items;
+  }
+
+  static std::string Words(const QComboBox& combo) {
+    std::string words;
+    for (int i = 0; i < combo.count(); ++i)
+      words += combo.itemText(i).toStdString() + ' ';
+    return words;
+  }
+
+  // The mask as the window shows it: a letter, "_" for a free place, nothing beyond the word.
+  static std::string Mask(const TelarDef& window) {
+    std::string mask;
+    for (std::size_t i = 0; i < window.Check3d1.size(); ++i) {
+      if (window.Check3d1[i]->isHidden()) continue;
+      EXPECT_EQ(window.Check3d1[i]->isChecked(), !window.Label2[i]->isHidden());
+      mask += window.Label2[i]->isHidden() ? "_" : window.Label2[i]->text().toStdString();
+    }
+    return mask;
+  }
+};
+
+TEST_F(TelarDefTest, OpensWithWordClueAndMask) {
+  TelarDef window(nullptr);
+  Open(window);
+  EXPECT_EQ(window.Label1->text(), QStringLiteral("1 Orizz. "));
+  EXPECT_EQ(window.Text2->text(), QStringLiteral("MO.A"));
+  EXPECT_EQ(window.Text1->toPlainText(), QStringLiteral("Una clue"));
+  EXPECT_EQ(window.focusWidget(), window.Text1);
+  EXPECT_EQ(Mask(window), "MO_A");
+  EXPECT_EQ(window.Command3D4->toolTip(),
+            QStringLiteral("Ricerca la parola mascherata in : LessicoItaliano.dat"));
+  ExpectNamedControls(window);
+  window.Text1->setFocus();
+  EXPECT_EQ(TabOrder(window),
+            "Text1 Command1 Command2 Command3 List1 List2 Check3d1_0 Check3d1_1 Check3d1_2 "
+            "Check3d1_3 Command3D4 Command4 Combo1 Command3d1 Command3d2 Command3D3 Text2 ");
+}
+
+TEST_F(TelarDefTest, WordsThatNoDictionaryHoldsHaveNoMask) {
+  Draw({"CA#ABCDEFGHILMNOPQR"});
+  for (const int column : {1, 4}) {
+    Subject(column, 1, Orizzontale);
+    TelarDef window(nullptr);
+    Open(window);
+    EXPECT_EQ(Mask(window), "") << column;
+    EXPECT_FALSE(window.Command3D4->isVisible() || window.Command4->isVisible() ||
+                 window.Combo1->isVisible() || window.Picture1->isVisible());
+  }
+}
+
+TEST_F(TelarDefTest, AcceptsWordAndClueAndLeavesTheGridAlone) {
+  TelarDef window(nullptr);
+  Open(window);
+  window.Text2->setFocus();
+  QTest::keyClicks(window.Text2, QStringLiteral("mela"));
+  EXPECT_EQ(window.Text2->text(), QStringLiteral("MELA"));
+  window.Text1->selectAll();
+  QTest::keyClicks(window.Text1, QStringLiteral("La pi bella"));
+  window.Text1->moveCursor(QTextCursor::PreviousWord);
+  window.Text1->moveCursor(QTextCursor::Left);
+  window.Text1->insertPlainText(QStringLiteral("\u00F9"));
+  QTest::keyClick(window.Text1, Qt::Key_Return);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "MELA");
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "La pi\xF9 bella");
+  EXPECT_EQ(DrawingOfSchema().front(), "MO.A");
+  EXPECT_EQ(NumVociDizionari, 0);
+}
+
+TEST_F(TelarDefTest, RefusedWordsAndCluesStayInTheWindow) {
+  TelarDef window(nullptr);
+  Open(window);
+  struct Case {
+    const char16_t* word;
+    const char16_t* clue;
+    std::string message;
+  };
+  const std::string letters =
+      "La parola contiene caratteri non ammessi (ammessi solo caratteri alfabetici da A a Z)";
+  for (const auto& [word, clue, message] :
+       {Case{u"MEL", u"x",
+             "La parola deve avere obbligatoriamente 4 caratteri, usare il simbolo punto '.' per "
+             "gli spazi."},
+        Case{u"M3LA", u"x", letters}, Case{u"M\u00C8LA", u"x", letters},
+        Case{u"MELA", u"x \u2192 y",
+             "La definizione contiene caratteri che il file del cruciverba non pu\xF2 tenere."}}) {
+    window.Text2->setText(QString::fromUtf16(word));
+    window.Text1->setPlainText(QString::fromUtf16(clue));
+    Click(window.Command3d1);
+    EXPECT_EQ(user.TakeTexts(), Texts{message});
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(ParolaCasella(1, 1, Orizzontale) + Definizione(1, 1, Orizzontale), "MO.AUna clue");
+  }
+  QTest::keyClick(window.Text2, Qt::Key_Escape);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale) + Definizione(1, 1, Orizzontale), "MO.AUna clue");
+}
+
+TEST_F(TelarDefTest, ClueIsTypedUpToItsLimitAndALongerOneSurvivesUntouched) {
+  const std::string longer = std::string(70, 'a') + "\rb\n\x80";
+  Definizione(1, 1, Orizzontale) = longer;
+  TelarDef window(nullptr);
+  Open(window);
+  Click(window.Command3d1);
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), longer);
+  Definizione(1, 1, Orizzontale).clear();
+  Open(window);
+  QTest::keyClicks(window.Text1, QString(59, u'x'));
+  window.Text1->moveCursor(QTextCursor::Start);
+  window.Text1->insertPlainText(QStringLiteral("uno\ndue"));
+  EXPECT_EQ(window.Text1->toPlainText(), QStringLiteral("u") + QString(59, u'x'));
+  window.Text1->setPlainText(QStringLiteral("uno\ndue"));
+  Click(window.Command3d1);
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "uno due");
+}
+
+TEST_F(TelarDefTest, FindsTheCluesOfAWord) {
+  TelarDef window(nullptr);
+  Open(window);
+  Click(window.Command1);  // a word with an empty cell
+  window.Text2->setText(QStringLiteral("mela"));
+  Click(window.Command1);
+  EXPECT_EQ(Items(*window.List1), "Frutto|Cos\u00EC rossa|");
+  EXPECT_EQ(Items(*window.List2), "Cadde su un fisico|");
+  window.Text2->setText(QStringLiteral("MALA"));
+  Click(window.Command1);
+  EXPECT_EQ(user.beeps, 1);
+  EXPECT_EQ(Items(*window.List2), "Cadde su un fisico|") << "the lists keep what they had";
+  const Texts texts = user.TakeTexts();
+  ASSERT_EQ(texts.size(), 2u);
+  EXPECT_EQ(texts[0], "La ricerca della definizione \xE8 possibile solo su una parola completata.");
+  EXPECT_TRUE(texts[1].starts_with("La parola MALA non \xE8 ancora stata inserita"));
+
+  const QPoint second = window.List1->visualItemRect(window.List1->item(1)).center();
+  QTest::mouseClick(window.List1->viewport(), Qt::LeftButton, {}, second);
+  QTest::mouseDClick(window.List1->viewport(), Qt::LeftButton, {}, second);
+  EXPECT_EQ(window.Text1->toPlainText(), QStringLiteral("Cos\u00EC rossa"));
+  window.Text2->setText(QStringLiteral("ALE"));
+  Click(window.Command1);
+  EXPECT_EQ(Items(*window.List1), "|") << "a family without clues is one empty entry";
+  window.List1->setCurrentRow(0);
+  QTest::keyClick(window.List1, Qt::Key_Return);
+  EXPECT_EQ(window.Text1->toPlainText(), QString());
+  EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(TelarDefTest, ErrorOfTheStoreLeavesTheWindowOpen) {
+  RecordingWindow main;
+  WriteFile("telarium1.mdb", "no database at all, and long enough to look like one of them");
+  TelarDef window(nullptr);
+  Open(window);
+  window.Text2->setText(QStringLiteral("MELA"));
+  Click(window.Command1);
+  EXPECT_EQ(main.shown, std::vector{Modale::Form6});
+  window.Text2->setText(QStringLiteral("ME'A"));
+  MakeStore("MELA\tF\tFrutto\n");
+  Click(window.Command1);
+  EXPECT_EQ(main.shown, (std::vector{Modale::Form6, Modale::Form6}));
+  EXPECT_EQ(user.TakeTexts(),
+            (Texts{"Enciclopedia telarium1.mdb: il file non \xE8 un'enciclopedia.",
+                   "Enciclopedia telarium1.mdb: la parola \"ME'A\" contiene un apostrofo e non si "
+                   "pu\xF2 cercare."}));
+  EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(TelarDefTest, MaskedSearchListsTheWordsAndAPickBecomesTheWord) {
+  TelarDef window(nullptr);
+  Open(window);
+  Click(window.Command3D4);
+  EXPECT_EQ(Words(*window.Combo1), "MOLA ");
+  EXPECT_EQ(window.Label5->text(), QStringLiteral("Trov.: 1"));
+  EXPECT_EQ(PuntatoreMouse, PuntatoreFrecciaFissa);
+  Click(window.Check3d1[1]);
+  EXPECT_EQ(Mask(window), "M__A");
+  Click(window.Command3D4);
+  EXPECT_EQ(Words(*window.Combo1), "MALA MELA MOLA ");
+  EXPECT_EQ(window.Combo1->currentText(), QStringLiteral("MALA"));
+  window.Combo1->setFocus();
+  QTest::keyClick(window.Combo1, Qt::Key_Down);
+  EXPECT_EQ(window.Text2->text(), QStringLiteral("MELA"));
+  window.Label2[0]->setText(QStringLiteral("Z"));
+  Click(window.Command3D4);
+  EXPECT_EQ(Words(*window.Combo1) + window.Combo1->currentText().toStdString(), "");
+  EXPECT_EQ(window.Label5->text(), QStringLiteral("Trov.: 0"));
+}
+
+TEST_F(TelarDefTest, OtherDictionariesAreSearchedFromAPopup) {
+  OpenDictionary({"MIRA", "ROSA"}, "mio & tuo.PRIV");
+  OpenDictionary({"MELA", "MOLA"});
+  TelarDef window(nullptr);
+  Open(window);
+  Click(window.Command4);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window.menudizionari->isVisible(); }, Patience));
+  std::string captions;
+  for (const QAction* entry : window.menubrdiz)
+    captions += entry->isSeparator() ? "-|" : entry->text().toStdString() + '|';
+  EXPECT_EQ(captions,
+            "&Annulla|-|LessicoItaliano.dat - (Diz. di sistema)|-|mio && tuo.PRIV - (Diz. "
+            "privato)|");
+  EXPECT_EQ(NumVociDizionari, 4);
+  Click(window.Check3d1[1]);
+  window.menubrdiz.back()->trigger();
+  EXPECT_EQ(Words(*window.Combo1), "MIRA ");
+  EXPECT_EQ(NomeDizionario, "LessicoItaliano.dat");
+  EXPECT_EQ(ContaLunghezza(1), 2);
+  window.menudizionari->close();
+  std::filesystem::remove(InFolder("mio & tuo.PRIV"));
+  EXPECT_THROW(window.menubrdiz.back()->trigger(), ProgramEnded);
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+}
+
+TEST_F(TelarDefTest, AsksWordTheDictionariesOnlineAndItsOwnHelp) {
+  RecordingWindow main;
+  TelarDef window(nullptr);
+  Open(window);
+  Click(window.Command2);
+  EXPECT_EQ(machine.written, Texts{"MO.A"});
+  machine.opens = false;
+  Click(window.Command2);
+  Click(window.Command3);
+  EXPECT_EQ(main.calls, Texts{"ApriMenu menuint"});
+  Click(window.Command3D3);
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+}
+
+}  // namespace
+}  // namespace telarium
