@@ -22,9 +22,8 @@
 namespace telarium {
 namespace {
 
-constexpr QSize MisuraIniziale(540, 430);  // logical pixels: it shall fit beside most words
+constexpr QSize MisuraIniziale(540, 440);  // logical pixels: it shall fit beside most words
 constexpr Colore BordoProgressione = 0xA0A0A0;
-constexpr int RigheDefinizione = 3;
 constexpr int AltezzaProgressione = 14;        // logical pixels
 constexpr int MinCaratteriParole = 16;         // of Combo1, in widths of a letter
 constexpr qsizetype MaxCaratteriElenco = 500;  // that a list shows of a clue; all of it is kept
@@ -91,8 +90,7 @@ void TelarDef::CreaDefinizione() {
   Frame5 = Chiamato(QStringLiteral("Frame5"), new QGroupBox(QStringLiteral("Definizione"), this));
   Text1 = Chiamato(QStringLiteral("Text1"), new CasellaDefinizione(Frame5));
   Text1->installEventFilter(this);
-  const int altezza = Text1->fontMetrics().lineSpacing() * RigheDefinizione;
-  Text1->setFixedHeight(altezza + 2 * Text1->frameWidth() + 8);
+  Text1->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as high as its buttons
   Command1 = Pulsante(QStringLiteral("Command1"), QStringLiteral("Cerca"),
                       QStringLiteral("Ricerca una definizione dal database."), Frame5);
   Command2 = Pulsante(QStringLiteral("Command2"), QStringLiteral("Word"),
@@ -163,7 +161,7 @@ void TelarDef::Disponi() {
   for (QPushButton* aiuto : {Command1, Command2, Command3})
     aiuti->addWidget(aiuto);
   auto* definizione = new QHBoxLayout(Frame5);
-  definizione->addWidget(Text1, 1, Qt::AlignTop);
+  definizione->addWidget(Text1, 1);
   definizione->addLayout(aiuti);
 
   auto* trovate = new QGridLayout(Frame4);
@@ -245,18 +243,19 @@ void TelarDef::PreparaMaschera() {
 }
 
 void TelarDef::Colloca(const QRect& schermo) {
-  // The word lies on the main window's surface.
-  const auto* principale = qobject_cast<QMainWindow*>(parentWidget());
-  const QPoint area = principale
-                          ? principale->centralWidget()->mapToGlobal(QPoint()) - schermo.topLeft()
-                          : QPoint();
-  const auto misura = [](QSize qt) {
-    return Misura{static_cast<double>(qt.width()), static_cast<double>(qt.height())};
-  };
+  const QMainWindow* principale = qobject_cast<QMainWindow*>(parentWidget());
+  if (!principale) return FinestraModale::Colloca(schermo);
+  // The word lies on the main window's surface. The frame that this window will have is not known
+  // before it shows; that of the main window is like it.
+  const QPoint area = principale->centralWidget()->mapToGlobal(QPoint()) - schermo.topLeft();
+  const QRect fuori = principale->frameGeometry(), dentro = principale->geometry();
+  const QSize intera = size() + fuori.size() - dentro.size();
   const Punto posto =
-      PostoDelDialogo(misura(frameGeometry().size()), misura(schermo.size()),
+      PostoDelDialogo({double(intera.width()), double(intera.height())},
+                      {double(schermo.width()), double(schermo.height())},
                       LaFinestra().AltezzaStatusBar1(), {double(area.x()), double(area.y())});
-  move(schermo.topLeft() + QPointF(posto.x, posto.y).toPoint());
+  move(schermo.topLeft() + QPointF(posto.x, posto.y).toPoint() + dentro.topLeft() -
+       fuori.topLeft());
 }
 
 void TelarDef::Attivata() {
