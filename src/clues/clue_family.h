@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,8 +20,10 @@ std::vector<std::string_view> PartiDellaFamiglia(std::string_view famiglia);
 std::vector<std::string_view> DefinizioniDellaFamiglia(std::string_view famiglia);
 
 // The parts of a text that is about to go would be views of nothing.
-std::vector<std::string_view> PartiDellaFamiglia(std::string&& famiglia) = delete;
-std::vector<std::string_view> DefinizioniDellaFamiglia(std::string&& famiglia) = delete;
+template <std::same_as<std::string> Passeggero>
+void PartiDellaFamiglia(Passeggero&& famiglia) = delete;
+template <std::same_as<std::string> Passeggero>
+void DefinizioniDellaFamiglia(Passeggero&& famiglia) = delete;
 
 inline constexpr int MaxDefinizioni = 1000;
 /// The clues that spezzatesto has found, from entry 1; the entry behind the last one is empty.

@@ -70,6 +70,10 @@ void TelarProcess::Interrupt() {
   Send(SIGINT);
 }
 
+void TelarProcess::Kill() {
+  Send(SIGKILL);
+}
+
 void TelarProcess::Send(int signal) {
   ASSERT_GT(pid_, 0);  // any other number would mean a whole group of processes
   EXPECT_EQ(::kill(pid_, signal), 0);

@@ -39,6 +39,8 @@ class TelarProcess {
   void WaitUntil(const std::function<bool()>& condition);
   /// Sends what Ctrl+C sends.
   void Interrupt();
+  /// Ends it at once, as `kill -9` does.
+  void Kill();
   TelarResult WaitForEnd();
 
  private:

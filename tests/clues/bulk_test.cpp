@@ -1,0 +1,195 @@
+#include "clues/bulk.h"
+
+#include <sqlite3.h>
+
+#include "clues/import.h"
+#include "model/words.h"
+#include "platform/text.h"
+#include "support/clue_store.h"
+#include "support/recording_window.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+std::string FetchReport(int horizontal, int vertical) {
+  return Unisci(
+      "L'operazione di recupero delle definizioni \xE8 terminata con "
+      "successo.\r\nDall'enciclopedia "
+      "sono state trovate e compilate N. ",
+      horizontal, " definizioni orizzontali e N. ", vertical,
+      " definizioni verticali. Cliccare sul bottone 'Vista tabellare' della barra principale per "
+      "vedere le parole inserite.");
+}
+
+std::string MergeReport(std::string_view first, int words, int clues) {
+  return Unisci(first, "\r\nSono state aggiunte ", words,
+                " parole all'enciclopedia.\r\nSono state aggiornate ", clues,
+                " definizioni all'enciclopedia aggiungendo nuovi termini.\r\n");
+}
+
+std::string SaveReport(int words, int clues) {
+  return MergeReport(
+      "Tutte le definizioni presenti in questo sdhema sono state salvate sull'enciclopedia con "
+      "successo.",
+      words, clues);
+}
+
+std::string ImportReport(int words, int clues) {
+  return MergeReport(
+      "Le definizioni prelevate dal file di Internet sono state salvate sull'enciclopedia con "
+      "successo.",
+      words, clues);
+}
+
+class BulkTest : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    Draw({"MELA", "A#.#", "RE#A"});
+    Definizione(1, 1, Orizzontale) = "vecchia";
+    Definizione(1, 3, Orizzontale) = "sovrano";
+  }
+
+  std::string& MELA = Definizione(1, 1, Orizzontale);
+  std::string& MAR = Definizione(1, 1, Verticale);
+  std::string& L_ = Definizione(3, 1, Verticale);  // "L.", which is not complete
+  std::string& RE = Definizione(1, 3, Orizzontale);
+  RecordingWindow window;
+};
+
+TEST_F(BulkTest, FetchDrawsFromTheFamiliesOfItsMode) {
+  MakeStore("MELA\tF\tf1\nMELA\tF\tf2\nMELA\tD\td1\nMAR\tD\td2\n");
+  ApriEnciclopedia()->AggiungiParola("L.", "no");
+  L_ = "resta";
+  machine.draws = {0.99, 0.0};
+  Prelevadefinizioni(ModoTutte);
+  EXPECT_EQ(MELA, "d1");
+  EXPECT_EQ(MAR, "d2");
+  EXPECT_EQ(L_, "resta");
+  EXPECT_EQ(RE, "sovrano") << "the encyclopedia does not know the word";
+  machine.draws = {0.5, 0.5};
+  Prelevadefinizioni(ModoFacili);
+  EXPECT_EQ(MELA, "f2");
+  EXPECT_EQ(MAR, "") << "known with hard clues alone: the empty clue, and counted";
+  Prelevadefinizioni(ModoDifficili);
+  EXPECT_EQ(MELA + MAR, "d1d2");
+  EXPECT_EQ(user.TakeTexts(), (Texts{FetchReport(1, 1), FetchReport(1, 1), FetchReport(1, 1)}));
+  EXPECT_EQ(user.pointerShapes.front(), PuntatoreClessidra);
+  EXPECT_EQ(PuntatoreMouse, PuntatoreFreccia);
+  EXPECT_EQ(SchemaModificato, Falso);
+  EXPECT_TRUE(window.shown.empty());
+}
+
+TEST_F(BulkTest, EveryClueHasTheSameChance) {
+  MakeStore("MELA\tF\t0\nMELA\tF\t1\nMELA\tD\t2\nMELA\tD\t3\n");
+  int drawn[4] = {};
+  for (int n = 0; n < 2000; ++n) {
+    ASSERT_TRUE(PrelevaTutte(ModoTutte));
+    ++drawn[MELA.front() - '0'];
+  }
+  for (const int times : drawn)
+    EXPECT_NEAR(times, 500, 100);
+}
+
+TEST_F(BulkTest, WithoutAStoreNothingChanges) {
+  Prelevadefinizioni(ModoTutte);
+  SalvaDefinizioni();
+  Recupera_Definizioni();
+  const std::string missing = "Enciclopedia telarium1.mdb: il file manca o non si pu\xF2 aprire.";
+  EXPECT_EQ(user.TakeTexts(), (Texts{missing, missing, missing}));
+  EXPECT_EQ(window.shown, (std::vector{Modale::Form6, Modale::Form6, Modale::Form6}));
+  EXPECT_EQ(MELA, "vecchia");
+}
+
+TEST_F(BulkTest, EmptyGridFetchesNothingFromAStoreThatIsOpenedAllTheSame) {
+  Draw({"##", "##"});
+  MakeStore("");
+  Prelevadefinizioni(ModoTutte);
+  EXPECT_EQ(user.TakeTexts(), Texts{FetchReport(0, 0)});
+}
+
+TEST_F(BulkTest, SavingTwiceAddsNothingTheSecondTime) {
+  MakeStore("MELA\tF\tLa pi\xC3\xB9 vecchia fra tutte\nRE\tD\tsovrano\n");
+  MAR = "nuova";
+  L_ = "non completa";
+  SalvaDefinizioni();
+  SalvaDefinizioni();
+  EXPECT_EQ(user.TakeTexts(), (Texts{SaveReport(1, 1), SaveReport(0, 0)}));
+  EXPECT_EQ(Stored("MELA"), "La più vecchia fra tutte") << "a part of a stored clue is there";
+  EXPECT_EQ(Stored("RE"), "\r\nsovrano");
+  EXPECT_EQ(Stored("MAR") + Stored("MAR", true), "nuova-");
+  EXPECT_EQ(Stored("L."), "?");
+  EXPECT_EQ(SchemaModificato, Falso);
+}
+
+TEST_F(BulkTest, ErrorWhileSavingKeepsWhatWasWritten) {
+  MakeStore("");
+  RE = "r";
+  MAR = "m";
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open(InFolder("telarium1.mdb").c_str(), &other), SQLITE_OK);
+  sqlite3_exec(other,
+               "DROP TABLE Parole; CREATE TABLE Parole (PAROLA TEXT CHECK (PAROLA <> 'RE'),"
+               " DEFINIZ_FACILE TEXT, DEFINIZ_DIFFIC TEXT)",
+               nullptr, nullptr, nullptr);
+  sqlite3_close(other);
+  SalvaDefinizioni();
+  const Texts texts = user.TakeTexts();
+  ASSERT_EQ(texts.size(), 1u);
+  EXPECT_TRUE(texts[0].starts_with("Enciclopedia telarium1.mdb: CHECK constraint"));
+  EXPECT_EQ(Stored("MELA") + Stored("MAR"), "vecchiam");
+  EXPECT_EQ(PuntatoreMouse, PuntatoreFreccia);
+}
+
+TEST_F(BulkTest, ImportTakesPairsOfLines) {
+  MakeStore("DURA\tD\tche fatica\nMELA\tF\tIl frutto\n");
+  WriteFile("DEFINIZIONI.TXT",
+            "  CASA  \r\n Dove si sta \r\nCASA\nDOVE si sta\rCASA\r\nTetto\r\nMELA\r\nfrutto\r\n"
+            "DURA\r\nche fatica\r\nL'ORO\r\nx\r\nUN PO\r\nx\r\nA-B\r\nx\r\nA,B\r\nx\r\nA.B\r\nx\r\n"
+            "\r\nsenza parola\r\nVUOTA\r\n   \r\nminuta\r\nCitt\xE0\r\nULTIMA");
+  Recupera_Definizioni();
+  Recupera_Definizioni();
+  EXPECT_EQ(user.TakeTexts(), (Texts{ImportReport(2, 2), ImportReport(0, 0)}));
+  EXPECT_EQ(Stored("CASA"), "Dove si sta\r\nTetto");
+  EXPECT_EQ(Stored("DURA"), "\r\nche fatica");
+  EXPECT_EQ(Stored("minuta"), "Città");
+  EXPECT_EQ(ApriEnciclopedia()->Chiavi().size(), 4u);
+  EXPECT_EQ(window.importCaption, "1 CASA");
+}
+
+TEST_F(BulkTest, ImportTakesStrangeFilesAsTheyAre) {
+  MakeStore("");
+  Recupera_Definizioni();
+  WriteFile("definizIONI.txt", "");
+  Recupera_Definizioni();
+  WriteFile("definizIONI.txt",
+            "\xEF\xBB\xBF"
+            "CAFF\xC3\x88\nNero e caff\xC3\xA8\n");
+  Recupera_Definizioni();
+  WriteFile("definizIONI.txt", std::string("A\0B\nx\0y\nC\n", 10) + std::string(10'000'000, 'z'));
+  Recupera_Definizioni();
+  EXPECT_EQ(user.TakeTexts(),
+            (Texts{"Il file definizIONI.txt non c'\xE8 nella cartella del programma: nessuna "
+                   "definizione \xE8 stata importata.",
+                   ImportReport(0, 0), ImportReport(1, 0), ImportReport(2, 0)}));
+  EXPECT_EQ(Stored("CAFF\xC8"), "Nero e caffè");
+  EXPECT_EQ(Stored("C").size(), 10'000'000u);
+}
+
+TEST_F(BulkTest, ImportCountsAWordThatCannotBeAdded) {
+  MakeStore("");
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open(InFolder("telarium1.mdb").c_str(), &other), SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+  WriteFile("definizIONI.txt", "A\nx\nB\ny\n");
+  Recupera_Definizioni();
+  sqlite3_close(other);
+  EXPECT_EQ(user.TakeTexts(), Texts{ImportReport(2, 0)});
+  EXPECT_EQ(Stored("A"), "?");
+}
+
+}  // namespace
+}  // namespace telarium

@@ -1,0 +1,220 @@
+#include "clues/encyclopedia.h"
+
+#include <filesystem>
+#include <sqlite3.h>
+
+#include "clues/clue_family.h"
+#include "clues/encyclopedia_writer.h"
+#include "support/clue_store.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+namespace fs = std::filesystem;
+
+class EncyclopediaTest : public TelariumTest {
+ protected:
+  Percorso store = InFolder("telarium1.mdb");
+
+  // Statements on the store past the program, as another one would run them.
+  void Sql(const char* statements) {
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(store.c_str(), &other), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(other, statements, nullptr, nullptr, nullptr), SQLITE_OK)
+        << sqlite3_errmsg(other);
+    sqlite3_close(other);
+  }
+
+  // What an operation on the open store fails with; empty when it does not.
+  static std::string ErrorOf(const std::function<void(Enciclopedia&)>& operation = {}) {
+    try {
+      const EnciclopediaAperta open = ApriEnciclopedia();
+      if (operation) operation(*open);
+      return {};
+    } catch (const ErroreEnciclopedia& error) {
+      const std::string& text = error.Descrizione();
+      return text.substr(text.find(": ") + 2);
+    }
+  }
+
+  static std::string Keys() {
+    std::string keys;
+    for (const ChiaveRiga& key : ApriEnciclopedia()->Chiavi())
+      keys += key.parola + ' ';
+    return keys;
+  }
+};
+
+TEST_F(EncyclopediaTest, FirstRowOfAWordIsFoundFromAnywhere) {
+  MakeStore("B\tF\tseconda\nA\tF\tprima\nA\tD\tdura\n");
+  Sql("INSERT INTO Parole VALUES ('A', 'doppia', NULL)");
+  const EnciclopediaAperta open = ApriEnciclopedia();
+  EXPECT_EQ(open->LeggiFacili(), "prima") << "the first row is current";
+  EXPECT_TRUE(open->CercaParola("B"));
+  EXPECT_EQ(open->LeggiDifficili(), std::nullopt);
+  EXPECT_FALSE(open->CercaParola("C"));
+  EXPECT_THROW(open->LeggiFacili(), ErroreEnciclopedia);
+  EXPECT_TRUE(open->CercaParola("A"));
+  EXPECT_EQ(open->LeggiFacili(), "prima");
+  EXPECT_FALSE(open->CercaParola("a"));
+  EXPECT_FALSE(open->CercaParola("A%") || open->CercaParola("\" OR 1=1 --"));
+  EXPECT_EQ(Keys(), "A A B ");
+}
+
+TEST_F(EncyclopediaTest, ClueIsAppendedBehindALineBreakAlsoToANullFamily) {
+  MakeStore("A\tD\tdura\nB\tF\tIl Prete\n");
+  {
+    const EnciclopediaAperta open = ApriEnciclopedia();
+    ASSERT_TRUE(open->CercaParola("A"));
+    EXPECT_FALSE(open->ContieneDefinizione("dura")) << "the hard family is not looked at";
+    open->ScriviFacili("prima");
+    open->ScriviFacili("seconda");
+    ASSERT_TRUE(open->CercaParola("B"));
+    EXPECT_TRUE(open->ContieneDefinizione("RE") && open->ContieneDefinizione("il prete"));
+    open->AggiungiParola("C", "citt\xE0 '\"; \x80");
+    EXPECT_TRUE(open->ContieneDefinizione("CITT\xC0"));
+  }
+  EXPECT_EQ(Stored("A"), "\r\nprima\r\nseconda");
+  EXPECT_EQ(Stored("A", true), "dura");
+  EXPECT_EQ(Stored("C"), "città '\"; €");
+  EXPECT_EQ(Stored("C", true), "-");
+}
+
+TEST_F(EncyclopediaTest, CharactersOutsideTheCodePageShowAsQuestionMarksAndStay) {
+  MakeStore("A\tF\tx\nB\tF\ty\n");
+  Sql("UPDATE Parole SET DEFINIZ_FACILE = 'Ω' || char(13) || 'b', DEFINIZ_DIFFIC = 'Ж'");
+  {
+    const EnciclopediaAperta open = ApriEnciclopedia();
+    EXPECT_EQ(open->LeggiFacili(), "?\rb");
+    open->ScriviFacili("c");
+    const NumeroRiga row = open->Chiavi().front().numero;
+    open->ScriviRiga(row, {.parola = "ALTRA", .facili = {}, .difficili = {}});
+    open->ScriviRiga(row, {.parola = {}, .facili = {}, .difficili = ""});
+    EXPECT_EQ(open->LeggiRiga(row).parola, "ALTRA");
+    EXPECT_EQ(open->LeggiRiga(row).difficili, std::nullopt) << "an emptied family is null";
+  }
+  Sql("CREATE TABLE Esito AS SELECT 1 FROM Parole WHERE PAROLA = 'ALTRA' AND"
+      " DEFINIZ_FACILE = 'Ω' || char(13) || 'b' || char(13, 10) || 'c'");
+  Sql("INSERT INTO Parole SELECT 'TROVATA', NULL, NULL FROM Esito");
+  EXPECT_EQ(Stored("TROVATA"), "-");
+}
+
+TEST_F(EncyclopediaTest, RowsComeAndGoByTheirNumbers) {
+  MakeStore("A\tF\tx\n");
+  const EnciclopediaAperta open = ApriEnciclopedia();
+  const NumeroRiga row = open->InserisciRiga({});
+  EXPECT_EQ(open->LeggiRiga(row).parola, "");
+  open->EliminaRiga(row);
+  EXPECT_THROW(open->LeggiRiga(row), ErroreEnciclopedia);
+  EXPECT_THROW(open->ScriviRiga(row, {.parola = "B", .facili = {}, .difficili = {}}),
+               ErroreEnciclopedia);
+}
+
+TEST_F(EncyclopediaTest, FilesThatAreNoStoreAreToldAndNeverWritten) {
+  MakeStore("A\tF\tx\nB\tD\ty\n");
+  const std::string good = ReadFile(store);
+  std::string lying = good;
+  lying[100 + 3] = '\x7F';  // the number of cells on the first page
+  struct Case {
+    const char* name;
+    std::string bytes;
+    std::string error;
+  };
+  const Case cases[] = {
+      {"another format", std::string(5000, 'x'), "il file non \xE8 un'enciclopedia."},
+      {"empty", "", "(no such table: Parole)."},
+      {"cut off", good.substr(0, 5000), "il file \xE8 danneggiato."},
+      {"damaged", lying, "il file \xE8 danneggiato."},
+  };
+  for (const auto& [name, bytes, error] : cases) {
+    SCOPED_TRACE(name);
+    WriteFile("telarium1.mdb", bytes);
+    const std::string told = ErrorOf([](Enciclopedia& open) {
+      open.CercaParola("B");
+      open.AggiungiParola("C", "z");
+    });
+    EXPECT_TRUE(told.ends_with(error)) << told;
+    EXPECT_EQ(FirstDifference(ReadFile(store), bytes), "");
+  }
+  fs::remove(store);
+  EXPECT_EQ(ErrorOf(), "il file manca o non si pu\xF2 aprire.");
+  EXPECT_FALSE(fs::exists(store));
+  WriteFile("telarium1.mdb", good);
+  Sql("ALTER TABLE Parole DROP COLUMN DEFINIZ_DIFFIC");
+  EXPECT_TRUE(ErrorOf().ends_with("(no such column: DEFINIZ_DIFFIC)."));
+}
+
+TEST_F(EncyclopediaTest, StoreHeldByAnotherProgramIsToldAfterAWhile) {
+  MakeStore("A\tF\tx\n");
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open(store.c_str(), &other), SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+  EXPECT_EQ(ErrorOf(), "il file \xE8 occupato da un altro programma.");
+  sqlite3_close(other);
+  EXPECT_EQ(ErrorOf(), "");
+}
+
+TEST_F(EncyclopediaTest, TheFileIsWholeAndAloneAfterEachConnection) {
+  MakeStore("A\tF\tx\n");
+  {
+    const EnciclopediaAperta browser = ApriEnciclopedia();
+    ApriEnciclopedia()->AggiungiParola("B", "y");
+    EXPECT_TRUE(browser->CercaParola("B")) << "a browser sees what another connection stores";
+  }
+  fs::copy_file(store, InFolder("copia"));
+  fs::rename(InFolder("copia"), store);
+  EXPECT_EQ(Stored("B"), "y");
+  EXPECT_EQ(ElencaFile(InFolder(""), "telarium1*").size(), 1u);
+}
+
+TEST_F(EncyclopediaTest, WriterReplacesTheOldStoreWhenTheNewOneIsComplete) {
+  MakeStore("VECCHIA\tF\tx\n");
+  WriteFile("telarium1.mdb-wal", "the log of a killed program");
+  VociDiEnciclopedia entries;
+  const EsitoLista list = AggiungiVoci(
+      "zia\tF\tSorella di mamma\r\nZIA\tD\t \xE2\x82\xAC \n\nZIA\tF\tSorella di mamma\n"
+      "UN ALTRO\tF\tx\nZIA\tX\tx\nZIA\tF\t\nZIA\nZIA\tF\ta\tb\nZIA\tF\t\xCE\xA9\nZIA\tF\t\xFF\n",
+      entries);
+  EXPECT_EQ(list.tralasciate, 7);
+  EXPECT_EQ(list.primaTralasciata, 5);
+  const EsitoEnciclopedia made = ScriviEnciclopedia(entries);
+  EXPECT_EQ(made.errore, "");
+  EXPECT_EQ(made.parole, 1);
+  EXPECT_EQ(made.definizioni, 2);
+  EXPECT_EQ(Stored("ZIA"), "Sorella di mamma");
+  EXPECT_EQ(Stored("ZIA", true), "€");
+  EXPECT_EQ(Stored("VECCHIA"), "?");
+
+  CartellaProgramma = InFolder("manca");
+  EXPECT_NE(ScriviEnciclopedia(entries).errore, "");
+}
+
+TEST(ClueFamily, SplitsAtLineBreaksAlone) {
+  using Parts = std::vector<std::string_view>;
+  EXPECT_EQ(PartiDellaFamiglia(""), Parts{""});
+  EXPECT_EQ(PartiDellaFamiglia("\r\na\r\n \r\nb\nc\rd\r\n"), (Parts{"", "a", " ", "b\nc\rd", ""}));
+  EXPECT_EQ(DefinizioniDellaFamiglia("\r\n a \r\n \r\nb\r\n"), (Parts{" a ", "b"}));
+}
+
+TEST(ClueFamily, SpezzatestoKeepsAThousand) {
+  std::string text;
+  for (int n = 1; n <= 1200; ++n)
+    text += std::to_string(n) + "\r\n";
+  spezzatesto(text);
+  EXPECT_EQ(text, "1000");
+  EXPECT_EQ(ElencoDefinizioni(1000), "1000");
+  text = " \r\n";
+  spezzatesto(text);
+  EXPECT_EQ(text, "0");
+  EXPECT_EQ(ElencoDefinizioni(1) + ElencoDefinizioni(1000), "");
+}
+
+TEST(ClueList, AnswerIsFoundAsAWordOfItsOwn) {
+  EXPECT_TRUE(ContieneRisposta("Il per\xF9 degli Inca", "PERU"));
+  EXPECT_TRUE(ContieneRisposta("l'ORO", "ORO"));
+  EXPECT_FALSE(ContieneRisposta("Tesoro d'oriente", "ORO"));
+}
+
+}  // namespace
+}  // namespace telarium
