@@ -1,0 +1,196 @@
+#include <QApplication>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <unistd.h>
+
+#include <benchmark/benchmark.h>
+
+#include "clues/bulk.h"
+#include "clues/clue_family.h"
+#include "clues/encyclopedia.h"
+#include "clues/encyclopedia_writer.h"
+#include "clues/import.h"
+#include "clues/windows/TelarDef.h"
+#include "crossworddialogs/new_crossword.h"
+#include "editor/cell_editing.h"
+#include "editor/settings.h"
+#include "median_keeper.h"
+#include "model/crossword_file.h"
+#include "model/words.h"
+#include "offscreen_main.h"
+#include "support/scripted_platform.h"
+
+// Measures the bulk moves and the import of clues, and the windows over the encyclopedia, on the
+// real store and on a screen that nobody sees.
+namespace telarium {
+namespace {
+
+constexpr int Pairs = 50'000;
+
+Percorso folder;
+
+void Expect(bool condition) {
+  if (!condition) abort();
+}
+
+// A folder in which each benchmark begins with the store that the build has made.
+void FreshStore() {
+  std::filesystem::copy_file(Percorso(TELARIUM_DATA_DIR) / NomeEnciclopedia,
+                             folder / NomeEnciclopedia,
+                             std::filesystem::copy_options::overwrite_existing);
+}
+
+std::vector<std::string> WordsOfTheStore(std::size_t length) {
+  std::vector<std::string> words;
+  for (const ChiaveRiga& key : ApriEnciclopedia()->Chiavi())
+    if (key.parola.size() == length) words.push_back(key.parola);
+  return words;
+}
+
+// A grid of the largest size in which each horizontal word of five letters is one of the store's;
+// the vertical ones are as they come.
+void FillGrid() {
+  Expect(NuovoVuoto(MaxColonne, MaxRighe) == EsitoNuovo::Fatto);
+  for (int r = 1; r <= MaxRighe; ++r)
+    for (int c = 1; c <= MaxColonne; ++c)
+      if ((c + r) % 6 == 0) ScriviInSchema({c, r}, CellaNera);
+  RicalcolaCaselle();
+  const std::vector<std::string> words = WordsOfTheStore(5);
+  std::size_t next = 0;
+  PerOgniParola([&](const Slot& slot) {
+    if (slot.direzione == Orizzontale) ScriviInSchema(slot, words[(next += 17) % words.size()]);
+  });
+  // Incomplete words at the edges too.
+  PerOgniParola([&](const Slot& slot) {
+    for (int k = 1; k <= slot.lunghezza; ++k) {
+      const auto [c, r] = slot.Cella(k);
+      if (Schema(r + RigheIntestazione)[2 * static_cast<std::size_t>(c) - 2] == CellaVuota)
+        ScriviInSchema({c, r}, 'A');
+    }
+  });
+  RicalcolaCaselle();
+}
+
+int CountWords() {
+  int words = 0;
+  PerOgniParola([&](const Slot&) { ++words; });
+  return words;
+}
+
+void BM_Fetch(benchmark::State& state) {
+  FreshStore();
+  for (auto _ : state)
+    Expect(PrelevaTutte(ModoTutte).has_value());
+}
+
+// The plain way: all rows in memory, and a look at each from the first one for every word.
+void BM_PlainFetch(benchmark::State& state) {
+  FreshStore();
+  for (auto _ : state) {
+    const EnciclopediaAperta store = ApriEnciclopedia();
+    const std::vector<ChiaveRiga> keys = store->Chiavi();
+    std::vector<RigaParole> rows;
+    for (const ChiaveRiga& key : keys)
+      rows.push_back(store->LeggiRiga(key.numero));
+    PerOgniParola([&](const Slot& slot) {
+      const std::string word = LettereDi(slot);
+      const auto row = std::find_if(rows.begin(), rows.end(),
+                                    [&](const RigaParole& one) { return one.parola == word; });
+      if (row == rows.end()) return;
+      std::string text = row->facili.value_or("") + "\r\n" + row->difficili.value_or("");
+      spezzatesto(text);
+      Definizione(slot.inizio.colonna, slot.inizio.riga, slot.direzione) = ElencoDefinizioni(1);
+    });
+  }
+}
+
+void BM_Save(benchmark::State& state) {
+  int round = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    FreshStore();
+    ++round;
+    PerOgniParola([&](const Slot& slot) {
+      const auto [c, r] = slot.inizio;
+      Definizione(c, r, slot.direzione) = Unisci("Nuova ", c, ' ', r, ' ', slot.direzione, round);
+    });
+    state.ResumeTiming();
+    Expect(SalvaTutte().has_value());
+  }
+}
+
+void BM_Import(benchmark::State& state) {
+  std::ofstream file(folder / NomeFileDefinizioni, std::ios::binary);
+  for (int n = 0; n < Pairs; ++n)
+    file << "PAROLA" << n << "\r\nDefinizione numero " << n << "\r\n";
+  file.close();
+  for (auto _ : state) {
+    state.PauseTiming();
+    Expect(ScriviEnciclopedia({}).errore.empty());
+    state.ResumeTiming();
+    Expect(ImportaDefinizioni().has_value());
+  }
+}
+
+// The longest section with all places free, until the list stands on the screen.
+void BM_MaskedSearch(benchmark::State& state) {
+  CartellaProgramma = TELARIUM_DATA_DIR;
+  NomeDizionario = DizionariDiSistema[0];
+  Expect(ApriDizionario());
+  CartellaProgramma = folder;
+  std::filesystem::copy_file(Percorso(TELARIUM_DATA_DIR) / NomeDizionario, folder / NomeDizionario,
+                             std::filesystem::copy_options::overwrite_existing);
+  Expect(NuovoVuoto(12, 3) == EsitoNuovo::Fatto);
+  RicalcolaCaselle();
+  CursoreX = CursoreY = 1;
+  Direzione = Orizzontale;
+  TelarDef window(nullptr);
+  window.show();
+  while (!window.Pronta())
+    QApplication::processEvents();
+  for (auto _ : state) {
+    window.Command3D4->click();
+    window.grab();
+    Expect(window.Combo1->count() == MaxParole);
+  }
+}
+
+int Main() {
+  const CartellaTemporanea temporary;
+  folder = temporary.Nome();
+  CartellaProgramma = folder;
+  ScriptedPlatform platform;
+  ImpostaPiattaforma(&platform);
+  ImpostazioniIniziali();
+  FreshStore();
+  FillGrid();
+  const int words = CountWords();
+  Register("fetch", BM_Fetch);
+  Register("plain_fetch", BM_PlainFetch);
+  Register("save", BM_Save);
+  Register("import", BM_Import);
+  Register("masked_search", BM_MaskedSearch);
+  MedianKeeper reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  auto& ms = reporter.medians;
+  std::printf("\n| | Telarium, ms | wanted |\n|---|---|---|\n");
+  std::printf(
+      "| fetch of the clues of a full 53x30 (%d words), opening included | %.1f | under 100 |\n",
+      words, ms["fetch"]);
+  std::printf("| the same by a look at all rows for each word, %.0f times as long | %.1f | |\n",
+              ms["plain_fetch"] / ms["fetch"], ms["plain_fetch"]);
+  std::printf("| save of its clues, all new | %.1f | under 300 |\n", ms["save"]);
+  std::printf("| import of %d pairs into an empty store | %.0f | under 5000 |\n", Pairs,
+              ms["import"]);
+  std::printf("| masked search of 32,767 words, list on the screen | %.1f | under 100 |\n",
+              ms["masked_search"]);
+  return 0;
+}
+
+}  // namespace
+}  // namespace telarium
+
+int main(int argc, char** argv) {
+  return telarium::RunOffscreen(argc, argv, telarium::Main);
+}
