@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <set>
 
+#include "clues/encyclopedia.h"
 #include "crossworddialogs/model_file.h"
 #include "dictionary/dictionary.h"
+#include "dictionary/masked_search.h"
 #include "editor/redraw.h"
 #include "editor/settings.h"
 #include "model/crossword_file.h"
@@ -104,6 +106,21 @@ TEST_F(DataTest, StandardModelsAreGoodGrids) {
   }
   EXPECT_GE(symmetric, 6);
   EXPECT_GE(withoutVeryLong, 6);
+}
+
+TEST_F(DataTest, EncyclopediaHasCluesForEveryShortestWord) {
+  CartellaProgramma = TELARIUM_DATA_DIR;
+  ASSERT_TRUE(ApriDizionario());
+  const EnciclopediaAperta store = ApriEnciclopedia();
+  EXPECT_GE(store->Chiavi().size(), 173'128u);
+  EXPECT_EQ(CercaParole("   ",
+                        [&](std::string_view word) {
+                          EXPECT_TRUE(store->CercaParola(word) && store->LeggiFacili()) << word;
+                        })
+                .trovate,
+            584);
+  ASSERT_TRUE(store->CercaParola("ZEN"));
+  EXPECT_EQ(store->LeggiDifficili(), "Fa meditare sull'applauso di una mano sola");
 }
 
 TEST_F(DataTest, SettingsFileHoldsTheInitialSettings) {
