@@ -53,5 +53,12 @@ TEST_F(ClueEditorTest, PopupHasNoSecondSeparatorWithoutPrivateDictionaries) {
   EXPECT_EQ(NumVociDizionari, 4);
 }
 
+TEST_F(ClueEditorTest, DictionaryThatIsGoneWhenItIsPickedEndsTheProgram) {
+  bool searched = false;
+  EXPECT_THROW(ConDizionario("Mio.priv", [&] { searched = true; }), ProgramEnded);
+  EXPECT_FALSE(searched);
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+}
+
 }  // namespace
 }  // namespace telarium
