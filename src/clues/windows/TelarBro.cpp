@@ -8,7 +8,6 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <utility>
 
 #include "clues/clue_search.h"
 #include "clues/small_grid.h"
@@ -21,6 +20,7 @@ namespace {
 
 // Places in the window, in pixels; widths of picture and table in parts of the window's width.
 constexpr int Bordo = 6;
+constexpr QSize MisuraMinima(600, 300);
 constexpr int LarghezzaIntera = 640;
 constexpr int LarghezzaPicture1 = 350;
 constexpr int LarghezzaGitter1 = 270;
@@ -87,6 +87,7 @@ TelarBro::TelarBro(QWidget* genitore)
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->setMenuBar(CreaMenu());
   campo_ = Chiamato(QStringLiteral("Campo"), new QWidget(this));
+  campo_->setMinimumSize(MisuraMinima);
   colonna->addWidget(campo_);
   Picture1 = Chiamato(QStringLiteral("Picture1"), new Tela(campo_));
   Picture1->QuandoCambiaMisura([this] { DisegnaSchema(); });
@@ -167,8 +168,7 @@ void TelarBro::CreaBottoni() {
   connect(Command1, &QPushButton::clicked, this, [this] { Varia(); });
   connect(Command2, &QPushButton::clicked, this, [this] { Cerca(); });
   connect(Command3d1, &QPushButton::clicked, this, [this] {
-    // A failure has shown its message; what it holds is not lost, for the older snapshot is not
-    // read back then.
+    // After a failure, which has been told, the older snapshot is not read back: nothing is lost.
     static_cast<void>(ScriviIstantanea());
     accept();
   });
