@@ -51,6 +51,10 @@ bool ParolaAccettata(std::string_view testo, int lunghezza) {
   return true;
 }
 
+void AvvisaDefinizioneNonScrivibile() {
+  Avvisa("La definizione contiene caratteri che il file del cruciverba non può tenere."_cp);
+}
+
 std::optional<Famiglie> CercaFamiglie(std::string_view testo, std::string_view incompleta) {
   const std::string parola = Maiuscole(SenzaSpazi(testo));
   if (parola.size() < 2 || parola.find(CellaVuota) != std::string::npos) {

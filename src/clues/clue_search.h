@@ -14,6 +14,9 @@ inline constexpr int MaxCaratteriDefinizione = 60;
 /// a capital from A to Z or "." for an empty cell. What is wrong has been told.
 bool ParolaAccettata(std::string_view testo, int lunghezza);
 
+/// Tells that a typed clue holds what the code page, and so the file of a crossword, cannot write.
+void AvvisaDefinizioneNonScrivibile();
+
 /// The two families of a word; a null one is empty.
 struct Famiglie {
   std::string facili;

@@ -18,12 +18,14 @@ bool ConEnciclopedia(const std::function<void()>& operazione) {
   }
 }
 
-Clessidra::Clessidra() {
-  ImpostaPuntatoreMouse(PuntatoreClessidra);
+FormaDelPuntatore::FormaDelPuntatore(int forma) {
+  ImpostaPuntatoreMouse(forma);
 }
 
-Clessidra::~Clessidra() {
+FormaDelPuntatore::~FormaDelPuntatore() {
   ImpostaPuntatoreMouse(PuntatoreFreccia);
 }
+
+Clessidra::Clessidra() : FormaDelPuntatore(PuntatoreClessidra) {}
 
 }  // namespace telarium

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "crossworddialogs/grid_preview.h"
+#include "editor/grid_preview.h"
 #include "model/words.h"
 #include "platform/platform.h"
 #include "platform/text.h"

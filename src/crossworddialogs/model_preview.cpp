@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "crossworddialogs/grid_preview.h"
+#include "editor/grid_preview.h"
 #include "editor/settings.h"
 #include "platform/text.h"
 

@@ -50,6 +50,12 @@ void ScriviLettera(Superficie& superficie, double centroX, double centroY, doubl
   superficie.Scrivi(testo);
 }
 
+void ScriviNumero(Superficie& superficie, double x, double y, double distanza, int numero) {
+  constexpr int Bordo = 2;  // beside the cell's outline
+  superficie.Posizione(x + Bordo + distanza, y + distanza);
+  superficie.Scrivi(std::to_string(numero));
+}
+
 const std::string& FontDelleLettere() {
   if (NomeFont.empty()) NomeFont = CarattereIniziale;
   return NomeFont;

@@ -29,6 +29,9 @@ double CorpoNumeri(double lato);
 void ScriviLettera(Superficie& superficie, double centroX, double centroY, double lato,
                    char lettera);
 
+/// Writes the clue number of a cell in the surface's type, so far from the cell's left top corner.
+void ScriviNumero(Superficie& superficie, double x, double y, double distanza, int numero);
+
 /// The typeface of the letters; an empty NomeFont becomes "Arial".
 const std::string& FontDelleLettere();
 

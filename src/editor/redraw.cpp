@@ -17,19 +17,6 @@ constexpr int DistanzaCornice = 2;     // white ground between the cells and the
 constexpr double MinCorpoLettere = 6;  // points
 constexpr int RientroCasellaBianca = 2;
 
-// Fits the cells into the band between the bars and centres the grid there.
-void CalcolaGeometria(const Superficie& superficie) {
-  const double w = superficie.LarghezzaSuperficie();
-  const double h = superficie.AltezzaSuperficie();
-  const double t = LaFinestra().AltezzaToolbar1();
-  const double s = LaFinestra().AltezzaStatusBar1();
-  const int a = ArrotondaPari((w - 2 * MargineProvvisorio - 4) / NumColonne);
-  const int b = ArrotondaPari((h - t - s - 2 - 2 * MargineProvvisorio - 4) / NumRighe);
-  LatoCasella = static_cast<std::int16_t>(std::max(std::min(a, b), 0));
-  OrigineX = static_cast<std::int16_t>(ArrotondaPari((w - LatoCasella * NumColonne) / 2));
-  OrigineY = static_cast<std::int16_t>(ArrotondaPari((t + h - 2 - s - LatoCasella * NumRighe) / 2));
-}
-
 void DisegnaFondoECornice(Superficie& superficie) {
   const double x1 = OrigineX - DistanzaCornice;
   const double y1 = OrigineY - DistanzaCornice;
@@ -67,8 +54,7 @@ void DisegnaNumeri(Superficie& superficie) {
   for (int r = 1; r <= NumRighe; ++r) {
     for (int c = 1; c <= NumColonne; ++c) {
       if (NumeroCasella(c, r) == 0) continue;
-      superficie.Posizione(BordoSinistro(c) + 2 + distanza, BordoAlto(r) + distanza);
-      superficie.Scrivi(std::to_string(NumeroCasella(c, r)));
+      ScriviNumero(superficie, BordoSinistro(c), BordoAlto(r), distanza, NumeroCasella(c, r));
     }
   }
 }
@@ -78,7 +64,7 @@ void DisegnaSchema(Superficie& superficie) {
   LaFinestra().MostraCommand3d15(false);
   LaFinestra().Titolo(
       Unisci("Telarium - ", NumColonne, 'x', NumRighe, "  ", TestoPercorso(NomeCruciverba)));
-  CalcolaGeometria(superficie);
+  CalcolaGeometria(superficie, LaFinestra().AltezzaToolbar1(), LaFinestra().AltezzaStatusBar1());
   if (LatoCasella > 0) {  // in a tiny window no cell has room
     DisegnaFondoECornice(superficie);
     DisegnaCaselle(superficie);
@@ -96,6 +82,16 @@ void RidisegnaSchema() {
   if (!superficie) return;
   DisegnaSchema(*superficie);
   if (SchemaColorato()) AggiornaIstantanea();
+}
+
+void CalcolaGeometria(const Superficie& superficie, double t, double s) {
+  const double w = superficie.LarghezzaSuperficie();
+  const double h = superficie.AltezzaSuperficie();
+  const int a = ArrotondaPari((w - 2 * MargineProvvisorio - 4) / NumColonne);
+  const int b = ArrotondaPari((h - t - s - 2 - 2 * MargineProvvisorio - 4) / NumRighe);
+  LatoCasella = static_cast<std::int16_t>(std::max(std::min(a, b), 0));
+  OrigineX = static_cast<std::int16_t>(ArrotondaPari((w - LatoCasella * NumColonne) / 2));
+  OrigineY = static_cast<std::int16_t>(ArrotondaPari((t + h - 2 - s - LatoCasella * NumRighe) / 2));
 }
 
 bool SchemaColorato() {

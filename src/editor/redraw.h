@@ -15,6 +15,10 @@ inline constexpr Colore ColoreCornice = 0x000080;  // dark red
 /// only the tables are set.
 void RidisegnaSchema();
 
+/// Sets LatoCasella, OrigineX and OrigineY so that the cells fit between a band of that height at
+/// the surface's top and one at its bottom, centred there. Wants a grid.
+void CalcolaGeometria(const Superficie& superficie, double t, double s);
+
 /// Whether a black cell has a colour, so that a redraw writes the snapshot.
 bool SchemaColorato();
 

@@ -87,6 +87,7 @@ inline constexpr std::int16_t ModoAggiungiRiga = 5;
 inline constexpr std::int16_t ModoTogliRiga = 6;
 inline constexpr std::int16_t ModoCasellaNera = 7;  // the tool itself is told by PuntatoreMouse
 inline constexpr std::int16_t ModoCasellaBianca = 8;
+inline constexpr std::int16_t ModoTabella = 20;
 /// What the mouse does on the grid.
 extern std::int16_t ModoGriglia;
 /// Shape of the mouse pointer, a value of platform/user.h, by which the mouse routines decide what

@@ -54,19 +54,29 @@ std::int16_t Tipo(int c, int r) {
   return orizzontale ? 2 : 1;
 }
 
-void TipiENumeri() {
+void Tipi() {
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c)
+      TipoCasella(c, r) = Tipo(c, r);
+  }
+}
+
+void Numeri() {
   std::int16_t numero = 0;
   for (int r = 1; r <= NumRighe; ++r) {
-    for (int c = 1; c <= NumColonne; ++c) {
-      TipoCasella(c, r) = Tipo(c, r);
+    for (int c = 1; c <= NumColonne; ++c)
       NumeroCasella(c, r) = TipoCasella(c, r) > 1 ? ++numero : 0;
-    }
   }
 }
 
 }  // namespace
 
 void RicalcolaCaselle() {
+  RicalcolaCaselleSenzaNumeri();
+  Numeri();
+}
+
+void RicalcolaCaselleSenzaNumeri() {
   CopiaCaratteri();
   for (int r = 1; r <= NumRighe; ++r) {
     ParoleDiUnaLinea(NumColonne, Orizzontale, [r](int k) { return Casella{k, r}; });
@@ -74,7 +84,7 @@ void RicalcolaCaselle() {
   for (int c = 1; c <= NumColonne; ++c) {
     ParoleDiUnaLinea(NumRighe, Verticale, [c](int k) { return Casella{c, k}; });
   }
-  TipiENumeri();
+  Tipi();
 }
 
 bool IniziaParola(Casella casella, int direzione) {

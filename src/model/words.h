@@ -51,6 +51,9 @@ constexpr bool CarattereSemplice(char carattere) {
 /// stay as they were.
 void RicalcolaCaselle();
 
+/// RicalcolaCaselle but for NumeroCasella, for a change that moves no black cell.
+void RicalcolaCaselleSenzaNumeri();
+
 /// Whether, by TipoCasella, a word starts at the cell in that direction.
 bool IniziaParola(Casella casella, int direzione);
 

@@ -322,7 +322,7 @@ void TelarDef::ApriMenuDizionari() {
       menubrdiz.push_back(menudizionari->addSeparator());
       continue;
     }
-    const QString testo = AQt(voce.testo).replace(u'&', QStringLiteral("&&"));
+    const QString testo = ComeVoceDiMenu(AQt(voce.testo));
     menubrdiz.push_back(menudizionari->addAction(testo, this, [this, file = voce.file] {
       ConDizionario(file, [this] {
         CercaMaschera();
@@ -336,7 +336,7 @@ void TelarDef::ApriMenuDizionari() {
 void TelarDef::AccettaDefinizione() {
   const auto definizione = Text1->Definizione();
   if (!definizione) {
-    Avvisa("La definizione contiene caratteri che il file del cruciverba non può tenere."_cp);
+    AvvisaDefinizioneNonScrivibile();
     return Text1->setFocus();
   }
   if (!telarium::AccettaDefinizione(DaQt(Text2->text()), *definizione, ParolaIniziale)) {

@@ -1,10 +1,30 @@
 #pragma once
 
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <optional>
 #include <string>
 
 namespace telarium {
+
+/// What a box of any kind was given to show. A clue that nobody has touched comes back as it was,
+/// whatever the box can show of it.
+class DefinizioneMostrata {
+ public:
+  /// Notes a clue that was put into a box, and the text that the box then has.
+  void Ricorda(const std::string& definizione, const QString& testo);
+
+  /// How many characters the box takes: those of a grid's clue, or as many as it was given.
+  int MaxCaratteri() const;
+
+  /// The clue that a text of the box stands for: line breaks that were typed become blanks. None
+  /// when the code page cannot write it.
+  std::optional<std::string> Letta(const QString& testo) const;
+
+ private:
+  std::string definizione_;
+  QString testo_;
+};
 
 /// A box of several lines for one clue of a grid. No more is typed into it than a grid's clue may
 /// have; a longer one that is put there stays whole. Tab leaves it.
@@ -15,15 +35,25 @@ class CasellaDefinizione : public QPlainTextEdit {
   /// Puts a clue into the box.
   void Mostra(const std::string& definizione);
 
-  /// The clue in the box: exactly the one put there if it was not touched, else what was typed,
-  /// line breaks as blanks. None when the code page cannot write it.
-  std::optional<std::string> Definizione() const;
+  /// The clue in the box, by DefinizioneMostrata.
+  std::optional<std::string> Definizione() const { return mostrata_.Letta(toPlainText()); }
 
  private:
   void Limita();
 
-  std::string mostrata_;
-  QString testoMostrato_;  // as the box gives it back
+  DefinizioneMostrata mostrata_;
+};
+
+/// A box of one line, likewise.
+class RigaDefinizione : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+  void Mostra(const std::string& definizione);
+  std::optional<std::string> Definizione() const { return mostrata_.Letta(text()); }
+
+ private:
+  DefinizioneMostrata mostrata_;
 };
 
 }  // namespace telarium

@@ -67,8 +67,7 @@ QString TestoConfigurato(std::string_view nome) {
                              {"Menui2", Indirizzo::TitoloMenui2},
                              {"Menui4", Indirizzo::TitoloMenui4}};
   for (const auto& [voce, valore] : testi) {
-    // A "&" of the address is no mark of a letter.
-    if (voce == nome) return AQt(ValoreIndirizzo(valore)).replace(u'&', QStringLiteral("&&"));
+    if (voce == nome) return ComeVoceDiMenu(AQt(ValoreIndirizzo(valore)));
   }
   return {};
 }
@@ -280,8 +279,7 @@ bool Form1::SeguiEstrazione(const AvanzamentoEstrazione& avanzamento) {
 }
 
 void Form1::Titolo(std::string_view titolo) {
-  // "[*]" alone would be Qt's mark of a modified file.
-  setWindowTitle(AQt(titolo).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+  setWindowTitle(TitoloAQt(titolo));
 }
 
 void Form1::MostraShape1(const Rettangolo& rettangolo) {

@@ -5,6 +5,7 @@
 
 #include "auxiliary/links.h"
 #include "clues/bulk.h"
+#include "clues/table_view.h"
 #include "editor/cell_editing.h"
 #include "editor/commands.h"
 #include "editor/file_commands.h"
@@ -66,6 +67,7 @@ constexpr ComandoDiVoce comandi[] = {
     {"MenuCN", [](Form1&) { AttivaCasellaNera(); }},
     {"MenuCB", [](Form1&) { AttivaCasellaBianca(); }},
     {"Menudef", [](Form1&) { EntraInModifica(); }},
+    {"MenuParole", [](Form1&) { ApriTabella(); }},
     {"MenuFont", [](Form1&) { ScegliCarattere(); }},
     {"MenuLudarium", [](Form1&) { LanciaLudarium(); }},
     {"MenuEstrazione", [](Form1& form) { form.Estrai(); }},

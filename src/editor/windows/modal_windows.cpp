@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "auxiliary/windows/fONTEN.h"
+#include "clues/windows/TelarBro.h"
 #include "clues/windows/TelarDef.h"
 #include "crossworddialogs/windows/Form2.h"
 #include "crossworddialogs/windows/FormModels.h"
@@ -41,7 +42,7 @@ constexpr VoceModale finestre[] = {
     {Modale::Settaggi, Mostra<Settaggi>}, {Modale::fONTEN, MostraConservata<fONTEN>},
     {Modale::FormNew, Mostra<FormNew>},   {Modale::FormModels, Mostra<FormModels>},
     {Modale::Form2, Mostra<Form2>},       {Modale::TelarSav, Mostra<TelarSav>},
-    {Modale::TelarDef, Mostra<TelarDef>},
+    {Modale::TelarDef, Mostra<TelarDef>}, {Modale::TelarBro, Mostra<TelarBro>},
 };
 
 }  // namespace

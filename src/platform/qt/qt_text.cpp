@@ -18,6 +18,14 @@ std::string DaQt(const QString& testo) {
   return DaUtf8(testo.toUtf8().toStdString());
 }
 
+QString TitoloAQt(std::string_view testo) {
+  return AQt(testo).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+}
+
+QString ComeVoceDiMenu(QString testo) {
+  return testo.replace(u'&', QStringLiteral("&&")).replace(u'\t', u' ');
+}
+
 QString PercorsoAQt(const Percorso& percorso) {
   return QFile::decodeName(QByteArray::fromStdString(percorso.string()));
 }

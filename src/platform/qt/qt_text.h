@@ -14,6 +14,13 @@ QString AQt(std::string_view testo);
 /// "?" stands for what the code page cannot write.
 std::string DaQt(const QString& testo);
 
+/// A text as the title of a window, where Qt would take "[*]" for the mark of a modified file.
+QString TitoloAQt(std::string_view testo);
+
+/// A text as the caption of a menu entry, where "&" would mark a letter and a tab set a shortcut
+/// off.
+QString ComeVoceDiMenu(QString testo);
+
 QString PercorsoAQt(const Percorso& percorso);
 Percorso PercorsoDaQt(const QString& percorso);
 

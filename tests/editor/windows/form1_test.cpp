@@ -11,6 +11,7 @@
 #include <set>
 
 #include "auxiliary/windows/fONTEN.h"
+#include "clues/windows/TelarBro.h"
 #include "crossworddialogs/windows/Form2.h"
 #include "crossworddialogs/windows/FormNew.h"
 #include "crossworddialogs/windows/TelarSav.h"
@@ -99,6 +100,7 @@ class Form1Test : public TelariumTest {
   std::filesystem::path workingFolder_;
 };
 
+constexpr int TableButton = 19;
 constexpr int ExtractionButton = 20;
 
 TEST_F(Form1Test, OffersOnlyWhatCanBeDoneWithoutACrossword) {
@@ -119,7 +121,7 @@ TEST_F(Form1Test, OffersTheCommandsOfThisProgramOnceThereIsACrossword) {
   StartWith({"CASA", "....", "#..#"});
   EXPECT_EQ(EnabledButtons(),
             "Nuovo Apri Salva HTML CambiaFont AggColonna TogliColonna AggRiga TogliRiga CasBianca "
-            "CasNera Estrazione Edit Compila ");
+            "CasNera Tabella Estrazione Edit Compila ");
   EXPECT_TRUE(form->Voce("MenuEdit").isEnabled() && form->Voce("MenuUtiliti").isEnabled());
   EXPECT_TRUE(form->Voce("menuSalva").isEnabled());
   EXPECT_FALSE(form->Voce("MenuStampa").isEnabled()) << "nothing stands behind it yet";
@@ -246,6 +248,30 @@ TEST_F(Form1Test, DrawsWhatItsModalWindowsSet) {
   });
   form->Voce("MenuFont").trigger();
   EXPECT_EQ(NomeFont, "Liberation Mono");
+}
+
+TEST_F(Form1Test, TakesOverWhatTheTableOfWordsConfirmsAndNothingElse) {
+  StartWith({"CASA", "....", "SOLE"});
+  const auto change = [this](const char16_t* word, QPushButton* TelarBro::*end) {
+    WhenOpen<TelarBro>(*form, [=](TelarBro& window) {
+      QTest::keyClick(window.Gitter1, Qt::Key_Return);
+      window.Text1->setText(QString::fromUtf16(word));
+      window.Text2->setText(QStringLiteral("Nuova"));
+      QTest::keyClick(window.Text1, Qt::Key_Return);
+      QTest::mouseClick(window.*end, Qt::LeftButton);
+    });
+  };
+  change(u"COSE", &TelarBro::Command3d2);
+  form->Voce("MenuParole").trigger();
+  EXPECT_EQ(Drawing(), (std::vector<std::string>{"CASA", "....", "SOLE"}));
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "");
+  const int side = LatoCasella;
+  change(u"COSE", &TelarBro::Command3d1);
+  ClickButton(TableButton);
+  EXPECT_EQ(Drawing(), (std::vector<std::string>{"COSE", "....", "SOLE"}));
+  EXPECT_EQ(ParolaCasella(2, 1, Verticale), "O.O");
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "Nuova");
+  EXPECT_EQ(LatoCasella, side) << "of the main window again";
 }
 
 // Sent straight to the control: the offscreen platform follows no pointer.

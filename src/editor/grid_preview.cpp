@@ -1,4 +1,4 @@
-#include "crossworddialogs/grid_preview.h"
+#include "editor/grid_preview.h"
 
 #include <algorithm>
 
@@ -6,12 +6,13 @@
 
 namespace telarium {
 
-AnteprimaDiSchema::AnteprimaDiSchema(Superficie& superficie, int colonne, int righe, double margine)
+AnteprimaDiSchema::AnteprimaDiSchema(Superficie& superficie, int colonne, int righe, double margine,
+                                     Misura misura)
     : superficie_(superficie) {
   const double larghezza = superficie.LarghezzaSuperficie();
   const double altezza = superficie.AltezzaSuperficie();
-  lato_ = std::max(0, std::min(ArrotondaPari((larghezza - margine) / colonne),
-                               ArrotondaPari((altezza - margine) / righe)));
+  const double lato = std::min((larghezza - margine) / colonne, (altezza - margine) / righe);
+  lato_ = std::max(0, misura == Misura::Arrotondata ? ArrotondaPari(lato) : static_cast<int>(lato));
   // Half a unit more for each of many cells can come to more than the margin.
   if (lato_ * colonne > larghezza || lato_ * righe > altezza) lato_ = std::max(0, lato_ - 1);
   sinistra_ = ArrotondaPari((larghezza - lato_ * colonne) / 2);

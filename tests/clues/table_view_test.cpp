@@ -1,0 +1,186 @@
+#include "clues/table_view.h"
+
+#include "clues/small_grid.h"
+#include "editor/settings.h"
+#include "support/clue_store.h"
+#include "support/recording_window.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class TableView : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    ImpostazioniIniziali();
+  }
+
+  // The rows, as "12-O WORD clue".
+  static Texts Rows() {
+    Texts rows;
+    for (const Slot& slot : ParoleDellaTabella())
+      rows.push_back(SiglaParola(slot) + ' ' + ParolaDi(slot) + ' ' + DefinizioneDi(slot));
+    return rows;
+  }
+};
+
+TEST_F(TableView, OpensInItsModeAndNotWithoutAGrid) {
+  RecordingWindow window;
+  window.tipShows = true;
+  ApriTabella();
+  EXPECT_TRUE(window.shown.empty());
+  Draw({"CA"});
+  PuntatoreMouse = PuntatoreOrizzontale;
+  ApriTabella();
+  EXPECT_EQ(window.shown, std::vector<Modale>{Modale::TelarBro});
+  EXPECT_EQ(ModoGriglia, 20);
+  EXPECT_EQ(PuntatoreMouse, 0);
+  EXPECT_FALSE(window.tipShows);
+}
+
+TEST_F(TableView, AChangedWordReachesItsCrossingsAndNoClueMoves) {
+  Draw({"#C.#", "CASA", "#REO"});
+  Definizione(1, 2, Orizzontale) = "Ci si abita";
+  Definizione(2, 1, Verticale) = "Vettura";
+  EXPECT_EQ(Rows(), (Texts{"1-O C. ", "1-V CAR Vettura", "2-V .SE ", "3-O CASA Ci si abita",
+                           "4-V AO ", "5-O REO "}));
+  EXPECT_EQ(SiglaEstesa(ParoleDellaTabella()[1]), "1-Verticale");
+  EXPECT_EQ(SiglaEstesa(ParoleDellaTabella()[3]), "3-Orizzontale");
+  NumeroCasella(1, 2) = 33;  // shows whether numbers are given anew
+  EXPECT_TRUE(VariaRiga(ParoleDellaTabella()[3], "CO.I", "Cos\xEC"));
+  EXPECT_EQ(Rows(), (Texts{"1-O C. ", "1-V COR Vettura", "2-V ..E ", "33-O CO.I Cos\xEC", "4-V IO ",
+                           "5-O REO "}));
+  EXPECT_EQ(DrawingOfSchema(), (Texts{"#C.#", "CO.I", "#REO"}));
+  EXPECT_EQ(SchemaModificato, Vero);
+  EXPECT_EQ(user.pointerShapes, (std::vector<int>{PuntatoreClessidra, PuntatoreFreccia}));
+}
+
+TEST_F(TableView, ARefusedWordChangesNothing) {
+  Draw({"CASA"});
+  const Slot word = ParoleDellaTabella().front();
+  EXPECT_FALSE(VariaRiga(word, "CAS", "nuova"));
+  EXPECT_FALSE(VariaRiga(word, "CAS\xC0", "nuova"));
+  EXPECT_FALSE(VariaRiga(word, "CA*A", "nuova"));
+  const Texts told = user.TakeTexts();
+  ASSERT_EQ(told.size(), 3u);
+  EXPECT_EQ(
+      told[0],
+      "La parola deve avere obbligatoriamente 4 caratteri, usare il simbolo punto '.' per gli "
+      "spazi.");
+  EXPECT_EQ(told[2], told[1]);
+  EXPECT_EQ(Rows(), Texts{"1-O CASA "});
+  EXPECT_EQ(SchemaModificato, Falso);
+}
+
+TEST_F(TableView, ItsGeometryCountsNoBars) {
+  platform.hasWindow = true;
+  platform.window.width = 240;
+  platform.window.height = 146;
+  RecordingWindow window;
+  Draw({"AB", "C#"});
+  RicalcolaParole();
+  EXPECT_EQ(LatoCasella, 64) << "(146 - 2 - 16) / 2";
+  EXPECT_EQ(OrigineX, 56);
+  EXPECT_EQ(OrigineY, 8);
+}
+
+TEST_F(TableView, TheCopyPutsGridAndCluesBack) {
+  Draw({"CASA"});
+  Definizione(1, 1, Orizzontale) = "prima";
+  const CopiaCruciverba copy;
+  EXPECT_TRUE(VariaRiga(ParoleDellaTabella().front(), "SOLE", "dopo"));
+  copy.Ripristina();
+  EXPECT_EQ(DrawingOfSchema(), Texts{"CASA"});
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "prima");
+}
+
+TEST_F(TableView, ASearchGivesAllCluesOfBothFamilies) {
+  MakeStore(
+      "CASA\tF\tCi si abita\nCASA\tF\tHa un tetto (e muri)\nCASA\tD\tDimora & covo\n"
+      "RE\tF\tNota\n");
+  const auto found = CercaVoci(" casa ");
+  ASSERT_TRUE(found);
+  Texts captions, clues;
+  for (const auto& [caption, clue] : *found) {
+    captions.push_back(caption);
+    clues.push_back(clue);
+  }
+  EXPECT_EQ(captions, (Texts{"01-(Facile) Ci si abita", "02-(Facile) Ha un tetto (e muri)",
+                             "03-(Diffic) Dimora & covo"}));
+  EXPECT_EQ(clues, (Texts{"Ci si abita", "Ha un tetto (e muri)", "Dimora & covo"}));
+  EXPECT_EQ(user.pointerShapes, (std::vector<int>{PuntatoreMano, PuntatoreFreccia}));
+  {
+    const EnciclopediaAperta store = ApriEnciclopedia();
+    store->InserisciRiga({.parola = "NO", .facili = "\r\n \r\n", .difficili = {}});
+  }
+  EXPECT_EQ(CercaVoci("NO")->size(), 0u) << "blank lines are no clues";
+
+  EXPECT_FALSE(CercaVoci("CA.A"));
+  EXPECT_FALSE(CercaVoci("C"));
+  EXPECT_FALSE(CercaVoci("ZZZ"));
+  const Texts told = user.TakeTexts();
+  ASSERT_EQ(told.size(), 3u);
+  EXPECT_EQ(AUtf8(told[0]),
+            "La ricerca della definizione è possibile solo su una parola completa di almeno 2 "
+            "caratteri.");
+  EXPECT_EQ(told[1], told[0]);
+  EXPECT_TRUE(told[2].starts_with("La parola ZZZ non "));
+  EXPECT_EQ(user.beeps, 1);
+  EXPECT_EQ(PuntatoreMouse, PuntatoreFreccia);
+}
+
+TEST_F(TableView, AnErrorOfTheStoreIsToldBehindForm6) {
+  RecordingWindow window;
+  EXPECT_FALSE(CercaVoci("CASA"));
+  EXPECT_EQ(window.shown, std::vector<Modale>{Modale::Form6});
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+}
+
+TEST_F(TableView, TheSmallGridIsDrawnCallByCall) {
+  AltezzaCaratteri = 50;
+  PercentualeRiquadro = 90;
+  DistanzaDaSpigolo = 5;
+  DistanzaDaCentro = 10;
+  LatoCasella = 40;  // of the main grid, from which the numbers take their distance
+  ColoreCasella(3, 1) = 0x00FF00;
+  Draw({"A.#"});
+  RecordingSurface surface;
+  surface.width = 75;  // side (75 - 10) / 3 = 21.7, cut off; left (75 - 63) / 2
+  surface.height = 60;
+  const Slot word = ParoleDellaTabella().front();
+  DisegnaSchemaPiccolo(surface, &word);
+  EXPECT_EQ(surface.calls, (Texts{
+                               "Pulisci",
+                               "Carattere Arial",
+                               "CorpoCarattere 10.5",
+                               "Riquadro 6 20 27 41 0",
+                               "Posizione 13.5 27.6",
+                               "Scrivi A",
+                               "Riquadro 27 20 48 41 0",
+                               "Riquadro 48 20 69 41 0",
+                               "RiquadroPieno 49.05 21.05 67.95 39.95 0",
+                               "CorpoCarattere 3.81818181818",
+                               "Posizione 10 22",
+                               "Scrivi 1",
+                               "Riquadro 6 20 48 41 65535",
+                               "Riquadro 7 21 47 40 65535",
+                           }));
+  surface.width = 12;
+  surface.calls.clear();
+  DisegnaSchemaPiccolo(surface, nullptr);
+  EXPECT_EQ(surface.calls, Texts{"Pulisci"}) << "no cell has room";
+}
+
+TEST_F(TableView, ACellThatIsNoCapitalEndsTheProgram) {
+  Draw({"A.#"});
+  EsigiSchemaSemplice();
+  Draw({"Ab#"});
+  EXPECT_THROW(EsigiSchemaSemplice(), ProgramEnded);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Tipo di file non valido: Esecuzione terminata!"});
+}
+
+}  // namespace
+}  // namespace telarium

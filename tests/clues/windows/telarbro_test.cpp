@@ -1,0 +1,319 @@
+#include "clues/windows/TelarBro.h"
+
+#include <QHeaderView>
+#include <QMenuBar>
+#include <QScrollBar>
+
+#include "editor/settings.h"
+#include "model/crossword_file.h"
+#include "platform/qt/qt_text.h"
+#include "support/clue_store.h"
+#include "support/telarium_test.h"
+#include "support/window_helpers.h"
+
+namespace telarium {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class TelarBroTest : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    ImpostazioniIniziali();
+    Draw({"CASA", "A#LE", "SOLE"});
+    Definizione(1, 1, Orizzontale) = "Ci si abita";
+    ASSERT_TRUE(ScriviIstantanea());
+  }
+
+  void Show() {
+    window = std::make_unique<TelarBro>(nullptr);
+    Open(*window);
+  }
+
+  std::string Cell(int row, int column) const {
+    return DaQt(window->Gitter1->item(row, column)->text());
+  }
+  // The rows, as "12-O WORD clue".
+  Texts Rows() const {
+    Texts rows;
+    for (int row = 0; row < window->Gitter1->rowCount(); ++row)
+      rows.push_back(Cell(row, 0) + ' ' + Cell(row, 1) + ' ' + Cell(row, 2));
+    return rows;
+  }
+
+  void DoubleClick(int row, int column) {
+    QTableWidget& table = *window->Gitter1;
+    const QPoint cell = table.visualRect(table.model()->index(row, column)).center();
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell);
+    QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, cell);
+  }
+  bool Editing() const {
+    const bool shown = window->Text1->isVisible();
+    for (const QWidget* control :
+         std::initializer_list<QWidget*>{window->Text2, window->Command1, window->Command2})
+      EXPECT_EQ(control->isVisible(), shown);
+    return shown;
+  }
+  // Types a text, accents too, over what a box holds.
+  static void Type(QLineEdit* box, const char16_t* text) {
+    box->selectAll();
+    for (const QChar letter : QString::fromUtf16(text)) {
+      QKeyEvent key(QEvent::KeyPress, letter.toUpper().unicode(), Qt::NoModifier, letter);
+      QCoreApplication::sendEvent(box, &key);
+    }
+  }
+
+  // The captions of the popup, which closes.
+  std::string Popup() const {
+    // A click by a key takes a while.
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window->Menudef->isVisible(); }, Patience));
+    std::string captions;
+    for (const QAction* entry : window->Menudef->actions())
+      captions += AUtf8(DaQt(entry->text())) + (entry->isEnabled() ? "|" : " (greyed)|");
+    window->Menudef->close();
+    return captions;
+  }
+
+  std::unique_ptr<TelarBro> window;
+};
+
+const Texts FirstRows = {
+    "1-O CASA Ci si abita", "1-V CAS ", "2-V SLL ", "3-V AEE ", "4-O LE ", "5-O SOLE "};
+
+TEST_F(TelarBroTest, ListsTheWordsOverTheWholeScreen) {
+  NomeCruciverba = "[*].tlrm";
+  Show();
+  EXPECT_EQ(Rows(), FirstRows);
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Telarium - Cruciverba 4x3  [*][*].tlrm"));
+  EXPECT_EQ(window->frameGeometry(), window->screen()->availableGeometry());
+  EXPECT_EQ(window->Label3->text(), QStringLiteral("0 - Orizzontale"));
+  EXPECT_FALSE(Editing());
+  const QHeaderView& header = *window->Gitter1->horizontalHeader();
+  const int width = window->Gitter1->viewport()->width();
+  EXPECT_NEAR(header.sectionSize(1), width / 3, 1);
+  EXPECT_LE(header.length(), width);
+  EXPECT_TRUE(window->Picture1->geometry().intersected(window->Gitter1->geometry()).isEmpty());
+  ExpectNamedControls(*window);
+  EXPECT_EQ(TabOrder(*window), "Gitter1 Command3d1 Command3d2 ");
+  DoubleClick(1, 1);
+  EXPECT_EQ(TabOrder(*window), "Text1 Text2 Command1 Command2 Command3d1 Command3d2 Gitter1 ");
+}
+
+TEST_F(TelarBroTest, EveryWayOpensTheRowInBoxesOverIt) {
+  Show();
+  const std::function<void()> ways[] = {
+      [this] { DoubleClick(4, 1); },
+      [this] { DoubleClick(4, 2); },
+      [this] { DoubleClick(4, 0); },
+      [this] {
+        window->Gitter1->setCurrentCell(4, 0);
+        QTest::keyClick(window->Gitter1, Qt::Key_Return);
+      },
+      [this] {
+        window->Gitter1->setCurrentCell(4, 2);
+        QTest::keyClick(window->Gitter1, Qt::Key_F2);
+      },
+  };
+  for (const auto& open : ways) {
+    open();
+    ASSERT_TRUE(Editing());
+    EXPECT_EQ(window->focusWidget(), window->Text1);
+    EXPECT_EQ(window->Text1->selectedText(), QStringLiteral("LE"));
+    EXPECT_EQ(window->Label3->text(), QStringLiteral("4-Orizzontale"));
+    const QRect cell = window->Gitter1->visualRect(window->Gitter1->model()->index(4, 1));
+    EXPECT_EQ(window->Text1->mapToGlobal(QPoint()),
+              window->Gitter1->viewport()->mapToGlobal(cell.topLeft()));
+    EXPECT_EQ(window->Text1->size(), cell.size());
+    EXPECT_EQ(window->Text2->x(), window->Text1->geometry().right() + 2);
+    EXPECT_EQ(window->Text2->width(), cell.width() * 5 / 3 - 16);
+    EXPECT_EQ(window->Command1->geometry().bottom() + 1, window->Text1->y());
+    EXPECT_GE(window->Text1->height(), window->Text1->sizeHint().height()) << "nothing is cut off";
+    QTest::keyClick(window->Gitter1, Qt::Key_Down);
+    EXPECT_FALSE(Editing()) << "a key in the table";
+  }
+}
+
+TEST_F(TelarBroTest, ClicksKeysAndScrollingHideTheBoxes) {
+  Draw(std::vector<std::string>(30, std::string(53, '.')));
+  Show();
+  QTableWidget& table = *window->Gitter1;
+  const std::function<void()> ways[] = {
+      [&] { QTest::mouseClick(table.viewport(), Qt::LeftButton); },
+      [&] { table.verticalScrollBar()->setValue(20); },
+      [&] { QTest::keyClick(&table, Qt::Key_X); },
+      [&] { QTest::keyClick(&table, Qt::Key_Escape); },
+  };
+  for (const auto& hide : ways) {
+    DoubleClick(table.verticalScrollBar()->value() + 2, 1);
+    ASSERT_TRUE(Editing());
+    hide();
+    EXPECT_FALSE(Editing());
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->focusWidget(), &table);
+  }
+}
+
+TEST_F(TelarBroTest, AWordIsTypedInCapitalsAndItsCrossingsFollow) {
+  Show();
+  DoubleClick(0, 1);
+  Type(window->Text1, u"c1o- .\u00E8ix");
+  EXPECT_EQ(window->Text1->text(), QStringLiteral("CO.I")) << "four letters, nothing but those";
+  Type(window->Text2, u"Cos\u00EC");
+  QTest::keyClick(window->Text1, Qt::Key_Return);
+  EXPECT_FALSE(Editing());
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(Rows(), (Texts{"1-O CO.I Cos\xEC", "1-V CAS ", "2-V .LL ", "3-V IEE ", "4-O LE ",
+                           "5-O SOLE "}));
+  EXPECT_EQ(DrawingOfSchema(), (Texts{"CO.I", "A#LE", "SOLE"}));
+  EXPECT_EQ(window->Gitter1->currentRow(), 0);
+  EXPECT_EQ(SchemaModificato, Vero);
+}
+
+TEST_F(TelarBroTest, ARefusedWordStaysInEditing) {
+  Show();
+  DoubleClick(0, 1);
+  Type(window->Text1, u"cas");
+  QTest::mouseClick(window->Command1, Qt::LeftButton);
+  EXPECT_TRUE(Editing());
+  EXPECT_EQ(window->focusWidget(), window->Text1);
+  window->Text1->setText(QStringLiteral("ca\u00E0a"));  // as by pasting
+  QTest::keyClick(window->Text1, Qt::Key_Enter);
+  EXPECT_TRUE(Editing());
+  QTest::keyClick(window->Text2, Qt::Key_Return);
+  EXPECT_FALSE(Editing()) << "from the clue they hide whatever the result";
+  EXPECT_EQ(user.TakeTexts().size(), 3u);
+  EXPECT_EQ(Rows(), FirstRows);
+  DoubleClick(1, 1);
+  EXPECT_EQ(window->Text1->text(), QStringLiteral("CAS"));
+  EXPECT_EQ(window->Text2->text(), QString());
+
+  window->Text2->setText(QStringLiteral("Citt\u0103"));  // no such letter in the code page
+  QTest::keyClick(window->Text2, Qt::Key_Return);
+  EXPECT_TRUE(Editing());
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+  EXPECT_EQ(Rows(), FirstRows);
+}
+
+TEST_F(TelarBroTest, ALongClueStaysWholeUntilItIsTouched) {
+  const std::string longer = "Una riga\r\ne " + std::string(5000, 'x') + " & \t\x81";
+  Definizione(1, 1, Orizzontale) = longer;
+  Show();
+  EXPECT_EQ(Cell(0, 2).substr(0, 12), "Una riga e x");
+  DoubleClick(0, 1);
+  Type(window->Text1, u"cose");
+  QTest::keyClick(window->Text1, Qt::Key_Return);
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), longer);
+  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "COSE");
+  DoubleClick(1, 1);
+  Type(window->Text2, std::u16string(70, u'a').c_str());
+  QTest::keyClick(window->Text2, Qt::Key_Return);
+  EXPECT_EQ(Definizione(1, 1, Verticale), std::string(60, 'a'));
+}
+
+TEST_F(TelarBroTest, EachSearchShowsItsOwnClues) {
+  MakeStore(
+      "CASA\tF\tCi si abita\nCASA\tF\tHa (forse) un tetto & muri\nCASA\tD\tDimora\n"
+      "LE\tF\tArticolo\n");
+  {
+    const EnciclopediaAperta store = ApriEnciclopedia();
+    store->InserisciRiga({.parola = "SOLE", .facili = "Astro\tdel d\xEC", .difficili = "\r\n"});
+    store->InserisciRiga({.parola = "CAS", .facili = {}, .difficili = {}});
+  }
+  Show();
+  DoubleClick(5, 1);
+  QTest::mouseClick(window->Command2, Qt::LeftButton);
+  EXPECT_EQ(Popup(), "01-(Facile) Astro del d\u00EC|");
+  DoubleClick(0, 1);
+  QTest::mouseClick(window->Command2, Qt::LeftButton);
+  EXPECT_EQ(Popup(),
+            "01-(Facile) Ci si abita|02-(Facile) Ha (forse) un tetto && muri|03-(Diffic) Dimora|");
+  window->Menud1.at(1)->trigger();
+  EXPECT_EQ(window->Text2->text(), QStringLiteral("Ha (forse) un tetto & muri"));
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "Ci si abita") << "not before the row is confirmed";
+  QTest::keyClick(window->Text2, Qt::Key_Return);
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "Ha (forse) un tetto & muri");
+  DoubleClick(1, 1);
+  QTest::keyClick(window.get(), Qt::Key_C, Qt::AltModifier);
+  EXPECT_EQ(Popup(), "Nessuna definizione (greyed)|");
+  Type(window->Text1, u"C.S");
+  QTest::mouseClick(window->Command2, Qt::LeftButton);
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+  EXPECT_TRUE(Editing());
+}
+
+TEST_F(TelarBroTest, OkHandsTheCrosswordOnThroughTheSnapshot) {
+  Definizione(1, 3, Orizzontale) = "Prelevata";  // by a fetch, in memory alone
+  Show();
+  DoubleClick(0, 1);
+  Type(window->Text1, u"COSE");
+  QTest::keyClick(window->Text1, Qt::Key_Return);
+  QTest::mouseClick(window->Command3d1, Qt::LeftButton);
+  EXPECT_FALSE(window->isVisible());
+  AzzeraStato();
+  CartellaProgramma = InFolder("");
+  ASSERT_TRUE(LeggiIstantanea());
+  EXPECT_EQ(DrawingOfSchema(), (Texts{"COSE", "A#LE", "SOLE"}));
+  EXPECT_EQ(Definizione(1, 3, Orizzontale), "Prelevata");
+}
+
+TEST_F(TelarBroTest, EveryOtherWayOutPutsGridAndCluesBack) {
+  const std::string snapshot = ReadFile(PercorsoIstantanea());
+  const std::function<void()> ways[] = {
+      [this] { QTest::mouseClick(window->Command3d2, Qt::LeftButton); },
+      [this] { window->menutorna->trigger(); },
+      [this] { window->close(); },
+      [this] { QTest::keyClick(window->Gitter1, Qt::Key_Escape); },
+      [this] {
+        DoubleClick(1, 1);
+        QTest::keyClick(window->Text1, Qt::Key_Escape);
+      },
+      [this] {
+        DoubleClick(1, 1);
+        QTest::keyClick(window->Text2, Qt::Key_Escape);
+      },
+  };
+  for (const auto& leave : ways) {
+    SchemaModificato = Falso;
+    Show();
+    DoubleClick(0, 1);
+    Type(window->Text1, u"COSE");
+    Type(window->Text2, u"Oggetti");
+    QTest::keyClick(window->Text1, Qt::Key_Return);
+    EXPECT_EQ(Definizione(1, 1, Orizzontale), "Oggetti");
+    leave();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(Definizione(1, 1, Orizzontale), "Ci si abita");
+    EXPECT_EQ(DrawingOfSchema(), (Texts{"CASA", "A#LE", "SOLE"}));
+    EXPECT_EQ(SchemaModificato, Vero);
+    EXPECT_EQ(ReadFile(PercorsoIstantanea()), snapshot);
+    RicalcolaCaselle();  // as the redraw does
+  }
+}
+
+TEST_F(TelarBroTest, WithoutAWordNothingOpens) {
+  Draw({"A#", "#B"});
+  Show();
+  EXPECT_EQ(window->Gitter1->rowCount(), 1);
+  DoubleClick(0, 1);
+  QTest::keyClick(window->Gitter1, Qt::Key_Return);
+  EXPECT_FALSE(Editing());
+}
+
+TEST_F(TelarBroTest, ABadCellEndsTheProgramBeforeTheWindowShows) {
+  Draw({"CA\xC8"});
+  EXPECT_THROW(TelarBro(nullptr), ProgramEnded);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Tipo di file non valido: Esecuzione terminata!"});
+}
+
+TEST_F(TelarBroTest, AWordAcrossTheWholeGridFitsItsBox) {
+  Draw({std::string(53, 'A')});
+  Show();
+  DoubleClick(0, 1);
+  EXPECT_EQ(window->Text1->text().size(), 53);
+  QTest::keyClick(window->Text1, Qt::Key_Return);
+  EXPECT_EQ(DrawingOfSchema(), Texts{std::string(53, 'A')});
+}
+
+}  // namespace
+}  // namespace telarium
