@@ -70,6 +70,7 @@ constexpr ComandoDiVoce comandi[] = {
     {"Menui2", VaiA<Indirizzo::Menui2>},
     {"Menui3", VaiA<Indirizzo::Menui3>},
     {"Menui4", VaiA<Indirizzo::Menui4>},
+    {"menuado", [](Form1& form) { form.MostraModale(Modale::Form6); }},
     {"menusetschema", [](Form1&) { RegolaSchema(); }},
     {"MenuInf", CommutaProvaInfinita},
     {"MenuL1", ImpostaLingua<1>},
