@@ -64,6 +64,7 @@ constexpr ComandoDiVoce comandi[] = {
     {"MenuLudarium", [](Form1&) { LanciaLudarium(); }},
     {"MenuEstrazione", [](Form1& form) { form.Estrai(); }},
     {"menuRidisegna", [](Form1&) { ChiudiAnteprima(); }},
+    {"Menudefiniz", [](Form1& form) { form.MostraModale(Modale::telariummdb); }},
     {"Menuschemi", [](Form1&) { GestisciModelli(); }},
     {"Menui0", VaiA<Indirizzo::Menui0>},
     {"MenuI1", VaiA<Indirizzo::MenuI1>},

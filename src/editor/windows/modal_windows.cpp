@@ -6,6 +6,7 @@
 
 #include "auxiliary/windows/Form6.h"
 #include "auxiliary/windows/fONTEN.h"
+#include "clues/windows/telariummdb.h"
 #include "crossworddialogs/windows/Form2.h"
 #include "crossworddialogs/windows/FormModels.h"
 #include "crossworddialogs/windows/FormNew.h"
@@ -40,9 +41,13 @@ struct VoceModale {
 };
 
 constexpr VoceModale finestre[] = {
-    {Modale::Settaggi, Mostra<Settaggi>}, {Modale::fONTEN, MostraConservata<fONTEN>},
-    {Modale::FormNew, Mostra<FormNew>},   {Modale::FormModels, Mostra<FormModels>},
-    {Modale::Form2, Mostra<Form2>},       {Modale::TelarSav, Mostra<TelarSav>},
+    {Modale::Settaggi, Mostra<Settaggi>},
+    {Modale::fONTEN, MostraConservata<fONTEN>},
+    {Modale::FormNew, Mostra<FormNew>},
+    {Modale::FormModels, Mostra<FormModels>},
+    {Modale::Form2, Mostra<Form2>},
+    {Modale::TelarSav, Mostra<TelarSav>},
+    {Modale::telariummdb, Mostra<telariummdb>},
     {Modale::Form6, Mostra<Form6>},
 };
 
