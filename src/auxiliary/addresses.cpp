@@ -20,7 +20,7 @@ struct Voce {
 };
 
 // In the order of Indirizzo.
-constexpr std::array<Voce, 14> voci = {{
+constexpr std::array<Voce, 16> voci = {{
     {"SitoProdotto", "www.telarium.example"},
     {"PaginaProdotto", "www.telarium.example/telarium/"},
     {"PaginaDizionario", "www.telarium.example/telarium/dizionario.html"},
@@ -35,6 +35,8 @@ constexpr std::array<Voce, 14> voci = {{
     {"Menui4", "enciclopedia-2.example"},
     {"TitoloMenui2", "Terzo dizionario online"},
     {"TitoloMenui4", "Seconda enciclopedia online"},
+    {"PaginaAccessoDati", "accesso-dati.example"},
+    {"ScaricoAccessoDati", "accesso-dati.example/scarico.html"},
 }};
 
 using Valori = std::array<std::string, voci.size()>;

@@ -23,6 +23,8 @@ enum class Indirizzo {
   Menui4,
   TitoloMenui2,  // the captions of two of the online dictionaries are names of services
   TitoloMenui4,
+  PaginaAccessoDati,   // as Form6 shows it
+  ScaricoAccessoDati,  // as Form6 opens it
 };
 
 /// Takes the addresses from indirizzi.txt. Without a readable file the defaults hold.

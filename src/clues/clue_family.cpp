@@ -20,6 +20,19 @@ const AzzeramentoDiSottosistema azzeramento(SvuotaElenco);
 
 }  // namespace
 
+std::string ConSeparatori(std::string_view testo) {
+  std::string famiglia;
+  famiglia.reserve(testo.size());
+  LettoreDiRighe righe(testo);
+  for (std::string_view riga; righe.Prossima(riga);) {
+    famiglia += riga;
+    // The last line may go without an end.
+    const char* dopo = riga.data() + riga.size();
+    if (dopo != testo.data() + testo.size()) famiglia += SeparatoreDefinizioni;
+  }
+  return famiglia;
+}
+
 std::vector<std::string_view> PartiDellaFamiglia(std::string_view famiglia) {
   std::vector<std::string_view> parti;
   for (;;) {

@@ -12,6 +12,9 @@ namespace telarium {
 
 inline constexpr std::string_view SeparatoreDefinizioni = "\r\n";
 
+/// A text with each of its line ends, of one or two characters, as that separator.
+std::string ConSeparatori(std::string_view testo);
+
 /// All parts of a family in order, blank ones too; an empty family is one empty part. The parts are
 /// views of the text.
 std::vector<std::string_view> PartiDellaFamiglia(std::string_view famiglia);

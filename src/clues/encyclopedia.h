@@ -93,6 +93,9 @@ class Enciclopedia {
   virtual NumeroRiga InserisciRiga(const ModificheRiga& modifiche) = 0;
 };
 
+/// Refuses, as an error of the store, a word that no search takes: one with an apostrophe.
+void VerificaCercabile(std::string_view parola);
+
 /// Ends the connection to the store. Whatever fails there leaves nothing undone that was stored.
 struct ChiudiEnciclopedia {
   void operator()(Enciclopedia* enciclopedia) const { delete enciclopedia; }

@@ -45,10 +45,7 @@ class EnciclopediaSqlite : public Enciclopedia {
   }
 
   bool CercaParola(std::string_view parola) override {
-    if (parola.find('\'') != std::string_view::npos) {
-      throw ErroreEnciclopedia(Unisci("Enciclopedia ", NomeEnciclopedia, ": la parola \"", parola,
-                                      "\" contiene un apostrofo e non si può cercare."_cp));
-    }
+    VerificaCercabile(parola);
     cerca_.Lega(1, parola);
     corrente_ = PrimaRiga(cerca_);
     return corrente_.has_value();

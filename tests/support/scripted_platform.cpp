@@ -36,6 +36,7 @@ void ScriptedUser::VerifyNothingLeft() {
   }
   EXPECT_TRUE(answers_.empty()) << "an answer was prepared for a question that never came";
   EXPECT_TRUE(colours.empty()) << "a colour was prepared for a chooser that never came";
+  EXPECT_TRUE(textAnswers_.empty()) << "a text was prepared for an input box that never came";
   EXPECT_TRUE(deadEndAnswers_.empty()) << "an answer was prepared for a dead end that never came";
 }
 
@@ -48,8 +49,10 @@ Risposta ScriptedUser::MostraMessaggio(const Messaggio& messaggio) {
 }
 
 std::optional<std::string> ScriptedUser::ChiediTesto(const RichiestaDiTesto& richiesta) {
-  ADD_FAILURE() << "an input box nobody expected: " << AUtf8(richiesta.richiesta);
-  return std::nullopt;
+  prompts.push_back(richiesta.richiesta);
+  const auto answer = TakeFirst(textAnswers_);
+  if (!answer) ADD_FAILURE() << "an input box nobody expected: " << AUtf8(richiesta.richiesta);
+  return answer.value_or(std::nullopt);
 }
 
 Colore ScriptedUser::ScegliColore(Colore) {

@@ -27,6 +27,8 @@ class ScriptedUser : public Utente {
   void AnswerDeadEnd(Risposta answer) { deadEndAnswers_.push_back(answer); }
   /// Answers every dead end that has no answer of its own.
   void AnswerAllDeadEnds(Risposta answer) { deadEndAnswer_ = answer; }
+  /// Answers the next input box; none is its cancel button.
+  void AnswerText(std::optional<std::string> text) { textAnswers_.push_back(std::move(text)); }
   /// Decides at each poll whether a fill goes on.
   void StopFillWhen(std::function<bool(const AvanzamentoEstrazione&)> stop) {
     stop_ = std::move(stop);
@@ -40,6 +42,7 @@ class ScriptedUser : public Utente {
   /// The colours that the next choosers give; NessunColore is a cancelled one.
   std::deque<Colore> colours;
 
+  std::vector<std::string> prompts;  // of the input boxes so far
   int beeps = 0;
   std::vector<int> pointerShapes;
   std::vector<AvanzamentoEstrazione> polls;
@@ -61,6 +64,7 @@ class ScriptedUser : public Utente {
   std::deque<Risposta> answers_;
   std::deque<Risposta> deadEndAnswers_;
   std::optional<Risposta> deadEndAnswer_;
+  std::deque<std::optional<std::string>> textAnswers_;
   std::function<bool(const AvanzamentoEstrazione&)> stop_;
 };
 

@@ -44,7 +44,6 @@ constexpr int RialzoPicture1 = 10;     // pixels above the middle
 constexpr int SchermoPiccolo = 700;    // pixels: narrower ones get the small splash picture
 constexpr int MargineCommand3d15 = 8;  // pixels
 constexpr std::size_t MaxCaratteriLabel1 = 1000;  // a clue from a file can have any length
-constexpr QPoint PuntaDellaMano(11, 2);
 
 constexpr int InPixel(int twip) {
   return (twip + TwipPerPixel - 1) / TwipPerPixel;

@@ -1,11 +1,14 @@
 #include "editor/windows/modal_windows.h"
 
+#include <QApplication>
 #include <QWidget>
 #include <algorithm>
 
+#include "auxiliary/windows/Form6.h"
 #include "auxiliary/windows/fONTEN.h"
 #include "clues/windows/TelarBro.h"
 #include "clues/windows/TelarDef.h"
+#include "clues/windows/telariummdb.h"
 #include "crossworddialogs/windows/Form2.h"
 #include "crossworddialogs/windows/FormModels.h"
 #include "crossworddialogs/windows/FormNew.h"
@@ -15,10 +18,11 @@
 namespace telarium {
 namespace {
 
-// Makes a window for one showing.
+// Makes a window for one showing. It belongs to the modal window that is open, if there is one.
 template <class Finestra>
 void Mostra(QWidget& principale) {
-  Finestra(&principale).exec();
+  QWidget* modale = QApplication::activeModalWidget();
+  Finestra(modale ? modale : &principale).exec();
 }
 
 // Makes a window at its first showing and keeps it, as the user left it, with the main window.
@@ -39,10 +43,16 @@ struct VoceModale {
 };
 
 constexpr VoceModale finestre[] = {
-    {Modale::Settaggi, Mostra<Settaggi>}, {Modale::fONTEN, MostraConservata<fONTEN>},
-    {Modale::FormNew, Mostra<FormNew>},   {Modale::FormModels, Mostra<FormModels>},
-    {Modale::Form2, Mostra<Form2>},       {Modale::TelarSav, Mostra<TelarSav>},
-    {Modale::TelarDef, Mostra<TelarDef>}, {Modale::TelarBro, Mostra<TelarBro>},
+    {Modale::Settaggi, Mostra<Settaggi>},
+    {Modale::fONTEN, MostraConservata<fONTEN>},
+    {Modale::FormNew, Mostra<FormNew>},
+    {Modale::FormModels, Mostra<FormModels>},
+    {Modale::Form2, Mostra<Form2>},
+    {Modale::TelarSav, Mostra<TelarSav>},
+    {Modale::TelarDef, Mostra<TelarDef>},
+    {Modale::TelarBro, Mostra<TelarBro>},
+    {Modale::telariummdb, Mostra<telariummdb>},
+    {Modale::Form6, Mostra<Form6>},
 };
 
 }  // namespace

@@ -13,6 +13,9 @@ QIcon Immagine(const char* nome);
 /// A picture at its own size for a display of that ratio of device to logical pixels.
 QPixmap Figura(const char* nome, double rapporto);
 
+/// The hot spot of the picture "hand" in logical pixels.
+inline constexpr QPoint PuntaDellaMano(11, 2);
+
 /// A picture as a mouse pointer with its hot spot in logical pixels.
 QCursor PuntatoreDi(const char* nome, QPoint punta, double rapporto);
 

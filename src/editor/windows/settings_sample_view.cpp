@@ -27,10 +27,6 @@ QFrame* Forma(const QString& nome, const QColor& fondo, const QColor& bordo, QWi
   return forma;
 }
 
-QString NomeInSerie(const char* nome, int indice) {
-  return QStringLiteral("%1_%2").arg(QLatin1StringView(nome)).arg(indice);
-}
-
 void DaiCorpo(QLabel& etichetta, double punti) {
   QFont font = etichetta.font();
   font.setPointSizeF(punti * PixelPerPollice / etichetta.logicalDpiY());

@@ -53,4 +53,8 @@ void CasellaDiTesto::mousePressEvent(QMouseEvent* evento) {
   if (std::exchange(appenaRaggiunta_, false)) selectAll();
 }
 
+QString NomeInSerie(const char* nome, int indice) {
+  return QStringLiteral("%1_%2").arg(QLatin1StringView(nome)).arg(indice);
+}
+
 }  // namespace telarium

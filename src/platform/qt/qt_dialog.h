@@ -50,4 +50,7 @@ class CasellaDiTesto : public QLineEdit {
   bool appenaRaggiunta_ = false;  // by the mouse, whose press would end the selection
 };
 
+/// The name of a control of an array by its index, as "txtFields_0".
+QString NomeInSerie(const char* nome, int indice);
+
 }  // namespace telarium

@@ -1,0 +1,178 @@
+#include "clues/windows/rows_table.h"
+
+#include <QKeyEvent>
+#include <QTextDocument>
+
+#include "platform/qt/qt_text.h"
+
+namespace telarium {
+namespace {
+
+constexpr qsizetype MaxCaratteriMostrati = 1000;  // a family can have any length
+constexpr int RigheEditor = 5;                    // lines of text, at least
+constexpr int ColonnaParola = 0;
+
+CampoParole CampoDellaColonna(int colonna) {
+  return CampiParole.at(static_cast<std::size_t>(colonna));
+}
+
+QString InRigheQt(const std::string& testo) {
+  return AQt(testo).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+}
+
+}  // namespace
+
+// The plain text that Qt gives would have blanks for the hard ones.
+std::string TestoDi(const QPlainTextEdit& casella) {
+  return DaQt(casella.document()
+                  ->toRawText()
+                  .replace(QChar::ParagraphSeparator, u'\n')
+                  .replace(QChar::LineSeparator, u'\n'));
+}
+
+ModelloRighe::ModelloRighe(RigheEnciclopedia& righe, QObject* genitore)
+    : QAbstractTableModel(genitore), righe_(righe) {}
+
+// A row has no identity in the table but its position, so that rows come and go at the end.
+void ModelloRighe::Allinea() {
+  const int adesso = righe_.Aperta() ? righe_.NumeroRighe() + 1 : 0;
+  if (adesso > mostrate_) {
+    beginInsertRows({}, mostrate_, adesso - 1);
+    mostrate_ = adesso;
+    endInsertRows();
+  } else if (adesso < mostrate_) {
+    beginRemoveRows({}, adesso, mostrate_ - 1);
+    mostrate_ = adesso;
+    endRemoveRows();
+  }
+  if (mostrate_ == 0) return;
+  emit dataChanged(index(0, 0), index(mostrate_ - 1, columnCount() - 1));
+  emit headerDataChanged(Qt::Vertical, 0, mostrate_ - 1);
+}
+
+int ModelloRighe::rowCount(const QModelIndex& genitore) const {
+  return genitore.isValid() ? 0 : mostrate_;
+}
+
+int ModelloRighe::columnCount(const QModelIndex& genitore) const {
+  return genitore.isValid() ? 0 : static_cast<int>(CampiParole.size());
+}
+
+QVariant ModelloRighe::data(const QModelIndex& indice, int ruolo) const {
+  if (ruolo != Qt::DisplayRole && ruolo != Qt::EditRole && ruolo != Qt::ToolTipRole) return {};
+  const CampoParole campo = CampoDellaColonna(indice.column());
+  try {
+    const std::string testo = righe_.Testo(indice.row() + 1, campo);
+    if (ruolo == Qt::EditRole) return InRigheQt(testo);
+    const QString mostrato =
+        InRigheQt(testo.substr(0, static_cast<std::size_t>(MaxCaratteriMostrati)));
+    if (ruolo == Qt::DisplayRole) return mostrato;
+    return mostrato.isEmpty() ? QString() : Qt::convertFromPlainText(mostrato);
+  } catch (const ErroreEnciclopedia&) {
+    return {};  // no moment for a message; it comes when the row becomes the current one
+  }
+}
+
+QVariant ModelloRighe::headerData(int sezione, Qt::Orientation verso, int ruolo) const {
+  if (ruolo != Qt::DisplayRole) return {};
+  if (verso == Qt::Vertical)
+    return sezione < righe_.NumeroRighe() ? QString::number(sezione + 1) : QStringLiteral("*");
+  static const std::array titoli = {QStringLiteral("PAROLA"), QStringLiteral("DEFINIZ_FACILE"),
+                                    QStringLiteral("DEFINIZ_DIFFIC")};
+  return titoli.at(static_cast<std::size_t>(sezione));
+}
+
+Qt::ItemFlags ModelloRighe::flags(const QModelIndex& indice) const {
+  return QAbstractTableModel::flags(indice) | Qt::ItemIsEditable;
+}
+
+bool ModelloRighe::setData(const QModelIndex& indice, const QVariant& valore, int ruolo) {
+  if (ruolo != Qt::EditRole || indice.row() + 1 != righe_.Posizione()) return false;
+  righe_.Imposta(CampoDellaColonna(indice.column()), DaQt(valore.toString()));
+  emit dataChanged(indice, indice);
+  return true;
+}
+
+void EditorDiCelle::Conferma(EndEditHint poi) {
+  if (!aperto_) return;
+  emit commitData(aperto_);
+  emit closeEditor(aperto_, poi);
+}
+
+void EditorDiCelle::Abbandona() {
+  if (aperto_) emit closeEditor(aperto_);
+}
+
+// Without the cell's text, which could not be read, there is nothing to edit.
+QWidget* EditorDiCelle::createEditor(QWidget* genitore, const QStyleOptionViewItem&,
+                                     const QModelIndex& indice) const {
+  if (!indice.data(Qt::EditRole).isValid()) return nullptr;
+  aperto_ = new QPlainTextEdit(genitore);
+  aperto_->setObjectName(u"Editor");
+  aperto_->setFrameStyle(QFrame::Box | QFrame::Plain);
+  return aperto_;
+}
+
+// The text stands behind the pointer and is not selected: the first key must not cost the family.
+void EditorDiCelle::setEditorData(QWidget* editor, const QModelIndex& indice) const {
+  auto& casella = static_cast<QPlainTextEdit&>(*editor);
+  if (casella.document()->isModified()) return;  // the cell was only shown again
+  casella.setPlainText(indice.data(Qt::EditRole).toString());
+  casella.moveCursor(QTextCursor::End);
+}
+
+void EditorDiCelle::setModelData(QWidget* editor, QAbstractItemModel* modello,
+                                 const QModelIndex& indice) const {
+  const auto& casella = static_cast<const QPlainTextEdit&>(*editor);
+  if (!casella.document()->isModified()) return;
+  modello->setData(indice, AQt(TestoDi(casella)), Qt::EditRole);
+}
+
+// Over the cell, larger than it where it is low, within the table.
+void EditorDiCelle::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& opzioni,
+                                         const QModelIndex& indice) const {
+  QRect dove = opzioni.rect;
+  const int altezza = RigheEditor * editor->fontMetrics().lineSpacing() + 2 * 8;
+  if (indice.column() != ColonnaParola) dove.setHeight(std::max(dove.height(), altezza));
+  const int sporge = dove.bottom() - editor->parentWidget()->rect().bottom();
+  if (sporge > 0) dove.translate(0, -sporge);
+  editor->setGeometry(dove);
+}
+
+// A box of several lines would take all of these for itself.
+bool EditorDiCelle::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() != QEvent::KeyPress || oggetto != aperto_)
+    return QStyledItemDelegate::eventFilter(oggetto, evento);
+  const auto& tasto = static_cast<const QKeyEvent&>(*evento);
+  switch (tasto.key()) {
+    case Qt::Key_Tab:
+      Conferma(EditNextItem);
+      return true;
+    case Qt::Key_Backtab:
+      Conferma(EditPreviousItem);
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (tasto.modifiers() & Qt::ControlModifier) {
+        aperto_->insertPlainText(QStringLiteral("\n"));
+      } else {
+        Conferma();
+      }
+      return true;
+    default:
+      return QStyledItemDelegate::eventFilter(oggetto, evento);
+  }
+}
+
+void EditorDiCelle::destroyEditor(QWidget* editor, const QModelIndex& indice) const {
+  aperto_.clear();
+  QStyledItemDelegate::destroyEditor(editor, indice);
+}
+
+void EditorDiCelle::initStyleOption(QStyleOptionViewItem* opzioni,
+                                    const QModelIndex& indice) const {
+  QStyledItemDelegate::initStyleOption(opzioni, indice);
+  opzioni->displayAlignment = Qt::AlignLeft | Qt::AlignTop;
+}
+
+}  // namespace telarium

@@ -1,0 +1,586 @@
+#include <QHeaderView>
+#include <filesystem>
+
+#include "auxiliary/windows/Form6.h"
+#include "clues/sqlite_database.h"
+#include "clues/windows/frmParole.h"
+#include "clues/windows/telariummdb.h"
+#include "editor/windows/form_commands.h"
+#include "editor/windows/modal_windows.h"
+#include "platform/qt/qt_text.h"
+#include "support/clue_store.h"
+#include "support/recording_window.h"
+#include "support/telarium_test.h"
+#include "support/window_helpers.h"
+
+namespace telarium {
+namespace {
+
+namespace fs = std::filesystem;
+using Texts = std::vector<std::string>;
+
+class Browsers : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    MakeStore("CASA\tF\tAbitazione\nCASA\tF\tDimora\nARIA\tF\tSi respira\nZETA\tD\tUltima\n");
+  }
+
+  static void Click(QWidget* button) { QTest::mouseClick(button, Qt::LeftButton); }
+  static void Key(QWidget& window, int key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(window.focusWidget(), static_cast<Qt::Key>(key), modifiers);
+  }
+  static void Type(QWidget& window, const char16_t* text) {
+    for (const QChar c : QString::fromUtf16(text)) {
+      const Qt::Key key = c == u'\n' ? Qt::Key_Return : Qt::Key_unknown;
+      QTest::sendKeyEvent(QTest::Click, window.focusWidget(), key, QString(c), Qt::NoModifier);
+    }
+  }
+
+  static std::string Status(const FinestraEnciclopedia& window) {
+    return window.lblStatus->text().toStdString();
+  }
+
+  // The buttons that show, by their names behind "cmd".
+  static std::string Buttons(const FinestraEnciclopedia& window) {
+    std::string names;
+    for (const QPushButton* button : window.picButtons->findChildren<QPushButton*>())
+      if (button->isVisible()) names += button->objectName().mid(3).toStdString() + ' ';
+    return names + (window.cmdNext->isEnabled() ? "and moves" : "");
+  }
+
+  void Behind(const char* sql) const { BaseDati(InFolder("telarium1.mdb")).Esegui(sql); }
+
+  // From here on nothing can be stored.
+  std::unique_ptr<BaseDati> LockStore() const {
+    auto lock = std::make_unique<BaseDati>(InFolder("telarium1.mdb"));
+    lock->Esegui("BEGIN IMMEDIATE");
+    return lock;
+  }
+
+  RecordingWindow main;
+};
+
+const Texts Busy = {"Enciclopedia telarium1.mdb: il file \xE8 occupato da un altro programma."};
+
+// --- The browser of one word ---
+
+class OneWord : public Browsers {
+ protected:
+  void Start() {
+    window = std::make_unique<telariummdb>(nullptr);
+    Open(*window);
+  }
+  void TearDown() override {
+    window.reset();
+    Browsers::TearDown();
+  }
+
+  QLineEdit& Word() { return static_cast<QLineEdit&>(*window->txtFields[2]); }
+  QPlainTextEdit& Family(std::size_t which) {
+    return static_cast<QPlainTextEdit&>(*window->txtFields[which]);
+  }
+  // The word, the easy and the hard family, as they show.
+  std::string Shown() {
+    const QStringList texts = {Word().text(), Family(1).toPlainText(), Family(0).toPlainText()};
+    return texts.join(u'|').replace(u'\n', u'/').toStdString();
+  }
+  void Append(std::size_t family, const char16_t* text) {
+    window->txtFields[family]->setFocus();
+    Family(family).moveCursor(QTextCursor::End);
+    Type(*window, text);
+  }
+  void Search(std::optional<std::string> text) {
+    user.AnswerText(std::move(text));
+    Click(window->Cerca);
+  }
+
+  std::unique_ptr<telariummdb> window;
+};
+
+TEST_F(OneWord, MovesByItsButtons) {
+  Start();
+  ExpectNamedControls(*window);
+  EXPECT_EQ(Shown(), "ARIA|Si respira|");
+  EXPECT_EQ(Status(*window), "Record: 1");
+  EXPECT_EQ(Buttons(*window), "Add Edit Delete Refresh Close and moves");
+  Click(window->cmdPrevious);
+  EXPECT_EQ(user.beeps, 1);
+  window->DatiCambiati = Vero;
+  Click(window->cmdNext);
+  EXPECT_EQ(window->DatiCambiati, Falso);
+  EXPECT_EQ(Shown(), "CASA|Abitazione/Dimora|");
+  Click(window->cmdLast);
+  EXPECT_EQ(Shown(), "ZETA||Ultima");
+  EXPECT_EQ(Status(*window), "Record: 3");
+  EXPECT_EQ(user.beeps, 1);
+  Click(window->cmdNext);
+  EXPECT_EQ(user.beeps, 2);
+  EXPECT_EQ(Status(*window), "Record: 3");
+  Click(window->cmdFirst);
+  EXPECT_EQ(Status(*window), "Record: 1");
+}
+
+TEST_F(OneWord, TakesItsKeysFromEveryControlWhileItBrowses) {
+  struct Step {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    const char* status;
+  };
+  constexpr Step steps[] = {{Qt::Key_Down, Qt::NoModifier, "Record: 2"},
+                            {Qt::Key_PageDown, Qt::NoModifier, "Record: 3"},
+                            {Qt::Key_Up, Qt::KeypadModifier, "Record: 2"},
+                            {Qt::Key_PageUp, Qt::NoModifier, "Record: 1"},
+                            {Qt::Key_Down, Qt::ControlModifier, "Record: 3"},
+                            {Qt::Key_Up, Qt::ControlModifier, "Record: 1"},
+                            {Qt::Key_End, Qt::NoModifier, "Record: 3"},
+                            {Qt::Key_Home, Qt::NoModifier, "Record: 1"}};
+  Start();
+  for (QWidget* control :
+       {window->txtFields[0], window->txtFields[2], static_cast<QWidget*>(window->cmdEdit)}) {
+    control->setFocus();
+    for (const Step& step : steps) {
+      Key(*window, step.key, step.modifiers);
+      EXPECT_EQ(Status(*window), step.status) << control->objectName().toStdString();
+    }
+  }
+  Click(window->cmdEdit);
+  window->txtFields[1]->setFocus();
+  for (const int key : {Qt::Key_Down, Qt::Key_Escape, Qt::Key_End})
+    Key(*window, key);
+  EXPECT_EQ(Status(*window), "Modifica il record");
+  EXPECT_TRUE(window->isVisible());
+  Type(*window, u"!");
+  EXPECT_EQ(Shown(), "ARIA|Si respira!|") << "in editing the keys are the box's";
+  Click(window->cmdCancel);
+  ImpostaPuntatoreMouse(PuntatoreClessidra);
+  Key(*window, Qt::Key_Escape);
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(PuntatoreMouse, PuntatoreFreccia);
+  EXPECT_EQ(Stored("ARIA"), "Si respira");
+}
+
+TEST_F(OneWord, EnterInABoxPressesNoButton) {
+  Start();
+  Word().setFocus();
+  Key(*window, Qt::Key_Return);
+  EXPECT_EQ(Buttons(*window), "Add Edit Delete Refresh Close and moves");
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(TabOrder(*window),
+            "txtFields_2 Cerca Command2 Command1 txtFields_1 txtFields_0 cmdAdd cmdEdit cmdDelete "
+            "cmdRefresh cmdClose cmdFirst cmdPrevious cmdNext cmdLast ");
+  window->cmdAdd->setFocus();
+  Key(*window, Qt::Key_Return);
+  EXPECT_EQ(Buttons(*window), "Update Cancel ");
+}
+
+TEST_F(OneWord, StoresWhatWasTypedWhenTheRowIsLeft) {
+  Start();
+  Append(1, u"\n\u00C8 nell'aria \u03B1");
+  Click(window->cmdNext);
+  EXPECT_EQ(Stored("ARIA"), "Si respira\r\n\u00C8 nell'aria ?");
+  Append(0, u"Dura");
+  Click(window->cmdRefresh);
+  EXPECT_EQ(Stored("CASA", true), "Dura");
+  EXPECT_EQ(Status(*window), "Record: 1");
+  Family(1).clear();
+  Search("Z");
+  EXPECT_EQ(Stored("ARIA"), "-") << "an emptied family is null";
+  Append(1, u"Nuova");
+  Key(*window, Qt::Key_Escape);
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(Stored("ZETA"), "Nuova");
+  EXPECT_EQ(user.prompts, Texts{"Inserisci parola di ricerca"});
+}
+
+TEST_F(OneWord, LeavesWhatNobodyTouchedToTheByte) {
+  Behind(
+      "UPDATE Parole SET PAROLA = 'aria', DEFINIZ_FACILE = '\u03B1' || char(10) || 'b\u00A0c' ||"
+      " char(13) WHERE PAROLA = 'ARIA'");
+  Start();
+  Click(window->cmdLast);
+  EXPECT_EQ(Shown(), "ARIA|?/b c/|") << "small letters show as capitals";
+  Append(0, u"x");
+  Click(window->cmdFirst);
+  Click(window->cmdLast);
+  BaseDati file(InFolder("telarium1.mdb"));
+  Istruzione same(file,
+                  "SELECT count(*) FROM Parole WHERE PAROLA = 'aria' AND DEFINIZ_DIFFIC = 'x' AND"
+                  " DEFINIZ_FACILE = '\u03B1' || char(10) || 'b\u00A0c' || char(13)");
+  ASSERT_TRUE(same.Passo());
+  EXPECT_EQ(same.Intero(0), 1);
+}
+
+TEST_F(OneWord, AddsARowAtTheEnd) {
+  Start();
+  Click(window->cmdNext);
+  Click(window->cmdAdd);
+  EXPECT_EQ(Status(*window), "Aggiunge il record");
+  EXPECT_EQ(Buttons(*window), "Update Cancel ");
+  EXPECT_TRUE(window->InAggiunta && !window->InModifica);
+  EXPECT_EQ(Shown(), "||");
+  Type(*window, u"b\u00E0r");
+  EXPECT_EQ(Word().text(), QStringLiteral("B\u00C0R"));
+  Append(1, u"Ci si beve");
+  Click(window->cmdUpdate);
+  EXPECT_EQ(Status(*window), "Record: 4");
+  EXPECT_EQ(Shown(), "B\u00C0R|Ci si beve|");
+  EXPECT_EQ(Buttons(*window), "Add Edit Delete Refresh Close and moves");
+  EXPECT_EQ(Stored("B\xC0R"), "Ci si beve");
+  Click(window->cmdRefresh);
+  Click(window->cmdNext);
+  EXPECT_EQ(Shown(), "B\u00C0R|Ci si beve|") << "sorted in";
+}
+
+TEST_F(OneWord, CancelGoesBackToWhereTheLastRowWasBegun) {
+  Start();
+  Click(window->cmdNext);
+  Click(window->cmdEdit);
+  Append(1, u"x");
+  Click(window->cmdCancel);
+  EXPECT_EQ(Shown(), "ARIA|Si respira|") << "no row was begun: the first one";
+  Click(window->cmdNext);
+  Click(window->cmdAdd);
+  Type(*window, u"bar");
+  Click(window->cmdCancel);
+  EXPECT_EQ(Shown(), "CASA|Abitazione/Dimora|");
+  EXPECT_EQ(Stored("BAR"), "?");
+  Click(window->cmdEdit);
+  Append(1, u"x");
+  window->close();
+  EXPECT_EQ(Stored("CASA"), "Abitazione\r\nDimora") << "closing is a cancel";
+}
+
+TEST_F(OneWord, DeletesDownToNothingAndBeginsAgain) {
+  Start();
+  Click(window->cmdLast);
+  Click(window->cmdDelete);
+  EXPECT_EQ(Shown(), "CASA|Abitazione/Dimora|") << "the new last row";
+  Click(window->cmdFirst);
+  Click(window->cmdDelete);
+  EXPECT_EQ(Status(*window), "Record: 1");
+  Click(window->cmdDelete);
+  EXPECT_EQ(Shown(), "||");
+  for (QPushButton* button : {window->cmdFirst, window->cmdLast, window->cmdNext,
+                              window->cmdPrevious, window->cmdRefresh})
+    Click(button);
+  EXPECT_EQ(user.beeps, 0);
+  EXPECT_TRUE(Word().isReadOnly() && Family(0).isReadOnly()) << "there is no row to write in";
+  Click(window->cmdDelete);
+  EXPECT_EQ(user.TakeTexts(),
+            Texts{"Enciclopedia telarium1.mdb: non c'\xE8 nessuna riga da eliminare."});
+  Search("A");
+  EXPECT_EQ(Status(*window), "Parola non trovata !");
+  Click(window->cmdAdd);
+  Type(*window, u"sole");
+  Click(window->cmdUpdate);
+  EXPECT_EQ(Stored("SOLE"), "-");
+}
+
+TEST_F(OneWord, SearchesForwardOnly) {
+  Start();
+  Search("cas");
+  EXPECT_EQ(Status(*window), "Record: 2");
+  Search(std::nullopt);
+  Search("");
+  EXPECT_EQ(Status(*window), "Record: 2");
+  Search("L'");
+  EXPECT_EQ(user.TakeTexts(), Texts{"Enciclopedia telarium1.mdb: la parola \"L'\" contiene un "
+                                    "apostrofo e non si pu\xF2 cercare."});
+  EXPECT_EQ(user.beeps, 0);
+  Click(window->cmdNext);
+  Search("CASA");
+  EXPECT_EQ(user.beeps, 1);
+  EXPECT_EQ(Status(*window), "Record: 1");
+}
+
+TEST_F(OneWord, AsksTheWordProcessorForAWord) {
+  Start();
+  Click(window->Command2);
+  EXPECT_EQ(machine.written, Texts{"ARIA"});
+  Click(window->cmdAdd);
+  Click(window->Command2);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Inserire prima una parola della quale si intende chiedere il "
+                                    "significato a Word (Se installato)."});
+  EXPECT_EQ(machine.written.size(), 1u);
+}
+
+TEST_F(OneWord, AnErrorInAButtonShowsAndLeavesModeAndText) {
+  Start();
+  Append(1, u"x");
+  auto lock = LockStore();
+  Click(window->cmdNext);
+  EXPECT_EQ(user.TakeTexts(), Busy);
+  EXPECT_EQ(Shown(), "ARIA|Si respirax|");
+  Click(window->cmdEdit);
+  Click(window->cmdUpdate);
+  EXPECT_EQ(user.TakeTexts(), Busy);
+  EXPECT_EQ(Buttons(*window), "Update Cancel ");
+  EXPECT_TRUE(main.shown.empty()) << "no notice behind the opening";
+  Click(window->cmdCancel);
+  EXPECT_EQ(Shown(), "ARIA|Si respira|");
+  Append(1, u"y");
+  Click(window->cmdClose);
+  EXPECT_EQ(user.TakeTexts(), Busy);
+  EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(OneWord, ARowThatIsGoneShowsNothingOfTheOneBefore) {
+  Start();
+  Behind("DELETE FROM Parole WHERE PAROLA = 'ZETA'");
+  Click(window->cmdLast);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Enciclopedia telarium1.mdb: la riga non c'\xE8 pi\xF9."});
+  EXPECT_EQ(Shown(), "||");
+  EXPECT_TRUE(Word().isReadOnly());
+  Click(window->cmdPrevious);
+  EXPECT_EQ(Shown(), "CASA|Abitazione/Dimora|");
+  EXPECT_FALSE(Word().isReadOnly());
+}
+
+TEST_F(OneWord, OpensWithoutRowsWhenTheStoreIsMissing) {
+  fs::rename(InFolder("telarium1.mdb"), InFolder("altrove"));
+  Start();
+  EXPECT_EQ(main.shown, std::vector<Modale>{Modale::Form6});
+  const Texts missing = {"Enciclopedia telarium1.mdb: il file manca o non si pu\xF2 aprire."};
+  EXPECT_EQ(user.TakeTexts(), missing);
+  EXPECT_EQ(Shown(), "||");
+  EXPECT_EQ(Status(*window), "Record: 0");
+  Click(window->cmdNext);
+  Click(window->cmdAdd);
+  EXPECT_EQ(user.TakeTexts(), Texts{"Enciclopedia telarium1.mdb: il file non \xE8 aperto."});
+  Click(window->cmdRefresh);
+  EXPECT_EQ(user.TakeTexts(), missing);
+  fs::rename(InFolder("altrove"), InFolder("telarium1.mdb"));
+  Click(window->cmdRefresh);
+  EXPECT_EQ(Shown(), "ARIA|Si respira|");
+}
+
+TEST_F(OneWord, GivesWayToTheTable) {
+  Start();
+  Append(1, u" sempre");
+  WhenOpen<frmParole>(*window, [](frmParole& table) {
+    EXPECT_EQ(table.grdDataGrid->model()->index(0, 1).data().toString(),
+              QStringLiteral("Si respira sempre"));
+    table.grdDataGrid->setCurrentIndex(table.grdDataGrid->model()->index(1, 0));
+    Click(table.cmdDelete);
+    Click(table.cmdClose);
+  });
+  Click(window->Command1);
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(Stored("CASA"), "?");
+  EXPECT_FALSE(fs::exists(InFolder("telarium1.mdb-wal")));
+}
+
+// --- The browser of all words ---
+
+class AllWords : public Browsers {
+ protected:
+  void Start() {
+    window = std::make_unique<frmParole>(nullptr);
+    Open(*window);
+  }
+  void TearDown() override {
+    window.reset();
+    Browsers::TearDown();
+  }
+
+  QTableView& Grid() { return *window->grdDataGrid; }
+  // A row of the table as it shows.
+  std::string Shown(int row) {
+    QStringList texts;
+    for (int c = 0; c < Grid().model()->columnCount(); ++c)
+      texts.append(Grid().model()->index(row, c).data().toString());
+    return texts.join(u'|').replace(u'\n', u'/').toStdString();
+  }
+  // Row and column of the current cell, from 1.
+  std::pair<int, int> Current() {
+    return {Grid().currentIndex().row() + 1, Grid().currentIndex().column() + 1};
+  }
+  void ClickCell(int row, int column) {
+    const QRect cell = Grid().visualRect(Grid().model()->index(row - 1, column - 1));
+    QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, cell.center());
+  }
+  QPlainTextEdit* Editor() {
+    return Grid().viewport()->findChild<QPlainTextEdit*>(QStringLiteral("Editor"));
+  }
+  // Waits until the editor that was closed has gone.
+  void ExpectNoEditor() {
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !Editor(); }, Patience));
+  }
+
+  std::unique_ptr<frmParole> window;
+};
+
+TEST_F(AllWords, ShowsTheRowsAndMovesThroughThem) {
+  Start();
+  ExpectNamedControls(*window);
+  EXPECT_EQ(window->windowTitle(),
+            QStringLiteral("Telarium - Enciclopedia definizioni (Tabella) "));
+  EXPECT_EQ(Grid().model()->rowCount(), 4) << "one for a new row";
+  EXPECT_EQ(Shown(1), "CASA|Abitazione/Dimora|");
+  EXPECT_EQ(Shown(3), "||");
+  EXPECT_EQ(Current(), (std::pair{1, 1}));
+  EXPECT_EQ(TabOrder(*window),
+            "grdDataGrid cmdAdd cmdEdit cmdDelete cmdRefresh cmdClose cmdFirst "
+            "cmdPrevious cmdNext cmdLast ");
+  ClickCell(2, 3);
+  EXPECT_EQ(Status(*window), "Record: 2");
+  Key(*window, Qt::Key_Down);
+  EXPECT_EQ(Current(), (std::pair{3, 3}));
+  Key(*window, Qt::Key_Down);
+  EXPECT_EQ(user.beeps, 1);
+  EXPECT_EQ(Current(), (std::pair{3, 3})) << "not the row for new entries";
+  Key(*window, Qt::Key_Left);
+  Key(*window, Qt::Key_Home);
+  EXPECT_EQ(Current(), (std::pair{1, 2}));
+  Click(window->cmdEdit);
+  Key(*window, Qt::Key_Down);
+  EXPECT_EQ(Status(*window), "Record: 2") << "in editing the keys are the table's";
+  Click(window->cmdCancel);
+  EXPECT_EQ(Current(), (std::pair{1, 2}));
+}
+
+TEST_F(AllWords, EditsInPlace) {
+  Start();
+  ClickCell(2, 2);
+  Grid().setFocus();
+  Key(*window, Qt::Key_F2);
+  ASSERT_TRUE(Editor());
+  EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("Abitazione\nDimora"));
+  Key(*window, Qt::Key_Return, Qt::ControlModifier);
+  Type(*window, u"Nido");
+  Key(*window, Qt::Key_Home);
+  Type(*window, u"> ");
+  Key(*window, Qt::Key_Return);
+  ExpectNoEditor();
+  EXPECT_EQ(Shown(1), "CASA|Abitazione/Dimora/> Nido|");
+  EXPECT_EQ(Stored("CASA"), "Abitazione\r\nDimora") << "the row is not left yet";
+  Grid().setFocus();
+  Key(*window, Qt::Key_Right);
+  Type(*window, u"d");
+  Type(*window, u"ura");
+  Click(window->cmdNext);
+  EXPECT_EQ(Stored("CASA"), "Abitazione\r\nDimora\r\n> Nido");
+  EXPECT_EQ(Stored("CASA", true), "dura");
+  ExpectNoEditor();
+
+  Grid().setFocus();
+  Key(*window, Qt::Key_Return);
+  ASSERT_TRUE(Editor());
+  Type(*window, u"x");
+  Key(*window, Qt::Key_Escape);
+  ExpectNoEditor();
+  EXPECT_TRUE(window->isVisible());
+  Key(*window, Qt::Key_F2);
+  Type(*window, u"y");
+  Click(window->cmdClose);
+  EXPECT_EQ(Stored("ZETA", true), "Ultimay");
+}
+
+TEST_F(AllWords, AddsInItsLastRow) {
+  Start();
+  Click(window->cmdAdd);
+  EXPECT_EQ(Current(), (std::pair{4, 1}));
+  EXPECT_EQ(window->focusWidget(), &Grid());
+  EXPECT_EQ(Buttons(*window), "Add Edit Delete Refresh Close and moves");
+  EXPECT_EQ(window->InAggiunta, Falso);
+  Key(*window, Qt::Key_Up);
+  EXPECT_EQ(Current(), (std::pair{3, 1}));
+  EXPECT_EQ(Grid().model()->rowCount(), 4) << "an untouched one is none";
+  ClickCell(4, 1);
+  Grid().setFocus();
+  Type(*window, u"b");
+  Type(*window, u"ar");
+  Key(*window, Qt::Key_Tab);
+  ASSERT_TRUE(Editor());
+  Type(*window, u"Ci si beve");
+  ClickCell(1, 1);
+  EXPECT_EQ(Stored("bar"), "Ci si beve") << "as it was typed";
+  EXPECT_EQ(Shown(3), "bar|Ci si beve|");
+  EXPECT_EQ(Grid().model()->rowCount(), 5);
+  EXPECT_EQ(Status(*window), "Record: 1");
+  Click(window->cmdRefresh);
+  EXPECT_EQ(Shown(3), "bar|Ci si beve|") << "small letters sort behind capitals";
+  ClickCell(4, 1);
+  Click(window->cmdDelete);
+  EXPECT_EQ(Current().first, 3) << "the new last row";
+  EXPECT_EQ(Stored("bar"), "?");
+  EXPECT_EQ(Grid().model()->rowCount(), 4);
+}
+
+TEST_F(AllWords, CancelDropsWhatIsBeingTyped) {
+  Start();
+  ClickCell(2, 2);
+  Click(window->cmdEdit);
+  Grid().setFocus();
+  Type(*window, u"x");
+  Click(window->cmdCancel);
+  EXPECT_EQ(Current(), (std::pair{1, 2})) << "always the first row";
+  EXPECT_EQ(Shown(1), "CASA|Abitazione/Dimora|");
+  Key(*window, Qt::Key_Escape);
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(Stored("CASA"), "Abitazione\r\nDimora");
+}
+
+TEST_F(AllWords, ARowThatCannotBeStoredIsNotLeft) {
+  Start();
+  ClickCell(1, 2);
+  Grid().setFocus();
+  Type(*window, u"x");
+  auto lock = LockStore();
+  ClickCell(3, 1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Current().first == 1; }, Patience));
+  EXPECT_EQ(user.TakeTexts(), Busy);
+  EXPECT_EQ(Shown(0), "ARIA|Si respirax|");
+  lock.reset();
+  ClickCell(3, 1);
+  EXPECT_EQ(Stored("ARIA"), "Si respirax");
+  Behind("DELETE FROM Parole WHERE PAROLA = 'CASA'");
+  ClickCell(2, 1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Current().first == 2; }, Patience));
+  EXPECT_TRUE(user.TakeTexts().empty()) << "it is still in memory";
+}
+
+TEST_F(AllWords, OpensOnAnEmptyAndOnAMissingStore) {
+  Behind("DELETE FROM Parole");
+  Start();
+  EXPECT_EQ(Grid().model()->rowCount(), 1);
+  for (QPushButton* button : {window->cmdFirst, window->cmdLast, window->cmdNext,
+                              window->cmdPrevious, window->cmdEdit, window->cmdUpdate})
+    Click(button);
+  EXPECT_EQ(user.beeps, 0);
+  Click(window->cmdAdd);
+  Type(*window, u"S");
+  Click(window->cmdClose);
+  EXPECT_EQ(Stored("S"), "-");
+  fs::remove(InFolder("telarium1.mdb"));
+  Start();
+  EXPECT_EQ(main.shown, std::vector<Modale>{Modale::Form6});
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+  EXPECT_EQ(Grid().model()->rowCount(), 0);
+  Click(window->cmdAdd);
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+}
+
+// --- Both come up through the main window ---
+
+TEST_F(Browsers, ANoticeBelongsToTheWindowThatIsOpen) {
+  EXPECT_TRUE(ComandoDellaVoce("Menudefiniz") && ComandoDellaVoce("menuado"));
+  QWidget above;
+  const auto showsParent = [&above](QWidget& parent) {
+    WhenOpen<Form6>(above, [&parent](Form6& notice) {
+      EXPECT_EQ(notice.parentWidget(), &parent);
+      notice.close();
+    });
+    EXPECT_TRUE(MostraFinestraModale(Modale::Form6, above));
+  };
+  showsParent(above);
+  WhenOpen<telariummdb>(above, [&](telariummdb& window) {
+    showsParent(window);
+    window.close();
+  });
+  EXPECT_TRUE(MostraFinestraModale(Modale::telariummdb, above));
+}
+
+}  // namespace
+}  // namespace telarium
