@@ -1,8 +1,7 @@
 #include "clues/bulk.h"
 
-#include <sqlite3.h>
-
 #include "clues/import.h"
+#include "clues/sqlite_database.h"
 #include "model/words.h"
 #include "platform/text.h"
 #include "support/clue_store.h"
@@ -129,13 +128,10 @@ TEST_F(BulkTest, ErrorWhileSavingKeepsWhatWasWritten) {
   MakeStore("");
   RE = "r";
   MAR = "m";
-  sqlite3* other = nullptr;
-  ASSERT_EQ(sqlite3_open(InFolder("telarium1.mdb").c_str(), &other), SQLITE_OK);
-  sqlite3_exec(other,
-               "DROP TABLE Parole; CREATE TABLE Parole (PAROLA TEXT CHECK (PAROLA <> 'RE'),"
-               " DEFINIZ_FACILE TEXT, DEFINIZ_DIFFIC TEXT)",
-               nullptr, nullptr, nullptr);
-  sqlite3_close(other);
+  BaseDati(InFolder("telarium1.mdb"))
+      .Esegui(
+          "DROP TABLE Parole; CREATE TABLE Parole (PAROLA TEXT CHECK (PAROLA <> 'RE'),"
+          " DEFINIZ_FACILE TEXT, DEFINIZ_DIFFIC TEXT)");
   SalvaDefinizioni();
   const Texts texts = user.TakeTexts();
   ASSERT_EQ(texts.size(), 1u);
@@ -181,12 +177,12 @@ TEST_F(BulkTest, ImportTakesStrangeFilesAsTheyAre) {
 
 TEST_F(BulkTest, ImportCountsAWordThatCannotBeAdded) {
   MakeStore("");
-  sqlite3* other = nullptr;
-  ASSERT_EQ(sqlite3_open(InFolder("telarium1.mdb").c_str(), &other), SQLITE_OK);
-  ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
-  WriteFile("definizIONI.txt", "A\nx\nB\ny\n");
-  Recupera_Definizioni();
-  sqlite3_close(other);
+  {
+    BaseDati other(InFolder("telarium1.mdb"));
+    other.Esegui("BEGIN IMMEDIATE");
+    WriteFile("definizIONI.txt", "A\nx\nB\ny\n");
+    Recupera_Definizioni();
+  }
   EXPECT_EQ(user.TakeTexts(), Texts{ImportReport(2, 0)});
   EXPECT_EQ(Stored("A"), "?");
 }

@@ -1,10 +1,10 @@
 #include "clues/encyclopedia.h"
 
 #include <filesystem>
-#include <sqlite3.h>
 
 #include "clues/clue_family.h"
 #include "clues/encyclopedia_writer.h"
+#include "clues/sqlite_database.h"
 #include "support/clue_store.h"
 #include "support/telarium_test.h"
 
@@ -18,13 +18,7 @@ class EncyclopediaTest : public TelariumTest {
   Percorso store = InFolder("telarium1.mdb");
 
   // Statements on the store past the program, as another one would run them.
-  void Sql(const char* statements) {
-    sqlite3* other = nullptr;
-    ASSERT_EQ(sqlite3_open(store.c_str(), &other), SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(other, statements, nullptr, nullptr, nullptr), SQLITE_OK)
-        << sqlite3_errmsg(other);
-    sqlite3_close(other);
-  }
+  void Sql(const char* statements) const { BaseDati(store).Esegui(statements); }
 
   // What an operation on the open store fails with; empty when it does not.
   static std::string ErrorOf(const std::function<void(Enciclopedia&)>& operation = {}) {
@@ -147,11 +141,11 @@ TEST_F(EncyclopediaTest, FilesThatAreNoStoreAreToldAndNeverWritten) {
 
 TEST_F(EncyclopediaTest, StoreHeldByAnotherProgramIsToldAfterAWhile) {
   MakeStore("A\tF\tx\n");
-  sqlite3* other = nullptr;
-  ASSERT_EQ(sqlite3_open(store.c_str(), &other), SQLITE_OK);
-  ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-  EXPECT_EQ(ErrorOf(), "il file \xE8 occupato da un altro programma.");
-  sqlite3_close(other);
+  {
+    BaseDati other(store);
+    other.Esegui("BEGIN EXCLUSIVE");
+    EXPECT_EQ(ErrorOf(), "il file \xE8 occupato da un altro programma.");
+  }
   EXPECT_EQ(ErrorOf(), "");
 }
 

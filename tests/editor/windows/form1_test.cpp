@@ -1,5 +1,3 @@
-#include "editor/windows/Form1.h"
-
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
@@ -20,85 +18,15 @@
 #include "editor/settings.h"
 #include "editor/startup.h"
 #include "editor/windows/Settaggi.h"
+#include "editor/windows/form1_fixture.h"
 #include "editor/windows/form_commands.h"
 #include "editor/windows/menu_table.h"
 #include "fill/extraction.h"
 #include "model/crossword_file.h"
-#include "support/telarium_test.h"
 #include "support/window_helpers.h"
 
 namespace telarium {
 namespace {
-
-class Form1Test : public TelariumTest {
- protected:
-  void SetUp() override {
-    TelariumTest::SetUp();
-    WriteFile("telarium.INI",
-              "PercentualeRiquadro= 90 \r\nSpessoreBordo= 2 \r\nAltezzaCaratteri= 50 \r\n"
-              "AltezzaNumeri= 20 \r\n");
-    OpenDictionary({"CASA", "SOLE", "ALE", "CARTA"});
-    workingFolder_ = std::filesystem::current_path();
-  }
-
-  void TearDown() override {
-    form.reset();
-    std::filesystem::current_path(workingFolder_);
-    TelariumTest::TearDown();
-  }
-
-  Percorso CrosswordFile(const std::vector<std::string>& rows) {
-    Draw(rows);
-    EXPECT_TRUE(ScriviCruciverba(InFolder("mio.tlrm")));
-    return InFolder("mio.tlrm");
-  }
-
-  // Starts the program as its main does, up to the first idle moment.
-  void Start(const Percorso& commandLine = {}) {
-    AzzeraStato();
-    RigaDiComando = commandLine;
-    CaricaProgramma(InFolder(""));
-    form = std::make_unique<Form1>();
-    platform.surface = &form->Area->Superficie();
-    platform.hasWindow = true;
-    form->Mostra();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(form.get(), Patience));
-    ASSERT_TRUE(QTest::qWaitFor([] { return GiaAttivata != Falso; }, Patience));
-  }
-
-  void StartWith(const std::vector<std::string>& rows) { Start(CrosswordFile(rows)); }
-
-  void Resize(int width, int height) {
-    form->showNormal();
-    form->resize(width, height);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return form->size() == QSize(width, height); }, Patience));
-  }
-
-  // What the window shows at a point of its surface, in logical pixels.
-  QColor Shown(double x, double y) {
-    const QPixmap picture = form->Area->grab();
-    const double ratio = picture.devicePixelRatio();
-    return picture.toImage().pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio));
-  }
-
-  std::string EnabledButtons() const {
-    std::string keys;
-    for (int number = 1; number <= NumPulsanti; ++number) {
-      const QAction& button = form->Toolbar1->Pulsante(number);
-      if (!button.isSeparator() && button.isEnabled()) {
-        keys += button.objectName().toStdString() + ' ';
-      }
-    }
-    return keys;
-  }
-
-  void ClickButton(int number) { form->Toolbar1->Pulsante(number).trigger(); }
-
-  std::unique_ptr<Form1> form;
-
- private:
-  std::filesystem::path workingFolder_;
-};
 
 constexpr int TableButton = 19;
 constexpr int ExtractionButton = 20;
