@@ -62,7 +62,8 @@ std::optional<std::string> PrelevaTutte(std::int16_t modo) {
       definizione = Sorteggia(TestoDelModo(*enciclopedia, modo));
       ++(direzione == Orizzontale ? orizzontali : verticali);
     } catch (const ErroreEnciclopedia&) {
-      // A bad row costs its word alone.
+      // A bad row costs its word alone, and who holds the file keeps the run waiting once.
+      enciclopedia->NonAttendere();
     }
   });
   return Unisci(

@@ -14,9 +14,9 @@ inline constexpr std::int16_t ModoFacili = 2;
 inline constexpr std::int16_t ModoDifficili = 3;
 
 /// Gives each complete word that the encyclopedia knows one of its clues, drawn with equal chances;
-/// the empty one when the families of the mode hold none. Changes Definizione alone. Gives the
-/// report; none when the store could not be opened, which has been told. A word whose row cannot be
-/// read stays as it is.
+/// the empty one when the families of the mode hold none. Changes nothing else of the crossword.
+/// Gives the report; none when the store could not be opened, which has been told. A word whose row
+/// cannot be read stays as it is.
 std::optional<std::string> PrelevaTutte(std::int16_t modo);
 
 /// Menupreltutt, Menuprelfac, menupreldif: PrelevaTutte and its report in a message.

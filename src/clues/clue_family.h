@@ -23,10 +23,10 @@ std::vector<std::string_view> PartiDellaFamiglia(std::string_view famiglia);
 std::vector<std::string_view> DefinizioniDellaFamiglia(std::string_view famiglia);
 
 // The parts of a text that is about to go would be views of nothing.
-template <std::same_as<std::string> Passeggero>
-void PartiDellaFamiglia(Passeggero&& famiglia) = delete;
-template <std::same_as<std::string> Passeggero>
-void DefinizioniDellaFamiglia(Passeggero&& famiglia) = delete;
+template <std::same_as<std::string> Temporaneo>
+void PartiDellaFamiglia(Temporaneo&& famiglia) = delete;
+template <std::same_as<std::string> Temporaneo>
+void DefinizioniDellaFamiglia(Temporaneo&& famiglia) = delete;
 
 inline constexpr int MaxDefinizioni = 1000;
 /// The clues that spezzatesto has found, from entry 1; the entry behind the last one is empty.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "clues/import.h"
+#include "clues/merging.h"
 #include "dictionary/word_list.h"
 #include "platform/codepage.h"
 #include "platform/text.h"
@@ -18,9 +18,9 @@ std::string_view PrendiCampo(std::string_view& riga) {
   return campo;
 }
 
-bool Lettera(char carattere) {
-  return Maiuscola(carattere) != carattere || (carattere >= 'A' && carattere <= 'Z') ||
-         static_cast<unsigned char>(carattere) >= 0xC0;
+// A piece of a clue without its accents; none for what is no letters.
+std::optional<std::string> Piegata(std::string_view testo) {
+  return PiegaParola(AUtf8(testo));
 }
 
 }  // namespace
@@ -38,14 +38,30 @@ std::optional<VoceDiLista> InterpretaVoce(std::string_view rigaUtf8) {
   return VoceDiLista{Maiuscole(parola), famiglia == "D", std::string(definizione)};
 }
 
+EsitoLista AggiungiVoci(std::string_view utf8, std::vector<VoceDiLista>& voci) {
+  EsitoLista esito;
+  LettoreDiRighe righe(SenzaSegnoUtf8(utf8));
+  int numero = 0;
+  for (std::string_view riga; righe.Prossima(riga);) {
+    ++numero;
+    if (SenzaSpazi(riga).empty()) continue;
+    if (auto voce = InterpretaVoce(riga)) {
+      voci.push_back(std::move(*voce));
+    } else if (esito.tralasciate++ == 0) {
+      esito.primaTralasciata = numero;
+    }
+  }
+  return esito;
+}
+
 bool ContieneRisposta(std::string_view definizione, std::string_view parola) {
-  for (std::size_t i = 0; i < definizione.size();) {
-    std::size_t fine = i;
-    while (fine < definizione.size() && Lettera(definizione[fine]))
-      ++fine;
-    const auto una = PiegaParola(AUtf8(definizione.substr(i, fine - i)));
-    if (una && *una == parola) return true;
-    i = fine + 1;
+  const auto risposta = Piegata(parola);
+  const auto lettera = [&](std::size_t i) { return Piegata(definizione.substr(i, 1)).has_value(); };
+  for (std::size_t i = 0; i < definizione.size(); ++i) {
+    const std::size_t inizio = i;
+    while (i < definizione.size() && lettera(i))
+      ++i;
+    if (i > inizio && Piegata(definizione.substr(inizio, i - inizio)) == risposta) return true;
   }
   return false;
 }

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Plain lists of clues, from which the encyclopedia is built: one clue a line, in UTF-8, as word
 // TAB family TAB clue, the family being F for an easy clue and D for a hard one.
@@ -18,8 +19,17 @@ struct VoceDiLista {
 /// another shape, an empty clue, a word of more than one piece, or text that the code page lacks.
 std::optional<VoceDiLista> InterpretaVoce(std::string_view rigaUtf8);
 
-/// Whether a clue gives its answer away: the word stands in it as a word of its own, capitals and
-/// accents aside.
+/// What became of the lines of a list.
+struct EsitoLista {
+  int tralasciate = 0;       // lines that are no entry
+  int primaTralasciata = 0;  // number of the first one, from 1
+};
+
+/// Takes a list in UTF-8 to `voci`. Blank lines are left out without being counted.
+EsitoLista AggiungiVoci(std::string_view utf8, std::vector<VoceDiLista>& voci);
+
+/// Whether a clue gives its answer away: the word, of letters alone, stands in it as a word of its
+/// own, capitals and accents aside.
 bool ContieneRisposta(std::string_view definizione, std::string_view parola);
 
 }  // namespace telarium

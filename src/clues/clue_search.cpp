@@ -4,7 +4,7 @@
 
 #include "clues/encyclopedia.h"
 #include "clues/store_use.h"
-#include "model/state.h"
+#include "model/words.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
@@ -13,7 +13,7 @@ namespace telarium {
 namespace {
 
 bool CarattereAmmesso(char carattere) {
-  return carattere == CellaVuota || (carattere >= 'A' && carattere <= 'Z');
+  return CarattereSemplice(carattere) && carattere != CellaNera;
 }
 
 std::string MessaggioAssente(std::string_view parola) {
@@ -26,14 +26,6 @@ std::string MessaggioAssente(std::string_view parola) {
       "essere anche modificato/aggiornato con Microsoft Access. \r\n"
       "Infine se hai installato Word oppure se hai una connessione ad Internet puoi provare i 2 "
       "bottoni sottostanti."_cp);
-}
-
-// The families of exactly this word; none when it is not there.
-std::optional<Famiglie> LeggiFamiglie(std::string_view parola) {
-  const EnciclopediaAperta enciclopedia = ApriEnciclopedia();
-  if (!enciclopedia->CercaParola(parola)) return std::nullopt;
-  return Famiglie{enciclopedia->LeggiFacili().value_or(""),
-                  enciclopedia->LeggiDifficili().value_or("")};
 }
 
 }  // namespace
@@ -55,8 +47,19 @@ void AvvisaDefinizioneNonScrivibile() {
   Avvisa("La definizione contiene caratteri che il file del cruciverba non può tenere."_cp);
 }
 
+std::string ParolaDaCercare(std::string_view testo) {
+  return Maiuscole(SenzaSpazi(testo));
+}
+
+std::optional<Famiglie> LeggiFamiglie(std::string_view parola) {
+  const EnciclopediaAperta enciclopedia = ApriEnciclopedia();
+  if (!enciclopedia->CercaParola(parola)) return std::nullopt;
+  return Famiglie{enciclopedia->LeggiFacili().value_or(""),
+                  enciclopedia->LeggiDifficili().value_or("")};
+}
+
 std::optional<Famiglie> CercaFamiglie(std::string_view testo, std::string_view incompleta) {
-  const std::string parola = Maiuscole(SenzaSpazi(testo));
+  const std::string parola = ParolaDaCercare(testo);
   if (parola.size() < 2 || parola.find(CellaVuota) != std::string::npos) {
     Avvisa(incompleta);
     return std::nullopt;

@@ -23,9 +23,16 @@ struct Famiglie {
   std::string difficili;
 };
 
-/// Looks the typed word up in the encyclopedia, in capitals and without blanks at its ends. None,
-/// with its message shown, for a word with a "." or of fewer than 2 characters (`incompleta` is
-/// that message), one that is not there (with a beep), and an error of the store.
+/// A typed word as it is looked up: in capitals, without blanks at its ends.
+std::string ParolaDaCercare(std::string_view testo);
+
+/// The families of exactly this word; none when the encyclopedia does not have it. An error of the
+/// store is thrown.
+std::optional<Famiglie> LeggiFamiglie(std::string_view parola);
+
+/// Looks the typed word up in the encyclopedia, by ParolaDaCercare. None, with its message shown,
+/// for a word with a "." or of fewer than 2 characters (`incompleta` is that message), one that is
+/// not there (with a beep), and an error of the store.
 std::optional<Famiglie> CercaFamiglie(std::string_view testo, std::string_view incompleta);
 
 /// Hands a text to the user's word processor in a new document. Without one nothing happens.

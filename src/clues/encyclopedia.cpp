@@ -5,6 +5,9 @@
 
 namespace telarium {
 
+ErroreEnciclopedia::ErroreEnciclopedia(std::string_view perche, Specie specie)
+    : descrizione_(Unisci("Enciclopedia ", NomeEnciclopedia, ": ", perche, '.')), specie_(specie) {}
+
 bool Enciclopedia::ContieneDefinizione(std::string_view definizione) {
   const auto facili = LeggiFacili();
   return facili && Maiuscole(*facili).find(Maiuscole(definizione)) != std::string::npos;
@@ -12,8 +15,8 @@ bool Enciclopedia::ContieneDefinizione(std::string_view definizione) {
 
 void VerificaCercabile(std::string_view parola) {
   if (parola.find('\'') == std::string_view::npos) return;
-  throw ErroreEnciclopedia(Unisci("Enciclopedia ", NomeEnciclopedia, ": la parola \"", parola,
-                                  "\" contiene un apostrofo e non si può cercare."_cp));
+  throw ErroreEnciclopedia(
+      Unisci("la parola \"", parola, "\" contiene un apostrofo e non si può cercare"_cp));
 }
 
 }  // namespace telarium

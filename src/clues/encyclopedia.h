@@ -21,13 +21,22 @@ inline constexpr const char* NomeEnciclopedia = "telarium1.mdb";
 /// below may throw it. An exception, since a whole command ends on it, from wherever it has got to.
 class ErroreEnciclopedia : public std::exception {
  public:
-  /// `descrizione` is Italian, in the code page, and says all that the user gets to know.
-  explicit ErroreEnciclopedia(std::string descrizione) : descrizione_(std::move(descrizione)) {}
+  enum class Specie {
+    Occupata,   // another program holds the file
+    RigaPersa,  // the row is gone, or not as it was read: another program was there
+    Altra,
+  };
+
+  /// `perche` is Italian, in the code page, and the end of the sentence that the user gets to see.
+  explicit ErroreEnciclopedia(std::string_view perche, Specie specie = Specie::Altra);
+
   const std::string& Descrizione() const { return descrizione_; }
+  Specie DiSpecie() const { return specie_; }
   const char* what() const noexcept override { return descrizione_.c_str(); }
 
  private:
   std::string descrizione_;
+  Specie specie_;
 };
 
 /// Names a row for as long as it exists.
@@ -79,14 +88,19 @@ class Enciclopedia {
   /// letters being the same: RE is in IL PRETE.
   bool ContieneDefinizione(std::string_view definizione);
 
+  /// An operation waits up to a second for another program that holds the file; after this call it
+  /// no longer does. For runs that go on after an error.
+  virtual void NonAttendere() = 0;
+
   // --- For the browsers, which keep a set of rows of their own ---
 
   /// All rows, sorted.
   virtual std::vector<ChiaveRiga> Chiavi() = 0;
 
-  /// A row by its number. One that has been deleted meanwhile is an error.
+  /// A row by its number. One that is no longer there is an error of the kind RigaPersa.
   virtual RigaParole LeggiRiga(NumeroRiga numero) = 0;
   virtual void ScriviRiga(NumeroRiga numero, const ModificheRiga& modifiche) = 0;
+  /// Deletes a row if it is still there.
   virtual void EliminaRiga(NumeroRiga numero) = 0;
 
   /// Adds a row and gives its number.

@@ -24,10 +24,6 @@ bool IniziaCon(std::string_view parola, std::string_view inMaiuscole) {
                     [](char voluto, char carattere) { return Maiuscola(carattere) == voluto; });
 }
 
-[[noreturn]] void Fallisci(std::string_view perche) {
-  throw ErroreEnciclopedia(Unisci("Enciclopedia ", NomeEnciclopedia, ": ", perche));
-}
-
 }  // namespace
 
 void RigheEnciclopedia::Apri() {
@@ -47,7 +43,7 @@ void RigheEnciclopedia::Chiudi() {
 }
 
 Enciclopedia& RigheEnciclopedia::Archivio() {
-  if (!archivio_) Fallisci("il file non è aperto."_cp);
+  if (!archivio_) throw ErroreEnciclopedia("il file non è aperto"_cp);
   return *archivio_;
 }
 
@@ -110,6 +106,11 @@ ModificheRiga RigheEnciclopedia::Cambiate() {
   return cambiate;
 }
 
+bool RigheEnciclopedia::Sospesa() {
+  const ModificheRiga cambiate = Cambiate();
+  return cambiate.parola || cambiate.facili || cambiate.difficili;
+}
+
 void RigheEnciclopedia::Registra() {
   const ModificheRiga cambiate = Cambiate();
   if (nuova_) {
@@ -118,12 +119,26 @@ void RigheEnciclopedia::Registra() {
     nuova_ = false;
     posizione_ = NumeroRighe();
   } else if (cambiate.parola || cambiate.facili || cambiate.difficili) {
+    VerificaInvariata(cambiate);
     ChiaveRiga& riga = righe_[static_cast<std::size_t>(posizione_) - 1];
     Archivio().ScriviRiga(riga.numero, cambiate);
     lette_.erase(riga.numero);
     if (cambiate.parola) riga.parola = *cambiate.parola;
   }
   impostate_ = {};
+}
+
+// What was read some time ago must not be written over what another program has stored since.
+void RigheEnciclopedia::VerificaInvariata(const ModificheRiga& cambiate) {
+  const RigaParole adesso = Archivio().LeggiRiga(Segnalibro());
+  const bool invariata =
+      (!cambiate.parola || adesso.parola == Letto(posizione_, CampoParole::Parola)) &&
+      (!cambiate.facili || adesso.facili.value_or("") == Letto(posizione_, CampoParole::Facili)) &&
+      (!cambiate.difficili ||
+       adesso.difficili.value_or("") == Letto(posizione_, CampoParole::Difficili));
+  if (invariata) return;
+  throw ErroreEnciclopedia("la riga è stata cambiata da un altro programma"_cp,
+                           ErroreEnciclopedia::Specie::RigaPersa);
 }
 
 void RigheEnciclopedia::RegistraSospese() {
@@ -141,7 +156,7 @@ void RigheEnciclopedia::Annulla() {
 
 void RigheEnciclopedia::Elimina() {
   if (nuova_) return Annulla();
-  if (!HaRiga()) Fallisci("non c'è nessuna riga da eliminare."_cp);
+  if (!HaRiga()) throw ErroreEnciclopedia("non c'è nessuna riga da eliminare"_cp);
   const auto riga = righe_.begin() + posizione_ - 1;
   Archivio().EliminaRiga(riga->numero);
   impostate_ = {};
@@ -152,7 +167,18 @@ void RigheEnciclopedia::Elimina() {
 
 void RigheEnciclopedia::Rileggi() {
   if (!Aperta()) return Apri();
-  RegistraSospese();
+  try {
+    RegistraSospese();
+  } catch (const ErroreEnciclopedia& errore) {
+    if (errore.DiSpecie() == ErroreEnciclopedia::Specie::Occupata) throw;
+    Annulla();
+    LeggiChiavi();
+    throw;
+  }
+  LeggiChiavi();
+}
+
+void RigheEnciclopedia::LeggiChiavi() {
   righe_ = Archivio().Chiavi();
   lette_.clear();
   posizione_ = righe_.empty() ? 0 : 1;

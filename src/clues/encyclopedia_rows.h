@@ -44,8 +44,8 @@ class RigheEnciclopedia {
   bool Indietro() { return VaiA(Posizione() - 1); }
 
   /// Makes the first row current, from the current one on and that one included, whose word begins
-  /// with the text, capitals and small letters being the same. False, and nothing changes, when
-  /// there is none. A text with an apostrophe is an error of the store.
+  /// with the text, capitals and small letters being the same. False when there is none: then the
+  /// row stays. A text with an apostrophe is an error of the store.
   bool CercaInizio(std::string_view testo);
 
   /// What names the current row for a later Torna; 0 without one, and for a new row that of the
@@ -59,8 +59,11 @@ class RigheEnciclopedia {
   /// Sets a field of the current row, none: takes back what was set. A word is one line, and the
   /// lines of a family get its separator. Nothing happens without a current row.
   void Imposta(CampoParole campo, std::optional<std::string_view> testo);
+  /// Whether anything was set that is not what was read.
+  bool Sospesa();
   /// Stores the new row, empty as it may be, or those fields of the current row whose text is not
-  /// what was read: the others may hold characters that the code page lacks.
+  /// what was read: the others may hold characters that the code page lacks. A field that another
+  /// program has changed since is an error of the kind RigaPersa.
   void Registra();
   /// As Registra, but a new row of which nothing was set is dropped.
   void RegistraSospese();
@@ -69,7 +72,8 @@ class RigheEnciclopedia {
   /// Deletes the current row from the store at once. The next one becomes current, or the last one.
   void Elimina();
   /// Stores what was set and reads all rows again, opening the store if it is not open. The first
-  /// row becomes current.
+  /// row becomes current. What cannot be stored is dropped, and its error thrown once the rows are
+  /// read; while another program holds the file all stays as it is.
   void Rileggi();
 
   /// A field of the current row as it was set, else as it is stored; empty for null.
@@ -82,6 +86,8 @@ class RigheEnciclopedia {
   std::string Letto(int posizione, CampoParole campo);
   const RigaParole& Riga(NumeroRiga numero);
   ModificheRiga Cambiate();
+  void VerificaInvariata(const ModificheRiga& cambiate);
+  void LeggiChiavi();
 
   EnciclopediaAperta archivio_;
   std::vector<ChiaveRiga> righe_;

@@ -7,12 +7,13 @@
 #include "clues/encyclopedia.h"
 #include "clues/sqlite_database.h"
 #include "model/state.h"
+#include "platform/codepage.h"
 #include "platform/text.h"
 
 namespace telarium {
 namespace {
 
-using Voce = VociDiEnciclopedia::const_iterator;
+using Voce = std::vector<VoceDiLista>::const_iterator;
 
 // One family of the entries of one word; none without a clue.
 std::optional<std::string> Famiglia(Voce da, Voce a, bool difficile, int& definizioni) {
@@ -35,7 +36,7 @@ std::optional<std::string> Famiglia(Voce da, Voce a, bool difficile, int& defini
 }
 
 // The database as a file has it. The rows go in sorted, so that neighbours lie side by side.
-std::string ImmagineEnciclopedia(const VociDiEnciclopedia& voci, EsitoEnciclopedia& esito) {
+std::string ImmagineEnciclopedia(const std::vector<VoceDiLista>& voci, EsitoEnciclopedia& esito) {
   BaseDati base;
   base.Esegui(
       "CREATE TABLE Parole (PAROLA TEXT NOT NULL, DEFINIZ_FACILE TEXT, DEFINIZ_DIFFIC TEXT);"
@@ -57,55 +58,49 @@ std::string ImmagineEnciclopedia(const VociDiEnciclopedia& voci, EsitoEncicloped
   return base.Immagine();
 }
 
+constexpr const char* CodaRegistro = "-wal";
+
+// Opened and closed, the old store takes its log in, so that nothing of it is lost if the new one
+// fails. A log that is there behind that is another program's, which is writing.
+void RaccogliRegistro(const Percorso& file) {
+  try {
+    ApriEnciclopedia();
+  } catch (const ErroreEnciclopedia& errore) {
+    if (errore.DiSpecie() == ErroreEnciclopedia::Specie::Occupata) throw;
+    return;  // there is none, or none that could be kept
+  }
+  std::error_code ignorato;
+  if (!std::filesystem::exists(Percorso(file) += CodaRegistro, ignorato)) return;
+  throw ErroreEnciclopedia("il file è occupato da un altro programma"_cp,
+                           ErroreEnciclopedia::Specie::Occupata);
+}
+
 // A log beside the old file would be played back over the new one.
 void TogliRegistro(const Percorso& file) {
-  for (const char* coda : {"-wal", "-shm", "-journal"}) {
+  for (const char* coda : {CodaRegistro, "-shm", "-journal"}) {
     std::error_code ignorato;
     std::filesystem::remove(Percorso(file) += coda, ignorato);
   }
 }
 
-// Opened and closed, the old store takes its log in: nothing of it is lost if the new one fails.
-void RaccogliRegistro() {
-  try {
-    ApriEnciclopedia();
-  } catch (const ErroreEnciclopedia&) {
-    // There is none, or none that could be kept.
-  }
-}
-
 }  // namespace
 
-EsitoLista AggiungiVoci(std::string_view utf8, VociDiEnciclopedia& voci) {
-  EsitoLista esito;
-  LettoreDiRighe righe(utf8);
-  int numero = 0;
-  for (std::string_view riga; righe.Prossima(riga);) {
-    ++numero;
-    if (SenzaSpazi(riga).empty()) continue;
-    if (auto voce = InterpretaVoce(riga)) {
-      voci.push_back(std::move(*voce));
-    } else if (esito.tralasciate++ == 0) {
-      esito.primaTralasciata = numero;
-    }
-  }
-  return esito;
-}
-
-EsitoEnciclopedia ScriviEnciclopedia(VociDiEnciclopedia voci) {
+EsitoEnciclopedia ScriviEnciclopedia(std::vector<VoceDiLista> voci) {
   const auto perParola = [](const VoceDiLista& a, const VoceDiLista& b) {
     return a.parola < b.parola;
   };
   std::stable_sort(voci.begin(), voci.end(), perParola);
   EsitoEnciclopedia esito;
   const Percorso nome = PercorsoNellaCartella(CartellaProgramma, NomeEnciclopedia);
-  RaccogliRegistro();
-  const auto errore = ScriviFile(nome, ImmagineEnciclopedia(voci, esito));
-  if (errore) {
-    return {.errore = Unisci("Impossibile scrivere l'enciclopedia ", NomeEnciclopedia, ": ",
-                             DescrizioneErrore(errore), '.')};
+  try {
+    RaccogliRegistro(nome);
+    const std::string immagine = ImmagineEnciclopedia(voci, esito);
+    TogliRegistro(nome);
+    if (const auto errore = ScriviFile(nome, immagine))
+      throw ErroreEnciclopedia(Unisci("impossibile scriverla: ", DescrizioneErrore(errore)));
+  } catch (const ErroreEnciclopedia& errore) {
+    return {.errore = errore.Descrizione()};
   }
-  TogliRegistro(nome);
   return esito;
 }
 

@@ -17,26 +17,36 @@ namespace {
 constexpr std::size_t MaxByteFile = 256u << 20;   // far above any list; it is held in memory
 constexpr std::chrono::milliseconds Cadenza{16};  // between two looks at the message loop
 
-// Tells on Command1 how far the import has come, as often as the screen can show it.
+// Tells on Command1 how far the import has come, and looks at the message loop, as often as the
+// screen can show it; at the end once more.
 class Avanzamento {
  public:
-  void Aggiunta(int parole, std::string_view parola) {
+  ~Avanzamento() { Mostra(); }
+
+  void Aggiunta(int parole, std::string_view parola) { didascalia_ = Unisci(parole, ' ', parola); }
+
+  void Avanza() {
     const auto adesso = std::chrono::steady_clock::now();
     if (adesso < prossimo_) return;
     prossimo_ = adesso + Cadenza;
-    LaFinestra().ScriviCommand1(Unisci(parole, ' ', parola));
+    Mostra();
     ChiUsa().CediAiMessaggi();
   }
 
  private:
+  void Mostra() {
+    if (!didascalia_.empty()) LaFinestra().ScriviCommand1(didascalia_);
+  }
+
+  std::string didascalia_;
   std::chrono::steady_clock::time_point prossimo_;
 };
 
 // The text in the code page. A file that somebody has saved in UTF-8 is told by its multi-byte
 // characters, which no Italian text in the code page happens to hold.
 std::string NellaCodePage(std::string testo) {
-  constexpr std::string_view segnoUtf8 = "\xEF\xBB\xBF";
-  if (testo.starts_with(segnoUtf8)) return DaUtf8(std::string_view(testo).substr(segnoUtf8.size()));
+  const std::string_view senzaSegno = SenzaSegnoUtf8(testo);
+  if (senzaSegno.size() < testo.size()) return DaUtf8(senzaSegno);
   if (auto convertito = DaUtf8Esatto(testo)) return std::move(*convertito);
   return testo;
 }
@@ -62,7 +72,8 @@ void UnisciCoppia(Enciclopedia& enciclopedia, std::string_view parola, std::stri
   try {
     enciclopedia.AggiungiParola(parola, definizione);
   } catch (const ErroreEnciclopedia&) {
-    // The next word may fare better.
+    // The next word may fare better; who holds the file keeps the run waiting once.
+    enciclopedia.NonAttendere();
   }
   avanzamento.Aggiunta(++conto.parole, parola);
 }
@@ -78,16 +89,12 @@ ContoFusioni UnisciCoppie(Enciclopedia& enciclopedia, std::string_view testo) {
     definizione = SenzaSpazi(definizione);
     if (CoppiaAmmessa(parola, definizione))
       UnisciCoppia(enciclopedia, parola, definizione, conto, avanzamento);
+    avanzamento.Avanza();
   }
   return conto;
 }
 
 }  // namespace
-
-bool CoppiaAmmessa(std::string_view parola, std::string_view definizione) {
-  return !parola.empty() && !definizione.empty() &&
-         parola.find_first_of(" -,.'") == std::string_view::npos;
-}
 
 std::optional<std::string> ImportaDefinizioni() {
   std::optional<std::string> rapporto;

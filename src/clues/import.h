@@ -5,18 +5,15 @@
 #include <string_view>
 
 // A plain text file of clues, merged into the encyclopedia. Odd lines hold a word, even ones a clue
-// of it, in the code page; blanks at the ends of a line do not count.
+// of it, in the code page; blanks at the ends of a line do not count. A file that somebody has
+// saved in UTF-8 is taken for what it is.
 namespace telarium {
 
 inline constexpr const char* NomeFileDefinizioni = "definizIONI.txt";
 
-/// Whether a word and a clue, without blanks at their ends, make a pair: neither is empty, and the
-/// word holds no blank, "-", ",", "." or "'".
-bool CoppiaAmmessa(std::string_view parola, std::string_view definizione);
-
 /// Merges definizIONI.txt of the program folder into the easy families; pairs that are none are
 /// skipped. A word that cannot be added is counted and skipped. Gives the report; none without a
-/// readable file or after another error of the store, which have been told; what was merged until
+/// readable file or after any other error, which have been told; what was merged until
 /// then stays.
 std::optional<std::string> ImportaDefinizioni();
 

@@ -4,6 +4,11 @@
 
 namespace telarium {
 
+bool CoppiaAmmessa(std::string_view parola, std::string_view definizione) {
+  return !parola.empty() && !definizione.empty() &&
+         parola.find_first_of(" -,.'") == std::string_view::npos;
+}
+
 void UnisciAllaRiga(Enciclopedia& enciclopedia, std::string_view definizione, ContoFusioni& conto) {
   if (enciclopedia.ContieneDefinizione(definizione)) return;
   enciclopedia.ScriviFacili(definizione);

@@ -9,6 +9,10 @@
 // families; the hard ones are neither looked at nor written.
 namespace telarium {
 
+/// Whether a word and a clue, without blanks at their ends, make a pair: neither is empty, and the
+/// word holds no blank, "-", ",", "." or "'".
+bool CoppiaAmmessa(std::string_view parola, std::string_view definizione);
+
 /// How often a run of merges has changed the store.
 struct ContoFusioni {
   int parole = 0;       // rows added

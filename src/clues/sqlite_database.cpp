@@ -34,32 +34,34 @@ constexpr Spiegazione spiegazioni[] = {
     {SQLITE_CORRUPT, "il file è danneggiato"_cp},
     {SQLITE_BUSY, "il file è occupato da un altro programma"_cp},
     {SQLITE_LOCKED, "il file è occupato da un altro programma"_cp},
+    {SQLITE_READONLY_DBMOVED, "il file è stato spostato o eliminato"_cp},
     {SQLITE_READONLY, "il file è di sola lettura"_cp},
     {SQLITE_PERM, "non c'è il permesso di accedere al file"_cp},
     {SQLITE_FULL, "il disco è pieno"_cp},
     {SQLITE_IOERR, "errore di lettura o di scrittura del disco"},
     {SQLITE_TOOBIG, "il testo è troppo lungo"_cp},
     {SQLITE_NOMEM, "memoria esaurita"},
+    {SQLITE_CONSTRAINT, "il file non ammette questi dati"},
 };
 
-// What an error of SQLite means; for the others also its own words, in English.
+// What an error of SQLite means; for the others in its own words, which are English.
 std::string Spiegata(int codice, const char* parole) {
-  if (codice == SQLITE_ERROR) {
-    return Unisci("il file non ha la tabella o le colonne di un'enciclopedia (", DaUtf8(parole),
-                  ')');
-  }
-  const auto trovata = std::find_if(std::begin(spiegazioni), std::end(spiegazioni),
-                                    [&](const Spiegazione& una) { return una.codice == codice; });
-  return trovata == std::end(spiegazioni) ? DaUtf8(parole) : std::string(trovata->testo);
+  // The lower byte is the kind of error, the rest tells more of it.
+  const auto trovata =
+      std::find_if(std::begin(spiegazioni), std::end(spiegazioni), [&](const Spiegazione& una) {
+        return una.codice == codice || una.codice == (codice & 0xFF);
+      });
+  if (trovata != std::end(spiegazioni)) return std::string(trovata->testo);
+  return Unisci("errore del file (", DaUtf8(parole), ')');
 }
 
 }  // namespace
 
-BaseDati::BaseDati() : nome_("in memoria") {
+BaseDati::BaseDati() {
   Apri(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
 }
 
-BaseDati::BaseDati(const Percorso& file) : nome_(TestoPercorso(file.filename())) {
+BaseDati::BaseDati(const Percorso& file) {
   Apri(file.c_str(), SQLITE_OPEN_READWRITE);
 }
 
@@ -68,7 +70,7 @@ void BaseDati::Apri(const char* file, int come) {
     const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> chiusa(connessione_, sqlite3_close);
     Fallisci();
   }
-  sqlite3_busy_timeout(connessione_, AttesaDiAltri);
+  Attesa(AttesaDiAltri);
   // The file may come from anywhere: what its schema brings along is not run.
   for (const auto& [scelta, valore] : scelteDiSicurezza)
     sqlite3_db_config(connessione_, scelta, valore, nullptr);
@@ -78,12 +80,15 @@ BaseDati::~BaseDati() {
   sqlite3_close(connessione_);
 }
 
+void BaseDati::Attesa(int millisecondi) {
+  sqlite3_busy_timeout(connessione_, millisecondi);
+}
+
 void BaseDati::Fallisci() const {
-  const int codice = sqlite3_errcode(connessione_) & 0xFF;  // the lower byte: without its details
-  // Who kept the file so long will not let go soon: a run over many words waits once.
-  if (codice == SQLITE_BUSY) sqlite3_busy_timeout(connessione_, 0);
-  throw ErroreEnciclopedia(
-      Unisci("Enciclopedia ", nome_, ": ", Spiegata(codice, sqlite3_errmsg(connessione_)), '.'));
+  const int codice = sqlite3_extended_errcode(connessione_);
+  throw ErroreEnciclopedia(Spiegata(codice, sqlite3_errmsg(connessione_)),
+                           (codice & 0xFF) == SQLITE_BUSY ? ErroreEnciclopedia::Specie::Occupata
+                                                          : ErroreEnciclopedia::Specie::Altra);
 }
 
 void BaseDati::Esegui(const char* sql) {
@@ -108,9 +113,12 @@ std::string BaseDati::Immagine() const {
 
 Istruzione::Istruzione(BaseDati& base, const char* sql) : base_(base) {
   if (sqlite3_prepare_v3(base_.connessione_, sql, -1, SQLITE_PREPARE_PERSISTENT, &istruzione_,
-                         nullptr) != SQLITE_OK) {
-    base_.Fallisci();
+                         nullptr) == SQLITE_OK) {
+    return;
   }
+  if (sqlite3_errcode(base_.connessione_) != SQLITE_ERROR) base_.Fallisci();
+  throw ErroreEnciclopedia(Unisci("il file non ha la tabella o le colonne di un'enciclopedia (",
+                                  DaUtf8(sqlite3_errmsg(base_.connessione_)), ')'));
 }
 
 Istruzione::~Istruzione() {

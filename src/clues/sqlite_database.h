@@ -11,7 +11,8 @@ struct sqlite3;
 struct sqlite3_stmt;
 
 // The little that the encyclopedia needs of SQLite. Texts go to the database and come from it in
-// UTF-8 and are here in the code page. Every failure throws ErroreEnciclopedia.
+// UTF-8 and are here in the code page. Every failure throws ErroreEnciclopedia, but for memory that
+// is exhausted.
 namespace telarium {
 
 class Istruzione;
@@ -26,6 +27,9 @@ class BaseDati {
   ~BaseDati();
   BaseDati(const BaseDati&) = delete;
   BaseDati& operator=(const BaseDati&) = delete;
+
+  /// How long an operation waits for another program that holds the file; at first a second.
+  void Attesa(int millisecondi);
 
   /// Runs statements that give no rows.
   void Esegui(const char* sql);
@@ -44,7 +48,6 @@ class BaseDati {
   void Apri(const char* file, int come);
   [[noreturn]] void Fallisci() const;
 
-  std::string nome_;  // for messages
   sqlite3* connessione_ = nullptr;
 };
 

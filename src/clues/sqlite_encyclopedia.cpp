@@ -9,18 +9,16 @@ namespace {
 
 // The store as an SQLite database, the table Parole with the columns PAROLA, DEFINIZ_FACILE and
 // DEFINIZ_DIFFIC and an index on PAROLA (encyclopedia_writer.cpp makes it). As long as it is only
-// read the file is never written to. The first write turns to a write-ahead log, in which a commit
+// read nothing is stored in it. The first write turns to a write-ahead log, in which a commit
 // waits for no disk; the end of the connection folds the log back into the file, which then opens
 // as it is on any medium.
 class EnciclopediaSqlite : public Enciclopedia {
  public:
   explicit EnciclopediaSqlite(const Percorso& file)
       : base_(file),
-        prima_(base_, "SELECT rowid FROM Parole ORDER BY PAROLA, rowid LIMIT 1"),
-        cerca_(base_, "SELECT rowid FROM Parole WHERE PAROLA = ?1 ORDER BY rowid LIMIT 1"),
+        cerca_(base_,
+               "SELECT rowid FROM Parole WHERE PAROLA = ?1 COLLATE BINARY ORDER BY rowid LIMIT 1"),
         leggi_(base_, "SELECT PAROLA, DEFINIZ_FACILE, DEFINIZ_DIFFIC FROM Parole WHERE rowid = ?1"),
-        facili_(base_, "SELECT DEFINIZ_FACILE FROM Parole WHERE rowid = ?1"),
-        difficili_(base_, "SELECT DEFINIZ_DIFFIC FROM Parole WHERE rowid = ?1"),
         inserisci_(base_,
                    "INSERT INTO Parole (PAROLA, DEFINIZ_FACILE, DEFINIZ_DIFFIC)"
                    " VALUES (?1, ?2, ?3)"),
@@ -29,16 +27,15 @@ class EnciclopediaSqlite : public Enciclopedia {
                   " coalesce(DEFINIZ_FACILE, '') || char(13, 10) || ?2 WHERE rowid = ?1") {
     // With a log, this lets a commit return before the disk has it; the file stays sound.
     base_.Esegui("PRAGMA synchronous = NORMAL");
-    corrente_ = PrimaRiga(prima_);
-    // A log that a killed program has left is folded back too.
-    Istruzione modo(base_, "PRAGMA journal_mode");
-    conRegistro_ = modo.Passo() && modo.Testo(0) == "wal";
+    Istruzione prima(base_,
+                     "SELECT rowid FROM Parole ORDER BY PAROLA COLLATE BINARY, rowid LIMIT 1");
+    corrente_ = PrimaRiga(prima);
   }
 
   ~EnciclopediaSqlite() override {
-    if (!conRegistro_) return;
     try {
-      base_.Esegui("PRAGMA journal_mode = DELETE");
+      // Also a log that a killed program has left, or another one of today's connections.
+      if (ConRegistro()) base_.Esegui("PRAGMA journal_mode = DELETE");
     } catch (const ErroreEnciclopedia&) {
       // Another connection is still open: it folds the log back.
     }
@@ -51,8 +48,10 @@ class EnciclopediaSqlite : public Enciclopedia {
     return corrente_.has_value();
   }
 
-  std::optional<std::string> LeggiFacili() override { return LeggiCampo(facili_); }
-  std::optional<std::string> LeggiDifficili() override { return LeggiCampo(difficili_); }
+  std::optional<std::string> LeggiFacili() override { return LeggiRiga(RigaCorrente()).facili; }
+  std::optional<std::string> LeggiDifficili() override {
+    return LeggiRiga(RigaCorrente()).difficili;
+  }
 
   void AggiungiParola(std::string_view parola, std::string_view definizione) override {
     corrente_ = InserisciRiga({.parola = std::string(parola),
@@ -67,8 +66,11 @@ class EnciclopediaSqlite : public Enciclopedia {
     VerificaTrovata();
   }
 
+  void NonAttendere() override { base_.Attesa(0); }
+
   std::vector<ChiaveRiga> Chiavi() override {
-    Istruzione tutte(base_, "SELECT rowid, PAROLA FROM Parole ORDER BY PAROLA, rowid");
+    Istruzione tutte(base_,
+                     "SELECT rowid, PAROLA FROM Parole ORDER BY PAROLA COLLATE BINARY, rowid");
     std::vector<ChiaveRiga> chiavi;
     while (tutte.Passo())
       chiavi.push_back({tutte.Intero(0), tutte.Testo(1).value_or("")});
@@ -124,8 +126,7 @@ class EnciclopediaSqlite : public Enciclopedia {
   }
 
   [[noreturn]] static void Mancante() {
-    throw ErroreEnciclopedia(
-        Unisci("Enciclopedia ", NomeEnciclopedia, ": la riga non c'è più."_cp));
+    throw ErroreEnciclopedia("la riga non c'è più"_cp, ErroreEnciclopedia::Specie::RigaPersa);
   }
 
   void VerificaTrovata() const {
@@ -137,23 +138,22 @@ class EnciclopediaSqlite : public Enciclopedia {
     return *corrente_;
   }
 
-  std::optional<std::string> LeggiCampo(Istruzione& lettura) {
-    if (!lettura.Lega(1, RigaCorrente()).Passo()) Mancante();
-    auto testo = lettura.Testo(0);
-    lettura.Ricomincia();
-    return testo;
+  bool ConRegistro() {
+    Istruzione modo(base_, "PRAGMA journal_mode");
+    return modo.Passo() && modo.Testo(0) == "wal";
   }
 
   void PreparaScrittura() {
-    if (conRegistro_) return;
+    if (preparata_) return;
+    base_.Esegui("BEGIN IMMEDIATE; COMMIT");  // waits for another program, which the next does not
     base_.Esegui("PRAGMA journal_mode = WAL");
-    conRegistro_ = true;
+    preparata_ = true;
   }
 
   BaseDati base_;
-  Istruzione prima_, cerca_, leggi_, facili_, difficili_, inserisci_, aggiungi_;
+  Istruzione cerca_, leggi_, inserisci_, aggiungi_;
   std::optional<NumeroRiga> corrente_;
-  bool conRegistro_ = false;
+  bool preparata_ = false;  // for writing
 };
 
 }  // namespace

@@ -12,8 +12,8 @@
 namespace telarium {
 namespace {
 
-void AggiungiVoci(std::vector<VoceDefinizione>& voci, std::string_view specie,
-                  const std::string& famiglia) {
+void AggiungiDidascalie(std::vector<VoceDefinizione>& voci, std::string_view specie,
+                        const std::string& famiglia) {
   for (const std::string_view definizione : DefinizioniDellaFamiglia(famiglia)) {
     const int numero = static_cast<int>(voci.size()) + 1;
     voci.push_back({Unisci(DueCifre(numero), "-(", specie, ") ", definizione),
@@ -81,8 +81,8 @@ std::optional<std::vector<VoceDefinizione>> CercaVoci(std::string_view parola) {
       "La ricerca della definizione è possibile solo su una parola completa di almeno 2 caratteri."_cp);
   if (!famiglie) return std::nullopt;
   std::vector<VoceDefinizione> voci;
-  AggiungiVoci(voci, "Facile", famiglie->facili);
-  AggiungiVoci(voci, "Diffic", famiglie->difficili);
+  AggiungiDidascalie(voci, "Facile", famiglie->facili);
+  AggiungiDidascalie(voci, "Diffic", famiglie->difficili);
   return voci;
 }
 

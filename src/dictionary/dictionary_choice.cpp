@@ -32,10 +32,16 @@ std::vector<VoceDiDizionario> CaricaVociDizionari() {
 }
 
 void ConDizionario(const Percorso& nome, const std::function<void()>& operazione) {
-  const Percorso prima = NomeDizionario;
-  NomeDizionario = nome;
-  if (ApriDizionario()) operazione();
-  NomeDizionario = prima;
+  // The name comes back whatever happens.
+  struct Nome {
+    Percorso prima = NomeDizionario;
+    ~Nome() { NomeDizionario = prima; }
+  };
+  {
+    const Nome conservato;
+    NomeDizionario = nome;
+    if (ApriDizionario()) operazione();
+  }
   ApriDizionario();
 }
 

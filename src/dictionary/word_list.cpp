@@ -57,21 +57,17 @@ std::optional<std::string> PiegaParola(std::string_view utf8) {
     } else if (!AccentoCombinato(*carattere)) {
       return std::nullopt;
     }
-    if (parola.size() > MaxLunghezza) return std::nullopt;
   }
-  if (!LunghezzaAmmessa(static_cast<int>(parola.size()))) return std::nullopt;
   return parola;
 }
 
 void AggiungiLista(std::string_view utf8, ListeDiParole& liste) {
-  constexpr std::string_view SegnoUtf8 = "\xEF\xBB\xBF";  // some editors begin a file with it
-  if (utf8.starts_with(SegnoUtf8)) utf8.remove_prefix(SegnoUtf8.size());
-  LettoreDiRighe righe(utf8);
+  LettoreDiRighe righe(SenzaSegnoUtf8(utf8));
   std::string_view riga;
   while (righe.Prossima(riga)) {
-    if (auto parola = PiegaParola(riga)) {
+    auto parola = PiegaParola(riga);
+    if (parola && parola->size() >= MinLunghezza && parola->size() <= MaxLunghezza)
       liste[parola->size() - MinLunghezza].push_back(std::move(*parola));
-    }
   }
 }
 

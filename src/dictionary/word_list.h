@@ -14,12 +14,12 @@ namespace telarium {
 /// Words by their length less 3.
 using ListeDiParole = std::array<std::vector<std::string>, MaxLunghezza - MinLunghezza + 1>;
 
-/// A word in UTF-8 as a dictionary holds it: in capitals, accents folded ("È" to "E", "Œ" to "OE").
-/// None for one with any other character than A to Z then, or of a length outside 3 to 15.
+/// A word in UTF-8 in capitals, accents folded ("È" to "E", "Œ" to "OE"). None for one with any
+/// other character than A to Z then.
 std::optional<std::string> PiegaParola(std::string_view utf8);
 
-/// Takes a list in UTF-8, one word a line, to `liste`, each as PiegaParola gives it; what it
-/// refuses is left out.
+/// Takes a list in UTF-8, one word a line, to `liste`, each as PiegaParola gives it. What it
+/// refuses, and a word of a length outside 3 to 15, is left out.
 void AggiungiLista(std::string_view utf8, ListeDiParole& liste);
 
 /// Sorts each list by character code and drops doubled words.

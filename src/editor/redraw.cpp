@@ -84,14 +84,15 @@ void RidisegnaSchema() {
   if (SchemaColorato()) AggiornaIstantanea();
 }
 
-void CalcolaGeometria(const Superficie& superficie, double t, double s) {
+void CalcolaGeometria(const Superficie& superficie, double cima, double fondo) {
   const double w = superficie.LarghezzaSuperficie();
   const double h = superficie.AltezzaSuperficie();
   const int a = ArrotondaPari((w - 2 * MargineProvvisorio - 4) / NumColonne);
-  const int b = ArrotondaPari((h - t - s - 2 - 2 * MargineProvvisorio - 4) / NumRighe);
+  const int b = ArrotondaPari((h - cima - fondo - 2 - 2 * MargineProvvisorio - 4) / NumRighe);
   LatoCasella = static_cast<std::int16_t>(std::max(std::min(a, b), 0));
   OrigineX = static_cast<std::int16_t>(ArrotondaPari((w - LatoCasella * NumColonne) / 2));
-  OrigineY = static_cast<std::int16_t>(ArrotondaPari((t + h - 2 - s - LatoCasella * NumRighe) / 2));
+  OrigineY =
+      static_cast<std::int16_t>(ArrotondaPari((cima + h - 2 - fondo - LatoCasella * NumRighe) / 2));
 }
 
 bool SchemaColorato() {

@@ -17,7 +17,7 @@ void RidisegnaSchema();
 
 /// Sets LatoCasella, OrigineX and OrigineY so that the cells fit between a band of that height at
 /// the surface's top and one at its bottom, centred there. Wants a grid.
-void CalcolaGeometria(const Superficie& superficie, double t, double s);
+void CalcolaGeometria(const Superficie& superficie, double cima, double fondo);
 
 /// Whether a black cell has a colour, so that a redraw writes the snapshot.
 bool SchemaColorato();

@@ -123,15 +123,21 @@ std::string InTreCaratteri(int numero) {
   return std::string(3 - cifre.size(), ' ') + cifre;
 }
 
+// A text as one line of the file, which has no escape for a line break in it and no zero bytes.
+std::string InUnaRiga(std::string_view testo) {
+  std::string riga = SenzaInterruzioni(testo);
+  std::replace(riga.begin(), riga.end(), '\0', ' ');
+  return riga;
+}
+
 void AggiungiDefinizioni(std::string& testo) {
   for (int c = 1; c <= NumColonne; ++c) {
     for (int r = 1; r <= NumRighe; ++r) {
       for (const int d : Direzioni) {
         const std::string& definizione = Definizione(c, r, d);
         if (definizione.empty() || !IniziaParola({c, r}, d)) continue;
-        // The format has no escape for a line break inside a clue.
-        AggiungiRiga(testo, Unisci(InTreCaratteri(c), InTreCaratteri(r), d, '-',
-                                   SenzaInterruzioni(definizione)));
+        AggiungiRiga(testo,
+                     Unisci(InTreCaratteri(c), InTreCaratteri(r), d, '-', InUnaRiga(definizione)));
       }
     }
   }
@@ -149,13 +155,13 @@ void AggiungiColori(std::string& testo) {
 std::optional<std::string> TestoDelFile() {
   std::string testo;
   for (int i = 1; i <= NumRighe + RigheIntestazione; ++i) {
-    const auto riga =
-        i > RigheIntestazione ? RigaSpostata(Schema(i)) : SenzaInterruzioni(Schema(i));
+    const auto riga = i > RigheIntestazione ? RigaSpostata(Schema(i)) : InUnaRiga(Schema(i));
     if (!riga) return std::nullopt;
     AggiungiRiga(testo, *riga);
   }
   AggiungiDefinizioni(testo);
   AggiungiColori(testo);
+  if (testo.size() > MaxByteCruciverba) return std::nullopt;  // it could not be read again
   return testo;
 }
 

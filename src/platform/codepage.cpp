@@ -53,6 +53,11 @@ std::optional<std::string> DaUtf8Esatto(std::string_view utf8) {
   return testo;
 }
 
+std::string_view SenzaSegnoUtf8(std::string_view utf8) {
+  constexpr std::string_view segno = "\xEF\xBB\xBF";
+  return utf8.starts_with(segno) ? utf8.substr(segno.size()) : utf8;
+}
+
 std::string AUtf8(std::string_view testo) {
   std::string utf8;
   utf8.reserve(testo.size() + testo.size() / 8);

@@ -76,6 +76,9 @@ std::string DaUtf8(std::string_view utf8);
 /// As DaUtf8, but none when a character has no place in the code page or the text is no UTF-8.
 std::optional<std::string> DaUtf8Esatto(std::string_view utf8);
 
+/// A UTF-8 text without the mark that some editors begin a file with.
+std::string_view SenzaSegnoUtf8(std::string_view utf8);
+
 /// A text of the code page in UTF-8.
 std::string AUtf8(std::string_view testo);
 

@@ -1,6 +1,6 @@
 #include "clues/bulk.h"
 #include "clues/clue_family.h"
-#include "clues/encyclopedia.h"
+#include "clues/clue_search.h"
 #include "clues/encyclopedia_writer.h"
 #include "clues/import.h"
 #include "clues/store_use.h"
@@ -26,7 +26,8 @@ Stato StampaRapporto(const std::optional<std::string>& rapporto) {
 }
 
 Stato EncCrea(const Argomenti& argomenti, PiattaformaConsole&) {
-  VociDiEnciclopedia voci;
+  std::vector<VoceDiLista> voci;
+  bool tutteTralasciate = false;
   for (const std::string& file : argomenti.liberi) {
     const auto lista = LeggiLista("lista di definizioni", file, MaxByteLista);
     if (!lista) return Stato::Fallito;
@@ -35,6 +36,11 @@ Stato EncCrea(const Argomenti& argomenti, PiattaformaConsole&) {
       Avvisa(Unisci(TestoPercorso(file), ": righe tralasciate ", tralasciate, ", la prima è la "_cp,
                     prima, '.'));
     }
+    tutteTralasciate = voci.empty() && (tutteTralasciate || tralasciate > 0);
+  }
+  if (tutteTralasciate) {  // files of another kind, by mistake
+    Avvisa("Nessuna definizione nelle liste: l'enciclopedia resta com'era.");
+    return Stato::Fallito;
   }
   AscoltaInterruzione();  // a file beside the encyclopedia must not be left
   const EsitoEnciclopedia esito = ScriviEnciclopedia(std::move(voci));
@@ -70,22 +76,18 @@ Stato Importa(const Argomenti&, PiattaformaConsole&) {
   return StampaRapporto(ImportaDefinizioni());
 }
 
-void StampaFamiglia(std::string_view sigla, const std::optional<std::string>& famiglia) {
-  if (!famiglia) return;
-  for (const std::string_view definizione : DefinizioniDellaFamiglia(*famiglia))
+void StampaFamiglia(std::string_view sigla, const std::string& famiglia) {
+  for (const std::string_view definizione : DefinizioniDellaFamiglia(famiglia))
     StampaCampi({sigla, definizione});
 }
 
 Stato Definizioni(const Argomenti& argomenti, PiattaformaConsole&) {
-  bool trovata = false;
-  ConEnciclopedia([&] {
-    const EnciclopediaAperta enciclopedia = ApriEnciclopedia();
-    trovata = enciclopedia->CercaParola(Maiuscole(SenzaSpazi(DaUtf8(argomenti.liberi[0]))));
-    if (!trovata) return;
-    StampaFamiglia("F", enciclopedia->LeggiFacili());
-    StampaFamiglia("D", enciclopedia->LeggiDifficili());
-  });
-  return trovata ? Stato::Fatto : Stato::Fallito;
+  std::optional<Famiglie> famiglie;
+  ConEnciclopedia([&] { famiglie = LeggiFamiglie(ParolaDaCercare(DaUtf8(argomenti.liberi[0]))); });
+  if (!famiglie) return Stato::Fallito;
+  StampaFamiglia("F", famiglie->facili);
+  StampaFamiglia("D", famiglie->difficili);
+  return Stato::Fatto;
 }
 
 }  // namespace

@@ -33,17 +33,6 @@ TEST_F(ClueEditorTest, OpensAtTheLowerRightOfTheCellAndWithinTheScreen) {
   }
 }
 
-TEST_F(ClueEditorTest, UnchangedWordIsNotWrittenAgain) {
-  Draw({"CASA"});
-  CursoreX = CursoreY = 1;
-  Direzione = Orizzontale;
-  // What the dialog took at its opening stands above what the table has now.
-  EXPECT_TRUE(AccettaDefinizione("COSA", "nuova", "COSA"));
-  EXPECT_EQ(ParolaInEsame() + DefinizioneInEsame(), "CASAnuova");
-  EXPECT_TRUE(AccettaDefinizione("C.SA", "", "CASA"));
-  EXPECT_EQ(ParolaInEsame() + DefinizioneInEsame(), "C.SA");
-}
-
 TEST_F(ClueEditorTest, PopupHasNoSecondSeparatorWithoutPrivateDictionaries) {
   WriteFile("LessicoX.DAT", "");
   EXPECT_EQ(CaricaVociDizionari().size(), 2u);

@@ -1,6 +1,9 @@
 #include "clues/encyclopedia.h"
 
+#include <chrono>
 #include <filesystem>
+#include <memory>
+#include <thread>
 
 #include "clues/clue_family.h"
 #include "clues/encyclopedia_writer.h"
@@ -94,6 +97,14 @@ TEST_F(EncyclopediaTest, CharactersOutsideTheCodePageShowAsQuestionMarksAndStay)
   EXPECT_EQ(Stored("TROVATA"), "-");
 }
 
+TEST_F(EncyclopediaTest, SearchIsExactWhateverTheFileSays) {
+  MakeStore("A\tF\tx\n");
+  Sql("DROP TABLE Parole; CREATE TABLE Parole (PAROLA TEXT COLLATE NOCASE, DEFINIZ_FACILE TEXT,"
+      " DEFINIZ_DIFFIC TEXT); INSERT INTO Parole VALUES ('a', 'x', NULL), ('B', 'y', NULL)");
+  EXPECT_FALSE(ApriEnciclopedia()->CercaParola("A"));
+  EXPECT_EQ(Keys(), "B a ");
+}
+
 TEST_F(EncyclopediaTest, RowsComeAndGoByTheirNumbers) {
   MakeStore("A\tF\tx\n");
   const EnciclopediaAperta open = ApriEnciclopedia();
@@ -146,6 +157,17 @@ TEST_F(EncyclopediaTest, StoreHeldByAnotherProgramIsToldAfterAWhile) {
     other.Esegui("BEGIN EXCLUSIVE");
     EXPECT_EQ(ErrorOf(), "il file \xE8 occupato da un altro programma.");
   }
+  // A write waits for one that is soon done.
+  auto other = std::make_unique<BaseDati>(store);
+  other->Esegui("BEGIN IMMEDIATE");
+  const auto begun = std::chrono::steady_clock::now();
+  std::thread release([&other] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    other.reset();
+  });
+  EXPECT_EQ(ErrorOf([](Enciclopedia& open) { open.AggiungiParola("B", "y"); }), "");
+  EXPECT_GE(std::chrono::steady_clock::now() - begun, std::chrono::milliseconds(100));
+  release.join();
   EXPECT_EQ(ErrorOf(), "");
 }
 
@@ -154,8 +176,13 @@ TEST_F(EncyclopediaTest, TheFileIsWholeAndAloneAfterEachConnection) {
   {
     const EnciclopediaAperta browser = ApriEnciclopedia();
     ApriEnciclopedia()->AggiungiParola("B", "y");
+    const EnciclopediaAperta writer = ApriEnciclopedia();
+    writer->AggiungiParola("C", "z");
     EXPECT_TRUE(browser->CercaParola("B")) << "a browser sees what another connection stores";
+    EXPECT_NE(ScriviEnciclopedia({}).errore, "") << "not while another one writes";
   }
+  const std::string bytes = ReadFile(store);
+  EXPECT_EQ(bytes.substr(18, 2), "\1\1") << "no log is told in the file";
   fs::copy_file(store, InFolder("copia"));
   fs::rename(InFolder("copia"), store);
   EXPECT_EQ(Stored("B"), "y");
@@ -165,9 +192,9 @@ TEST_F(EncyclopediaTest, TheFileIsWholeAndAloneAfterEachConnection) {
 TEST_F(EncyclopediaTest, WriterReplacesTheOldStoreWhenTheNewOneIsComplete) {
   MakeStore("VECCHIA\tF\tx\n");
   WriteFile("telarium1.mdb-wal", "the log of a killed program");
-  VociDiEnciclopedia entries;
+  std::vector<VoceDiLista> entries;
   const EsitoLista list = AggiungiVoci(
-      "zia\tF\tSorella di mamma\r\nZIA\tD\t \xE2\x82\xAC \n\nZIA\tF\tSorella di mamma\n"
+      "\xEF\xBB\xBFzia\tF\tSorella di mamma\r\nZIA\tD\t \xE2\x82\xAC \n\nZIA\tF\tSorella di mamma\n"
       "UN ALTRO\tF\tx\nZIA\tX\tx\nZIA\tF\t\nZIA\nZIA\tF\ta\tb\nZIA\tF\t\xCE\xA9\nZIA\tF\t\xFF\n",
       entries);
   EXPECT_EQ(list.tralasciate, 7);
@@ -205,9 +232,20 @@ TEST(ClueFamily, SpezzatestoKeepsAThousand) {
 }
 
 TEST(ClueList, AnswerIsFoundAsAWordOfItsOwn) {
-  EXPECT_TRUE(ContieneRisposta("Il per\xF9 degli Inca", "PERU"));
-  EXPECT_TRUE(ContieneRisposta("l'ORO", "ORO"));
-  EXPECT_FALSE(ContieneRisposta("Tesoro d'oriente", "ORO"));
+  struct Case {
+    const char* clue;
+    const char* word;
+    bool found;
+  };
+  for (const auto& [clue, word, found] :
+       {Case{"Il per\xF9 degli Inca", "PERU", true}, Case{"Il Per\xF9", "PER\xD9", true},
+        Case{"l'ORO", "ORO", true}, Case{"Il re", "RE", true},
+        Case{"2\xD7"
+             "RE",
+             "RE", true},
+        Case{"Un supercalifragili\xE8", "SUPERCALIFRAGILIE", true},
+        Case{"Tesoro d'oriente", "ORO", false}, Case{"", "ORO", false}})
+    EXPECT_EQ(ContieneRisposta(clue, word), found) << clue;
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ void TryFamily(std::string_view input) {
 
 // A list becomes a store, which takes the input as a clue file twice, the second time for nothing.
 void TryStore(std::string_view input) {
-  VociDiEnciclopedia entries;
+  std::vector<VoceDiLista> entries;
   AggiungiVoci(input, entries);
   for (const VoceDiLista& entry : entries)
     ContieneRisposta(entry.definizione, entry.parola);

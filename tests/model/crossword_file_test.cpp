@@ -196,5 +196,18 @@ TEST_F(CrosswordFile, WhatCannotBeWrittenIsToldAndTheOldFileStays) {
   EXPECT_EQ(user.TakeTexts(), WriteError);
 }
 
+TEST_F(CrosswordFile, WhatIsWrittenCanBeReadAgain) {
+  Draw({"CA"});
+  Definizione(1, 1, Orizzontale) = std::string("a\0b\r\nc", 6);
+  ASSERT_TRUE(ScriviCruciverba(InFolder("x.tlrm")));
+  ASSERT_EQ(ApriCruciverba(InFolder("x.tlrm")), Apertura::Intera);
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "a b c");
+  RicalcolaCaselle();
+  Definizione(1, 1, Orizzontale) = std::string(MaxByteCruciverba, 'x');
+  EXPECT_FALSE(ScriviCruciverba(InFolder("x.tlrm")));
+  EXPECT_EQ(user.TakeTexts(), std::vector<std::string>{"Errore di scrittura del file!"});
+  EXPECT_EQ(ApriCruciverba(InFolder("x.tlrm")), Apertura::Intera) << "the old file stays";
+}
+
 }  // namespace
 }  // namespace telarium

@@ -13,7 +13,7 @@ namespace telarium {
 /// Makes the encyclopedia of the test's program folder from a clue list: word TAB F or D TAB clue,
 /// in UTF-8.
 inline void MakeStore(std::string_view list) {
-  VociDiEnciclopedia entries;
+  std::vector<VoceDiLista> entries;
   ASSERT_EQ(AggiungiVoci(list, entries).tralasciate, 0);
   ASSERT_EQ(ScriviEnciclopedia(std::move(entries)).errore, "");
 }

@@ -34,6 +34,10 @@ TEST_F(TelarClues, EncyclopediaIsMadeAndShown) {
   EXPECT_EQ(Out("definizioni ORO"), "D\t\"Au\"\n");
   EXPECT_EQ(Told("definizioni argento", 1), "");
   EXPECT_EQ(Told("enc-crea manca a", 1), "Non trovata la lista di definizioni: manca\n");
+  Write("other", "no list\nat all\n");
+  EXPECT_EQ(Told("enc-crea other", 1),
+            "other: righe tralasciate 2, la prima è la 1.\n"
+            "Nessuna definizione nelle liste: l'enciclopedia resta com'era.\n");
   EXPECT_EQ(Out("definizioni ORO"), "D\t\"Au\"\n") << "the old one stays";
   EXPECT_EQ(Names("program"), Words{"telarium1.mdb"});
 }
@@ -74,23 +78,24 @@ TEST_F(TelarClues, ImportThatIsKilledLeavesAStoreWithWhatItHadAdded) {
   call.arguments = {"importa-definizioni"};
   const Percorso store = InFolder("program/telarium1.mdb");
   {
-    TelarProcess import(call);
-    import.WaitUntil([&] {
+    TelarProcess running(call);
+    running.WaitUntil([&] {
       std::error_code none;
-    return fs::file_size(store, none) > 200'000;
-  });
-  import.Kill();
-  EXPECT_EQ(import.WaitForEnd().status, -9);
-}
-const auto rows = [] { return ApriEnciclopedia()->Chiavi(); };
-const std::size_t kept = rows().size();
-ASSERT_GT(kept, 1000u);
-EXPECT_EQ(Out(Unisci("definizioni P", kept - 1)), Unisci("F\tDefinizione numero ", kept - 1, '\n'))
-    << "all that came before the last one";
-WriteFile("program/definizIONI.txt", "P0\r\naltra\r\n");
-EXPECT_NE(Out("importa-definizioni"), "");
-EXPECT_EQ(rows().size(), kept);
+      return fs::file_size(store, none) > 200'000;
+    });
+    running.Kill();
+    EXPECT_EQ(running.WaitForEnd().status, -9);
+  }
+  const auto rows = [] { return ApriEnciclopedia()->Chiavi(); };
+  const std::size_t kept = rows().size();
+  ASSERT_GT(kept, 1000u);
+  EXPECT_EQ(Out(Unisci("definizioni P", kept - 1)),
+            Unisci("F\tDefinizione numero ", kept - 1, '\n'))
+      << "all that came before the last one";
+  WriteFile("program/definizIONI.txt", "P0\r\naltra\r\n");
+  EXPECT_NE(Out("importa-definizioni"), "");
+  EXPECT_EQ(rows().size(), kept);
 }  // namespace
 
-}  // namespace telarium
+}  // namespace
 }  // namespace telarium

@@ -7,6 +7,7 @@
 #include <QStyleOptionFocusRect>
 
 #include "editor/windows/pictures.h"
+#include "platform/qt/qt_dialog.h"
 
 namespace telarium {
 
@@ -28,9 +29,7 @@ void EtichettaCollegamento::mouseReleaseEvent(QMouseEvent* evento) {
 }
 
 void EtichettaCollegamento::keyPressEvent(QKeyEvent* evento) {
-  const int tasto = evento->key();
-  const bool preme = tasto == Qt::Key_Return || tasto == Qt::Key_Enter || tasto == Qt::Key_Space;
-  if (!preme) return QLabel::keyPressEvent(evento);
+  if (!Invio(*evento) && evento->key() != Qt::Key_Space) return QLabel::keyPressEvent(evento);
   if (azione_) azione_();
 }
 

@@ -45,10 +45,6 @@ constexpr int NoniDelleColonne[Colonne] = {1, 3, 5};
 // Of a clue, which can have any length.
 constexpr std::size_t MaxCaratteriInUnaRiga = 500;
 
-bool Invio(const QKeyEvent& evento) {
-  return evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
-}
-
 // A key that only leads to another control, or that is held for another key.
 bool SoloDiPassaggio(const QKeyEvent& evento) {
   constexpr int tasti[] = {Qt::Key_Tab,     Qt::Key_Backtab, Qt::Key_Shift,
@@ -140,6 +136,7 @@ void TelarBro::CreaTabella() {
 
 void TelarBro::CreaCaselle() {
   Text1 = Chiamato(QStringLiteral("Text1"), new QLineEdit(campo_));
+  ScriviInMaiuscole(*Text1);
   Text2 = Chiamato(QStringLiteral("Text2"), new RigaDefinizione(campo_));
   for (QLineEdit* casella : std::initializer_list<QLineEdit*>{Text1, Text2})
     casella->installEventFilter(this);
@@ -149,8 +146,7 @@ void TelarBro::CreaCaselle() {
 
 QPushButton* TelarBro::Bottone(const QString& nome, const QString& testo,
                                const QString& consiglio) {
-  QPushButton* nuovo = Chiamato(nome, new QPushButton(testo, campo_));
-  nuovo->setToolTip(consiglio);
+  QPushButton* nuovo = Pulsante(nome, testo, consiglio, campo_);
   const QSize misura = nuovo->sizeHint();
   nuovo->resize(std::max(misura.width(), LarghezzaBottone), misura.height());
   return nuovo;
@@ -168,6 +164,7 @@ void TelarBro::CreaBottoni() {
   connect(Command1, &QPushButton::clicked, this, [this] { Varia(); });
   connect(Command2, &QPushButton::clicked, this, [this] { Cerca(); });
   connect(Command3d1, &QPushButton::clicked, this, [this] {
+    if (!ConfermaRigaAperta()) return;
     // After a failure, which has been told, the older snapshot is not read back: nothing is lost.
     static_cast<void>(ScriviIstantanea());
     accept();
@@ -302,6 +299,14 @@ void TelarBro::MostraModifica(bool visibile) {
   }
 }
 
+// What somebody has typed into an open row counts as wanted, also without Varia. False when it is
+// refused, which has been told.
+bool TelarBro::ConfermaRigaAperta() {
+  if (!InModifica() || (!Text1->isModified() && !Text2->isModified())) return true;
+  Varia();
+  return !InModifica();
+}
+
 bool TelarBro::DefinizioneScrivibile() {
   if (Text2->Definizione()) return true;
   AvvisaDefinizioneNonScrivibile();
@@ -347,13 +352,12 @@ void TelarBro::MostraVoci(const std::vector<VoceDefinizione>& voci) {
 
 bool TelarBro::TastoInGitter1(const QKeyEvent& evento) {
   if (SoloDiPassaggio(evento)) return false;
-  const bool eraInModifica = InModifica();
   MostraModifica(false);
   if (Invio(evento) || evento.key() == Qt::Key_F2) {
     ApriModificaRiga();
     return true;
   }
-  return evento.key() == Qt::Key_Escape && eraInModifica;
+  return evento.key() == Qt::Key_Escape;  // one too many must not cost the changes
 }
 
 bool TelarBro::TastoInText1(const QKeyEvent& evento) {
@@ -362,11 +366,10 @@ bool TelarBro::TastoInText1(const QKeyEvent& evento) {
     Varia();
     return true;
   }
-  QChar lettera = Digitata(evento);
-  if (lettera.isNull()) return false;
-  if (lettera >= u'a' && lettera <= u'z') lettera = lettera.toUpper();
-  if (lettera == u'.' || (lettera >= u'A' && lettera <= u'Z')) Text1->insert(lettera);
-  return true;
+  const QChar scritto = Digitata(evento);
+  const QChar lettera = scritto.toUpper();
+  const bool ammesso = scritto.isNull() || scritto == u'.' || (lettera >= u'A' && lettera <= u'Z');
+  return !ammesso;
 }
 
 bool TelarBro::TastoInText2(const QKeyEvent& evento) {

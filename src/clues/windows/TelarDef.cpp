@@ -35,20 +35,12 @@ void TieniIlPosto(QWidget& controllo, bool tieni) {
   controllo.setSizePolicy(misure);
 }
 
-QPushButton* Pulsante(const QString& nome, const QString& testo, const QString& tip,
-                      QWidget* genitore) {
-  auto* pulsante = Chiamato(nome, new QPushButton(testo, genitore));
-  pulsante->setToolTip(tip);
-  pulsante->setAutoDefault(false);  // Enter belongs to the boxes and lists
-  return pulsante;
-}
-
 void Riempi(QListWidget& elenco, const std::string& famiglia) {
   elenco.clear();
   for (const std::string_view definizione : PartiDellaFamiglia(famiglia)) {
     const QString intera = AQt(definizione);
     auto* voce = new QListWidgetItem(intera.left(MaxCaratteriElenco).simplified(), &elenco);
-    voce->setToolTip(intera.left(MaxCaratteriElenco).toHtmlEscaped());
+    voce->setToolTip(ComeSuggerimento(intera.left(MaxCaratteriElenco)));
     voce->setData(Qt::UserRole, QByteArray(definizione.data(), qsizetype(definizione.size())));
   }
 }
@@ -104,11 +96,14 @@ QListWidget* TelarDef::CreaElenco(const QString& nome) {
   elenco->setUniformItemSizes(true);  // families may have thousands of clues
   elenco->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   elenco->setTextElideMode(Qt::ElideRight);  // the tip has the whole clue
-  // By a double click or the Enter key.
-  connect(elenco, &QListWidget::itemActivated, this, [this](const QListWidgetItem* voce) {
-    Text1->Mostra(voce->data(Qt::UserRole).toByteArray().toStdString());
-  });
+  elenco->installEventFilter(this);
+  connect(elenco, &QListWidget::itemDoubleClicked, this, [this, elenco] { CopiaScelta(*elenco); });
   return elenco;
+}
+
+void TelarDef::CopiaScelta(const QListWidget& elenco) {
+  const QListWidgetItem* voce = elenco.currentItem();
+  if (voce) Text1->Mostra(voce->data(Qt::UserRole).toByteArray().toStdString());
 }
 
 void TelarDef::CreaTrovate() {
@@ -139,6 +134,7 @@ void TelarDef::CreaRicerca() {
   Combo1->setEditable(true);
   Combo1->setCompleter(nullptr);
   Combo1->lineEdit()->setReadOnly(true);
+  Combo1->installEventFilter(this);
   Combo1->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   Combo1->setMinimumContentsLength(MinCaratteriParole);
   Label5 = Chiamato(QStringLiteral("Label5"), new QLabel(this));
@@ -200,16 +196,7 @@ void TelarDef::Disponi() {
 }
 
 void TelarDef::Collega() {
-  // Small letters become capitals while they are typed; what else is typed is looked at later.
-  connect(Text2, &QLineEdit::textEdited, this, [this](const QString& testo) {
-    QString capitali = testo;
-    for (QChar& carattere : capitali)
-      if (carattere >= u'a' && carattere <= u'z') carattere = carattere.toUpper();
-    if (capitali == testo) return;
-    const int cursore = Text2->cursorPosition();
-    Text2->setText(capitali);
-    Text2->setCursorPosition(cursore);
-  });
+  ScriviInMaiuscole(*Text2);  // what else is typed is looked at later
   for (std::size_t i = 0; i < Check3d1.size(); ++i)
     connect(Check3d1[i], &QCheckBox::toggled, Label2[i], &QLabel::setVisible);
   connect(Combo1, &QComboBox::textActivated, Text2, &QLineEdit::setText);
@@ -324,10 +311,8 @@ void TelarDef::ApriMenuDizionari() {
     }
     const QString testo = ComeVoceDiMenu(AQt(voce.testo));
     menubrdiz.push_back(menudizionari->addAction(testo, this, [this, file = voce.file] {
-      ConDizionario(file, [this] {
-        CercaMaschera();
-        ChiUsa().CediAiMessaggi();
-      });
+      ConDizionario(file, [this] { CercaMaschera(); });
+      ChiUsa().CediAiMessaggi();
     }));
   }
   menudizionari->popup(QCursor::pos());
@@ -351,13 +336,21 @@ void TelarDef::done(int esito) {
 }
 
 bool TelarDef::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (evento->type() == QEvent::KeyPress && (oggetto == Text1 || oggetto == Text2)) {
-    const int tasto = static_cast<QKeyEvent*>(evento)->key();
-    if (tasto == Qt::Key_Return || tasto == Qt::Key_Enter) {
+  const bool rotella = evento->type() == QEvent::Wheel;
+  if (oggetto == Combo1) return rotella;  // it would change the word without being meant to
+  if (evento->type() == QEvent::KeyPress) {
+    const auto& tasto = static_cast<const QKeyEvent&>(*evento);
+    const auto* elenco = qobject_cast<QListWidget*>(oggetto);
+    const bool esc = tasto.key() == Qt::Key_Escape;
+    if (elenco && Invio(tasto)) {
+      CopiaScelta(*elenco);
+      return true;
+    }
+    if (!elenco && Invio(tasto)) {
       AccettaDefinizione();
       return true;
     }
-    if (tasto == Qt::Key_Escape) {
+    if (!elenco && esc) {
       reject();
       return true;
     }

@@ -66,6 +66,7 @@ class TelarDef : public FinestraModale {
   void CreaDefinizione();
   void CreaTrovate();
   QListWidget* CreaElenco(const QString& nome);
+  void CopiaScelta(const QListWidget& elenco);
   void CreaMaschera();
   void CreaRicerca();
   void Disponi();

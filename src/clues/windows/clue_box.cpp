@@ -1,9 +1,12 @@
 #include "clues/windows/clue_box.h"
 
-#include <QSignalBlocker>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
 #include <algorithm>
 
 #include "clues/clue_search.h"
+#include "platform/qt/qt_dialog.h"
 #include "platform/qt/qt_text.h"
 #include "platform/text.h"
 
@@ -11,7 +14,7 @@ namespace telarium {
 namespace {
 
 // A file can hold a clue of any length, which would keep a line of text busy for seconds.
-constexpr std::size_t MaxCaratteriInUnaRiga = 4000;
+constexpr std::size_t MaxCaratteriMostrati = 4000;
 
 }  // namespace
 
@@ -26,37 +29,53 @@ int DefinizioneMostrata::MaxCaratteri() const {
 
 std::optional<std::string> DefinizioneMostrata::Letta(const QString& testo) const {
   if (testo == testo_) return definizione_;
-  const std::string definizione = DaQt(testo);
-  if (AQt(definizione) != testo) return std::nullopt;
-  return SenzaInterruzioni(definizione);
+  const auto definizione = DaQtEsatto(testo);
+  if (!definizione) return std::nullopt;
+  return SenzaInterruzioni(*definizione);
 }
 
 CasellaDefinizione::CasellaDefinizione(QWidget* genitore) : QPlainTextEdit(genitore) {
   setTabChangesFocus(true);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  connect(this, &QPlainTextEdit::textChanged, this, [this] { Limita(); });
 }
 
 void CasellaDefinizione::Mostra(const std::string& definizione) {
-  const QSignalBlocker senzaLimite(this);
-  setPlainText(AQt(definizione));
-  mostrata_.Ricorda(definizione, toPlainText());
+  telarium::Mostra(*this, AQt(definizione));
+  mostrata_.Ricorda(definizione, TestoDi(*this));
 }
 
-// Takes back, before the cursor, what the last change has typed or pasted beyond the limit.
-void CasellaDefinizione::Limita() {
-  const auto eccesso = static_cast<int>(toPlainText().size() - mostrata_.MaxCaratteri());
-  if (eccesso <= 0) return;
-  const QSignalBlocker senzaLimite(this);
-  QTextCursor cursore = textCursor();
-  cursore.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor, eccesso);
-  cursore.removeSelectedText();
+std::optional<std::string> CasellaDefinizione::Definizione() const {
+  return mostrata_.Letta(TestoDi(*this));
+}
+
+// How many characters may still come in, in place of the marked ones.
+int CasellaDefinizione::Posto() const {
+  const auto marcati = textCursor().selectedText().size();
+  const auto altri = document()->characterCount() - 1 - marcati;  // Qt counts one for the end
+  return std::max(mostrata_.MaxCaratteri() - static_cast<int>(altri), 0);
+}
+
+void CasellaDefinizione::keyPressEvent(QKeyEvent* evento) {
+  const bool scrive = !evento->text().isEmpty() && evento->text().front().isPrint();
+  if (scrive && Posto() == 0) return;
+  QPlainTextEdit::keyPressEvent(evento);
+}
+
+void CasellaDefinizione::inputMethodEvent(QInputMethodEvent* evento) {
+  evento->setCommitString(evento->commitString().left(Posto()), evento->replacementStart(),
+                          evento->replacementLength());
+  QPlainTextEdit::inputMethodEvent(evento);
+}
+
+void CasellaDefinizione::insertFromMimeData(const QMimeData* dati) {
+  insertPlainText(dati->text().left(Posto()));
 }
 
 void RigaDefinizione::Mostra(const std::string& definizione) {
-  const QString testo = AQt(std::string_view(definizione).substr(0, MaxCaratteriInUnaRiga));
+  const QString testo = AQt(std::string_view(definizione).substr(0, MaxCaratteriMostrati));
   mostrata_.Ricorda(definizione, testo);
   setMaxLength(mostrata_.MaxCaratteri());
+  setReadOnly(testo.size() < static_cast<qsizetype>(definizione.size()));
   setText(testo);
   setCursorPosition(0);
 }

@@ -36,15 +36,21 @@ class CasellaDefinizione : public QPlainTextEdit {
   void Mostra(const std::string& definizione);
 
   /// The clue in the box, by DefinizioneMostrata.
-  std::optional<std::string> Definizione() const { return mostrata_.Letta(toPlainText()); }
+  std::optional<std::string> Definizione() const;
+
+ protected:
+  void keyPressEvent(QKeyEvent* evento) override;
+  void inputMethodEvent(QInputMethodEvent* evento) override;
+  void insertFromMimeData(const QMimeData* dati) override;
 
  private:
-  void Limita();
+  int Posto() const;
 
   DefinizioneMostrata mostrata_;
 };
 
-/// A box of one line, likewise.
+/// A box of one line, likewise. Of a clue that is far too long it shows the beginning, and takes no
+/// changes.
 class RigaDefinizione : public QLineEdit {
  public:
   using QLineEdit::QLineEdit;

@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "clues/store_use.h"
+#include "platform/codepage.h"
 #include "platform/platform.h"
 
 namespace telarium {
@@ -47,21 +48,13 @@ FinestraEnciclopedia::FinestraEnciclopedia(const QString& nome, const QString& t
   CreaStato();
 }
 
-QPushButton* FinestraEnciclopedia::Bottone(const QString& nome, const QString& testo,
-                                           QWidget* genitore, const QString& consiglio) {
-  QPushButton* bottone = Chiamato(nome, new QPushButton(testo, genitore));
-  bottone->setToolTip(consiglio);
-  bottone->setAutoDefault(false);  // Enter in a text box presses none
-  return bottone;
-}
-
 void FinestraEnciclopedia::CreaBottoni() {
   picButtons = Chiamato(QStringLiteral("picButtons"), new QWidget(this));
   auto* fila = new QHBoxLayout(picButtons);
   fila->setContentsMargins(Margine, Margine, Margine, Margine);
   const auto bottone = [&](const QString& nome, const QString& testo, auto azione,
                            const QString& consiglio = {}) {
-    QPushButton* nuovo = Bottone(nome, testo, picButtons, consiglio);
+    QPushButton* nuovo = Pulsante(nome, testo, consiglio, picButtons);
     nuovo->setMinimumWidth(LarghezzaBottone);
     fila->addWidget(nuovo);
     connect(nuovo, &QPushButton::clicked, this, azione);
@@ -77,13 +70,7 @@ void FinestraEnciclopedia::CreaBottoni() {
       QStringLiteral("cmdDelete"), QStringLiteral("&Elimina"), [this] { Elimina(); },
       QStringLiteral("Elimina la parola corrente con tutte le sue definizioni"));
   cmdRefresh = bottone(
-      QStringLiteral("cmdRefresh"), QStringLiteral("&Rivisualizza"),
-      [this] {
-        InBottone([this] {
-          adoPrimaryRS.Rileggi();
-          adoPrimaryRS_MoveComplete();
-        });
-      },
+      QStringLiteral("cmdRefresh"), QStringLiteral("&Rivisualizza"), [this] { Rileggi(); },
       QStringLiteral("Rivisualizza la form"));
   cmdClose = bottone(
       QStringLiteral("cmdClose"), QStringLiteral("&Chiudi"), [this] { reject(); },
@@ -91,13 +78,14 @@ void FinestraEnciclopedia::CreaBottoni() {
   fila->addStretch(1);
   cmdUpdate->hide();
   cmdCancel->hide();
+  cmdCancel->setShortcut({});  // Alt+A is that of cmdUpdate
 }
 
 void FinestraEnciclopedia::CreaStato() {
   picStatBox = Chiamato(QStringLiteral("picStatBox"), new QWidget(this));
   const auto freccia = [&](const QString& nome, QStyle::StandardPixmap figura,
                            const QString& consiglio, auto azione) {
-    QPushButton* nuova = Bottone(nome, QString(), picStatBox, consiglio);
+    QPushButton* nuova = Pulsante(nome, QString(), consiglio, picStatBox);
     nuova->setAccessibleName(consiglio);
     nuova->setIcon(style()->standardIcon(figura));
     connect(nuova, &QPushButton::clicked, this, azione);
@@ -156,12 +144,14 @@ void FinestraEnciclopedia::adoPrimaryRS_MoveComplete() {
   MostraRiga();
 }
 
-void FinestraEnciclopedia::InBottone(const std::function<void()>& azione) {
+bool FinestraEnciclopedia::InBottone(const std::function<void()>& azione) {
   try {
     PrendiDatiScritti();
     azione();
+    return true;
   } catch (const ErroreEnciclopedia& errore) {
     Avvisa(errore.Descrizione());
+    return false;
   }
 }
 
@@ -244,6 +234,17 @@ void FinestraEnciclopedia::TornaAScorrere() {
   DatiCambiati = Falso;
 }
 
+void FinestraEnciclopedia::Rileggi() {
+  InBottone([this] { adoPrimaryRS.Rileggi(); });
+  // Also behind an error: what could not be stored may have been dropped. Nothing is taken from the
+  // controls again.
+  try {
+    adoPrimaryRS_MoveComplete();
+  } catch (const ErroreEnciclopedia& errore) {
+    Avvisa(errore.Descrizione());
+  }
+}
+
 void FinestraEnciclopedia::Elimina() {
   InBottone([this] {
     adoPrimaryRS.Elimina();
@@ -251,11 +252,30 @@ void FinestraEnciclopedia::Elimina() {
   });
 }
 
+// In a mode, what was typed is stored or dropped as the user says; false: the window stays.
+bool FinestraEnciclopedia::LasciaModo() {
+  bool scritto = false;
+  if (!InBottone([&] { scritto = adoPrimaryRS.Sospesa(); })) return false;
+  if (!scritto) return true;
+  switch (ChiUsa().MostraMessaggio(
+      {.testo = std::string("La riga non è stata aggiornata. Vuoi salvarla?"_cp),
+       .pulsanti = Pulsanti::SiNoAnnulla})) {
+    case Risposta::Si:
+      return InBottone([this] { adoPrimaryRS.Registra(); });
+    case Risposta::No:
+      return true;
+    default:
+      return false;
+  }
+}
+
 void FinestraEnciclopedia::reject() {
   if (InModifica || InAggiunta) {
+    if (!LasciaModo()) return;
     Annulla();
-  } else {
-    InBottone([this] { adoPrimaryRS.RegistraSospese(); });
+  } else if (!InBottone([this] { adoPrimaryRS.RegistraSospese(); }) && !perditaDetta_) {
+    perditaDetta_ = true;  // once it has been told that nothing was stored, the window may close
+    return;
   }
   ImpostaPuntatoreMouse(PuntatoreFreccia);
   FinestraModale::reject();
@@ -264,8 +284,7 @@ void FinestraEnciclopedia::reject() {
 bool FinestraEnciclopedia::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() != QEvent::KeyPress) return FinestraModale::eventFilter(oggetto, evento);
   const auto& tasto = static_cast<const QKeyEvent&>(*evento);
-  const bool invio = tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;
-  if (auto* bottone = qobject_cast<QPushButton*>(oggetto); bottone && invio) {
+  if (auto* bottone = qobject_cast<QPushButton*>(oggetto); bottone && Invio(tasto)) {
     bottone->click();
     return true;
   }

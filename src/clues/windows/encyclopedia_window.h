@@ -12,8 +12,9 @@ namespace telarium {
 
 /// What the two browsers of the encyclopedia have in common: the rows, the buttons that move
 /// through them and change them, the modes and the keys. While neither InModifica nor InAggiunta is
-/// set the keys of the table in the source move and close, whatever control has the focus. What is
-/// typed meanwhile is stored by the next button that leaves the row, and by the end of the window.
+/// set Esc, End, Home and the arrow and page keys are those of the window, whatever control has the
+/// focus; what is typed meanwhile is stored by the next button that leaves the row and by the end
+/// of the window. In the two modes the user is asked at its end.
 class FinestraEnciclopedia : public FinestraModale {
  public:
   QLabel* Label1;  // the note
@@ -62,15 +63,13 @@ class FinestraEnciclopedia : public FinestraModale {
   virtual void Aggiungi();
 
   /// Runs what a button does, with what was typed handed over. An error of the store ends it and
-  /// shows its description.
-  void InBottone(const std::function<void()>& azione);
+  /// shows its description; false then.
+  bool InBottone(const std::function<void()>& azione);
   /// Behind each move.
   void adoPrimaryRS_MoveComplete();
   /// The buttons of browsing, or those of editing and adding.
-  void MostraBottoni(bool b);
+  virtual void MostraBottoni(bool b);
 
-  QPushButton* Bottone(const QString& nome, const QString& testo, QWidget* genitore,
-                       const QString& consiglio = {});
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
   void resizeEvent(QResizeEvent* evento) override;
 
@@ -84,7 +83,11 @@ class FinestraEnciclopedia : public FinestraModale {
   void Annulla();
   void TornaAScorrere();
   void Elimina();
+  void Rileggi();
+  bool LasciaModo();
   bool Anticipa(const QKeyEvent& tasto);
+
+  bool perditaDetta_ = false;
 };
 
 }  // namespace telarium

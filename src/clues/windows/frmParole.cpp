@@ -44,7 +44,8 @@ void frmParole::CreaTabella() {
   editor_ = new EditorDiCelle(this);
   QHeaderView& righe = *grdDataGrid->verticalHeader();
   righe.setSectionResizeMode(QHeaderView::Fixed);
-  righe.setDefaultSectionSize(RigheDiTesto * fontMetrics().lineSpacing() + 4);
+  righe.setDefaultSectionSize(RigheDiTesto * fontMetrics().lineSpacing() + 1);
+  righe.setDefaultAlignment(Qt::AlignTop | Qt::AlignLeft);
   QHeaderView& colonne = *grdDataGrid->horizontalHeader();
   colonne.setStretchLastSection(true);
   colonne.setSectionsClickable(false);
@@ -107,8 +108,10 @@ void frmParole::CambiataRiga(int riga) {
   } catch (const ErroreEnciclopedia& errore) {
     // Behind the click or key that led there, which a message would cut in two.
     QTimer::singleShot(0, this, [this, descrizione = errore.Descrizione()] {
-      const QScopedValueRollback segue(mostrando_, true);
-      Seleziona(adoPrimaryRS.Posizione() - 1, grdDataGrid->currentIndex().column());
+      {
+        const QScopedValueRollback segue(mostrando_, true);
+        Seleziona(adoPrimaryRS.Posizione() - 1, grdDataGrid->currentIndex().column());
+      }
       Avvisa(descrizione);
     });
   }
@@ -127,9 +130,7 @@ void frmParole::Aggiungi() {
 
 bool frmParole::eventFilter(QObject* oggetto, QEvent* evento) {
   if (oggetto == grdDataGrid && evento->type() == QEvent::KeyPress) {
-    const int tasto = static_cast<const QKeyEvent&>(*evento).key();
-    const bool invio = tasto == Qt::Key_Return || tasto == Qt::Key_Enter;
-    if (invio && grdDataGrid->currentIndex().isValid()) {
+    if (Invio(static_cast<const QKeyEvent&>(*evento)) && grdDataGrid->currentIndex().isValid()) {
       grdDataGrid->edit(grdDataGrid->currentIndex());
       return true;
     }

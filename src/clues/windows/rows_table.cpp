@@ -1,8 +1,11 @@
 #include "clues/windows/rows_table.h"
 
 #include <QKeyEvent>
-#include <QTextDocument>
+#include <QTimer>
 
+#include "platform/codepage.h"
+#include "platform/platform.h"
+#include "platform/qt/qt_dialog.h"
 #include "platform/qt/qt_text.h"
 
 namespace telarium {
@@ -11,6 +14,10 @@ namespace {
 constexpr qsizetype MaxCaratteriMostrati = 1000;  // a family can have any length
 constexpr int RigheEditor = 5;                    // lines of text, at least
 constexpr int ColonnaParola = 0;
+
+void AvvisaCaratteriSostituiti() {
+  Avvisa("I caratteri che l'enciclopedia non può tenere sono diventati \"?\"."_cp);
+}
 
 CampoParole CampoDellaColonna(int colonna) {
   return CampiParole.at(static_cast<std::size_t>(colonna));
@@ -21,14 +28,6 @@ QString InRigheQt(const std::string& testo) {
 }
 
 }  // namespace
-
-// The plain text that Qt gives would have blanks for the hard ones.
-std::string TestoDi(const QPlainTextEdit& casella) {
-  return DaQt(casella.document()
-                  ->toRawText()
-                  .replace(QChar::ParagraphSeparator, u'\n')
-                  .replace(QChar::LineSeparator, u'\n'));
-}
 
 ModelloRighe::ModelloRighe(RigheEnciclopedia& righe, QObject* genitore)
     : QAbstractTableModel(genitore), righe_(righe) {}
@@ -67,7 +66,7 @@ QVariant ModelloRighe::data(const QModelIndex& indice, int ruolo) const {
     const QString mostrato =
         InRigheQt(testo.substr(0, static_cast<std::size_t>(MaxCaratteriMostrati)));
     if (ruolo == Qt::DisplayRole) return mostrato;
-    return mostrato.isEmpty() ? QString() : Qt::convertFromPlainText(mostrato);
+    return ComeSuggerimento(mostrato);
   } catch (const ErroreEnciclopedia&) {
     return {};  // no moment for a message; it comes when the row becomes the current one
   }
@@ -117,7 +116,7 @@ QWidget* EditorDiCelle::createEditor(QWidget* genitore, const QStyleOptionViewIt
 void EditorDiCelle::setEditorData(QWidget* editor, const QModelIndex& indice) const {
   auto& casella = static_cast<QPlainTextEdit&>(*editor);
   if (casella.document()->isModified()) return;  // the cell was only shown again
-  casella.setPlainText(indice.data(Qt::EditRole).toString());
+  Mostra(casella, indice.data(Qt::EditRole).toString());
   casella.moveCursor(QTextCursor::End);
 }
 
@@ -125,7 +124,10 @@ void EditorDiCelle::setModelData(QWidget* editor, QAbstractItemModel* modello,
                                  const QModelIndex& indice) const {
   const auto& casella = static_cast<const QPlainTextEdit&>(*editor);
   if (!casella.document()->isModified()) return;
-  modello->setData(indice, AQt(TestoDi(casella)), Qt::EditRole);
+  const QString testo = TestoDi(casella);
+  modello->setData(indice, testo, Qt::EditRole);
+  // Behind what ends the editing, which a message would cut in two.
+  if (!DaQtEsatto(testo)) QTimer::singleShot(0, modello, AvvisaCaratteriSostituiti);
 }
 
 // Over the cell, larger than it where it is low, within the table.

@@ -9,9 +9,6 @@
 
 namespace telarium {
 
-/// The text of a multi-line box in the code page, its lines separated as the box does it.
-std::string TestoDi(const QPlainTextEdit& casella);
-
 /// The rows of the encyclopedia as a table: row r of it is the row at position r + 1. The last one
 /// is for a new row. Only the current row can be set, and it is not stored here.
 class ModelloRighe : public QAbstractTableModel {

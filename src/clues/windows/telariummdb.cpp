@@ -6,7 +6,6 @@
 
 #include "clues/clue_search.h"
 #include "clues/windows/frmParole.h"
-#include "clues/windows/rows_table.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/qt/qt_text.h"
@@ -40,12 +39,13 @@ telariummdb::telariummdb(QWidget* genitore)
                            genitore) {
   setMouseTracking(true);
   CreaCampi();
-  Cerca = Bottone(QStringLiteral("Cerca"), QStringLiteral("&Cerca"), this,
-                  QStringLiteral("Cerca una parola su cui posizionarsi"));
-  Command2 = Bottone(QStringLiteral("Command2"), QStringLiteral("&WinWord"), this,
-                     QStringLiteral("Chiedi aiuto a Word se installato."));
-  Command1 = Bottone(QStringLiteral("Command1"), QStringLiteral("Vista tabellare"), this,
-                     QStringLiteral("Visualizza i dati in una tabella"));
+  Cerca = Pulsante(QStringLiteral("Cerca"), QStringLiteral("&Cerca"),
+                   QStringLiteral("Cerca una parola su cui posizionarsi"), this);
+  Command2 = Pulsante(QStringLiteral("Command2"), QStringLiteral("&WinWord"),
+                      QStringLiteral("Chiedi aiuto a Word se installato."), this);
+  Command1 = Pulsante(QStringLiteral("Command1"), QStringLiteral("Vista tabellare"),
+                      QStringLiteral("Visualizza i dati in una tabella"), this);
+  cmdClose->setShortcut({});  // Alt+C is that of Cerca; Esc closes
   connect(Cerca, &QPushButton::clicked, this, [this] { CercaUnaParola(); });
   connect(Command2, &QPushButton::clicked, this, [this] { ChiediAiuto(); });
   connect(Command1, &QPushButton::clicked, this, [this] { MostraTabella(); });
@@ -56,11 +56,9 @@ telariummdb::telariummdb(QWidget* genitore)
 void telariummdb::CreaCampi() {
   parola_ = Chiamato(NomeInSerie("txtFields", 2), new CasellaDiTesto(this));
   connect(parola_, &QLineEdit::textChanged, this, [this](const QString& testo) {
-    const QString maiuscole = AQt(Maiuscole(DaQt(testo)));
-    if (maiuscole == testo) return;
-    const int cursore = parola_->cursorPosition();
-    parola_->setText(maiuscole);
-    parola_->setCursorPosition(cursore);
+    const auto esatto = DaQtEsatto(testo);
+    const QString maiuscole = esatto ? AQt(Maiuscole(*esatto)) : testo;
+    if (maiuscole != testo) Ritocca(*parola_, maiuscole);
   });
   txtFields[Parola] = parola_;
   for (std::size_t i = 0; i < famiglie_.size(); ++i) {
@@ -100,8 +98,8 @@ void telariummdb::Disponi() {
   tutto->addWidget(picButtons);
   tutto->addWidget(picStatBox);
   QWidget* prima = parola_;
-  for (QWidget* controllo : std::initializer_list<QWidget*>{Cerca, Command2, Command1, famiglie_[1],
-                                                            famiglie_[0], cmdUpdate}) {
+  for (QWidget* controllo : std::initializer_list<QWidget*>{famiglie_[1], famiglie_[0], Cerca,
+                                                            Command2, Command1, cmdUpdate}) {
     setTabOrder(prima, controllo);
     prima = controllo;
   }
@@ -125,7 +123,7 @@ void telariummdb::Mostra(const std::array<QString, 3>& testi, bool scrivibili) {
   parola_->setText(testi[Parola]);
   parola_->setReadOnly(!scrivibili);
   for (std::size_t i = 0; i < famiglie_.size(); ++i) {
-    famiglie_[i]->setPlainText(testi[i]);
+    telarium::Mostra(*famiglie_[i], testi[i]);
     famiglie_[i]->setReadOnly(!scrivibili);
   }
   for (std::size_t i = 0; i < campi.size(); ++i)
@@ -133,7 +131,7 @@ void telariummdb::Mostra(const std::array<QString, 3>& testi, bool scrivibili) {
 }
 
 QString telariummdb::Scritto(std::size_t campo) const {
-  return campo == Parola ? parola_->text() : AQt(TestoDi(*famiglie_[campo]));
+  return campo == Parola ? parola_->text() : TestoDi(*famiglie_[campo]);
 }
 
 // A box that nobody touched says nothing: its text is not always to the byte that of the row.
@@ -142,9 +140,14 @@ void telariummdb::PrendiDatiScritti() {
     const QString scritto = Scritto(i);
     if (scritto == mostrati_[i]) {
       adoPrimaryRS.Imposta(campi[i], std::nullopt);
-    } else {
-      adoPrimaryRS.Imposta(campi[i], DaQt(scritto));
+      continue;
     }
+    const auto esatto = DaQtEsatto(scritto);
+    if (!esatto) {
+      txtFields[i]->setFocus();
+      throw ErroreEnciclopedia("ci sono caratteri che non può tenere"_cp);
+    }
+    adoPrimaryRS.Imposta(campi[i], *esatto);
   }
 }
 
@@ -168,6 +171,13 @@ void telariummdb::ChiediAiuto() {
         "installato).");
   }
   ChiediAWord(DaQt(parola_->text()));
+}
+
+// A search, and the table, would leave the row in the middle of its mode.
+void telariummdb::MostraBottoni(bool b) {
+  FinestraEnciclopedia::MostraBottoni(b);
+  for (QPushButton* bottone : {Cerca, Command1})
+    bottone->setEnabled(b);
 }
 
 // The table takes this window's place, so the rows are let go of for it: one connection at a time

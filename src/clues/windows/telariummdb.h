@@ -24,6 +24,7 @@ class telariummdb : public FinestraEnciclopedia {
   void MostraRiga() override;
   void PrendiDatiScritti() override;
   QWidget& PrimoCampo() override { return *txtFields[2]; }
+  void MostraBottoni(bool b) override;
   void mouseMoveEvent(QMouseEvent* evento) override;
 
  private:

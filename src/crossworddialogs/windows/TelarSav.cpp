@@ -71,11 +71,12 @@ void TelarSav::Attivata() {
 }
 
 void TelarSav::Conferma() {
-  if (AQt(DaQt(Text2->text())) != Text2->text()) {
+  const auto autore = DaQtEsatto(Text2->text());
+  if (!autore) {
     Avvisa("I dati autore contengono caratteri che il file del cruciverba non può tenere."_cp);
     return Text2->setFocus();
   }
-  if (SalvaNellArchivio(Dir1->Cartella(), Text1->Nome(), DaQt(Text2->text()))) accept();
+  if (SalvaNellArchivio(Dir1->Cartella(), Text1->Nome(), *autore)) accept();
 }
 
 }  // namespace telarium

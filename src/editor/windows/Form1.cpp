@@ -263,9 +263,13 @@ void Form1::Estrai() {
 }
 
 void Form1::Importa() {
+  struct Occupazione {
+    Form1& form;
+    ~Occupazione() { form.Occupa(false); }
+  };
   Occupa(true);
+  const Occupazione fino{*this};
   Recupera_Definizioni();
-  Occupa(false);
 }
 
 bool Form1::SeguiEstrazione(const AvanzamentoEstrazione& avanzamento) {
@@ -299,7 +303,8 @@ double Form1::ScriviLabel1(std::string_view testo) {
 }
 
 void Form1::CollocaLabel1(double sinistra, double cima) {
-  Label1->move(QPointF(sinistra, cima).toPoint());
+  // A clue that is wider than the window shows its beginning.
+  Label1->move(QPointF(std::max(sinistra, 0.0), cima).toPoint());
 }
 
 void Form1::MostraModale(Modale quale) {

@@ -2,15 +2,61 @@
 
 #include <QFocusEvent>
 #include <QScreen>
+#include <QTextDocument>
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 
 namespace telarium {
 namespace {
 
+constexpr qsizetype MaxSenzaSpazi = 1000;  // characters of a word that is broken as others are
 constexpr QSize Cornice(10, 40);  // of a window, roughly: it is not known before the first showing
 
 }  // namespace
+
+QPushButton* Pulsante(const QString& nome, const QString& testo, const QString& suggerimento,
+                      QWidget* genitore) {
+  auto* pulsante = Chiamato(nome, new QPushButton(testo, genitore));
+  pulsante->setToolTip(suggerimento);
+  pulsante->setAutoDefault(false);
+  return pulsante;
+}
+
+void Ritocca(QLineEdit& casella, const QString& testo) {
+  const int cursore = casella.cursorPosition();
+  casella.setText(testo);
+  casella.setCursorPosition(cursore);
+}
+
+void ScriviInMaiuscole(QLineEdit& casella) {
+  QObject::connect(&casella, &QLineEdit::textEdited, &casella, [&casella](const QString& testo) {
+    QString capitali = testo;
+    for (QChar& carattere : capitali)
+      if (carattere >= u'a' && carattere <= u'z') carattere = carattere.toUpper();
+    if (capitali != testo) Ritocca(casella, capitali);
+  });
+}
+
+void Mostra(QPlainTextEdit& casella, const QString& testo) {
+  qsizetype senzaSpazi = 0, massimo = 0;
+  for (const QChar carattere : testo) {
+    senzaSpazi = carattere.isSpace() ? 0 : senzaSpazi + 1;
+    massimo = std::max(massimo, senzaSpazi);
+  }
+  // To look for the best break takes the square of the length.
+  casella.setWordWrapMode(massimo > MaxSenzaSpazi ? QTextOption::WrapAnywhere
+                                                  : QTextOption::WrapAtWordBoundaryOrAnywhere);
+  casella.setPlainText(testo);
+}
+
+QString TestoDi(const QPlainTextEdit& casella) {
+  // The plain text that Qt gives has blanks for the hard ones.
+  return casella.document()
+      ->toRawText()
+      .replace(QChar::ParagraphSeparator, u'\n')
+      .replace(QChar::LineSeparator, u'\n');
+}
 
 FinestraModale::FinestraModale(const QString& nome, const QString& titolo, QWidget* genitore)
     : QDialog(genitore) {

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QString>
 
 // What the program's own windows and their controls have in common.
@@ -13,6 +16,28 @@ Controllo* Chiamato(const QString& nome, Controllo* controllo) {
   controllo->setObjectName(nome);
   return controllo;
 }
+
+/// Whether a key is Return, or Enter of the number pad.
+inline bool Invio(const QKeyEvent& tasto) {
+  return tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;
+}
+
+/// A button that Enter in another control does not press.
+QPushButton* Pulsante(const QString& nome, const QString& testo, const QString& suggerimento,
+                      QWidget* genitore);
+
+/// Gives a line of text another text and keeps the cursor where it is.
+void Ritocca(QLineEdit& casella, const QString& testo);
+
+/// Makes capitals of the small letters from a to z that are typed, or pasted, into a line.
+void ScriviInMaiuscole(QLineEdit& casella);
+
+/// Puts a text into a box of several lines; texts without a blank to break at take no longer than
+/// others.
+void Mostra(QPlainTextEdit& casella, const QString& testo);
+
+/// The text of a box of several lines, separated by line feeds, hard blanks as they are.
+QString TestoDi(const QPlainTextEdit& casella);
 
 /// A modal window. Esc and its close box are Cancel.
 class FinestraModale : public QDialog {

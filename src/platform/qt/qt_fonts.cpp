@@ -22,7 +22,7 @@ QStringList FamiglieInstallate() {
   for (const QString& famiglia : QFontDatabase::families()) {
     if (!QFontDatabase::isPrivateFamily(famiglia)) nomi.append(SenzaFonderia(famiglia));
   }
-  nomi.removeIf([](const QString& nome) { return AQt(DaQt(nome)) != nome; });
+  nomi.removeIf([](const QString& nome) { return !DaQtEsatto(nome); });
   nomi.removeDuplicates();
   nomi.sort(Qt::CaseInsensitive);
   return nomi;

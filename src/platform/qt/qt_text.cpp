@@ -1,6 +1,7 @@
 #include "platform/qt/qt_text.h"
 
 #include <QFile>
+#include <QTextDocument>
 
 #include "platform/codepage.h"
 
@@ -24,6 +25,16 @@ QString TitoloAQt(std::string_view testo) {
 
 QString ComeVoceDiMenu(QString testo) {
   return testo.replace(u'&', QStringLiteral("&&")).replace(u'\t', u' ');
+}
+
+std::optional<std::string> DaQtEsatto(const QString& testo) {
+  std::string esatto = DaQt(testo);
+  if (AQt(esatto) != testo) return std::nullopt;
+  return esatto;
+}
+
+QString ComeSuggerimento(const QString& testo) {
+  return testo.isEmpty() ? QString() : Qt::convertFromPlainText(testo);
 }
 
 QString PercorsoAQt(const Percorso& percorso) {

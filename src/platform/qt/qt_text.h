@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,12 @@ QString TitoloAQt(std::string_view testo);
 /// A text as the caption of a menu entry, where "&" would mark a letter and a tab set a shortcut
 /// off.
 QString ComeVoceDiMenu(QString testo);
+
+/// As DaQt; none when the code page cannot write it.
+std::optional<std::string> DaQtEsatto(const QString& testo);
+
+/// A text as a tool tip, none of it taken for markup.
+QString ComeSuggerimento(const QString& testo);
 
 QString PercorsoAQt(const Percorso& percorso);
 Percorso PercorsoDaQt(const QString& percorso);

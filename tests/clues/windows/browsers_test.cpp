@@ -1,3 +1,4 @@
+#include <QElapsedTimer>
 #include <QHeaderView>
 #include <filesystem>
 
@@ -167,7 +168,7 @@ TEST_F(OneWord, EnterInABoxPressesNoButton) {
   EXPECT_EQ(Buttons(*window), "Add Edit Delete Refresh Close and moves");
   EXPECT_TRUE(window->isVisible());
   EXPECT_EQ(TabOrder(*window),
-            "txtFields_2 Cerca Command2 Command1 txtFields_1 txtFields_0 cmdAdd cmdEdit cmdDelete "
+            "txtFields_2 txtFields_1 txtFields_0 Cerca Command2 Command1 cmdAdd cmdEdit cmdDelete "
             "cmdRefresh cmdClose cmdFirst cmdPrevious cmdNext cmdLast ");
   window->cmdAdd->setFocus();
   Key(*window, Qt::Key_Return);
@@ -178,7 +179,12 @@ TEST_F(OneWord, StoresWhatWasTypedWhenTheRowIsLeft) {
   Start();
   Append(1, u"\n\u00C8 nell'aria \u03B1");
   Click(window->cmdNext);
-  EXPECT_EQ(Stored("ARIA"), "Si respira\r\n\u00C8 nell'aria ?");
+  EXPECT_EQ(user.TakeTexts(),
+            Texts{"Enciclopedia telarium1.mdb: ci sono caratteri che non pu\xF2 tenere."});
+  EXPECT_EQ(Status(*window), "Record: 1") << "the row is not left";
+  QTest::keyClick(&Family(1), Qt::Key_Backspace);
+  Click(window->cmdNext);
+  EXPECT_EQ(Stored("ARIA"), "Si respira\r\n\u00C8 nell'aria ");
   Append(0, u"Dura");
   Click(window->cmdRefresh);
   EXPECT_EQ(Stored("CASA", true), "Dura");
@@ -247,7 +253,9 @@ TEST_F(OneWord, CancelGoesBackToWhereTheLastRowWasBegun) {
   EXPECT_EQ(Stored("BAR"), "?");
   Click(window->cmdEdit);
   Append(1, u"x");
+  user.Answer(Risposta::No);
   window->close();
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
   EXPECT_EQ(Stored("CASA"), "Abitazione\r\nDimora") << "closing is a cancel";
 }
 
@@ -322,7 +330,49 @@ TEST_F(OneWord, AnErrorInAButtonShowsAndLeavesModeAndText) {
   Append(1, u"y");
   Click(window->cmdClose);
   EXPECT_EQ(user.TakeTexts(), Busy);
+  EXPECT_TRUE(window->isVisible()) << "once it has been told, the user may give it up";
+  Click(window->cmdClose);
+  EXPECT_EQ(user.TakeTexts(), Busy);
   EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(OneWord, WhatAnotherProgramHasStoredIsNotWrittenOver) {
+  Start();
+  Behind("UPDATE Parole SET DEFINIZ_FACILE = 'Altrui' WHERE PAROLA = 'ARIA'");
+  Append(1, u"x");
+  Click(window->cmdNext);
+  EXPECT_EQ(Shown(), "ARIA|Si respirax|");
+  Click(window->cmdRefresh);
+  const std::string lost =
+      "Enciclopedia telarium1.mdb: la riga \xE8 stata cambiata da un altro programma.";
+  EXPECT_EQ(user.TakeTexts(), (Texts{lost, lost}));
+  EXPECT_EQ(Shown(), "ARIA|Altrui|") << "the way on";
+  Click(window->cmdNext);
+  EXPECT_EQ(Status(*window), "Record: 2");
+}
+
+TEST_F(OneWord, ClosingInAModeAsksForWhatWasTyped) {
+  Start();
+  Click(window->cmdAdd);
+  EXPECT_FALSE(window->Cerca->isEnabled() || window->Command1->isEnabled());
+  Word().setText(QStringLiteral("LUNA"));
+  for (const Risposta answer : {Risposta::Annulla, Risposta::Si}) {
+    user.Answer(answer);
+    window->close();
+    EXPECT_EQ(window->isVisible(), answer == Risposta::Annulla);
+    EXPECT_EQ(Stored("LUNA"), answer == Risposta::Si ? "-" : "?");
+  }
+  EXPECT_EQ(user.TakeTexts().size(), 2u);
+}
+
+TEST_F(OneWord, FamilyOfOneEndlessWordShowsWithoutAPause) {
+  ApriEnciclopedia()->AggiungiParola("A", std::string(1'000'000, 'z'));
+  QElapsedTimer clock;
+  clock.start();
+  Start();
+  window->grab();
+  EXPECT_LT(clock.elapsed(), Patience);
+  EXPECT_EQ(Family(1).toPlainText().size(), 1'000'000);
 }
 
 TEST_F(OneWord, ARowThatIsGoneShowsNothingOfTheOneBefore) {

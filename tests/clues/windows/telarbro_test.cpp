@@ -263,7 +263,6 @@ TEST_F(TelarBroTest, EveryOtherWayOutPutsGridAndCluesBack) {
       [this] { QTest::mouseClick(window->Command3d2, Qt::LeftButton); },
       [this] { window->menutorna->trigger(); },
       [this] { window->close(); },
-      [this] { QTest::keyClick(window->Gitter1, Qt::Key_Escape); },
       [this] {
         DoubleClick(1, 1);
         QTest::keyClick(window->Text1, Qt::Key_Escape);
@@ -289,6 +288,23 @@ TEST_F(TelarBroTest, EveryOtherWayOutPutsGridAndCluesBack) {
     EXPECT_EQ(ReadFile(PercorsoIstantanea()), snapshot);
     RicalcolaCaselle();  // as the redraw does
   }
+}
+
+TEST_F(TelarBroTest, OkTakesAnOpenRowAlongUnlessItIsRefused) {
+  Show();
+  DoubleClick(0, 1);
+  Type(window->Text2, u"Oggetti");
+  Type(window->Text1, u"C");
+  QTest::mouseClick(window->Command3d1, Qt::LeftButton);
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+  QTest::keyClick(window->Gitter1, Qt::Key_Escape);
+  EXPECT_TRUE(window->isVisible()) << "Esc in the table only closes the row";
+  DoubleClick(0, 1);
+  Type(window->Text2, u"Oggetti");
+  QTest::mouseClick(window->Command3d1, Qt::LeftButton);
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "Oggetti");
 }
 
 TEST_F(TelarBroTest, WithoutAWordNothingOpens) {

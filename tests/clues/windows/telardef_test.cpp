@@ -1,6 +1,7 @@
 #include "clues/windows/TelarDef.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
 
@@ -150,10 +151,15 @@ TEST_F(TelarDefTest, ClueIsTypedUpToItsLimitAndALongerOneSurvivesUntouched) {
   EXPECT_EQ(Definizione(1, 1, Orizzontale), longer);
   Definizione(1, 1, Orizzontale).clear();
   Open(window);
-  QTest::keyClicks(window.Text1, QString(59, u'x'));
-  window.Text1->moveCursor(QTextCursor::Start);
-  window.Text1->insertPlainText(QStringLiteral("uno\ndue"));
-  EXPECT_EQ(window.Text1->toPlainText(), QStringLiteral("u") + QString(59, u'x'));
+  QTest::keyClicks(window.Text1, QStringLiteral("abc"));
+  QTest::keyClicks(window.Text1, QString(80, u'x'));
+  EXPECT_EQ(window.Text1->toPlainText().size(), 60);
+  window.Text1->undo();
+  EXPECT_LT(window.Text1->toPlainText().size(), 60) << "no key has been taken back by another";
+  window.Text1->setPlainText(QString(58, u'x'));
+  QGuiApplication::clipboard()->setText(QStringLiteral("uno\ndue"));
+  window.Text1->paste();
+  EXPECT_EQ(window.Text1->toPlainText(), QStringLiteral("un") + QString(58, u'x'));
   window.Text1->setPlainText(QStringLiteral("uno\ndue"));
   Click(window.Command3d1);
   EXPECT_EQ(Definizione(1, 1, Orizzontale), "uno due");
@@ -262,7 +268,11 @@ TEST_F(TelarDefTest, AsksWordTheDictionariesOnlineAndItsOwnHelp) {
   Click(window.Command3);
   EXPECT_EQ(main.calls, Texts{"ApriMenu menuint"});
   Click(window.Command3D3);
-  EXPECT_EQ(user.TakeTexts().size(), 1u);
+  const Texts help = user.TakeTexts();
+  ASSERT_EQ(help.size(), 1u);
+  EXPECT_NE(help[0].find("vocabolario delle parolecon mascheramento , ad esempio"),
+            std::string::npos);
+  EXPECT_NE(help[0].find("quella che ci serve.\r\nUna volta inserita"), std::string::npos);
 }
 
 }  // namespace
