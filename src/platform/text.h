@@ -20,7 +20,7 @@ double ValoreDecimale(std::string_view testo);
 /// A number in print form: a blank or the minus sign, the digits, one blank behind.
 std::string FormaDiStampa(std::int64_t numero);
 
-/// A number from 0 to 99 in two digits.
+/// A number from 0 on in two digits at least.
 std::string DueCifre(int numero);
 
 /// To the nearest integer, a value exactly between two going to the even one.

@@ -11,7 +11,8 @@
 // The files that the command line names.
 namespace telarium::telar {
 
-/// Opens a crossword as the desktop does at its start. False when that has failed and was told.
+/// Opens a crossword as the desktop does at its start: a missing file ends the program. False when
+/// it could not be taken, which has been told.
 bool Apri(const std::string& file);
 
 /// Writes the crossword as the result of the command.

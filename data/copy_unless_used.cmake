@@ -1,0 +1,21 @@
+# cmake -DFRESH=file -DTARGET=file -DSTAMP=file -P copy_unless_used.cmake
+# Copies what the build has made to where the program works on it, unless somebody has worked on what lies
+# there: a build must not cost the user's clues. The stamp holds the hash of the last copy.
+set(copied "")
+if(EXISTS "${STAMP}")
+  file(READ "${STAMP}" copied)
+endif()
+file(SHA256 "${FRESH}" fresh)
+if(EXISTS "${TARGET}")
+  file(SHA256 "${TARGET}" present)
+  if(present STREQUAL fresh)
+    file(WRITE "${STAMP}" "${fresh}")
+    return()
+  endif()
+  if(NOT present STREQUAL copied)
+    message(STATUS "${TARGET} has been changed by its use and is kept; without it the next build makes it anew")
+    return()
+  endif()
+endif()
+configure_file("${FRESH}" "${TARGET}" COPYONLY)
+file(WRITE "${STAMP}" "${fresh}")
