@@ -4,6 +4,7 @@
 #include "clues/encyclopedia.h"
 #include "clues/merging.h"
 #include "clues/store_use.h"
+#include "model/pointer.h"
 #include "model/words.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"

@@ -6,6 +6,7 @@
 #include "clues/merging.h"
 #include "clues/store_use.h"
 #include "editor/main_window.h"
+#include "model/pointer.h"
 #include "model/state.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"

@@ -2,7 +2,6 @@
 
 #include "clues/encyclopedia.h"
 #include "editor/main_window.h"
-#include "model/state.h"
 #include "platform/platform.h"
 
 namespace telarium {
@@ -17,15 +16,5 @@ bool ConEnciclopedia(const std::function<void()>& operazione) {
     return false;
   }
 }
-
-FormaDelPuntatore::FormaDelPuntatore(int forma) {
-  ImpostaPuntatoreMouse(forma);
-}
-
-FormaDelPuntatore::~FormaDelPuntatore() {
-  ImpostaPuntatoreMouse(PuntatoreFreccia);
-}
-
-Clessidra::Clessidra() : FormaDelPuntatore(PuntatoreClessidra) {}
 
 }  // namespace telarium

@@ -2,9 +2,9 @@
 
 #include "clues/clue_family.h"
 #include "clues/clue_search.h"
-#include "clues/store_use.h"
 #include "editor/main_window.h"
 #include "editor/redraw.h"
+#include "model/pointer.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"

@@ -87,16 +87,6 @@ TEST_F(TableView, ItsGeometryCountsNoBars) {
   EXPECT_EQ(OrigineY, 8);
 }
 
-TEST_F(TableView, TheCopyPutsGridAndCluesBack) {
-  Draw({"CASA"});
-  Definizione(1, 1, Orizzontale) = "prima";
-  const CopiaCruciverba copy;
-  EXPECT_TRUE(VariaRiga(ParoleDellaTabella().front(), "SOLE", "dopo"));
-  copy.Ripristina();
-  EXPECT_EQ(DrawingOfSchema(), Texts{"CASA"});
-  EXPECT_EQ(Definizione(1, 1, Orizzontale), "prima");
-}
-
 TEST_F(TableView, ASearchGivesAllCluesOfBothFamilies) {
   MakeStore(
       "CASA\tF\tCi si abita\nCASA\tF\tHa un tetto (e muri)\nCASA\tD\tDimora & covo\n"
@@ -132,13 +122,6 @@ TEST_F(TableView, ASearchGivesAllCluesOfBothFamilies) {
   EXPECT_EQ(PuntatoreMouse, PuntatoreFreccia);
 }
 
-TEST_F(TableView, AnErrorOfTheStoreIsToldBehindForm6) {
-  RecordingWindow window;
-  EXPECT_FALSE(CercaVoci("CASA"));
-  EXPECT_EQ(window.shown, std::vector<Modale>{Modale::Form6});
-  EXPECT_EQ(user.TakeTexts().size(), 1u);
-}
-
 TEST_F(TableView, TheSmallGridIsDrawnCallByCall) {
   AltezzaCaratteri = 50;
   PercentualeRiquadro = 90;
@@ -172,14 +155,6 @@ TEST_F(TableView, TheSmallGridIsDrawnCallByCall) {
   surface.calls.clear();
   DisegnaSchemaPiccolo(surface, nullptr);
   EXPECT_EQ(surface.calls, Texts{"Pulisci"}) << "no cell has room";
-}
-
-TEST_F(TableView, ACellThatIsNoCapitalEndsTheProgram) {
-  Draw({"A.#"});
-  EsigiSchemaSemplice();
-  Draw({"Ab#"});
-  EXPECT_THROW(EsigiSchemaSemplice(), ProgramEnded);
-  EXPECT_EQ(user.TakeTexts(), Texts{"Tipo di file non valido: Esecuzione terminata!"});
 }
 
 }  // namespace
