@@ -180,7 +180,14 @@ TEST_F(TelarDefTest, FindsTheCluesOfAWord) {
   const Texts texts = user.TakeTexts();
   ASSERT_EQ(texts.size(), 2u);
   EXPECT_EQ(texts[0], "La ricerca della definizione \xE8 possibile solo su una parola completata.");
-  EXPECT_TRUE(texts[1].starts_with("La parola MALA non \xE8 ancora stata inserita"));
+  EXPECT_EQ(
+      texts[1],
+      "La parola MALA non \xE8 ancora stata inserita nell'enciclopedia, in questa versione ci "
+      "sono gi\xE0 molte migliaia di parole catalogate con allegata una o pi\xF9 definizioni ma "
+      "cresceranno col tempo! E' possibile editare/aggiungere parole dal men\xF9 della form "
+      "Principale 'Utilit\xE0' la voce 'Gestione definizioni' il file telarium1.mdb pu\xF2 essere "
+      "anche modificato/aggiornato con Microsoft Access. \r\nInfine se hai installato Word "
+      "oppure se hai una connessione ad Internet puoi provare i 2 bottoni sottostanti.");
 
   const QPoint second = window.List1->visualItemRect(window.List1->item(1)).center();
   QTest::mouseClick(window.List1->viewport(), Qt::LeftButton, {}, second);

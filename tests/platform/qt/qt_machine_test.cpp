@@ -53,6 +53,13 @@ class MachineTest : public ::testing::Test {
   QByteArray path_;
 };
 
+TEST_F(MachineTest, OpensTheWordProcessorOnANewDocumentOrNothing) {
+  EXPECT_FALSE(machine.ScriviInWord("MELA"));
+  Program("lowriter", "[ \"$1\" = -n ] && cp \"$2\" \"$TO.tmp\"; mv \"$TO.tmp\" \"$TO\"");
+  EXPECT_TRUE(machine.ScriviInWord("A{\xC8"));
+  EXPECT_EQ(Told(), "{\\rtf1\\ansi\\ansicpg1252 \\'41\\'7b\\'c8}");
+}
+
 TEST_F(MachineTest, StartsProgramsAndTellsTheSystemsErrors) {
   const Percorso program =
       Program("a program", "printf '%s\\n' \"$2$1\" > \"$TO.tmp\"; mv \"$TO.tmp\" \"$TO\"");
