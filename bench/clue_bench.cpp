@@ -148,9 +148,7 @@ void BM_MaskedSearch(benchmark::State& state) {
   CursoreX = CursoreY = 1;
   Direzione = Orizzontale;
   TelarDef window(nullptr);
-  window.show();
-  while (!window.Pronta())
-    QApplication::processEvents();
+  ShowPainted(window);
   for (auto _ : state) {
     window.Command3D4->click();
     window.grab();
@@ -166,20 +164,11 @@ double MemoryInUse() {
   return resident * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
 }
 
-// Shows a browser until its first rows are painted.
-template <class Browser>
-void Show(Browser& browser) {
-  browser.show();
-  while (!browser.Pronta())
-    QApplication::processEvents();
-  browser.grab();
-}
-
 void BM_Table(benchmark::State& state) {
   FreshStore();
   for (auto _ : state) {
     frmParole browser(nullptr);
-    Show(browser);
+    ShowPainted(browser);
   }
 }
 
@@ -201,7 +190,7 @@ template <class Browser>
 double MemoryOf() {
   const double before = MemoryInUse();
   Browser browser(nullptr);
-  Show(browser);
+  ShowPainted(browser);
   return MemoryInUse() - before;
 }
 

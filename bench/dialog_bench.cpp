@@ -37,25 +37,17 @@ void FillArchive(const Percorso& folder) {
     std::filesystem::copy_file(first, archive / (std::to_string(n) + ".tlrm"));
 }
 
-// Shows the window until its lists and the first preview are painted.
-void Show(Form2& window) {
-  window.show();
-  while (!window.Pronta())
-    QApplication::processEvents();
-  window.grab();
-}
-
 void BM_Open(benchmark::State& state) {
   for (auto _ : state) {
     Form2 window(nullptr);
-    Show(window);
+    ShowPainted(window);
     if (window.File1->count() != Files) abort();
   }
 }
 
 void BM_Preview(benchmark::State& state) {
   Form2 window(nullptr);
-  Show(window);
+  ShowPainted(window);
   int row = 0;
   for (auto _ : state) {
     window.File1->setCurrentRow(++row % Files);

@@ -6,6 +6,15 @@
 
 namespace telarium {
 
+/// Shows a window of ours until what it opens with is painted.
+template <class Window>
+void ShowPainted(Window& window) {
+  window.show();
+  while (!window.Pronta())
+    QApplication::processEvents();
+  window.grab();
+}
+
 /// The main routine of a benchmark of windows: an application on a screen that nobody sees.
 inline int RunOffscreen(int argc, char** argv, int (*run)()) {
   benchmark::Initialize(&argc, argv);

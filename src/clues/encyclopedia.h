@@ -99,6 +99,7 @@ class Enciclopedia {
 
   /// A row by its number. One that is no longer there is an error of the kind RigaPersa.
   virtual RigaParole LeggiRiga(NumeroRiga numero) = 0;
+  /// A clue that stays as LeggiRiga gave it keeps the characters that the code page lacks.
   virtual void ScriviRiga(NumeroRiga numero, const ModificheRiga& modifiche) = 0;
   /// Deletes a row if it is still there.
   virtual void EliminaRiga(NumeroRiga numero) = 0;

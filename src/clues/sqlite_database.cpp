@@ -126,17 +126,18 @@ Istruzione::~Istruzione() {
 }
 
 Istruzione& Istruzione::Lega(int posto, std::string_view testo) {
-  const std::string utf8 = AUtf8(testo);
-  if (sqlite3_bind_text64(istruzione_, posto, utf8.data(), utf8.size(), SQLITE_TRANSIENT,
-                          SQLITE_UTF8) != SQLITE_OK) {
-    base_.Fallisci();
-  }
-  return *this;
+  return LegaUtf8(posto, AUtf8(testo));
 }
 
 Istruzione& Istruzione::Lega(int posto, const std::optional<std::string>& testo) {
-  if (testo) return Lega(posto, std::string_view(*testo));
-  sqlite3_bind_null(istruzione_, posto);
+  return LegaUtf8(posto, testo ? std::optional(AUtf8(*testo)) : std::nullopt);
+}
+
+Istruzione& Istruzione::LegaUtf8(int posto, const std::optional<std::string>& utf8) {
+  const int esito = utf8 ? sqlite3_bind_text64(istruzione_, posto, utf8->data(), utf8->size(),
+                                               SQLITE_TRANSIENT, SQLITE_UTF8)
+                         : sqlite3_bind_null(istruzione_, posto);
+  if (esito != SQLITE_OK) base_.Fallisci();
   return *this;
 }
 
@@ -163,10 +164,15 @@ void Istruzione::Ricomincia() {
 }
 
 std::optional<std::string> Istruzione::Testo(int colonna) const {
+  const auto utf8 = TestoUtf8(colonna);
+  return utf8 ? std::optional(DaUtf8(*utf8)) : std::nullopt;
+}
+
+std::optional<std::string> Istruzione::TestoUtf8(int colonna) const {
   const auto* testo = reinterpret_cast<const char*>(sqlite3_column_text(istruzione_, colonna));
   if (!testo) return std::nullopt;
   const auto byte = static_cast<std::size_t>(sqlite3_column_bytes(istruzione_, colonna));
-  return DaUtf8({testo, byte});
+  return std::string(testo, byte);
 }
 
 std::int64_t Istruzione::Intero(int colonna) const {

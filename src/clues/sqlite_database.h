@@ -71,6 +71,10 @@ class Istruzione {
   /// Runs it to its end, whatever rows it gives.
   void Esegui();
 
+  /// As Lega, and as Testo below, with a text that is in UTF-8 here too.
+  Istruzione& LegaUtf8(int posto, const std::optional<std::string>& utf8);
+  std::optional<std::string> TestoUtf8(int colonna) const;
+
   /// Lets go of a row before the end; the statement is ready to run again.
   void Ricomincia();
 

@@ -1,3 +1,6 @@
+#include <map>
+
+#include "clues/clue_family.h"
 #include "clues/encyclopedia.h"
 #include "clues/sqlite_database.h"
 #include "model/state.h"
@@ -6,6 +9,25 @@
 
 namespace telarium {
 namespace {
+
+// A family for the database, in UTF-8: a clue that is as it was shown is as it was stored, with the
+// characters that the code page could not show.
+std::optional<std::string> ConOriginali(const std::optional<std::string>& famiglia,
+                                        const std::optional<std::string>& conservata) {
+  if (!famiglia) return std::nullopt;
+  std::map<std::string, std::string_view> originali;
+  if (conservata) {
+    for (const std::string_view una : PartiDellaFamiglia(*conservata))
+      originali.emplace(DaUtf8(una), una);
+  }
+  std::string utf8;
+  for (const std::string_view una : PartiDellaFamiglia(*famiglia)) {
+    if (una.data() != famiglia->data()) utf8 += SeparatoreDefinizioni;
+    const auto originale = originali.find(std::string(una));
+    utf8 += originale == originali.end() ? AUtf8(una) : std::string(originale->second);
+  }
+  return utf8;
+}
 
 // The store as an SQLite database, the table Parole with the columns PAROLA, DEFINIZ_FACILE and
 // DEFINIZ_DIFFIC and an index on PAROLA (encyclopedia_writer.cpp makes it). As long as it is only
@@ -93,8 +115,12 @@ class EnciclopediaSqlite : public Enciclopedia {
                       " DEFINIZ_DIFFIC = iif(?6, ?7, DEFINIZ_DIFFIC) WHERE rowid = ?1");
     scrivi.Lega(1, numero);
     scrivi.Lega(2, modifiche.parola.has_value()).Lega(3, modifiche.parola);
-    scrivi.Lega(4, modifiche.facili.has_value()).Lega(5, Famiglia(modifiche.facili));
-    scrivi.Lega(6, modifiche.difficili.has_value()).Lega(7, Famiglia(modifiche.difficili));
+    if (!leggi_.Lega(1, numero).Passo()) Mancante();
+    scrivi.Lega(4, modifiche.facili.has_value());
+    scrivi.LegaUtf8(5, ConOriginali(Famiglia(modifiche.facili), leggi_.TestoUtf8(1)));
+    scrivi.Lega(6, modifiche.difficili.has_value());
+    scrivi.LegaUtf8(7, ConOriginali(Famiglia(modifiche.difficili), leggi_.TestoUtf8(2)));
+    leggi_.Ricomincia();
     scrivi.Esegui();
     VerificaTrovata();
   }

@@ -88,11 +88,12 @@ TEST_F(EncyclopediaTest, CharactersOutsideTheCodePageShowAsQuestionMarksAndStay)
     const NumeroRiga row = open->Chiavi().front().numero;
     open->ScriviRiga(row, {.parola = "ALTRA", .facili = {}, .difficili = {}});
     open->ScriviRiga(row, {.parola = {}, .facili = {}, .difficili = ""});
+    open->ScriviRiga(row, {.parola = {}, .facili = "d\r\n?\rb\r\nc", .difficili = {}});
     EXPECT_EQ(open->LeggiRiga(row).parola, "ALTRA");
     EXPECT_EQ(open->LeggiRiga(row).difficili, std::nullopt) << "an emptied family is null";
   }
   Sql("CREATE TABLE Esito AS SELECT 1 FROM Parole WHERE PAROLA = 'ALTRA' AND"
-      " DEFINIZ_FACILE = 'Ω' || char(13) || 'b' || char(13, 10) || 'c'");
+      " DEFINIZ_FACILE = 'd' || char(13, 10) || 'Ω' || char(13) || 'b' || char(13, 10) || 'c'");
   Sql("INSERT INTO Parole SELECT 'TROVATA', NULL, NULL FROM Esito");
   EXPECT_EQ(Stored("TROVATA"), "-");
 }
