@@ -148,6 +148,7 @@ bool FinestraEnciclopedia::InBottone(const std::function<void()>& azione) {
   try {
     PrendiDatiScritti();
     azione();
+    perditaDetta_ = false;  // what was typed is stored; a later loss is to be told anew
     return true;
   } catch (const ErroreEnciclopedia& errore) {
     Avvisa(errore.Descrizione());

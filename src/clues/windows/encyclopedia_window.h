@@ -87,7 +87,7 @@ class FinestraEnciclopedia : public FinestraModale {
   bool LasciaModo();
   bool Anticipa(const QKeyEvent& tasto);
 
-  bool perditaDetta_ = false;
+  bool perditaDetta_ = false;  // that what was typed could not be stored at the end
 };
 
 }  // namespace telarium

@@ -330,7 +330,15 @@ TEST_F(OneWord, AnErrorInAButtonShowsAndLeavesModeAndText) {
   Append(1, u"y");
   Click(window->cmdClose);
   EXPECT_EQ(user.TakeTexts(), Busy);
-  EXPECT_TRUE(window->isVisible()) << "once it has been told, the user may give it up";
+  EXPECT_TRUE(window->isVisible());
+  lock.reset();
+  Click(window->cmdFirst);
+  EXPECT_EQ(Stored("ARIA"), "Si respiray");
+  lock = LockStore();
+  Append(1, u"z");
+  Click(window->cmdClose);
+  EXPECT_EQ(user.TakeTexts(), Busy);
+  EXPECT_TRUE(window->isVisible()) << "a new text, a new warning";
   Click(window->cmdClose);
   EXPECT_EQ(user.TakeTexts(), Busy);
   EXPECT_FALSE(window->isVisible());
