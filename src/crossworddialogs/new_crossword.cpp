@@ -19,11 +19,8 @@ void AvvisaDimensione(std::string_view quali, int massimo) {
 
 // The four header lines of a new crossword, with today's date.
 void ScriviIntestazione(int colonne, int righe) {
-  const auto oggi = Sistema().Oggi();
   Schema(1) = "Autore     : Zanotti Graziella";
-  Schema(2) = Unisci("Data       : ", DueCifre(static_cast<int>(unsigned{oggi.day()})), '-',
-                     DueCifre(static_cast<int>(unsigned{oggi.month()})), '-',
-                     static_cast<int>(oggi.year()));
+  Schema(2) = "Data       : " + DataDiOggi();
   Schema(3) = "Tipo       : Crociate Normale";
   Schema(4) = "Dimensioni : ";
   ScriviDimensioni(colonne, righe);

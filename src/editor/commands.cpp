@@ -19,6 +19,15 @@ constexpr int UltimoPulsanteSenzaAnteprima = 20;
 
 constexpr const char* VociDiLingua[NumLingue] = {"MenuL1", "MenuL2", "MenuL3", "MenuL4"};
 
+// The commands that a print preview forbids.
+void AbilitaComandiSulloSchema(bool abilitati) {
+  FinestraEditor& finestra = LaFinestra();
+  for (int numero = PrimoPulsanteSenzaAnteprima; numero <= UltimoPulsanteSenzaAnteprima; ++numero)
+    finestra.AbilitaPulsante(numero, abilitati);
+  finestra.AbilitaVoce("MenuUtiliti", abilitati);
+  finestra.AbilitaVoce("MenuEdit", abilitati);
+}
+
 // What a command that leads out of the grid does first.
 void PrendiCongedo() {
   LaFinestra().TogliLabel1();
@@ -38,15 +47,19 @@ void EntraInModifica() {
   CambiaModoEdit();
 }
 
+void IniziaAnteprima() {
+  LaFinestra().NascondiShape1();
+  AbilitaComandiSulloSchema(false);
+  LaFinestra().MostraCommand3d15(true);
+  LaFinestra().TogliLabel1();
+  ModoGriglia = ModoAnteprima;
+}
+
 void ChiudiAnteprima() {
   FinestraEditor& finestra = LaFinestra();
   PrendiCongedo();
   // Giving up the open window puts the grid into the mode of a preview without a crossword too.
-  const bool cruciverba = !NomeCruciverba.empty();
-  for (int numero = PrimoPulsanteSenzaAnteprima; numero <= UltimoPulsanteSenzaAnteprima; ++numero)
-    finestra.AbilitaPulsante(numero, cruciverba);
-  finestra.AbilitaVoce("MenuUtiliti", cruciverba);
-  finestra.AbilitaVoce("MenuEdit", cruciverba);
+  AbilitaComandiSulloSchema(!NomeCruciverba.empty());
   finestra.MostraCommand3d15(false);
   RidisegnaSchema();
   finestra.MettiGraficaAiMenu();
@@ -108,6 +121,7 @@ void ScegliCarattere() {
 
 void RegolaSchema() {
   LaFinestra().MostraModale(Modale::Settaggi);
+  LasciaAnteprima();
   RidisegnaSchema();
 }
 

@@ -10,6 +10,10 @@ void EntraInModifica();
 /// whether it is pressed, and redraws.
 void CambiaModoEdit();
 
+/// Makes way for a print preview: forbids the commands that need the grid, shows Command3d15, sets
+/// ModoGriglia to ModoAnteprima. What is drawn stays.
+void IniziaAnteprima();
+
 /// A click on Command3d15: leaves a print preview, allows all commands again, redraws and enters
 /// editing.
 void ChiudiAnteprima();
@@ -34,7 +38,7 @@ void ApriAiuto();
 /// MenuFont: shows fONTEN.
 void ScegliCarattere();
 
-/// menusetschema: shows Settaggi and redraws.
+/// menusetschema: shows Settaggi, leaves a print preview and redraws.
 void RegolaSchema();
 
 /// The check marks of the menus, from the settings and the language as they are.

@@ -12,7 +12,7 @@
 namespace telarium {
 namespace {
 
-constexpr std::chrono::milliseconds Limite{2000};
+constexpr LimitiDiPrelievo Limiti{.tempo = std::chrono::seconds(2), .byte = 1u << 20};
 constexpr std::string_view NostraVersione = TELARIUM_VERSION;  // "7.0.1"
 
 // Major, minor and revision one after the other.
@@ -45,7 +45,8 @@ bool Offri(std::string_view testo) {
 void ControllaAggiornamento() {
   const std::string& server = ValoreIndirizzo(Indirizzo::ServerAggiornamenti);
   if (server.empty()) return;
-  auto testo = Sistema().Preleva(ConSchema(server) + "/telarium/telarium_update.txt", Limite);
+  auto testo =
+      Sistema().Preleva(AUtf8(ConSchema(server) + "/telarium/telarium_update.txt"), Limiti, {});
   if (!testo || testo->empty()) return;
   testo->pop_back();  // the last byte only ends the file
   if (ValoreDecimale(*testo) <= NostroNumero() || !Offri(*testo)) return;

@@ -152,19 +152,6 @@ void AggiungiColori(std::string& testo) {
   }
 }
 
-std::optional<std::string> TestoDelFile() {
-  std::string testo;
-  for (int i = 1; i <= NumRighe + RigheIntestazione; ++i) {
-    const auto riga = i > RigheIntestazione ? RigaSpostata(Schema(i)) : InUnaRiga(Schema(i));
-    if (!riga) return std::nullopt;
-    AggiungiRiga(testo, *riga);
-  }
-  AggiungiDefinizioni(testo);
-  AggiungiColori(testo);
-  if (testo.size() > MaxByteCruciverba) return std::nullopt;  // it could not be read again
-  return testo;
-}
-
 // Whether a file could be read, other than a missing one; what could not is told.
 bool LettoOAvvisato(EsitoLettura esito) {
   if (esito != EsitoLettura::Letto) Avvisa(MessaggioLettura);
@@ -218,7 +205,7 @@ bool LeggiDa(const Percorso& percorso, const Percorso& nomeMostrato) {
 }
 
 bool ScriviInSilenzio(const Percorso& percorso, Permanenza permanenza) {
-  const auto testo = TestoDelFile();
+  const auto testo = TestoDelCruciverba();
   return testo && !ScriviFile(percorso, *testo, permanenza);
 }
 
@@ -253,6 +240,19 @@ std::optional<std::string> RigaDiSchema(std::string_view riga) {
   return schema;
 }
 
+std::optional<std::string> TestoDelCruciverba() {
+  std::string testo;
+  for (int i = 1; i <= NumRighe + RigheIntestazione; ++i) {
+    const auto riga = i > RigheIntestazione ? RigaSpostata(Schema(i)) : InUnaRiga(Schema(i));
+    if (!riga) return std::nullopt;
+    AggiungiRiga(testo, *riga);
+  }
+  AggiungiDefinizioni(testo);
+  AggiungiColori(testo);
+  if (testo.size() > MaxByteCruciverba) return std::nullopt;  // it could not be read again
+  return testo;
+}
+
 bool InterpretaCruciverba(std::string_view contenuto) {
   LettoreDiRighe righe(contenuto);
   return PrendiIntestazione(righe) && PrendiCorpo(righe);
@@ -273,7 +273,10 @@ Apertura ApriCruciverba(const Percorso& nome) {
   std::string contenuto;
   const EsitoLettura esito = LeggiFile(nome, MaxByteCruciverba, contenuto);
   if (esito == EsitoLettura::Assente) return Apertura::Assente;
-  if (!LettoOAvvisato(esito)) return Apertura::Rifiutata;
+  return LettoOAvvisato(esito) ? ApriTestoDiCruciverba(contenuto) : Apertura::Rifiutata;
+}
+
+Apertura ApriTestoDiCruciverba(std::string_view contenuto) {
   LettoreDiRighe righe(contenuto);
   const CopiaIntestazione prima;
   if (!PrendiIntestazione(righe)) {

@@ -42,6 +42,9 @@ enum class Apertura {
 /// there before its grid is taken.
 [[nodiscard]] Apertura ApriCruciverba(const Percorso& nome);
 
+/// ApriCruciverba for the contents of a file, which may have a tail that is no crossword.
+[[nodiscard]] Apertura ApriTestoDiCruciverba(std::string_view contenuto);
+
 /// Ends the program with the message that a crossword file is missing.
 [[noreturn]] void TerminaSenzaCruciverba(const Percorso& nome);
 
@@ -51,6 +54,10 @@ bool InterpretaCruciverba(std::string_view contenuto);
 /// Writes the crossword to a path as given; the clues follow TipoCasella as the last redraw left
 /// it. The state stays as it is. A failure shows its message, gives false and leaves the old file.
 [[nodiscard]] bool ScriviCruciverba(const Percorso& nome);
+
+/// What ScriviCruciverba writes. None when a cell has a character that the file cannot hold, or
+/// when it would be too large to be read again.
+std::optional<std::string> TestoDelCruciverba();
 
 /// LeggiCruciverba and ScriviCruciverba with the snapshot, which is never forced to the disk.
 bool LeggiIstantanea();

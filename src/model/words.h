@@ -76,6 +76,14 @@ void PerOgniParola(Visita visita) {
   }
 }
 
+/// The same with the words of one direction alone.
+template <class Visita>
+void PerOgniParola(int direzione, Visita visita) {
+  PerOgniParola([&](const Slot& slot) {
+    if (slot.direzione == direzione) visita(slot);
+  });
+}
+
 /// Writes the character of a cell into its row line of Schema; the companion mark stays as it is. A
 /// line that is too short for the cell is first made longer by empty white cells.
 void ScriviInSchema(Casella casella, char carattere);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +18,15 @@ struct Mail {
   std::string testo;
   std::optional<Percorso> allegato;
 };
+
+/// How far a fetch may go.
+struct LimitiDiPrelievo {
+  std::chrono::milliseconds tempo;
+  std::size_t byte;
+};
+
+/// Asked again and again during a fetch, with the bytes that have come: false breaks it off.
+using ProseguePrelievo = std::function<bool(std::size_t byte)>;
 
 /// What the core asks of the machine. Texts are in the code page.
 class Macchina {
@@ -37,7 +48,7 @@ class Macchina {
   virtual bool ApriFile(const Percorso& file) = 0;
   virtual bool ApriIndirizzo(const std::string& indirizzo) = 0;
 
-  /// Opens a document in the word processor. False when there is none.
+  /// Opens a document in the word processor. False when there is none, or no such file.
   virtual bool ApriInWord(const Percorso& documento) = 0;
 
   /// Opens the word processor on a new document of that text. False when there is none.
@@ -46,9 +57,11 @@ class Macchina {
   /// Hands a mail to the user's mail program. False when there is none.
   virtual bool PreparaMail(const Mail& mail) = 0;
 
-  /// The bytes behind an address; none when it cannot be fetched whole within the time.
+  /// The bytes behind an http, https or file address, which is in UTF-8 like a file name; none when
+  /// it cannot be fetched whole within the limits, or was broken off.
   virtual std::optional<std::string> Preleva(const std::string& indirizzo,
-                                             std::chrono::milliseconds limite) = 0;
+                                             const LimitiDiPrelievo& limiti,
+                                             const ProseguePrelievo& prosegue) = 0;
 
   /// The settings of this user, kept from one run to the next.
   virtual std::optional<std::string> LeggiImpostazione(const std::string& chiave) = 0;

@@ -1,6 +1,7 @@
 #include "platform/platform.h"
 
 #include "platform/check.h"
+#include "platform/text.h"
 
 namespace telarium {
 namespace {
@@ -21,6 +22,13 @@ Piattaforma& LaPiattaforma() {
 void TerminaProgramma() {
   LaPiattaforma().Termina();
   ErroreDiProgrammazione("la piattaforma non ha terminato il programma");
+}
+
+std::string DataDiOggi() {
+  const auto oggi = Sistema().Oggi();
+  return Unisci(DueCifre(static_cast<int>(unsigned{oggi.day()})), '-',
+                DueCifre(static_cast<int>(unsigned{oggi.month()})), '-',
+                static_cast<int>(oggi.year()));
 }
 
 void Avvisa(std::string_view testo, std::string_view titolo, Icona icona) {

@@ -46,6 +46,9 @@ inline Stampante* LaStampante() {
 }
 [[noreturn]] void TerminaProgramma();
 
+/// Today's date as day-month-year, in two, two and four digits.
+std::string DataDiOggi();
+
 /// Shows a message with an OK button.
 void Avvisa(std::string_view testo, std::string_view titolo = {}, Icona icona = Icona::Nessuna);
 

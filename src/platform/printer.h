@@ -1,11 +1,26 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
+#include "platform/surface.h"
+
 namespace telarium {
 
-/// The printer's type, which holds for what is printed until it is set again.
+/// A print job: the surface of its pages, one after the other. It begins with the printer's type. A
+/// job that is dropped without FineStampa prints nothing.
+class LavoroDiStampa : public Superficie {
+ public:
+  /// Sets the logical size of the pages: positions and text measures are in these units, which may
+  /// differ in width and height. Type sizes stay in points, and no text is stretched.
+  virtual void ScalaSuperficie(double larghezza, double altezza) = 0;
+
+  /// Ends the job and sends its pages to the printer.
+  virtual void FineStampa() = 0;
+};
+
+/// The printer, with the type that holds for what is printed until it is set again.
 class Stampante {
  public:
   virtual ~Stampante() = default;
@@ -18,6 +33,10 @@ class Stampante {
   virtual bool Corsivo() const = 0;
   virtual void Grassetto(bool grassetto) = 0;
   virtual bool Grassetto() const = 0;
+
+  /// Shows the printer dialog and begins a job of that name. Null when the user gave up, or when
+  /// the job cannot begin.
+  virtual std::unique_ptr<LavoroDiStampa> IniziaLavoro(const std::string& nome) = 0;
 };
 
 }  // namespace telarium

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace telarium {
@@ -26,7 +27,10 @@ class Superficie {
 
   virtual double LarghezzaSuperficie() const = 0;
   virtual double AltezzaSuperficie() const = 0;
+  /// Paints all of it in the colour of its ground.
   virtual void Pulisci() = 0;
+  virtual void Sfondo(Colore colore) = 0;
+  virtual Colore Sfondo() const = 0;
 
   /// The outline of a rectangle, and a filled one with an outline in the same colour. Both corners
   /// belong to it.
@@ -54,6 +58,20 @@ class Superficie {
 
   /// Writes a text in black from the current position, which moves to the end of it.
   virtual void Scrivi(std::string_view testo) = 0;
+
+  /// Ends the line of text: the next one begins at 0, below.
+  void ACapo() { Posizione(0, PosizioneY() + AltezzaTesto({})); }
+  void ScriviRiga(std::string_view testo) {
+    Scrivi(testo);
+    ACapo();
+  }
+
+  /// Begins another page of the same size, blank. False on a surface that is all there is.
+  virtual bool NuovaPagina() { return false; }
+
+  /// All of the picture, in its real size, as the bytes of a Windows bitmap file; empty on a
+  /// surface that keeps none.
+  virtual std::string Bitmap() { return {}; }
 
   /// Whether what is drawn stays on the surface, or is put on the screen alone, at once. Only a
   /// window tells the two apart.

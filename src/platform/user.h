@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -34,6 +36,15 @@ struct AvanzamentoEstrazione {
   int slotTotali = 0;
 };
 
+/// A wait that the user sees and can break off, as long as this object lives.
+class Attesa {
+ public:
+  virtual ~Attesa() = default;
+
+  /// Shows that it lasts, and how many bytes have come. False once the user wants no more of it.
+  virtual bool Prosegue(std::size_t byte) = 0;
+};
+
 // Shapes of the mouse pointer.
 inline constexpr int PuntatoreFreccia = 0;
 inline constexpr int PuntatoreFrecciaFissa = 1;   // after a masked search
@@ -64,6 +75,9 @@ class Utente {
 
   /// Called at each slot and each restart of a fill. False: the user wants it to stop.
   virtual bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) = 0;
+
+  /// Begins a wait for something from outside, which the text says.
+  virtual std::unique_ptr<Attesa> IniziaAttesa(const std::string& testo) = 0;
 
   /// Gives the mouse pointer one of the shapes above.
   virtual void FormaPuntatore(int forma) = 0;

@@ -18,9 +18,9 @@ using Folders = std::set<std::string>;
 
 // What each layer may include, by folders of the sources. A folder's windows are a layer above all
 // logic.
-const Folders Core = {"platform",         "model",  "dictionary",
-                      "auxiliary",        "editor", "fill",
-                      "crossworddialogs", "clues",  "telarium_version.h"};
+const Folders Core = {
+    "platform",         "model", "dictionary", "auxiliary",         "editor", "fill",
+    "crossworddialogs", "clues", "output",     "telarium_version.h"};
 
 Folders With(Folders folders, const Folders& more) {
   folders.insert(more.begin(), more.end());
@@ -36,6 +36,7 @@ const std::map<std::string, Folders> Allowed = {
     {"fill", {"platform", "model", "editor", "dictionary", "fill"}},
     {"crossworddialogs", {"platform", "model", "editor", "crossworddialogs"}},
     {"clues", {"platform", "model", "dictionary", "auxiliary", "editor", "clues"}},
+    {"output", {"platform", "model", "auxiliary", "editor", "output"}},
     {"platform/common", {"platform", "platform/common"}},
     {"platform/console", {"platform", "platform/common", "platform/console"}},
     {"platform/qt", {"platform", "platform/common", "platform/qt"}},

@@ -17,58 +17,84 @@ std::string Call(std::string_view name, std::initializer_list<double> numbers) {
 
 }  // namespace
 
-void RecordingSurface::Pulisci() {
+template <class Surface>
+void Recording<Surface>::Pulisci() {
   calls.push_back("Pulisci");
 }
 
-void RecordingSurface::Riquadro(double x1, double y1, double x2, double y2, Colore colore) {
+template <class Surface>
+void Recording<Surface>::Riquadro(double x1, double y1, double x2, double y2, Colore colore) {
   calls.push_back(Call("Riquadro", {x1, y1, x2, y2, static_cast<double>(colore)}));
 }
 
-void RecordingSurface::RiquadroPieno(double x1, double y1, double x2, double y2, Colore colore) {
+template <class Surface>
+void Recording<Surface>::RiquadroPieno(double x1, double y1, double x2, double y2, Colore colore) {
   calls.push_back(Call("RiquadroPieno", {x1, y1, x2, y2, static_cast<double>(colore)}));
 }
 
-void RecordingSurface::Carattere(std::string_view nome) {
+template <class Surface>
+void Recording<Surface>::Carattere(std::string_view nome) {
   calls.push_back("Carattere " + std::string(nome));
 }
 
-void RecordingSurface::CorpoCarattere(double punti) {
+template <class Surface>
+void Recording<Surface>::CorpoCarattere(double punti) {
   size_ = punti;
   calls.push_back(Call("CorpoCarattere", {punti}));
 }
 
-void RecordingSurface::Grassetto(bool grassetto) {
+template <class Surface>
+void Recording<Surface>::Grassetto(bool grassetto) {
   bold_ = grassetto;
   calls.push_back(grassetto ? "Grassetto si" : "Grassetto no");
 }
 
-void RecordingSurface::Corsivo(bool corsivo) {
+template <class Surface>
+void Recording<Surface>::Corsivo(bool corsivo) {
   italic_ = corsivo;
   calls.push_back(corsivo ? "Corsivo si" : "Corsivo no");
 }
 
-double RecordingSurface::LarghezzaTesto(std::string_view testo) const {
+template <class Surface>
+double Recording<Surface>::LarghezzaTesto(std::string_view testo) const {
   return static_cast<double>(testo.size()) * size_ / 2;
 }
 
-double RecordingSurface::AltezzaTesto(std::string_view) const {
+template <class Surface>
+double Recording<Surface>::AltezzaTesto(std::string_view) const {
   return size_;
 }
 
-void RecordingSurface::Posizione(double x, double y) {
+template <class Surface>
+void Recording<Surface>::Posizione(double x, double y) {
   x_ = x;
   y_ = y;
   calls.push_back(Call("Posizione", {x, y}));
 }
 
-void RecordingSurface::Scrivi(std::string_view testo) {
+template <class Surface>
+void Recording<Surface>::Scrivi(std::string_view testo) {
   x_ += LarghezzaTesto(testo);
   calls.push_back("Scrivi " + std::string(testo));
 }
 
-void RecordingSurface::DisegnoPersistente(bool persistente) {
+template <class Surface>
+void Recording<Surface>::DisegnoPersistente(bool persistente) {
   calls.push_back(persistente ? "DisegnoPersistente si" : "DisegnoPersistente no");
+}
+
+template class Recording<Superficie>;
+template class Recording<LavoroDiStampa>;
+
+void RecordingJob::ScalaSuperficie(double larghezza, double altezza) {
+  width = larghezza;
+  height = altezza;
+  calls.push_back(Call("ScalaSuperficie", {larghezza, altezza}));
+}
+
+bool RecordingJob::NuovaPagina() {
+  calls.push_back("NuovaPagina");
+  return true;
 }
 
 }  // namespace telarium

@@ -49,10 +49,20 @@ Risposta ScriptedUser::MostraMessaggio(const Messaggio& messaggio) {
 }
 
 std::optional<std::string> ScriptedUser::ChiediTesto(const RichiestaDiTesto& richiesta) {
-  prompts.push_back(richiesta.richiesta);
+  requests.push_back(richiesta);
   const auto answer = TakeFirst(textAnswers_);
   if (!answer) ADD_FAILURE() << "an input box nobody expected: " << AUtf8(richiesta.richiesta);
   return answer.value_or(std::nullopt);
+}
+
+std::unique_ptr<Attesa> ScriptedUser::IniziaAttesa(const std::string& testo) {
+  struct Wait : Attesa {
+    explicit Wait(bool patient) : patient_(patient) {}
+    bool Prosegue(std::size_t) override { return patient_; }
+    bool patient_;
+  };
+  waits.push_back(testo);
+  return std::make_unique<Wait>(patient);
 }
 
 Colore ScriptedUser::ScegliColore(Colore) {
@@ -80,6 +90,12 @@ bool ScriptedPrinter::Carattere(std::string_view nome) {
   return true;
 }
 
+std::unique_ptr<LavoroDiStampa> ScriptedPrinter::IniziaLavoro(const std::string& nome) {
+  if (givenUp) return nullptr;
+  jobs.push_back(nome);
+  return std::make_unique<RecordingJob>(printed);
+}
+
 double ScriptedMachine::Casuale() {
   return TakeFirst(draws).value_or(random.Prossimo());
 }
@@ -100,15 +116,23 @@ bool ScriptedMachine::ApriIndirizzo(const std::string& indirizzo) {
   return opens;
 }
 
+bool ScriptedMachine::ApriInWord(const Percorso& documento) {
+  if (hasWord) inWord.push_back(documento.string());
+  return hasWord;
+}
+
 bool ScriptedMachine::ScriviInWord(const std::string& testo) {
   written.push_back(testo);
   return opens;
 }
 
 std::optional<std::string> ScriptedMachine::Preleva(const std::string& indirizzo,
-                                                    std::chrono::milliseconds) {
+                                                    const LimitiDiPrelievo&,
+                                                    const ProseguePrelievo& prosegue) {
   fetched.push_back(indirizzo);
-  return fetches;
+  if (prosegue && !prosegue(0)) return std::nullopt;
+  const auto page = pages.find(indirizzo);
+  return page == pages.end() ? fetches : page->second;
 }
 
 }  // namespace telarium

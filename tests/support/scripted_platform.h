@@ -4,6 +4,7 @@
 #include <deque>
 #include <exception>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -42,7 +43,9 @@ class ScriptedUser : public Utente {
   /// The colours that the next choosers give; NessunColore is a cancelled one.
   std::deque<Colore> colours;
 
-  std::vector<std::string> prompts;  // of the input boxes so far
+  std::vector<RichiestaDiTesto> requests;  // the input boxes so far
+  std::vector<std::string> waits;          // the waits so far
+  bool patient = true;                     // false: breaks a wait off at once
   int beeps = 0;
   std::vector<int> pointerShapes;
   std::vector<AvanzamentoEstrazione> polls;
@@ -55,6 +58,7 @@ class ScriptedUser : public Utente {
   Colore ScegliColore(Colore iniziale) override;
   Risposta ChiediVicoloCieco(const std::string& testo) override;
   bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
+  std::unique_ptr<Attesa> IniziaAttesa(const std::string& testo) override;
   void FormaPuntatore(int forma) override { pointerShapes.push_back(forma); }
   void SegnaleAcustico() override { ++beeps; }
   void CediAiMessaggi() override {}
@@ -81,9 +85,12 @@ class ScriptedMachine : public MacchinaIsolata {
   std::vector<std::string> started;  // programs
   std::vector<std::string> fetched;  // addresses
   std::vector<std::string> written;  // texts for the word processor
+  std::vector<std::string> inWord;   // documents opened in it
   bool opens = true;
+  bool hasWord = true;
   std::error_code startError;
-  std::optional<std::string> fetches;
+  std::optional<std::string> fetches;        // what is behind an address
+  std::map<std::string, std::string> pages;  // before that: what is behind this one
 
   std::chrono::year_month_day Oggi() override { return today; }
   double Casuale() override;
@@ -91,18 +98,22 @@ class ScriptedMachine : public MacchinaIsolata {
                                 const std::vector<std::string>& argomenti) override;
   bool ApriFile(const Percorso& file) override;
   bool ApriIndirizzo(const std::string& indirizzo) override;
+  bool ApriInWord(const Percorso& documento) override;
   bool ScriviInWord(const std::string& testo) override;
-  std::optional<std::string> Preleva(const std::string& indirizzo,
-                                     std::chrono::milliseconds limite) override;
+  std::optional<std::string> Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
+                                     const ProseguePrelievo& prosegue) override;
 };
 
-/// A printer that takes every typeface but one.
+/// A printer that takes every typeface but one. Its user may give up in the printer dialog.
 class ScriptedPrinter : public Stampante {
  public:
   std::string refused;
   std::string typeface;
   bool italic = false;
   bool bold = false;
+  bool givenUp = false;
+  std::vector<std::string> jobs;     // their names
+  std::vector<std::string> printed;  // the calls of the last one
 
   bool Carattere(std::string_view nome) override;
   const std::string& Carattere() const override { return typeface; }
@@ -110,6 +121,7 @@ class ScriptedPrinter : public Stampante {
   bool Corsivo() const override { return italic; }
   void Grassetto(bool grassetto) override { bold = grassetto; }
   bool Grassetto() const override { return bold; }
+  std::unique_ptr<LavoroDiStampa> IniziaLavoro(const std::string& nome) override;
 };
 
 class ScriptedPlatform : public Piattaforma {

@@ -39,7 +39,7 @@ void Form2::CreaControlli() {
   Frame3 = Chiamato(QStringLiteral("Frame3"), new QGroupBox(QStringLiteral("Nome file"), this));
   Frame1 = Chiamato(QStringLiteral("Frame1"), new QGroupBox(this));
   Picture1 = Chiamato(QStringLiteral("Picture1"), new Tela(Frame1));
-  Picture1->Superficie().Sfondo(Qt::white);
+  Picture1->Superficie().Sfondo(ColoreBianco);
   Picture1->setMinimumSize(MisuraMinimaAnteprima);
   StatusBar1 = Chiamato(QStringLiteral("StatusBar1"), new QLabel(this));
   StatusBar1->setTextFormat(Qt::PlainText);

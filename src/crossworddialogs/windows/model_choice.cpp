@@ -23,7 +23,7 @@ constexpr const char* ModelloDiFile = "*.dfc";
 }  // namespace
 
 FiguraModello::FiguraModello(QWidget* genitore) : Tela(genitore) {
-  Superficie().Sfondo(Qt::white);
+  Superficie().Sfondo(ColoreBianco);
   setMinimumSize(MisuraMinimaFigura);
 }
 

@@ -1,14 +1,18 @@
 #pragma once
 
-#include <chrono>
 #include <optional>
 #include <string>
 
+#include "platform/machine.h"
+
 namespace telarium {
 
-/// The bytes behind an http, https or file address, redirections followed; none when it cannot be
-/// fetched whole within the time, or when it is too big for anything that the program reads.
+/// The bytes behind an address in UTF-8: a page of an http or https one, redirections followed, or
+/// the file that a "file://" one names, with "%" escapes or as its name stands. None when it cannot
+/// be fetched whole within the limits, when `prosegue` (which may be empty) breaks it off, and for
+/// any other address.
 std::optional<std::string> PrelevaIndirizzo(const std::string& indirizzo,
-                                            std::chrono::milliseconds limite);
+                                            const LimitiDiPrelievo& limiti,
+                                            const ProseguePrelievo& prosegue);
 
 }  // namespace telarium

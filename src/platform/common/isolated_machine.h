@@ -18,7 +18,8 @@ class MacchinaIsolata : public Macchina {
   bool ApriInWord(const Percorso&) override { return false; }
   bool ScriviInWord(const std::string&) override { return false; }
   bool PreparaMail(const Mail&) override { return false; }
-  std::optional<std::string> Preleva(const std::string&, std::chrono::milliseconds) override {
+  std::optional<std::string> Preleva(const std::string&, const LimitiDiPrelievo&,
+                                     const ProseguePrelievo&) override {
     return std::nullopt;
   }
   std::optional<std::string> LeggiImpostazione(const std::string&) override { return std::nullopt; }

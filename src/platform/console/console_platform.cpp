@@ -14,6 +14,11 @@ void SegnaInterruzione(int) {
   interruzione = 1;
 }
 
+class AttesaConsole : public Attesa {
+ public:
+  bool Prosegue(std::size_t) override { return interruzione == 0; }
+};
+
 }  // namespace
 
 Risposta UtenteConsole::MostraMessaggio(const Messaggio& messaggio) {
@@ -31,6 +36,10 @@ std::optional<std::string> UtenteConsole::ChiediTesto(const RichiestaDiTesto&) {
 Risposta UtenteConsole::ChiediVicoloCieco(const std::string& testo) {
   MostraMessaggio({.testo = testo});
   return risposte_.vicoloCieco;
+}
+
+std::unique_ptr<Attesa> UtenteConsole::IniziaAttesa(const std::string&) {
+  return std::make_unique<AttesaConsole>();
 }
 
 bool UtenteConsole::Interrotto() const {

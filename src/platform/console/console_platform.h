@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <exception>
 
+#include "platform/common/fetch.h"
 #include "platform/common/isolated_machine.h"
 #include "platform/common/local_clock.h"
 #include "platform/platform.h"
@@ -38,6 +39,8 @@ class UtenteConsole : public Utente {
   Risposta ChiediVicoloCieco(const std::string& testo) override;
   /// False when Ctrl+C was pressed (see AscoltaInterruzione) or the attempts are used up.
   bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
+  /// It goes on until Ctrl+C; nothing is shown.
+  std::unique_ptr<Attesa> IniziaAttesa(const std::string& testo) override;
   void FormaPuntatore(int) override {}
   void SegnaleAcustico() override {}
   void CediAiMessaggi() override {}
@@ -54,6 +57,10 @@ void AscoltaInterruzione();
 class MacchinaConsole : public MacchinaIsolata {
  public:
   std::chrono::year_month_day Oggi() override { return OggiLocale(); }
+  std::optional<std::string> Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
+                                     const ProseguePrelievo& prosegue) override {
+    return PrelevaIndirizzo(indirizzo, limiti, prosegue);
+  }
 };
 
 class PiattaformaConsole : public Piattaforma {

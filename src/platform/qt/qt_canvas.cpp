@@ -4,11 +4,13 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "platform/qt/qt_colour.h"
+
 namespace telarium {
 
 Tela::Tela(QWidget* genitore) : QWidget(genitore) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  superficie_.Sfondo(palette().color(QPalette::Window));
+  superficie_.Sfondo(ColoreDaQt(palette().color(QPalette::Window)));
   superficie_.QuandoCambia([this] { update(); });
 }
 

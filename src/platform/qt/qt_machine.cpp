@@ -95,7 +95,7 @@ bool MacchinaQt::ApriIndirizzo(const std::string& indirizzo) {
 
 bool MacchinaQt::ApriInWord(const Percorso& documento) {
   const auto programma = ProgrammaDiScrittura();
-  return programma ? Consegna({*programma, documento.string()}) : ApriFile(documento);
+  return programma && FileOrdinario(documento) && Consegna({*programma, documento.string()});
 }
 
 bool MacchinaQt::ScriviInWord(const std::string& testo) {
@@ -122,8 +122,9 @@ bool MacchinaQt::PreparaMail(const Mail& mail) {
 }
 
 std::optional<std::string> MacchinaQt::Preleva(const std::string& indirizzo,
-                                               std::chrono::milliseconds limite) {
-  return PrelevaIndirizzo(AUtf8(indirizzo), limite);
+                                               const LimitiDiPrelievo& limiti,
+                                               const ProseguePrelievo& prosegue) {
+  return PrelevaIndirizzo(indirizzo, limiti, prosegue);
 }
 
 std::optional<std::string> MacchinaQt::LeggiImpostazione(const std::string& chiave) {

@@ -10,4 +10,8 @@ bool StampanteQt::Carattere(std::string_view nome) {
   return true;
 }
 
+std::unique_ptr<LavoroDiStampa> StampanteQt::IniziaLavoro(const std::string&) {
+  return nullptr;
+}
+
 }  // namespace telarium

@@ -14,6 +14,7 @@ class StampanteQt : public Stampante {
   bool Corsivo() const override { return corsivo_; }
   void Grassetto(bool grassetto) override { grassetto_ = grassetto; }
   bool Grassetto() const override { return grassetto_; }
+  std::unique_ptr<LavoroDiStampa> IniziaLavoro(const std::string& nome) override;
 
  private:
   std::string famiglia_{CarattereIniziale};

@@ -1,5 +1,6 @@
 #include "platform/qt/qt_surface.h"
 
+#include <QBuffer>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
@@ -140,6 +141,21 @@ void SuperficieQt::Pulisci() {
   testi_.clear();
   daPulire_ = true;
   Segnala();
+}
+
+void SuperficieQt::Sfondo(Colore colore) {
+  sfondo_ = ColoreQt(colore);
+}
+
+Colore SuperficieQt::Sfondo() const {
+  return ColoreDaQt(sfondo_);
+}
+
+std::string SuperficieQt::Bitmap() {
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
+  Immagine().save(&file, "BMP");
+  return file.data().toStdString();
 }
 
 void SuperficieQt::Riquadro(double x1, double y1, double x2, double y2, Colore colore) {

@@ -28,8 +28,6 @@ class SuperficieQt : public Superficie {
   /// Sets the size in logical pixels and how many device pixels one of them has. What was drawn
   /// stays at the left top; the rest has the colour of the ground.
   void Ridimensiona(QSize misura, double rapporto);
-  /// The colour that Pulisci paints.
-  void Sfondo(const QColor& colore) { sfondo_ = colore; }
   /// What the first call that changes the picture calls, until it is copied again.
   void QuandoCambia(std::function<void()> chiama) { cambia_ = std::move(chiama); }
 
@@ -41,6 +39,8 @@ class SuperficieQt : public Superficie {
   double LarghezzaSuperficie() const override { return misura_.width(); }
   double AltezzaSuperficie() const override { return misura_.height(); }
   void Pulisci() override;
+  void Sfondo(Colore colore) override;
+  Colore Sfondo() const override;
   void Riquadro(double x1, double y1, double x2, double y2, Colore colore) override;
   void RiquadroPieno(double x1, double y1, double x2, double y2, Colore colore) override;
   void Carattere(std::string_view nome) override;
@@ -56,6 +56,8 @@ class SuperficieQt : public Superficie {
   double PosizioneX() const override { return x_; }
   double PosizioneY() const override { return y_; }
   void Scrivi(std::string_view testo) override;
+  /// In device pixels, 24 bits each.
+  std::string Bitmap() override;
   void DisegnoPersistente(bool persistente) override;
 
  private:

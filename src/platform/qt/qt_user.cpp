@@ -182,6 +182,13 @@ QCursor UtenteQt::PuntatorePer(int forma) const {
   }
 }
 
+std::unique_ptr<Attesa> UtenteQt::IniziaAttesa(const std::string&) {
+  struct AttesaQt : Attesa {
+    bool Prosegue(std::size_t) override { return true; }
+  };
+  return std::make_unique<AttesaQt>();
+}
+
 // The shape is the main window's: over other windows, menus and boxes the pointer is ordinary.
 void UtenteQt::FormaPuntatore(int forma) {
   if (finestra_) finestra_->setCursor(PuntatorePer(forma));

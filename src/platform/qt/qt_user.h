@@ -33,6 +33,7 @@ class UtenteQt : public Utente {
   Colore ScegliColore(Colore iniziale) override;
   Risposta ChiediVicoloCieco(const std::string& testo) override;
   bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
+  std::unique_ptr<Attesa> IniziaAttesa(const std::string& testo) override;
   void FormaPuntatore(int forma) override;
   void SegnaleAcustico() override;
   void CediAiMessaggi() override;

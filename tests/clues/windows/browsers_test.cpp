@@ -196,7 +196,8 @@ TEST_F(OneWord, StoresWhatWasTypedWhenTheRowIsLeft) {
   Key(*window, Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(Stored("ZETA"), "Nuova");
-  EXPECT_EQ(user.prompts, Texts{"Inserisci parola di ricerca"});
+  ASSERT_EQ(user.requests.size(), 1u);
+  EXPECT_EQ(user.requests[0].richiesta, "Inserisci parola di ricerca");
 }
 
 TEST_F(OneWord, LeavesWhatNobodyTouchedToTheByte) {

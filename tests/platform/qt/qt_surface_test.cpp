@@ -13,7 +13,7 @@ namespace {
 class SurfaceTest : public ::testing::Test {
  protected:
   SurfaceTest() {
-    surface.Sfondo(Qt::green);
+    surface.Sfondo(0x00FF00);
     surface.Ridimensiona({60, 40}, 1);
     surface.Pulisci();
   }
@@ -123,7 +123,7 @@ TEST_F(SurfaceTest, PaintsLateWhatItWouldPaintAtOnce) {
   SuperficieQt other;
   other.Ridimensiona({60, 40}, 1);
   other.Pulisci();
-  surface.Sfondo(Qt::lightGray);
+  surface.Sfondo(0xC0C0C0);
   surface.Pulisci();
   draw(surface, false);
   draw(other, true);

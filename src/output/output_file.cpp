@@ -1,0 +1,29 @@
+#include "output/output_file.h"
+
+#include "platform/codepage.h"
+#include "platform/platform.h"
+#include "platform/text.h"
+
+namespace telarium {
+
+bool ScriviUscita(const Percorso& file, std::string_view contenuto) {
+  // Each run makes the file anew: it need not survive a power cut.
+  if (!ScriviFile(file, contenuto, Permanenza::Provvisoria)) return true;
+  AvvisaErroreDiUscita();
+  return false;
+}
+
+void AvvisaErroreDiUscita() {
+  Avvisa(
+      "Si è verificato un errore di scrittura/accesso al file o drive!, controlla che "
+      "eventualmente i files non siano impostati a sola lettura."_cp);
+}
+
+void ApriUscita(const Percorso& file) {
+  if (Sistema().ApriFile(file)) return;
+  Avvisa(Unisci("Non è possibile aprire il file "_cp, TestoPercorso(file.filename()),
+                ": manca un programma adatto."),
+         {}, Icona::Avviso);
+}
+
+}  // namespace telarium

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/files.h"
+
+// What the output commands make: files of the program folder, which each run writes over.
+namespace telarium {
+
+/// Writes a whole file. A failure shows the message of the output commands, leaves the old file and
+/// gives false.
+[[nodiscard]] bool ScriviUscita(const Percorso& file, std::string_view contenuto);
+
+/// Tells that something could not be written.
+void AvvisaErroreDiUscita();
+
+/// Opens a file with the program that the user has for it, or says that it cannot be opened.
+void ApriUscita(const Percorso& file);
+
+}  // namespace telarium
