@@ -1,10 +1,15 @@
 #include "output/output_file.h"
 
+#include "model/state.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
 
 namespace telarium {
+
+Percorso FileDiUscita(const char* nome) {
+  return PercorsoNellaCartella(CartellaProgramma, nome);
+}
 
 bool ScriviUscita(const Percorso& file, std::string_view contenuto) {
   // Each run makes the file anew: it need not survive a power cut.

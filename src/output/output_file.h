@@ -7,6 +7,9 @@
 // What the output commands make: files of the program folder, which each run writes over.
 namespace telarium {
 
+/// The file of that name in the program folder, an older one whatever the case of its letters.
+Percorso FileDiUscita(const char* nome);
+
 /// Writes a whole file. A failure shows the message of the output commands, leaves the old file and
 /// gives false.
 [[nodiscard]] bool ScriviUscita(const Percorso& file, std::string_view contenuto);

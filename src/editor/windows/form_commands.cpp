@@ -12,6 +12,12 @@
 #include "editor/resizing.h"
 #include "editor/windows/Form1.h"
 #include "fill/extraction.h"
+#include "output/interactive_page.h"
+#include "output/picture_page.h"
+#include "output/script_page.h"
+#include "output/static_page.h"
+#include "output/window_picture.h"
+#include "output/word_export.h"
 
 namespace telarium {
 namespace {
@@ -49,6 +55,11 @@ void Preleva(Form1&) {
   Prelevadefinizioni(Modo);
 }
 
+template <int Larghezza>
+void MostraPicture(Form1&) {
+  StampaHTMLLarga(Larghezza);
+}
+
 template <Indirizzo Quale>
 void VaiA(Form1&) {
   ApriPagina(Quale);
@@ -59,6 +70,17 @@ constexpr ComandoDiVoce comandi[] = {
     {"MenuApri", [](Form1&) { ApriConFinestra(); }},
     {"menuSalva", [](Form1&) { SalvaCruciverba(); }},
     {"MenuSalvaCN", [](Form1&) { SalvaConNome(); }},
+    {"menuvbhtml", [](Form1&) { EsportaDaModello(); }},
+    {"menusphtml", [](Form1&) { MostraPaginaStatica(); }},
+    {"Menuhtmlword", [](Form1&) { EsportaInWord(); }},
+    {"menuwpic", [](Form1&) { EsportaInWordConPicture(); }},
+    {"mENU400", MostraPicture<400>},
+    {"Menu640", MostraPicture<640>},
+    {"Menu800", MostraPicture<800>},
+    {"Menu1024", MostraPicture<1024>},
+    {"mENU1280", MostraPicture<1280>},
+    {"Menu1600", MostraPicture<1600>},
+    {"menujava", [](Form1&) { PubblicaCruciverba(); }},
     {"MenuEsci", [](Form1&) { EsciDalProgramma(); }},
     {"MenuAC", RidimensionaDaMenu<AggiungiColonna>},
     {"MenuAR", RidimensionaDaMenu<AggiungiRiga>},
@@ -84,6 +106,7 @@ constexpr ComandoDiVoce comandi[] = {
     {"menupreldif", Preleva<ModoDifficili>},
     {"menuSalvaDef", [](Form1&) { SalvaDefinizioni(); }},
     {"menuado", [](Form1& form) { form.MostraModale(Modale::Form6); }},
+    {"MenuSaveWMF", [](Form1&) { SalvaPicture(); }},
     {"menusetschema", [](Form1&) { RegolaSchema(); }},
     {"MenuInf", CommutaProvaInfinita},
     {"MenuL1", ImpostaLingua<1>},

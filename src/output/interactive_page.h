@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+// The page to solve in a browser: a text box for each white cell, a clock, and a button that checks
+// the answers. It needs nothing else. A comment of it, the save block, holds the lines of the
+// crossword file, by which the program opens the crossword again from the page:
+//
+//   line     content
+//   first    a marker; a reader looks for its last 18 characters, InizioDelBlocco
+//   ...      the crossword file, byte for byte; a "-->" in a clue shows its rest in the browser,
+//   and
+//            no reader minds
+//   last     a marker that no reader looks for
+namespace telarium {
+
+inline constexpr const char* NomePaginaInterattiva = "telarium_form.html";
+
+/// The end of the line before the save block's contents.
+inline constexpr std::string_view InizioDelBlocco = "sottostanti ####\r\n";
+
+/// The page of the crossword as the last redraw left it. Wants a grid. None when the crossword has
+/// a character that its file cannot hold.
+std::optional<std::string> PaginaInterattiva();
+
+/// menujava: writes the page as telarium_form.html of the program folder and opens it in the user's
+/// browser. A failure is told. Without a grid nothing happens.
+void PubblicaCruciverba();
+
+}  // namespace telarium

@@ -1,0 +1,79 @@
+#include "auxiliary/addresses.h"
+#include "editor/settings.h"
+#include "output/interactive_page.h"
+#include "output/output_file.h"
+#include "output/static_page.h"
+#include "output/word_export.h"
+#include "telar/command.h"
+#include "telar/files.h"
+
+namespace telarium::telar {
+namespace {
+
+// Opens the crossword of a command that makes something of it; the pages show the product's site.
+bool ApriPerUscita(const Argomenti& argomenti) {
+  StampaSoluzioni = argomenti.Ha("--senza-soluzioni") ? Vero : Falso;
+  LeggiIndirizzi();
+  if (!Apri(argomenti.liberi[0])) return false;
+  AscoltaInterruzione();  // no half-written file must be left
+  return true;
+}
+
+Stato ScriviPagina(const Argomenti& argomenti, const char* nomeIniziale, const std::string& testo) {
+  const Percorso file = argomenti.Ha("--uscita") ? Percorso(argomenti.Valore("--uscita"))
+                                                 : FileDiUscita(nomeIniziale);
+  return ScriviUscita(file, testo) ? Stato::Fatto : Stato::Fallito;
+}
+
+std::int16_t ModoDa(const std::string& valore) {
+  if (valore == "1") return PaginaPerIlBrowser;
+  if (valore == "2") return PaginaPerWord;
+  throw ArgomentiErrati("--modo vuole 1 o 2");
+}
+
+Stato Html(const Argomenti& argomenti, PiattaformaConsole&) {
+  const std::int16_t modo = ModoDa(argomenti.Valore("--modo", "1"));
+  if (!ApriPerUscita(argomenti)) return Stato::Fallito;
+  return ScriviPagina(argomenti, NomePaginaStatica, PaginaStatica(modo));
+}
+
+Stato Form(const Argomenti& argomenti, PiattaformaConsole&) {
+  if (!ApriPerUscita(argomenti)) return Stato::Fallito;
+  const auto pagina = PaginaInterattiva();
+  if (pagina) return ScriviPagina(argomenti, NomePaginaInterattiva, *pagina);
+  AvvisaErroreDiUscita();
+  return Stato::Fallito;
+}
+
+Stato Testo(const Argomenti& argomenti, PiattaformaConsole&) {
+  if (!ApriPerUscita(argomenti)) return Stato::Fallito;
+  const Percorso cartella = argomenti.Valore("--cartella-uscita", CartellaProgramma.string());
+  return ScriviTestiNonome(cartella) ? Stato::Fatto : Stato::Fallito;
+}
+
+}  // namespace
+
+std::vector<Comando> ComandiUscita() {
+  constexpr Opzione senzaSoluzioni = {"--senza-soluzioni", "", "lascia via le soluzioni"};
+  // clang-format off
+  return {
+      {"html", "FILE", "", 1, 1,
+       {{"--modo", "1|2", "per il browser o per Word (1)"},
+        senzaSoluzioni,
+        {"--uscita", "PERCORSO", "il file (telarium_html.html della cartella programma)"}},
+       "Scrive la pagina da leggere, con la griglia come tabella.",
+       Html},
+      {"form", "FILE", "", 1, 1,
+       {senzaSoluzioni,
+        {"--uscita", "PERCORSO", "il file (telarium_form.html della cartella programma)"}},
+       "Scrive la pagina da risolvere nel browser, che si riapre con \"apri\".",
+       Form},
+      {"testo", "FILE", "", 1, 1,
+       {{"--cartella-uscita", "CARTELLA", "dove scriverli (la cartella programma)"}},
+       "Scrive le definizioni in NONOME.TXT e NONOME.html.",
+       Testo},
+  };
+  // clang-format on
+}
+
+}  // namespace telarium::telar
