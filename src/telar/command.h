@@ -35,5 +35,6 @@ const std::vector<Comando>& Comandi();
 std::vector<Comando> ComandiCruciverba();
 std::vector<Comando> ComandiDizionario();
 std::vector<Comando> ComandiDefinizioni();
+std::vector<Comando> ComandiUscita();
 
 }  // namespace telarium::telar

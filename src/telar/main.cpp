@@ -135,7 +135,7 @@ Stato EseguiRigaDiComando(std::vector<std::string> parole, PiattaformaConsole& p
 const std::vector<Comando>& Comandi() {
   static const std::vector<Comando> comandi = [] {
     std::vector<Comando> tutti = ComandiCruciverba();
-    for (const auto& altri : {ComandiDizionario(), ComandiDefinizioni()})
+    for (const auto& altri : {ComandiDizionario(), ComandiDefinizioni(), ComandiUscita()})
       tutti.insert(tutti.end(), altri.begin(), altri.end());
     return tutti;
   }();

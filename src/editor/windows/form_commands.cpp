@@ -12,6 +12,7 @@
 #include "editor/resizing.h"
 #include "editor/windows/Form1.h"
 #include "fill/extraction.h"
+#include "output/web_opening.h"
 
 namespace telarium {
 namespace {
@@ -59,6 +60,7 @@ constexpr ComandoDiVoce comandi[] = {
     {"MenuApri", [](Form1&) { ApriConFinestra(); }},
     {"menuSalva", [](Form1&) { SalvaCruciverba(); }},
     {"MenuSalvaCN", [](Form1&) { SalvaConNome(); }},
+    {"menurl", [](Form1&) { ApriDaIndirizzo(); }},
     {"MenuEsci", [](Form1&) { EsciDalProgramma(); }},
     {"MenuAC", RidimensionaDaMenu<AggiungiColonna>},
     {"MenuAR", RidimensionaDaMenu<AggiungiRiga>},
