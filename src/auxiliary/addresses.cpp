@@ -20,13 +20,14 @@ struct Voce {
 };
 
 // In the order of Indirizzo.
-constexpr std::array<Voce, 16> voci = {{
+constexpr std::array<Voce, 17> voci = {{
     {"SitoProdotto", "www.telarium.example"},
     {"PaginaProdotto", "www.telarium.example/telarium/"},
     {"PaginaDizionario", "www.telarium.example/telarium/dizionario.html"},
     {"PaginaAmici", "social.telarium.example/telarium"},
     {"MailAutore", "autore@telarium.example"},
     {"MailSchemi", "schemi@telarium.example"},
+    {"PaginaEsempio", "www.telarium.example/telarium/esempio.html"},
     {"ServerAggiornamenti", ""},
     {"Menui0", "dizionario-1.example"},
     {"MenuI1", "dizionario-2.example"},

@@ -15,6 +15,7 @@ enum class Indirizzo {
   PaginaAmici,
   MailAutore,
   MailSchemi,
+  PaginaEsempio,        // holds a crossword, for a first try at opening one
   ServerAggiornamenti,  // empty: no update check
   Menui0,
   MenuI1,

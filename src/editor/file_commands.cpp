@@ -4,7 +4,6 @@
 #include "editor/main_window.h"
 #include "editor/redraw.h"
 #include "editor/startup.h"
-#include "model/crossword_file.h"
 #include "model/words.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
@@ -97,12 +96,17 @@ void EsciDalProgramma() {
 bool ApriFileDiCruciverba(const Percorso& nome) {
   const Apertura esito = FileOrdinario(nome) ? ApriCruciverba(nome) : Apertura::Assente;
   if (esito == Apertura::Assente) Avvisa("Errore: file inesistente!");
-  if (esito == Apertura::Assente || esito == Apertura::Rifiutata) return false;
-  RicalcolaCaselle();                     // the writer wants the words of the grid
-  static_cast<void>(ScriviIstantanea());  // a failure has shown its message
+  if (!AccogliCruciverba(esito)) return false;
   NomeCruciverba = nome;
   SchemaModificato = Falso;
   ModoGriglia = ModoModifica;
+  return true;
+}
+
+bool AccogliCruciverba(Apertura esito) {
+  if (esito == Apertura::Assente || esito == Apertura::Rifiutata) return false;
+  RicalcolaCaselle();                     // the writer wants the words of the grid
+  static_cast<void>(ScriviIstantanea());  // a failure has shown its message
   return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/crossword_file.h"
 #include "platform/files.h"
 
 // The commands that make, open and save crosswords, and the end of the program. Those that leave
@@ -34,6 +35,10 @@ void EsciDalProgramma();
 /// is told, and is taken as far as it goes; a snapshot that cannot be written is told, and is tried
 /// again later.
 [[nodiscard]] bool ApriFileDiCruciverba(const Percorso& nome);
+
+/// What follows the opening of a crossword: its words are found and the snapshot is written, for
+/// the activation that follows. False, with nothing done, when none was opened.
+[[nodiscard]] bool AccogliCruciverba(Apertura esito);
 
 /// Opens a crossword that another start of the program was given, after the saving question, unless
 /// the save that was wanted failed.

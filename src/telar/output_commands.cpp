@@ -1,8 +1,11 @@
 #include "auxiliary/addresses.h"
 #include "editor/settings.h"
+#include "model/crossword_file.h"
+#include "model/words.h"
 #include "output/interactive_page.h"
 #include "output/output_file.h"
 #include "output/static_page.h"
+#include "output/web_opening.h"
 #include "output/word_export.h"
 #include "telar/command.h"
 #include "telar/files.h"
@@ -51,6 +54,14 @@ Stato Testo(const Argomenti& argomenti, PiattaformaConsole&) {
   return ScriviTestiNonome(cartella) ? Stato::Fatto : Stato::Fallito;
 }
 
+Stato ApriPagina(const Argomenti& argomenti, PiattaformaConsole&) {
+  AscoltaInterruzione();  // breaks the fetch off
+  const auto blocco = PrelevaBlocco(argomenti.liberi[0]);
+  if (!blocco || ApriTestoDiCruciverba(*blocco) != Apertura::Intera) return Stato::Fallito;
+  RicalcolaCaselle();  // the writer wants the words of the grid
+  return Scrivi(argomenti.liberi[1]);
+}
+
 }  // namespace
 
 std::vector<Comando> ComandiUscita() {
@@ -72,6 +83,9 @@ std::vector<Comando> ComandiUscita() {
        {{"--cartella-uscita", "CARTELLA", "dove scriverli (la cartella programma)"}},
        "Scrive le definizioni in NONOME.TXT e NONOME.html.",
        Testo},
+      {"apri", "INDIRIZZO USCITA", "", 2, 2, {},
+       "Scrive il cruciverba di una pagina web: http://, https://, file:// o il nome di un file.",
+       ApriPagina},
   };
   // clang-format on
 }

@@ -16,6 +16,7 @@
 #include "output/picture_page.h"
 #include "output/script_page.h"
 #include "output/static_page.h"
+#include "output/web_opening.h"
 #include "output/window_picture.h"
 #include "output/word_export.h"
 
@@ -81,6 +82,7 @@ constexpr ComandoDiVoce comandi[] = {
     {"mENU1280", MostraPicture<1280>},
     {"Menu1600", MostraPicture<1600>},
     {"menujava", [](Form1&) { PubblicaCruciverba(); }},
+    {"menurl", [](Form1&) { ApriDaIndirizzo(); }},
     {"MenuEsci", [](Form1&) { EsciDalProgramma(); }},
     {"MenuAC", RidimensionaDaMenu<AggiungiColonna>},
     {"MenuAR", RidimensionaDaMenu<AggiungiRiga>},

@@ -39,6 +39,8 @@ void Prepara(CURL* presa, const std::string& indirizzo, std::chrono::millisecond
   curl_easy_setopt(presa, CURLOPT_MAXREDIRS, MaxRinvii);
   curl_easy_setopt(presa, CURLOPT_FAILONERROR, 1L);
   curl_easy_setopt(presa, CURLOPT_NOSIGNAL, 1L);
+  // Without it a name server that does not answer holds up the end of what was broken off.
+  curl_easy_setopt(presa, CURLOPT_QUICK_EXIT, 1L);
   curl_easy_setopt(presa, CURLOPT_TIMEOUT_MS, static_cast<long>(tempo.count()));
   curl_easy_setopt(presa, CURLOPT_WRITEFUNCTION, Raccogli);
   curl_easy_setopt(presa, CURLOPT_WRITEDATA, &raccolta);
@@ -87,7 +89,7 @@ std::optional<std::string> PrelevaFile(std::string percorso, std::size_t massimo
   if (percorso.starts_with(questaMacchina)) percorso.erase(0, questaMacchina.size() - 1);
   for (const std::string& nome : {percorso, SenzaEscape(percorso)}) {
     std::string contenuto;
-    if (!FileOrdinario(nome)) continue;
+    if (nome.find('\0') != std::string::npos || !FileOrdinario(nome)) continue;
     if (LeggiFile(nome, massimo, contenuto) == EsitoLettura::Letto) return contenuto;
   }
   return std::nullopt;

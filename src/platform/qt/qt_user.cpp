@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
@@ -11,12 +12,14 @@
 
 #include "platform/qt/qt_colour.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/qt_wait.h"
 
 namespace telarium {
 namespace {
 
 constexpr qsizetype MaxCaratteri = 2000;  // more would not fit on a screen
 constexpr qsizetype MaxSenzaInterruzioni = 60;
+constexpr int MaxCaratteriPerRiga = 70;
 
 struct Pulsante {
   const char16_t* testo;
@@ -84,6 +87,15 @@ QString TestoQt(const std::string& testo) {
   return qt;
 }
 
+// A prompt wraps once it is wider than a line that reads well; it is text, whatever it looks like.
+void DisponiSuPiuRighe(QLabel& etichetta) {
+  etichetta.setTextFormat(Qt::PlainText);
+  const int larghezza = etichetta.fontMetrics().averageCharWidth() * MaxCaratteriPerRiga;
+  if (etichetta.sizeHint().width() <= larghezza) return;
+  etichetta.setWordWrap(true);
+  etichetta.setMinimumWidth(larghezza);
+}
+
 }  // namespace
 
 // A box belongs to the window that brought it up.
@@ -119,6 +131,8 @@ std::optional<std::string> UtenteQt::ChiediTesto(const RichiestaDiTesto& richies
   scatola.setObjectName(u"InputBox");
   scatola.setWindowTitle(TitoloQt(richiesta.titolo));
   scatola.setLabelText(TestoQt(richiesta.richiesta));
+  for (auto* etichetta : scatola.findChildren<QLabel*>())
+    DisponiSuPiuRighe(*etichetta);
   scatola.setTextValue(AQt(richiesta.predefinito));
   scatola.setOkButtonText(QString::fromUtf16(Ok.testo));
   scatola.setCancelButtonText(QString::fromUtf16(Annulla.testo));
@@ -182,11 +196,8 @@ QCursor UtenteQt::PuntatorePer(int forma) const {
   }
 }
 
-std::unique_ptr<Attesa> UtenteQt::IniziaAttesa(const std::string&) {
-  struct AttesaQt : Attesa {
-    bool Prosegue(std::size_t) override { return true; }
-  };
-  return std::make_unique<AttesaQt>();
+std::unique_ptr<Attesa> UtenteQt::IniziaAttesa(const std::string& testo) {
+  return std::make_unique<AttesaQt>(TestoQt(testo), Genitore());
 }
 
 // The shape is the main window's: over other windows, menus and boxes the pointer is ordinary.

@@ -23,6 +23,7 @@
 #include "editor/windows/menu_table.h"
 #include "fill/extraction.h"
 #include "model/crossword_file.h"
+#include "support/crossword_page.h"
 #include "support/window_helpers.h"
 
 namespace telarium {
@@ -56,6 +57,34 @@ TEST_F(Form1Test, OffersTheCommandsOfThisProgramOnceThereIsACrossword) {
   EXPECT_FALSE(form->Picture1->isVisible());
   EXPECT_TRUE(form->windowTitle().startsWith(QStringLiteral("Telarium - 4x3  ")));
   EXPECT_FALSE(form->Voce("MenuNuovo").icon().isNull() || form->Voce("MenuStampa").icon().isNull());
+}
+
+TEST_F(Form1Test, OpensACrosswordFromAPageWithOrWithoutOneBefore) {
+  Draw({"CASA", "A#..", "...."});
+  machine.fetches = CrosswordPage();
+  Start();
+  EXPECT_TRUE(form->Voce("menurl").isEnabled());
+  user.AnswerText("nowhere");
+  user.patient = false;
+  QTest::keyClick(form.get(), Qt::Key_I, Qt::ControlModifier);
+  EXPECT_EQ(user.TakeTexts().size(), 2u);
+  EXPECT_TRUE(form->Voce("menurl").isEnabled() && form->Picture1->isVisible());
+  EXPECT_EQ(EnabledButtons(), "Nuovo Apri ");
+
+  user.patient = true;
+  user.AnswerText("http://somewhere");
+  form->Voce("menurl").trigger();
+  EXPECT_FALSE(form->Picture1->isVisible() || form->Command3d15->isVisible());
+  EXPECT_TRUE(form->EditPremuto() && form->Voce("menuSalva").isEnabled());
+  EXPECT_TRUE(form->windowTitle().startsWith(QStringLiteral("Telarium - 4x3")));
+  EXPECT_EQ(Shown(OrigineX + 1.5 * LatoCasella, OrigineY + 1.5 * LatoCasella), QColor(Qt::black));
+  EXPECT_NE(EnabledButtons(), "Nuovo Apri ");
+
+  StartWith({"SOLE"});
+  user.AnswerText("http://somewhere");
+  form->Voce("menurl").trigger();
+  EXPECT_EQ(NomeCruciverba, InFolder("mio.tlrm"));
+  EXPECT_EQ(NumRighe, 3);
 }
 
 TEST_F(Form1Test, HasMenusWithoutTwoMeaningsForAKey) {

@@ -2,10 +2,13 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QWindow>
 #include <functional>
 
 #include "platform/codepage.h"
@@ -13,6 +16,13 @@
 
 namespace telarium {
 namespace {
+
+std::string Repeated(std::string_view text, int times) {
+  std::string all;
+  for (int i = 0; i < times; ++i)
+    all += text;
+  return all;
+}
 
 class UserTest : public ::testing::Test {
  protected:
@@ -98,6 +108,102 @@ TEST_F(UserTest, AnInputBoxGivesItsTextOrNone) {
             std::string("Nicolò"_cp));
   WhenOpen<QDialog>([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
   EXPECT_EQ(user.ChiediTesto({.richiesta = "x"}), std::nullopt);
+}
+
+TEST_F(UserTest, ALongPromptIsWrappedAndIsNoMarkup) {
+  for (const std::string& text : {std::string(2'000, 'x'), Repeated("suffisso ", 200)}) {
+    WhenOpen<QInputDialog>([&](QInputDialog& box) {
+      EXPECT_LT(box.width(), 700);
+      EXPECT_LT(box.height(), 700);
+      const auto* prompt = box.findChild<QLabel*>();
+      EXPECT_GE(prompt->height(), prompt->heightForWidth(prompt->width())) << "all of it shows";
+      EXPECT_EQ(prompt->textFormat(), Qt::PlainText);
+      QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    user.ChiediTesto({.richiesta = text});
+  }
+}
+
+// A main window that counts what reaches it.
+struct CountingWindow : QWidget {
+  int clicks = 0, paints = 0;
+  void mousePressEvent(QMouseEvent*) override { ++clicks; }
+  void paintEvent(QPaintEvent*) override { ++paints; }
+};
+
+// A click as the window system brings it; what a test sends otherwise passes everything by.
+void Click(QWidget& window) {
+  const QPointF middle(window.rect().center());
+  const QPointF global = window.mapToGlobal(middle);
+  qt_handleMouseEvent(window.windowHandle(), middle, global, Qt::LeftButton, Qt::LeftButton,
+                      QEvent::MouseButtonPress, Qt::NoModifier, 1000);
+  qt_handleMouseEvent(window.windowHandle(), middle, global, Qt::NoButton, Qt::LeftButton,
+                      QEvent::MouseButtonRelease, Qt::NoModifier, 1001);
+}
+
+class WaitTest : public UserTest {
+ protected:
+  void SetUp() override {
+    user.Finestra(&window);
+    window.resize(500, 400);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  }
+
+  static QWidget* Box() {
+    QWidget* box = QApplication::activeModalWidget();
+    return box && box->isVisible() ? box : nullptr;
+  }
+
+  CountingWindow window;
+};
+
+TEST_F(WaitTest, AShortWaitShowsNoBoxAndPaintsTheWindow) {
+  const auto wait = user.IniziaAttesa("Prelievo");
+  window.paints = 0;
+  window.update();
+  QDeadlineTimer deadline(Patience);
+  while (window.paints == 0 && !deadline.hasExpired())
+    EXPECT_TRUE(wait->Prosegue(0));
+  EXPECT_GT(window.paints, 0);
+  EXPECT_FALSE(Box());
+}
+
+TEST_F(WaitTest, ALongWaitShowsABoxThatBreaksItOff) {
+  const std::pair<const char*, std::function<void(QWidget&)>> ways[] = {
+      {"the button",
+       [](QWidget& box) {
+         auto* button = box.findChild<QPushButton*>(QLatin1StringView("Interrompi"));
+         EXPECT_EQ(button->text(), QStringLiteral("Interrompi"));
+         QTest::mouseClick(button, Qt::LeftButton);
+       }},
+      {"Escape", [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); }},
+      {"the close box", [](QWidget& box) { box.close(); }},
+  };
+  for (const auto& [name, breakOff] : ways) {
+    SCOPED_TRACE(name);
+    const auto wait = user.IniziaAttesa("Prelievo <b>...");
+    QDeadlineTimer deadline(Patience);
+    while (!Box() && !deadline.hasExpired())
+      EXPECT_TRUE(wait->Prosegue(1'234'567));
+    QWidget* box = Box();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->objectName(), QStringLiteral("Attesa"));
+    EXPECT_EQ(box->windowTitle(), QStringLiteral("Telarium"));
+    EXPECT_EQ(box->findChild<QLabel*>(QLatin1StringView("Testo"))->text(),
+              QStringLiteral("Prelievo <b>..."));
+    EXPECT_EQ(box->findChild<QLabel*>(QLatin1StringView("Byte"))->text(),
+              QStringLiteral("Ricevuti: 1,2 MB"));
+    Click(window);
+    EXPECT_TRUE(wait->Prosegue(0));
+    breakOff(*box);
+    EXPECT_FALSE(wait->Prosegue(0));
+    EXPECT_TRUE(Box()) << "it keeps a second click from the window";
+  }
+  EXPECT_FALSE(Box());
+  EXPECT_EQ(window.clicks, 0);
+  Click(window);
+  EXPECT_EQ(window.clicks, 1) << "the window is free again";
 }
 
 TEST_F(UserTest, ThePointerFollowsItsStateOverTheMainWindowAlone) {

@@ -1,0 +1,258 @@
+#include "output/web_opening.h"
+
+#include "auxiliary/addresses.h"
+#include "editor/commands.h"
+#include "model/words.h"
+#include "platform/codepage.h"
+#include "support/crossword_page.h"
+#include "support/recording_window.h"
+#include "support/telarium_test.h"
+
+namespace telarium {
+namespace {
+
+using Rows = std::vector<std::string>;
+using Texts = std::vector<std::string>;
+
+constexpr const char* FetchError = "Errore apertura file HTML";
+constexpr const char* NotFound =
+    "File HTML su Internet non trovato/non valido (Solo versione Telarium 7 o superiore) oppure "
+    "connessione a Internet non attiva.";
+constexpr const char* ReadError = "Errore di lettura del file!";
+constexpr const char* SizeError = "Formato del file non valido! Esecuzione terminata";
+constexpr const char* Somewhere = "http://somewhere/x.html";
+const Rows Older = {"SOLE", "#..#"};
+
+TEST(SaveBlock, BeginsBehindTheLastMarkerThatIsNotTheEnd) {
+  const std::string marker = "sottostanti ####\r\n";
+  const struct {
+    const char* name;
+    std::string page;
+    std::optional<std::string> block;
+  } cases[] = {
+      {"empty", "", std::nullopt},
+      {"only the marker", marker, std::nullopt},
+      {"one byte", marker + "x", "x"},
+      {"anything before", "\xFF\r\n<p>" + marker + "x\r\ny", "x\r\ny"},
+      {"the last one counts", marker + "x" + marker + "y", "y"},
+      {"but for one at the end", marker + "x" + marker, "x" + marker},
+      {"two at the end", "a" + marker + marker, marker},
+      {"LF alone", "sottostanti ####\nx", std::nullopt},
+      {"a blank between", "sottostanti #### \r\nx", std::nullopt},
+      {"other case", "Sottostanti ####\r\nx", std::nullopt},
+      {"begins twice", "sottostanti sottostanti ####\r\nx", "x"},
+  };
+  for (const auto& [name, page, block] : cases) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(BloccoDiSalvataggio(page), block);
+  }
+}
+
+class WebOpening : public TelariumTest {
+ protected:
+  void SetUp() override {
+    TelariumTest::SetUp();
+    platform.hasWindow = true;
+    window.splash = true;
+  }
+
+  void Open(const std::string& typed) {
+    user.AnswerText(typed);
+    ApriDaIndirizzo();
+  }
+
+  // Opens a page of this content.
+  void OpenPage(const std::string& content) {
+    machine.pages[Somewhere] = content;
+    Open(Somewhere);
+  }
+
+  // The page of a crossword with clues and a colour; the older one becomes current again.
+  std::string SomePage() {
+    Draw({"CASA", "A#..", "...."});
+    Definizione(1, 1, Orizzontale) = "Ci si abita --> \xC8 <b>\"bella\"";
+    Definizione(1, 1, Verticale) = "Sottostanti ####";
+    ColoreCasella(2, 2) = 0x3060C0;
+    std::string page = CrosswordPage();
+    Definizione(1, 1, Verticale) = "of the older one";
+    ColoreCasella(1, 1) = 5;
+    Draw(Older);
+    return page;
+  }
+
+  RecordingWindow window;
+};
+
+TEST_F(WebOpening, AsksForAnAddressAndProposesTheSameOneAgain) {
+  for (const char* typed : {"", "   "})
+    Open(typed);
+  user.AnswerText(std::nullopt);
+  ApriDaIndirizzo();
+  ASSERT_EQ(user.requests.size(), 3u);
+  for (const RichiestaDiTesto& request : user.requests) {
+    EXPECT_EQ(request.titolo, "Apertura file HTML/Internet");
+    EXPECT_EQ(request.predefinito, "https://www.telarium.example/telarium/esempio.html");
+    EXPECT_TRUE(request.richiesta.starts_with("Apri file da Internet, \xE8 possibile recuperare"));
+    EXPECT_TRUE(request.richiesta.ends_with("usare il suffisso file:// "));
+  }
+  EXPECT_TRUE(machine.fetched.empty() && user.waits.empty() && window.splash);
+
+  WriteFile("indirizzi.txt", "PaginaEsempio=http://a.example\r\n");
+  LeggiIndirizzi();
+  Open("");
+  EXPECT_NE(user.requests.back().predefinito, "http://a.example") << "kept for the run";
+  AzzeraStato();
+  CartellaProgramma = InFolder("");
+  LeggiIndirizzi();
+  Open("");
+  EXPECT_EQ(user.requests.back().predefinito, "http://a.example");
+}
+
+TEST_F(WebOpening, FetchesABareNameAsAFileAtTheSecondTry) {
+  const struct {
+    std::string typed;
+    Texts fetched, told;
+  } cases[] = {
+      {"  /a b/caf\xE8.html ",
+       {"/a b/caf\xC3\xA8.html", "file:///a b/caf\xC3\xA8.html"},
+       {FetchError, NotFound}},
+      {"www.x", {"www.x", "file://www.x"}, {FetchError, NotFound}},
+      {"http://x", {"http://x"}, {FetchError, NotFound}},
+      {"https://x", {"https://x"}, {FetchError, NotFound}},
+      {"file://x", {"file://x"}, {FetchError, NotFound}},
+      {"page.html", {"page.html", "file://page.html"}, {}},
+      {"http://empty", {"http://empty"}, {NotFound}},
+      {"http://other", {"http://other"}, {NotFound}},
+  };
+  const std::string page = SomePage();
+  machine.pages = {{"file://page.html", page},
+                   {"http://empty", ""},
+                   {"http://other", "<html>no crossword</html>\r\n"}};
+  for (const auto& [typed, fetched, told] : cases) {
+    SCOPED_TRACE(typed);
+    Draw(Older);
+    machine.fetched.clear();
+    Open(typed);
+    EXPECT_EQ(machine.fetched, fetched);
+    EXPECT_EQ(user.TakeTexts(), told);
+    EXPECT_EQ(Drawing() == Older, !told.empty());
+  }
+  EXPECT_EQ(user.waits, Texts(std::size(cases), "Prelievo della pagina in corso ..."));
+}
+
+TEST_F(WebOpening, AFetchThatIsBrokenOffHasFailed) {
+  SomePage();
+  user.patient = false;
+  OpenPage("never looked at");
+  EXPECT_EQ(user.TakeTexts(), (Texts{FetchError, NotFound}));
+  EXPECT_EQ(Drawing(), Older);
+}
+
+TEST_F(WebOpening, MakesTheCrosswordOfThePageTheCurrentOneUnderTheOldName) {
+  const std::string page = SomePage();
+  IniziaAnteprima();
+  SchemaModificato = Falso;
+  window.rectangle = Rettangolo{};
+  window.editPressed = false;
+  OpenPage(page);
+  EXPECT_EQ(Drawing(), (Rows{"CASA", "A#..", "...."}));
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "Ci si abita --> \xC8 <b>\"bella\"");
+  EXPECT_EQ(Definizione(1, 1, Verticale), "Sottostanti ####");
+  EXPECT_EQ(ColoreCasella(2, 2), 0x3060C0);
+  EXPECT_EQ(ColoreCasella(1, 1), 0) << "nothing of the older one is left";
+  EXPECT_EQ(CrosswordPage(), page);
+  EXPECT_EQ(ReadFile(PercorsoIstantanea()), TestoDelCruciverba());
+  EXPECT_EQ(NomeCruciverba, "prova.tlrm");
+  EXPECT_EQ(SchemaModificato, Falso);
+  EXPECT_EQ(ModoGriglia, ModoModifica);
+  EXPECT_TRUE(window.editPressed && window.enabled["MenuEdit"]);
+  EXPECT_FALSE(window.preview || window.splash || window.rectangle);
+  EXPECT_TRUE(window.title.starts_with("Telarium - 4x3"));
+}
+
+TEST_F(WebOpening, NeedsNoCrosswordBefore) {
+  const std::string page = SomePage();
+  AzzeraStato();
+  CartellaProgramma = InFolder("");
+  OpenPage(page);
+  EXPECT_EQ(Drawing(), (Rows{"CASA", "A#..", "...."}));
+  EXPECT_EQ(NomeCruciverba, NomeMaiSalvato);
+  EXPECT_TRUE(window.enabled["menuSalva"] && window.enabled["menurl"]);
+  EXPECT_TRUE(window.enabledButtons.contains(PulsanteEdit));
+  EXPECT_FALSE(window.splash);
+  EXPECT_EQ(SchemaModificato, Falso);
+}
+
+TEST_F(WebOpening, AsksForAChangedCrosswordOnceThereIsAnother) {
+  const std::string page = SomePage();
+  SchemaModificato = Vero;
+  OpenPage("no crossword");
+  EXPECT_EQ(user.TakeTexts(), Texts{NotFound}) << "nothing is asked before";
+  user.Answer(Risposta::Ok);
+  NomeCruciverba = "no folder/x.tlrm";
+  OpenPage(page);
+  EXPECT_EQ(Drawing(), Older) << "the save that was wanted failed";
+  EXPECT_EQ(user.TakeTexts().size(), 2u);
+  user.Answer(Risposta::Annulla);
+  OpenPage(page);
+  EXPECT_EQ(Drawing().front(), "CASA");
+  EXPECT_EQ(SchemaModificato, Vero) << "as it was";
+  NomeCruciverba = InFolder("mio.tlrm");
+  user.Answer(Risposta::Ok);
+  OpenPage(page);
+  EXPECT_EQ(SchemaModificato, Falso);
+  EXPECT_EQ(ReadFile(NomeCruciverba), TestoDelCruciverba());
+  user.TakeTexts();
+}
+
+TEST_F(WebOpening, ABlockThatIsNoCrosswordIsToldAndChangesNothing) {
+  const std::pair<std::string, const char*> cases[] = {
+      {"a\r\nb", ReadError},
+      {"a\r\nb\r\nc\r\nDimensioni : 99x99\r\n", SizeError},
+      {"a\r\nb\r\nc\r\nDimensioni : 00x05\r\n", SizeError},
+      {"a\r\nb\r\nc\r\nx\r\n", SizeError},
+      {std::string("a\r\n\0\r\nc\r\nDimensioni : 04x03\r\n", 34), ReadError}};
+  SomePage();
+  const auto before = TestoDelCruciverba();
+  for (const auto& [block, told] : cases) {
+    SCOPED_TRACE(block);
+    // What follows is no part of a header.
+    OpenPage(Unisci(MarkerLine, block));
+    EXPECT_EQ(user.TakeTexts(), Texts{told});
+    EXPECT_EQ(TestoDelCruciverba(), before);
+    EXPECT_EQ(Drawing(), Older);
+    EXPECT_TRUE(window.splash);
+  }
+}
+
+// Cut anywhere, a page is refused up to the end of the size, and is taken as far as it goes from
+// there on.
+TEST_F(WebOpening, APageCutAtAnyByteIsRefusedOrTakenAsFarAsItGoes) {
+  const std::string page = SomePage();
+  const std::size_t block = page.find(MarkerLine) + MarkerLine.size();
+  const std::size_t size = page.find("04x03") + 5;
+  const std::size_t lastRow = page.find("\r\n", size + 2 + 2 * 10) + 8;
+  for (std::size_t length = 0; length <= page.size(); ++length) {
+    SCOPED_TRACE(length);
+    Draw(Older);
+    OpenPage(page.substr(0, length));
+    const Texts told = user.TakeTexts();
+    EXPECT_LE(told.size(), 1u);
+    EXPECT_EQ(NomeCruciverba, "prova.tlrm");
+    if (length <= block) {
+      EXPECT_EQ(told, Texts{NotFound});
+      EXPECT_EQ(Drawing(), Older);
+    } else if (length < size) {
+      EXPECT_TRUE(told == Texts{ReadError} || told == Texts{SizeError});
+      EXPECT_EQ(Drawing(), Older);
+    } else {
+      EXPECT_TRUE(told.empty() || told == Texts{ReadError});
+      ASSERT_EQ(NumColonne * 100 + NumRighe, 403);
+      EXPECT_TRUE(length < lastRow || Drawing() == (Rows{"CASA", "A#..", "...."}));
+      EXPECT_TRUE(TestoDelCruciverba().has_value());
+    }
+  }
+}
+
+}  // namespace
+}  // namespace telarium
