@@ -1,0 +1,84 @@
+#include "telar/telar_fixture.h"
+
+namespace telarium {
+namespace {
+
+constexpr const char* OutputError =
+    "Si è verificato un errore di scrittura/accesso al file o drive!, controlla che eventualmente "
+    "i "
+    "files non siano impostati a sola lettura.\n";
+
+class TelarPages : public Telar {
+ protected:
+  std::string InProgramFolder(const char* name) { return ReadFile(InFolder("program") / name); }
+};
+
+TEST_F(TelarPages, LieInTheProgramFolderUnlessAnotherPlaceIsNamed) {
+  for (const char* line : {"html sample", "form sample", "testo sample", "html sample --uscita p",
+                           "form --uscita=q sample", "testo sample --cartella-uscita folder"}) {
+    EXPECT_EQ(Out(line), "") << line;
+  }
+  EXPECT_EQ(Names("program"),
+            (Words{"NONOME.TXT", "NONOME.html", "telarium_form.html", "telarium_html.html"}));
+  EXPECT_EQ(Names("work"), (Words{"old", "p", "q", "sample", "square", "folder"}));
+  EXPECT_EQ(Read("p"), InProgramFolder("telarium_html.html"));
+  EXPECT_EQ(Read("q"), InProgramFolder("telarium_form.html"));
+  EXPECT_EQ(Read("folder/NONOME.html"), InProgramFolder("NONOME.html"));
+  EXPECT_EQ(Read("folder/NONOME.TXT"), InProgramFolder("NONOME.TXT"));
+  EXPECT_EQ(Read("folder/NONOME.TXT"),
+            "ORIZZONTALI:\r\n1 Caff\xE8\tnero  4 ____________  6 ____________  \r\n"
+            "VERTICALI:\r\n1   cinque \x80   2 poi  3 ____________  5 ____________  ");
+  EXPECT_TRUE(Read("p").starts_with("<html><head><title>Telarium - sample </title></head>\r\n"));
+  EXPECT_NE(InProgramFolder("NONOME.html").find("   -   sample<br>\r\nAutore<br>\r\n"),
+            std::string::npos);
+}
+
+TEST_F(TelarPages, LeaveTheSolutionsOutInTwoWays) {
+  const auto shows = [this](std::string_view line, std::string_view text) {
+    Out(line);
+    return Read("p").find(text) != std::string::npos;
+  };
+  const std::string_view letter = "<font size=\"3\">C</td>", mark = "<font size=\"3\">##</td>";
+  EXPECT_TRUE(shows("html sample --uscita p", letter));
+  EXPECT_TRUE(shows("html sample --uscita p --modo 2", letter));
+  EXPECT_FALSE(shows("html sample --uscita p --senza-soluzioni", letter));
+  EXPECT_TRUE(shows("html sample --uscita p --senza-soluzioni --modo 1", mark));
+  EXPECT_FALSE(shows("html sample --uscita p --senza-soluzioni --modo=2", mark));
+  EXPECT_TRUE(shows("form sample --uscita p --senza-soluzioni", mark));
+}
+
+TEST_F(TelarPages, ShowTheConfiguredSite) {
+  WriteFile("program/indirizzi.txt", "SitoProdotto=cruciverba.example\r\n");
+  Out("html sample --uscita p");
+  EXPECT_NE(Read("p").find(R"(<a href="http://cruciverba.example">cruciverba.example</a>)"),
+            std::string::npos);
+}
+
+TEST_F(TelarPages, AFailureIsToldAndLeavesWhatWasThere) {
+  for (const char* line :
+       {"html sample --uscita folder", "html sample --uscita none/p",
+        "html sample --uscita=", "form sample --uscita folder", "form sample --uscita none/p",
+        "testo sample --cartella-uscita none", "testo sample --cartella-uscita old"}) {
+    EXPECT_EQ(Told(line, 1), OutputError) << line;
+  }
+  for (const char* command : {"html", "form"}) {
+    EXPECT_EQ(Told(Unisci(command, " missing --uscita old"), 1),
+              Unisci("Errore: Cruciverba  missing  Non trovato! Esecuzione terminata.\n"));
+    EXPECT_EQ(Told(Unisci(command, " old --uscita old"), 1), "Errore di lettura del file!\n");
+  }
+  EXPECT_EQ(Names("program"), Words());
+}
+
+TEST_F(TelarPages, WrongArgumentsDoNothing) {
+  for (const char* line :
+       {"html", "html sample square", "html sample --modo 3", "html sample --modo",
+        "form sample --modo 1", "testo sample --uscita p", "form"}) {
+    const TelarResult result = Run(line);
+    EXPECT_EQ(result.status, 2) << line;
+    EXPECT_NE(result.err.find("Uso: telar "), std::string::npos) << line;
+  }
+  EXPECT_EQ(Names("program"), Words());
+}
+
+}  // namespace
+}  // namespace telarium
