@@ -10,9 +10,8 @@
 //
 //   line     content
 //   first    a marker; a reader looks for its last 18 characters, InizioDelBlocco
-//   ...      the crossword file, byte for byte; a "-->" in a clue shows its rest in the browser,
-//   and
-//            no reader minds
+//   ...      the crossword file, byte for byte; after a "-->" in a clue a browser shows the rest
+//            of it, no reader minds
 //   last     a marker that no reader looks for
 namespace telarium {
 
