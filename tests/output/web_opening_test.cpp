@@ -211,7 +211,7 @@ TEST_F(WebOpening, ABlockThatIsNoCrosswordIsToldAndChangesNothing) {
       {"a\r\nb\r\nc\r\nDimensioni : 99x99\r\n", SizeError},
       {"a\r\nb\r\nc\r\nDimensioni : 00x05\r\n", SizeError},
       {"a\r\nb\r\nc\r\nx\r\n", SizeError},
-      {std::string("a\r\n\0\r\nc\r\nDimensioni : 04x03\r\n", 34), ReadError}};
+      {Unisci("a\r\n", '\0', "\r\nc\r\nDimensioni : 04x03\r\n"), ReadError}};
   SomePage();
   const auto before = TestoDelCruciverba();
   for (const auto& [block, told] : cases) {
