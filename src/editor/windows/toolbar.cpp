@@ -51,6 +51,7 @@ BarraStrumenti::BarraStrumenti(QWidget* genitore) : QToolBar(genitore) {
   setMovable(false);
   setAutoFillBackground(true);
   setMouseTracking(true);
+  setAttribute(Qt::WA_NoMousePropagation);  // between the buttons it is no part of the grid
   for (int i = 0; i < NumPulsanti; ++i) {
     const DatiPulsante& dato = pulsanti[i];
     if (!dato.chiave) {

@@ -52,6 +52,36 @@ std::string InRtf(std::string_view testo) {
   return documento + "}";
 }
 
+// The word processor takes the contents as a template, from which it makes a new document. It reads
+// it in its own time, so the file stays until this program ends.
+bool ConsegnaComeNuovo(const std::string& programma, const Percorso& nome,
+                       std::string_view contenuto) {
+  static const CartellaTemporanea cartella;
+  const Percorso modello = cartella.Nome() / nome;
+  if (cartella.Nome().empty() || ScriviFile(modello, contenuto, Permanenza::Provvisoria))
+    return false;
+  return Consegna({programma, "-n", modello.string()});
+}
+
+bool PaginaWeb(const Percorso& documento) {
+  const std::string tipo = Maiuscole(documento.extension().string());
+  return tipo == ".HTML" || tipo == ".HTM";
+}
+
+// A page that names no encoding is in the code page, where the word processors here take it for
+// UTF-8: they get a copy that names it.
+bool ConsegnaCopiaDellaPagina(const std::string& programma, const Percorso& pagina) {
+  constexpr std::size_t massimo = 64u << 20;
+  constexpr std::string_view codifica =
+      R"(<meta http-equiv="Content-Type" content="text/html; charset=windows-1252">)";
+  std::string testo;
+  if (LeggiFile(pagina, massimo, testo) != EsitoLettura::Letto) return false;
+  constexpr std::string_view testa = "<head>";
+  const std::size_t dove = testo.find(testa);
+  testo.insert(dove == std::string::npos ? 0 : dove + testa.size(), codifica);
+  return ConsegnaComeNuovo(programma, pagina.filename(), testo);
+}
+
 // Opens a file or an address, both as the system's opener takes them.
 bool ApriNelSistema(const std::string& cosa, const QUrl& url) {
   if (Presente("xdg-open")) return Consegna({"xdg-open", cosa});
@@ -95,19 +125,15 @@ bool MacchinaQt::ApriIndirizzo(const std::string& indirizzo) {
 
 bool MacchinaQt::ApriInWord(const Percorso& documento) {
   const auto programma = ProgrammaDiScrittura();
-  return programma && FileOrdinario(documento) && Consegna({*programma, documento.string()});
+  if (!programma || !FileOrdinario(documento)) return false;
+  if (PaginaWeb(documento)) return ConsegnaCopiaDellaPagina(*programma, documento);
+  return Consegna({*programma, documento.string()});
 }
 
 bool MacchinaQt::ScriviInWord(const std::string& testo) {
   const auto programma = ProgrammaDiScrittura();
   if (!programma) return false;
-  // The word processor takes the text as a template, from which it makes a new document. It reads
-  // it in its own time, so the file stays until this program ends.
-  static const CartellaTemporanea cartella;
-  const Percorso modello = cartella.Nome() / "parola.rtf";
-  if (cartella.Nome().empty() || ScriviFile(modello, InRtf(testo), Permanenza::Provvisoria))
-    return false;
-  return Consegna({*programma, "-n", modello.string()});
+  return ConsegnaComeNuovo(*programma, "parola.rtf", InRtf(testo));
 }
 
 bool MacchinaQt::PreparaMail(const Mail& mail) {

@@ -23,7 +23,10 @@ class MachineTest : public ::testing::Test {
 
   void SetUp() override {
     path_ = qgetenv("PATH");
-    qputenv("PATH", QByteArray::fromStdString(folder.Nome().string()) + ":/bin:/usr/bin");
+    // No word processor of the system's may be found.
+    for (const char* tool : {"cat", "cp", "mv"})
+      fs::create_symlink(fs::path("/bin") / tool, folder.Nome() / tool);
+    qputenv("PATH", QByteArray::fromStdString(folder.Nome().string()));
     qputenv("TO", QByteArray::fromStdString((folder.Nome() / "told").string()));
   }
   void TearDown() override { qputenv("PATH", path_); }
@@ -52,6 +55,22 @@ TEST_F(MachineTest, OpensTheWordProcessorOnANewDocumentOrNothing) {
   Program("lowriter", "[ \"$1\" = -n ] && cp \"$2\" \"$TO.tmp\"; mv \"$TO.tmp\" \"$TO\"");
   EXPECT_TRUE(machine.ScriviInWord("A{\xC8"));
   EXPECT_EQ(Told(), "{\\rtf1\\ansi\\ansicpg1252 \\'41\\'7b\\'c8}");
+}
+
+TEST_F(MachineTest, OpensDocumentsInTheWordProcessorAndPagesWithTheirEncoding) {
+  const Percorso document = folder.Nome() / "a document.DOC";
+  const Percorso page = folder.Nome() / "page.html";
+  std::ofstream(document) << "x";
+  std::ofstream(page) << "<html><head><title>\xC8</title>";
+  EXPECT_FALSE(machine.ApriInWord(document)) << "there is none";
+  Program("lowriter", "cat \"${2:-$1}\" > \"$TO.tmp\"; mv \"$TO.tmp\" \"$TO\"");
+  EXPECT_TRUE(machine.ApriInWord(document));
+  EXPECT_EQ(Told(), "x");
+  EXPECT_TRUE(machine.ApriInWord(page));
+  EXPECT_EQ(Told(),
+            "<html><head><meta http-equiv=\"Content-Type\" "
+            "content=\"text/html; charset=windows-1252\"><title>\xC8</title>");
+  EXPECT_FALSE(machine.ApriInWord(folder.Nome() / "missing"));
 }
 
 TEST_F(MachineTest, StartsProgramsAndTellsTheSystemsErrors) {
