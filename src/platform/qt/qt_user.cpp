@@ -87,6 +87,12 @@ QString TestoQt(const std::string& testo) {
   return qt;
 }
 
+// The message boxes have no pictures on their buttons, and so has no other box.
+void TogliFigure(const QDialog& scatola) {
+  for (auto* pulsante : scatola.findChildren<QPushButton*>())
+    pulsante->setIcon({});
+}
+
 // A prompt wraps once it is wider than a line that reads well; it is text, whatever it looks like.
 void DisponiSuPiuRighe(QLabel& etichetta) {
   etichetta.setTextFormat(Qt::PlainText);
@@ -136,6 +142,7 @@ std::optional<std::string> UtenteQt::ChiediTesto(const RichiestaDiTesto& richies
   scatola.setTextValue(AQt(richiesta.predefinito));
   scatola.setOkButtonText(QString::fromUtf16(Ok.testo));
   scatola.setCancelButtonText(QString::fromUtf16(Annulla.testo));
+  TogliFigure(scatola);
   if (scatola.exec() != QDialog::Accepted) return std::nullopt;
   return DaQt(scatola.textValue());
 }
@@ -145,8 +152,7 @@ Colore UtenteQt::ScegliColore(Colore iniziale) {
   scatola.setObjectName(u"ColorDialog");
   scatola.setWindowTitle(QStringLiteral("Colore della casella"));
   scatola.setOption(QColorDialog::DontUseNativeDialog);
-  for (auto* pulsante : scatola.findChildren<QPushButton*>())
-    pulsante->setIcon({});  // no other box has pictures on its buttons
+  TogliFigure(scatola);
   scatola.ensurePolished();
   scatola.layout()->activate();
   scatola.move(AlPuntatore(scatola.sizeHint()));
