@@ -12,6 +12,8 @@
 #include "editor/resizing.h"
 #include "editor/windows/Form1.h"
 #include "fill/extraction.h"
+#include "output/preview.h"
+#include "output/printing.h"
 
 namespace telarium {
 namespace {
@@ -59,6 +61,8 @@ constexpr ComandoDiVoce comandi[] = {
     {"MenuApri", [](Form1&) { ApriConFinestra(); }},
     {"menuSalva", [](Form1&) { SalvaCruciverba(); }},
     {"MenuSalvaCN", [](Form1&) { SalvaConNome(); }},
+    {"MenuAnteprima", [](Form1&) { AnteprimaSchema(); }},
+    {"MenuStampa", [](Form1&) { StampaDaMenu(); }},
     {"MenuEsci", [](Form1&) { EsciDalProgramma(); }},
     {"MenuAC", RidimensionaDaMenu<AggiungiColonna>},
     {"MenuAR", RidimensionaDaMenu<AggiungiRiga>},
@@ -102,6 +106,8 @@ constexpr AzioneDiPulsante pulsanti[] = {
     {.chiave = "Nuovo", .voce = "MenuNuovo"},
     {.chiave = "Apri", .voce = "MenuApri"},
     {.chiave = "Salva", .voce = "menuSalva"},
+    {.chiave = "Stampa", .comando = [](Form1&) { StampaSchema(); }},
+    {.chiave = "Anteprima", .voce = "MenuAnteprima"},
     {.chiave = "HTML", .menu = "Menuhtml"},
     {.chiave = "CambiaFont", .voce = "MenuFont"},
     {.chiave = "AggColonna", .comando = [](Form1&) { AggiungiColonna(); }},
