@@ -41,18 +41,20 @@ double CorpoNumeri(double lato) {
 }
 
 void ScriviLettera(Superficie& superficie, double centroX, double centroY, double lato,
-                   char lettera) {
+                   char lettera, const PostoInCasella& posto) {
   const std::string_view testo(&lettera, 1);
-  const int mezzaLarghezza = ArrotondaPari(superficie.LarghezzaTesto(testo) / 2);
-  const int mezzaAltezza = ArrotondaPari(superficie.AltezzaTesto(testo) / 2);
-  superficie.Posizione(centroX - mezzaLarghezza,
-                       centroY - mezzaAltezza + lato / 100.0 * DistanzaDaCentro);
+  const auto meta = [&posto](double misura) {
+    return posto.misureIntere ? ArrotondaPari(misura / 2) : misura / 2;
+  };
+  const double giu = lato / 100.0 / posto.riduzioneCentro * DistanzaDaCentro;
+  superficie.Posizione(centroX - meta(superficie.LarghezzaTesto(testo)) + posto.letteraADestra,
+                       centroY - meta(superficie.AltezzaTesto(testo)) + giu);
   superficie.Scrivi(testo);
 }
 
-void ScriviNumero(Superficie& superficie, double x, double y, double distanza, int numero) {
-  constexpr int Bordo = 2;  // beside the cell's outline
-  superficie.Posizione(x + Bordo + distanza, y + distanza);
+void ScriviNumero(Superficie& superficie, double x, double y, double distanza, int numero,
+                  const PostoInCasella& posto) {
+  superficie.Posizione(x + posto.numeroADestra + distanza, y + distanza);
   superficie.Scrivi(std::to_string(numero));
 }
 

@@ -24,13 +24,22 @@ double CorpoLettere(double lato, double minimo);
 /// Type size of the clue numbers, from AltezzaNumeri, within the same bounds.
 double CorpoNumeri(double lato);
 
+/// Where letters and numbers stand in their cells: on a screen, unless a surface says otherwise.
+struct PostoInCasella {
+  bool misureIntere = true;    // half the extent of a letter is rounded
+  double letteraADestra = 0;   // units from the middle
+  double riduzioneCentro = 1;  // what the shift of a letter by DistanzaDaCentro is divided by
+  double numeroADestra = 2;    // units from the cell's outline
+};
+
 /// Writes a letter in the surface's type round the middle of a cell of that side, moved down by
 /// DistanzaDaCentro.
 void ScriviLettera(Superficie& superficie, double centroX, double centroY, double lato,
-                   char lettera);
+                   char lettera, const PostoInCasella& posto = {});
 
 /// Writes the clue number of a cell in the surface's type, so far from the cell's left top corner.
-void ScriviNumero(Superficie& superficie, double x, double y, double distanza, int numero);
+void ScriviNumero(Superficie& superficie, double x, double y, double distanza, int numero,
+                  const PostoInCasella& posto = {});
 
 /// The typeface of the letters; an empty NomeFont becomes "Arial".
 const std::string& FontDelleLettere();

@@ -100,6 +100,7 @@ void PremiSullaSuperficie(TastoMouse tasto, double x, double y) {
   const bool sinistro = tasto == TastoMouse::Sinistro;
   if (!strumento && ModoGriglia != ModoModifica) return EntraInModifica();
   LaFinestra().MostraCommand3d15(false);
+  RiprendiGeometria();
   if (LatoCasella == 0) return;
   const Casella casella = CasellaSotto(x, y);
   const bool dentro = NelloSchema(casella);

@@ -37,6 +37,8 @@ void PrendiCongedo() {
 }  // namespace
 
 void CambiaModoEdit() {
+  // The redraw ends the look of a preview: what that forbade shall not stay forbidden.
+  if (LaFinestra().Command3d15Visibile()) AbilitaComandiSulloSchema(true);
   ImpostaPuntatoreMouse(PuntatoreFreccia);
   ModoGriglia = LaFinestra().EditPremuto() ? ModoModifica : ModoNeutro;
   RidisegnaSchema();

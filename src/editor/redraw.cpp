@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "editor/cell_drawing.h"
 #include "editor/main_window.h"
 #include "editor/settings.h"
 #include "model/crossword_file.h"
@@ -29,34 +28,13 @@ void DisegnaFondoECornice(Superficie& superficie) {
     superficie.Riquadro(x1 - i, y1 - i, x2 + i, y2 + i, ColoreCornice);
 }
 
-void DisegnaCaselle(Superficie& superficie) {
-  superficie.CorpoCarattere(CorpoLettere(LatoCasella, MinCorpoLettere));
-  superficie.Carattere(FontDelleLettere());
-  const double meta = LatoCasella / 2.0;
-  for (int r = 1; r <= NumRighe; ++r) {
-    for (int c = 1; c <= NumColonne; ++c) {
-      const double x = BordoSinistro(c);
-      const double y = BordoAlto(r);
-      DisegnaContorno(superficie, x, y, LatoCasella);
-      const char lettera = LetteraCasella(c, r);
-      if (lettera == CellaNera) {
-        DisegnaCasellaNera(superficie, x, y, LatoCasella, ColoreCasella(c, r));
-      } else if (lettera != CellaVuota && !NascondiSoluzioni) {
-        ScriviLettera(superficie, x + meta, y + meta, LatoCasella, lettera);
-      }
-    }
-  }
-}
+// Of LatoCasella, OrigineX and OrigineY.
+bool geometriaCeduta = false;
+const AzzeramentoDiSottosistema azzeramento([] { geometriaCeduta = false; });
 
-void DisegnaNumeri(Superficie& superficie) {
-  superficie.CorpoCarattere(CorpoNumeri(LatoCasella));
-  const double distanza = LatoCasella / 100.0 * DistanzaDaSpigolo;
-  for (int r = 1; r <= NumRighe; ++r) {
-    for (int c = 1; c <= NumColonne; ++c) {
-      if (NumeroCasella(c, r) == 0) continue;
-      ScriviNumero(superficie, BordoSinistro(c), BordoAlto(r), distanza, NumeroCasella(c, r));
-    }
-  }
+void CalcolaGeometriaDellaFinestra(const Superficie& superficie) {
+  CalcolaGeometria(superficie, LaFinestra().AltezzaToolbar1(), LaFinestra().AltezzaStatusBar1());
+  geometriaCeduta = false;
 }
 
 void DisegnaSchema(Superficie& superficie) {
@@ -64,10 +42,13 @@ void DisegnaSchema(Superficie& superficie) {
   LaFinestra().MostraCommand3d15(false);
   LaFinestra().Titolo(
       Unisci("Telarium - ", NumColonne, 'x', NumRighe, "  ", TestoPercorso(NomeCruciverba)));
-  CalcolaGeometria(superficie, LaFinestra().AltezzaToolbar1(), LaFinestra().AltezzaStatusBar1());
+  CalcolaGeometriaDellaFinestra(superficie);
   if (LatoCasella > 0) {  // in a tiny window no cell has room
     DisegnaFondoECornice(superficie);
-    DisegnaCaselle(superficie);
+    superficie.CorpoCarattere(CorpoLettere(LatoCasella, MinCorpoLettere));
+    superficie.Carattere(FontDelleLettere());
+    DisegnaCaselle(superficie, !NascondiSoluzioni);
+    superficie.CorpoCarattere(CorpoNumeri(LatoCasella));
     DisegnaNumeri(superficie);
   }
   LaFinestra().RinfrescaToolbar1();
@@ -93,6 +74,43 @@ void CalcolaGeometria(const Superficie& superficie, double cima, double fondo) {
   OrigineX = static_cast<std::int16_t>(ArrotondaPari((w - LatoCasella * NumColonne) / 2));
   OrigineY =
       static_cast<std::int16_t>(ArrotondaPari((cima + h - 2 - fondo - LatoCasella * NumRighe) / 2));
+}
+
+void CediGeometria() {
+  geometriaCeduta = true;
+}
+
+void RiprendiGeometria() {
+  const Superficie* superficie = FinestraPrincipale();
+  if (geometriaCeduta && NumColonne > 0 && superficie) CalcolaGeometriaDellaFinestra(*superficie);
+}
+
+void DisegnaCaselle(Superficie& superficie, bool conLettere, const PostoInCasella& posto) {
+  const double meta = LatoCasella / 2.0;
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c) {
+      const double x = BordoSinistro(c);
+      const double y = BordoAlto(r);
+      DisegnaContorno(superficie, x, y, LatoCasella);
+      const char lettera = LetteraCasella(c, r);
+      if (lettera == CellaNera) {
+        DisegnaCasellaNera(superficie, x, y, LatoCasella, ColoreCasella(c, r));
+      } else if (lettera != CellaVuota && conLettere) {
+        ScriviLettera(superficie, x + meta, y + meta, LatoCasella, lettera, posto);
+      }
+    }
+  }
+}
+
+void DisegnaNumeri(Superficie& superficie, const PostoInCasella& posto) {
+  const double distanza = LatoCasella / 100.0 * DistanzaDaSpigolo;
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c) {
+      if (NumeroCasella(c, r) == 0) continue;
+      ScriviNumero(superficie, BordoSinistro(c), BordoAlto(r), distanza, NumeroCasella(c, r),
+                   posto);
+    }
+  }
 }
 
 bool SchemaColorato() {

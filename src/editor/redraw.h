@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/cell_drawing.h"
 #include "model/words.h"
 #include "platform/surface.h"
 
@@ -18,6 +19,21 @@ void RidisegnaSchema();
 /// Sets LatoCasella, OrigineX and OrigineY so that the cells fit between a band of that height at
 /// the surface's top and one at its bottom, centred there. Wants a grid.
 void CalcolaGeometria(const Superficie& superficie, double cima, double fondo);
+
+/// Tells that LatoCasella, OrigineX and OrigineY are those of another surface or of a sheet, and
+/// not of the grid on the window, until the next redraw.
+void CediGeometria();
+
+/// Makes them those of the grid on the window again if they were given away, without drawing: for
+/// what finds its way by them. Nothing happens without a grid or a window.
+void RiprendiGeometria();
+
+/// Draws the cells of the grid where LatoCasella, OrigineX and OrigineY have them: outlines, black
+/// squares and, if `conLettere`, the letters in the surface's type.
+void DisegnaCaselle(Superficie& superficie, bool conLettere, const PostoInCasella& posto = {});
+
+/// Writes the clue numbers likewise, in the surface's type.
+void DisegnaNumeri(Superficie& superficie, const PostoInCasella& posto = {});
 
 /// Whether a black cell has a colour, so that a redraw writes the snapshot.
 bool SchemaColorato();

@@ -122,6 +122,7 @@ void PassaSullaSuperficie(double x, double y) {
   if (PuntatoreMouse == PuntatoreCasellaBianca) return MostraStrumento(" Casella bianca ", x, y);
   if (PuntatoreMouse == PuntatoreCasellaNera) return MostraStrumento(" Casella nera ", x, y);
   if (ModoGriglia != ModoModifica) return LaFinestra().TogliLabel1();
+  RiprendiGeometria();
   if (LatoCasella == 0) return;
   const Casella casella = CasellaSotto(x, y);
   if (NelloSchema(casella)) return PassaSuUnaCasella(casella, x, y);

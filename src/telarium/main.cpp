@@ -99,6 +99,7 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
   Form1 form;
   ImpostaPuntatori(piattaforma.ChiUsa(), form);
   piattaforma.ChiUsa().Finestra(&form);
+  piattaforma.LaStampante()->Finestra(&form);
   piattaforma.ChiUsa().SegueEstrazione(
       [&form](const AvanzamentoEstrazione& a) { return form.SeguiEstrazione(a); });
   piattaforma.FinestraPrincipale(&form.Area->Superficie());

@@ -132,12 +132,13 @@ class ScriptedPlatform : public Piattaforma {
   Superficie* surface = &window;  // what the main window draws on, if there is one
   bool hasWindow = false;
   ScriptedPrinter printer;
+  Stampante* printerInUse = &printer;
   bool hasPrinter = true;
 
   Utente& ChiUsa() override { return user; }
   Macchina& Sistema() override { return machine; }
   Superficie* FinestraPrincipale() override { return hasWindow ? surface : nullptr; }
-  Stampante* LaStampante() override { return hasPrinter ? &printer : nullptr; }
+  Stampante* LaStampante() override { return hasPrinter ? printerInUse : nullptr; }
   void Termina() override { throw ProgramEnded(); }
 };
 

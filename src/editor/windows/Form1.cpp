@@ -392,7 +392,8 @@ void Form1::CambiataMisura() {
   if (NomeCruciverba.empty()) return;
   const QSize minima(InPixel(MinLarghezza), InPixel(MinAltezza));
   if (minimumSize() != minima) setMinimumSize(minima);
-  RidisegnaSchema();
+  // The page of a preview does not fit the new size.
+  Command3d15Visibile() ? ChiudiAnteprima() : RidisegnaSchema();
 }
 
 void Form1::PassaSuArea(QPointF punto) {

@@ -14,6 +14,8 @@
 #include "fill/extraction.h"
 #include "output/interactive_page.h"
 #include "output/picture_page.h"
+#include "output/preview.h"
+#include "output/printing.h"
 #include "output/script_page.h"
 #include "output/static_page.h"
 #include "output/web_opening.h"
@@ -71,6 +73,7 @@ constexpr ComandoDiVoce comandi[] = {
     {"MenuApri", [](Form1&) { ApriConFinestra(); }},
     {"menuSalva", [](Form1&) { SalvaCruciverba(); }},
     {"MenuSalvaCN", [](Form1&) { SalvaConNome(); }},
+    {"MenuAnteprima", [](Form1&) { AnteprimaSchema(); }},
     {"menuvbhtml", [](Form1&) { EsportaDaModello(); }},
     {"menusphtml", [](Form1&) { MostraPaginaStatica(); }},
     {"Menuhtmlword", [](Form1&) { EsportaInWord(); }},
@@ -81,6 +84,7 @@ constexpr ComandoDiVoce comandi[] = {
     {"Menu1024", MostraPicture<1024>},
     {"mENU1280", MostraPicture<1280>},
     {"Menu1600", MostraPicture<1600>},
+    {"MenuStampa", [](Form1&) { StampaDaMenu(); }},
     {"menujava", [](Form1&) { PubblicaCruciverba(); }},
     {"menurl", [](Form1&) { ApriDaIndirizzo(); }},
     {"MenuEsci", [](Form1&) { EsciDalProgramma(); }},
@@ -127,6 +131,8 @@ constexpr AzioneDiPulsante pulsanti[] = {
     {.chiave = "Nuovo", .voce = "MenuNuovo"},
     {.chiave = "Apri", .voce = "MenuApri"},
     {.chiave = "Salva", .voce = "menuSalva"},
+    {.chiave = "Stampa", .comando = [](Form1&) { StampaSchema(); }},
+    {.chiave = "Anteprima", .voce = "MenuAnteprima"},
     {.chiave = "HTML", .menu = "Menuhtml"},
     {.chiave = "CambiaFont", .voce = "MenuFont"},
     {.chiave = "AggColonna", .comando = [](Form1&) { AggiungiColonna(); }},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QStringList>
 #include <string_view>
 
@@ -10,5 +11,11 @@ namespace telarium {
 QStringList FamiglieInstallate();
 
 bool FamigliaInstallata(std::string_view nome);
+
+/// A font of that type; the size, in points, is brought into the bounds of what can be drawn.
+QFont FontDi(std::string_view famiglia, double punti, bool grassetto, bool corsivo);
+
+/// Whether type of that size, in points, shows anything.
+bool CorpoVisibile(double punti);
 
 }  // namespace telarium

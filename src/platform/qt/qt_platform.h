@@ -14,7 +14,7 @@ class PiattaformaQt : public Piattaforma {
   Macchina& Sistema() override { return macchina_; }
   Superficie* FinestraPrincipale() override { return finestra_; }
 
-  Stampante* LaStampante() override { return &stampante_; }
+  StampanteQt* LaStampante() override { return &stampante_; }
 
   /// The surface of the main window; the caller keeps it alive.
   void FinestraPrincipale(Superficie* finestra) { finestra_ = finestra; }

@@ -8,22 +8,16 @@
 #include <utility>
 
 #include "platform/qt/qt_colour.h"
+#include "platform/qt/qt_coordinates.h"
+#include "platform/qt/qt_fonts.h"
 #include "platform/qt/qt_text.h"
 
 namespace telarium {
 namespace {
 
 constexpr int PuntiPerMetro = 3780;  // 96 to the inch: 1 point is 96/72 logical pixels
-constexpr double MinPunti = 0.1;     // smaller type shows nothing
-constexpr double MaxPunti = 1000;    // a settings file can ask for any size
 constexpr std::size_t MaxDisegni = 20'000;
 constexpr std::size_t MaxTipi = 32;
-// Far outside of any picture, and safe in 32 bits whatever the scale factor.
-constexpr double MaxCoordinata = 100'000;
-
-double Limitata(double coordinata) {
-  return std::isnan(coordinata) ? 0 : std::clamp(coordinata, -MaxCoordinata, MaxCoordinata);
-}
 
 }  // namespace
 
@@ -46,14 +40,6 @@ struct SuperficieQt::Tipo {
     larghezze.fill(-1);
   }
 
-  static QFont FontDi(const std::string& famiglia, double punti, bool grassetto, bool corsivo) {
-    QFont font(AQt(famiglia));
-    font.setPointSizeF(std::clamp(punti, MinPunti, MaxPunti));
-    font.setBold(grassetto);
-    font.setItalic(corsivo);
-    return font;
-  }
-
   // Measures are those of the surface's resolution, whatever the screen's.
   static QImage* Campione() {
     static QImage campione = [] {
@@ -65,7 +51,7 @@ struct SuperficieQt::Tipo {
     return &campione;
   }
 
-  bool Invisibile() const { return !(punti >= MinPunti); }
+  bool Invisibile() const { return !CorpoVisibile(punti); }
 
   double Larghezza(std::string_view testo) const {
     if (Invisibile()) return 0;
@@ -266,10 +252,10 @@ void SuperficieQt::Dipingi() {
 // second one's right bottom.
 void SuperficieQt::DipingiRiquadro(QPainter& pittore, const Disegno& disegno) const {
   const auto pixel = [this](double coordinata) {
-    return static_cast<int>(std::floor(Limitata(coordinata) * rapporto_ + 0.5));
+    return static_cast<int>(std::floor(CoordinataSicura(coordinata) * rapporto_ + 0.5));
   };
-  const auto [x1, x2] = std::minmax({Limitata(disegno.x1), Limitata(disegno.x2)});
-  const auto [y1, y2] = std::minmax({Limitata(disegno.y1), Limitata(disegno.y2)});
+  const auto [x1, x2] = std::minmax({CoordinataSicura(disegno.x1), CoordinataSicura(disegno.x2)});
+  const auto [y1, y2] = std::minmax({CoordinataSicura(disegno.y1), CoordinataSicura(disegno.y2)});
   const int sinistra = pixel(x1);
   const int cima = pixel(y1);
   const int larghezza = pixel(x2 + 1) - sinistra;
@@ -293,8 +279,9 @@ void SuperficieQt::DipingiTesto(QPainter& pittore, const Disegno& disegno) const
   pittore.scale(rapporto_, rapporto_);
   pittore.setFont(tipo.font);
   const std::string_view testo(testi_.data() + disegno.inizio, disegno.lunghezza);
-  pittore.drawText(QPointF(Limitata(disegno.x1), Limitata(disegno.y1) + tipo.misure.ascent()),
-                   AQt(testo));
+  pittore.drawText(
+      QPointF(CoordinataSicura(disegno.x1), CoordinataSicura(disegno.y1) + tipo.misure.ascent()),
+      AQt(testo));
 }
 
 }  // namespace telarium

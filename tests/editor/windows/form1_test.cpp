@@ -49,11 +49,11 @@ TEST_F(Form1Test, OffersOnlyWhatCanBeDoneWithoutACrossword) {
 TEST_F(Form1Test, OffersTheCommandsOfThisProgramOnceThereIsACrossword) {
   StartWith({"CASA", "....", "#..#"});
   EXPECT_EQ(EnabledButtons(),
-            "Nuovo Apri Salva HTML CambiaFont AggColonna TogliColonna AggRiga TogliRiga CasBianca "
-            "CasNera Tabella Estrazione Edit Compila ");
+            "Nuovo Apri Salva Stampa Anteprima HTML CambiaFont AggColonna TogliColonna AggRiga "
+            "TogliRiga CasBianca CasNera Tabella Estrazione Edit Compila ");
   EXPECT_TRUE(form->Voce("MenuEdit").isEnabled() && form->Voce("MenuUtiliti").isEnabled());
   EXPECT_TRUE(form->Voce("menuSalva").isEnabled());
-  EXPECT_FALSE(form->Voce("MenuStampa").isEnabled()) << "nothing stands behind it yet";
+  EXPECT_TRUE(form->Voce("MenuStampa").isEnabled() && form->Voce("MenuAnteprima").isEnabled());
   EXPECT_FALSE(form->Picture1->isVisible());
   EXPECT_TRUE(form->windowTitle().startsWith(QStringLiteral("Telarium - 4x3  ")));
   EXPECT_FALSE(form->Voce("MenuNuovo").icon().isNull() || form->Voce("MenuStampa").icon().isNull());
