@@ -79,10 +79,8 @@ void BM_InteractivePage(benchmark::State& state) {
 
 void BM_Picture(benchmark::State& state) {
   FullGrid(MaxColonne, MaxRighe);
-  for (auto _ : state) {
-    const SchemaSuBianco white(false);
-    Expect(ScriviPicture(FileDiUscita("NONOME.BMP")));
-  }
+  for (auto _ : state)
+    Expect(ScriviPicture(FileDiUscita("NONOME.BMP"), BitmapSuBianco(false)));
 }
 
 void BM_Pdf(benchmark::State& state) {

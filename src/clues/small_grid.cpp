@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "editor/grid_preview.h"
+#include "editor/redraw.h"
 #include "editor/settings.h"
 #include "platform/platform.h"
 
@@ -78,6 +79,7 @@ void EsigiSchemaSemplice() {
 void DisegnaSchemaPiccolo(Superficie& superficie, const Slot* evidente) {
   superficie.Pulisci();
   if (NumColonne == 0) return;
+  RiprendiGeometria();
   const AnteprimaDiSchema schema(superficie, NumColonne, NumRighe, Margine,
                                  AnteprimaDiSchema::Misura::Troncata);
   if (schema.Lato() == 0) return;

@@ -1,6 +1,7 @@
 #include "crossworddialogs/new_crossword.h"
 
 #include "crossworddialogs/model_file.h"
+#include "model/crossword_copy.h"
 #include "model/crossword_file.h"
 #include "model/words.h"
 #include "platform/platform.h"
@@ -25,27 +26,6 @@ void ScriviIntestazione(int colonne, int righe) {
   Schema(4) = "Dimensioni : ";
   ScriviDimensioni(colonne, righe);
 }
-
-// The crossword as it was, put back at the end unless the new one has taken its place.
-class CruciverbaDiPrima {
- public:
-  ~CruciverbaDiPrima() {
-    if (sostituito_) return;
-    Schema = schema_;
-    Definizione = definizione_;
-    NumColonne = colonne_;
-    NumRighe = righe_;
-  }
-
-  void Sostituito() { sostituito_ = true; }
-
- private:
-  decltype(Schema) schema_ = Schema;
-  decltype(Definizione) definizione_ = Definizione;
-  std::int16_t colonne_ = NumColonne;
-  std::int16_t righe_ = NumRighe;
-  bool sostituito_ = false;
-};
 
 // Lets `riga` make the grid lines, r from 1, and leaves the crossword in the snapshot.
 template <class Riga>

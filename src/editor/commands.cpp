@@ -123,8 +123,11 @@ void ScegliCarattere() {
 
 void RegolaSchema() {
   LaFinestra().MostraModale(Modale::Settaggi);
-  LasciaAnteprima();
-  RidisegnaSchema();
+  if (ModoGriglia == ModoAnteprima) {
+    ChiudiAnteprima();
+  } else {
+    RidisegnaSchema();
+  }
 }
 
 void AggiornaSpunte() {

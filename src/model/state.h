@@ -71,9 +71,11 @@ extern Tabella<std::string, AsseColonne, AsseRighe, AsseDirezioni> ParolaCasella
 
 // --- Position and mode ---
 
-extern std::int16_t
-    LatoCasella;               // side of a cell as last drawn, in pixels; 0 before the first redraw
-extern std::int16_t OrigineX;  // left and top of the grid on the main window, in pixels
+// Side of a cell as last drawn, and left and top of the grid: on the main window in pixels, behind
+// a print or in a preview in the units of the sheet (see CediGeometria of the editor). 0 before the
+// first redraw.
+extern std::int16_t LatoCasella;
+extern std::int16_t OrigineX;
 extern std::int16_t OrigineY;
 
 // Values of ModoGriglia. Only ModoModifica and ModoAnteprima are ever tested; the others tell which

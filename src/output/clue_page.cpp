@@ -6,10 +6,9 @@ namespace telarium {
 namespace {
 
 void ScriviVoci(TestoDiPagina& pagina, int direzione, std::size_t trattini) {
-  PerOgniParola(direzione, [&](const Slot& slot) {
+  PerOgniDefinizione(direzione, trattini, [&](int numero, const std::string& definizione) {
     // The blank before the number stands where a minus sign would.
-    pagina.Riga("<b> ", NumeroCasella(slot.inizio.colonna, slot.inizio.riga), " </b>",
-                DefinizioneOTrattini(slot, trattini), "  ");
+    pagina.Riga("<b> ", numero, " </b>", definizione, "  ");
   });
 }
 

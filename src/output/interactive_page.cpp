@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::size_t Trattini = 16;
 constexpr int LarghezzaDiCasella = 35;  // pixels
+constexpr int AltezzaDiCasella = 40;
 
 constexpr std::string_view PrimaDelBlocco =
     "<!-- CODICE HTML SALVATAGGIO - Telarium Versione 7 - Non modificare o cancellare queste righe "
@@ -92,10 +93,9 @@ void ScriviElenco(TestoDiPagina& pagina, int direzione, std::string_view colore,
                   std::string_view titolo) {
   pagina.Riga(R"(<td valign="top" bgcolor=#)", colore, R"(><p align="center"><b>)", titolo,
               "</b><ol>");
-  PerOgniParola(direzione, [&](const Slot& slot) {
-    pagina.Riga(R"(<li Size="1" style="font-size: 10 px" value=")",
-                NumeroCasella(slot.inizio.colonna, slot.inizio.riga), R"("><Font Size="1">)",
-                DefinizioneOTrattini(slot, Trattini), "</font>");
+  PerOgniDefinizione(direzione, Trattini, [&](int numero, const std::string& definizione) {
+    pagina.Riga(R"(<li Size="1" style="font-size: 10 px" value=")", numero, R"("><Font Size="1">)",
+                definizione, "</font>");
   });
 }
 
@@ -104,11 +104,8 @@ int NumeroDiCampo(Casella casella) {
   return (casella.riga - 1) * NumColonne + casella.colonna;
 }
 
-void ScriviCasella(TestoDiPagina& pagina, Casella casella) {
-  const bool nera = LetteraCasella(casella.colonna, casella.riga) == CellaNera;
+void ScriviCasella(TestoDiPagina& pagina, Casella casella, bool nera) {
   const int numero = NumeroCasella(casella.colonna, casella.riga);
-  pagina.Riga(R"(<td width=")", 100 / NumColonne, R"(%" height="40" bgcolor = )",
-              nera ? "000000" : "ffffff", '>');
   if (numero == 0) pagina.Riga(R"(<p align="center">)");
   if (nera) {
     pagina.Riga(R"(<font size="3">)", StampaSoluzioni ? "##" : "*", "</td>");
@@ -117,18 +114,6 @@ void ScriviCasella(TestoDiPagina& pagina, Casella casella) {
   if (numero != 0) pagina.Scrivi(R"(<p><sup><font size="1">)", numero, "</font></sup>");
   pagina.Riga(R"(<input type="text" name="num)", NumeroDiCampo(casella),
               R"(" size="1" MaxLength=1 value=""></td>)");
-}
-
-void ScriviGriglia(TestoDiPagina& pagina) {
-  pagina.Riga(R"(<td valign="top"><table border="2" cellspacing="1" width=")",
-              NumColonne * LarghezzaDiCasella, R"(" bgcolor="#c0c0c0" bordercolor="#ffffff">)");
-  pagina.Riga("<tr>");
-  for (int r = 1; r <= NumRighe; ++r) {
-    for (int c = 1; c <= NumColonne; ++c)
-      ScriviCasella(pagina, {c, r});
-    pagina.Riga("</tr><tr>");
-  }
-  pagina.Riga("</li></ol></td></table><td>");
 }
 
 // One check for each white cell, the last cell first. Gives how many there are.
@@ -187,7 +172,9 @@ std::optional<std::string> PaginaInterattiva() {
   ScriviInizioDelModulo(pagina, valori);
   ScriviElenco(pagina, Orizzontale, "FFFF00", "ORIZZONTALI");
   pagina.Riga("</li></ol></td>");
-  ScriviGriglia(pagina);
+  ScriviGriglia(pagina, LarghezzaDiCasella, AltezzaDiCasella,
+                [&](Casella casella, bool nera) { ScriviCasella(pagina, casella, nera); });
+  pagina.Riga("</li></ol></td></table><td>");
   ScriviElenco(pagina, Verticale, "00FFFF", "VERTICALI");
   pagina.Riga(
       R"(</td></table><p><input type="submit" value="Ho finito / controlla" name="Invia"></p></form>)");

@@ -11,7 +11,7 @@
 //   line     content
 //   first    a marker; a reader looks for its last 18 characters, InizioDelBlocco
 //   ...      the crossword file, byte for byte; after a "-->" in a clue a browser shows the rest
-//            of it, no reader minds
+//            of it, no reader minds; a clue that ends as the marker does would be taken for it
 //   last     a marker that no reader looks for
 namespace telarium {
 
@@ -21,7 +21,7 @@ inline constexpr const char* NomePaginaInterattiva = "telarium_form.html";
 inline constexpr std::string_view InizioDelBlocco = "sottostanti ####\r\n";
 
 /// The page of the crossword as the last redraw left it. Wants a grid. None when the crossword has
-/// a character that its file cannot hold.
+/// a character that its file cannot hold, or would be too large a file.
 std::optional<std::string> PaginaInterattiva();
 
 /// menujava: writes the page as telarium_form.html of the program folder and opens it in the user's

@@ -7,8 +7,8 @@
 
 namespace telarium {
 
-Percorso FileDiUscita(const char* nome) {
-  return PercorsoNellaCartella(CartellaProgramma, nome);
+Percorso FileDiUscita(const Percorso& nome) {
+  return CartellaProgramma / nome;
 }
 
 bool ScriviUscita(const Percorso& file, std::string_view contenuto) {
@@ -26,8 +26,9 @@ void AvvisaErroreDiUscita() {
 
 void ApriUscita(const Percorso& file) {
   if (Sistema().ApriFile(file)) return;
-  Avvisa(Unisci("Non è possibile aprire il file "_cp, TestoPercorso(file.filename()),
-                ": manca un programma adatto."),
+  const bool presente = FileOrdinario(file);
+  Avvisa(Unisci(presente ? "Manca un programma adatto per aprire il file " : "Manca il file ",
+                TestoPercorso(file), '.'),
          {}, Icona::Avviso);
 }
 

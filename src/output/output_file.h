@@ -7,8 +7,9 @@
 // What the output commands make: files of the program folder, which each run writes over.
 namespace telarium {
 
-/// The file of that name in the program folder, an older one whatever the case of its letters.
-Percorso FileDiUscita(const char* nome);
+/// The file of exactly that name in the program folder, by which other programs know it. One whose
+/// letters differ in case is another file.
+Percorso FileDiUscita(const Percorso& nome);
 
 /// Writes a whole file. A failure shows the message of the output commands, leaves the old file and
 /// gives false.

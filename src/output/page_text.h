@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "model/words.h"
 #include "platform/text.h"
 
 // What the web pages have in common. A page is text in the code page, as a crossword file is, and
@@ -51,6 +52,24 @@ std::string_view FineDelloStile(const ValoriDiPagina& valori);
 /// The head of a page with a grid, and the line over the grid.
 void ScriviTesta(TestoDiPagina& pagina, const ValoriDiPagina& valori);
 void ScriviTitolo(TestoDiPagina& pagina, const ValoriDiPagina& valori);
+
+/// Writes the grid as a table with cells of that size in pixels: `casella` gets each cell, and
+/// whether it is black, and writes what stands behind its opening tag.
+template <class ScriviCasella>
+void ScriviGriglia(TestoDiPagina& pagina, int larghezza, int altezza, ScriviCasella casella) {
+  pagina.Riga(R"(<td valign="top"><table border="2" cellspacing="1" width=")",
+              NumColonne * larghezza, R"(" bgcolor="#c0c0c0" bordercolor="#ffffff">)");
+  pagina.Riga("<tr>");
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c) {
+      const bool nera = LetteraCasella(c, r) == CellaNera;
+      pagina.Riga(R"(<td width=")", 100 / NumColonne, R"(%" height=")", altezza, R"(" bgcolor = )",
+                  nera ? "000000" : "ffffff", '>');
+      casella(Casella{c, r}, nera);
+    }
+    pagina.Riga("</tr><tr>");
+  }
+}
 
 /// The line under the grid: how the page was made, and the product's site as a link.
 void ScriviCollegamento(TestoDiPagina& pagina, std::string_view come, const ValoriDiPagina& valori);

@@ -21,15 +21,9 @@ constexpr const char* NomePicture = "_filBMP_.BMP";
 constexpr const char* NomePictureNellaPagina = "_filbmp_.bmp";
 
 bool ScriviPictureDellaPagina() {
-  const Percorso picture = CartellaProgramma / NomePicture;
-  if (!ScriviPicture(picture)) return false;
-  const Percorso altra = CartellaProgramma / NomePictureNellaPagina;
-  std::error_code errore;
-  if (std::filesystem::equivalent(picture, altra, errore)) return true;
-  std::filesystem::copy_file(picture, altra, std::filesystem::copy_options::overwrite_existing,
-                             errore);
-  if (errore) AvvisaErroreDiUscita();
-  return !errore;
+  const std::string bitmap = BitmapSuBianco(StampaSoluzioni);
+  return ScriviPicture(FileDiUscita(NomePicture), bitmap) &&
+         ScriviPicture(FileDiUscita(NomePictureNellaPagina), bitmap);
 }
 
 std::string PaginaConPicture() {
@@ -47,10 +41,9 @@ std::string PaginaConPicture() {
 }  // namespace
 
 void StampaHTML() {
-  if (NumColonne == 0) return;
-  const SchemaSuBianco suBianco(StampaSoluzioni);
+  if (NumColonne == 0 || !ScriviPictureDellaPagina()) return;
   const Percorso pagina = FileDiUscita(NomePaginaStatica);
-  if (ScriviPictureDellaPagina() && ScriviUscita(pagina, PaginaConPicture())) ApriUscita(pagina);
+  if (ScriviUscita(pagina, PaginaConPicture())) ApriUscita(pagina);
 }
 
 void StampaHTMLLarga(int larghezza) {

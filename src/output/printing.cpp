@@ -1,6 +1,5 @@
 #include "output/printing.h"
 
-#include <algorithm>
 #include <memory>
 #include <string>
 

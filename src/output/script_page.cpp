@@ -47,7 +47,8 @@ std::string PaginaDaModello(std::string_view modello) {
 void EsportaDaModello() {
   if (NumColonne == 0) return;
   std::string modello;
-  if (LeggiFile(FileDiUscita("template.txt"), MaxByteModello, modello) != EsitoLettura::Letto)
+  const Percorso file = PercorsoNellaCartella(CartellaProgramma, "template.txt");
+  if (LeggiFile(file, MaxByteModello, modello) != EsitoLettura::Letto)
     return AvvisaErroreDiUscita();
   static_cast<void>(ScriviUscita(FileDiUscita("prova.html"), PaginaDaModello(modello)));
 }

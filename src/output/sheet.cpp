@@ -75,12 +75,11 @@ void ScriviElenco(Superficie& superficie, const Foglio& foglio, std::string_view
   superficie.Grassetto(false);
   VaiAlMargine(superficie, foglio.margine);
   const std::string spazi(foglio.spaziInFondo, ' ');
-  PerOgniParola(direzione, [&](const Slot& slot) {
-    const int numero = NumeroCasella(slot.inizio.colonna, slot.inizio.riga);
-    const std::string testo =
-        SenzaInterruzioni(DefinizioneOTrattini(slot, TrattiniSenzaDefinizione));
-    foglio.definizione(superficie, Unisci(numero, ' ', testo, spazi), foglio.margine);
-  });
+  const auto scrivi = [&](int numero, const std::string& definizione) {
+    const std::string voce = Unisci(numero, ' ', SenzaInterruzioni(definizione), spazi);
+    foglio.definizione(superficie, voce, foglio.margine);
+  };
+  PerOgniDefinizione(direzione, TrattiniSenzaDefinizione, scrivi);
 }
 
 void VaiACapo(Superficie& superficie, int volte) {

@@ -11,6 +11,7 @@ namespace {
 constexpr int MaxColonneAffiancate = 19;
 constexpr std::size_t Trattini = 16;
 constexpr int LarghezzaDiCasella = 32;  // pixels
+constexpr int AltezzaDiCasella = 32;
 // A list of a wide page goes on in another column where its counter, and 2, make a multiple of it.
 constexpr int PassoOrizzontali = 15;
 constexpr int PassoVerticali = 12;
@@ -73,22 +74,11 @@ Vista VistaDi(char lettera, std::int16_t modo) {
 }
 
 void ScriviCasella(TestoDiPagina& pagina, Casella casella, std::int16_t modo) {
-  const char lettera = LetteraCasella(casella.colonna, casella.riga);
+  const Vista vista = VistaDi(LetteraCasella(casella.colonna, casella.riga), modo);
   const int numero = NumeroCasella(casella.colonna, casella.riga);
-  const Vista vista = VistaDi(lettera, modo);
-  pagina.Riga(R"(<td width=")", 100 / NumColonne, R"(%" height="32" bgcolor = )",
-              lettera == CellaNera ? "000000" : "ffffff", '>');
   pagina.Riga(R"(<p align=")", vista.allineamento, R"(">)");
   if (numero != 0) pagina.Riga(R"(<sup><font size="1">)", numero, "</font></sup>");
   pagina.Riga(R"(<font size="3">)", vista.testo, "</td>");
-}
-
-void ScriviGriglia(TestoDiPagina& pagina, std::int16_t modo) {
-  for (int r = 1; r <= NumRighe; ++r) {
-    for (int c = 1; c <= NumColonne; ++c)
-      ScriviCasella(pagina, {c, r}, modo);
-    pagina.Riga("</tr><tr>");
-  }
 }
 
 }  // namespace
@@ -101,10 +91,8 @@ std::string PaginaStatica(std::int16_t modo) {
   ScriviOrizzontali(pagina);
   pagina.Riga("</li></ol></td>");
   if (Larga()) pagina.Riga(AltraTabella);
-  pagina.Riga(R"(<td valign="top"><table border="2" cellspacing="1" width=")",
-              NumColonne * LarghezzaDiCasella, R"(" bgcolor="#c0c0c0" bordercolor="#ffffff">)");
-  pagina.Riga("<tr>");
-  ScriviGriglia(pagina, modo);
+  ScriviGriglia(pagina, LarghezzaDiCasella, AltezzaDiCasella,
+                [&](Casella casella, bool) { ScriviCasella(pagina, casella, modo); });
   pagina.Riga("</li></ol></td></table>");
   if (Larga()) pagina.Riga(AltraTabella);
   pagina.Riga(R"(<td><div align="center">)");

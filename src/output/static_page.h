@@ -3,8 +3,6 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/files.h"
-
 // The page to read: clues and grid as tables. Up to 19 columns the three parts stand side by side;
 // from 20 on each is a table of its own, and the lists of clues run in columns.
 namespace telarium {

@@ -23,8 +23,8 @@ std::optional<std::string_view> BloccoDiSalvataggio(std::string_view pagina);
 std::optional<std::string> PrelevaBlocco(const std::string& indirizzo);
 
 /// menurl: asks for an address and makes the crossword of that page the current one, under the name
-/// that there is. The crossword that was there stays when the page holds none, and when it was to
-/// be saved before and is not; a block that breaks off is told, and is taken as far as it goes.
+/// that there is. The crossword that was there stays when the page holds none or one that breaks
+/// off, which is told, and when it was to be saved before and is not.
 void ApriDaIndirizzo();
 
 }  // namespace telarium

@@ -1,8 +1,11 @@
 #include "output/window_picture.h"
 
+#include <algorithm>
+
 #include "editor/commands.h"
 #include "editor/main_window.h"
 #include "editor/redraw.h"
+#include "editor/settings.h"
 #include "output/output_file.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
@@ -29,9 +32,16 @@ std::string ChiediNome() {
   return nome.value_or("");
 }
 
+// A "\\" between folders is as good as a "/".
+Percorso PercorsoDigitato(std::string nome) {
+  std::replace(nome.begin(), nome.end(), '\\', '/');
+  return AUtf8(nome);
+}
+
 bool AccettaSovrascrittura(const Percorso& file, const std::string& nome) {
   std::error_code ignorato;
-  if (!std::filesystem::exists(file, ignorato)) return true;
+  if (!std::filesystem::exists(file, ignorato) || std::filesystem::is_directory(file, ignorato))
+    return true;  // nothing that could be written over
   const Messaggio domanda{
       .testo = Unisci("Il file: ", nome, " esiste già, si vuole sovrascrivere?"_cp),
       .titolo = "Immagine gia' esistente",
@@ -39,27 +49,37 @@ bool AccettaSovrascrittura(const Percorso& file, const std::string& nome) {
   return ChiUsa().MostraMessaggio(domanda) == Risposta::Ok;
 }
 
+// The main window shows the grid on white ground for as long as one of these lives.
+class SchemaSuBianco {
+ public:
+  explicit SchemaSuBianco(bool senzaSoluzioni) {
+    LasciaAnteprima();
+    if (Superficie* finestra = FinestraPrincipale()) {
+      sfondo_ = finestra->Sfondo();
+      finestra->Sfondo(ColoreBianco);
+    }
+    if (senzaSoluzioni) NascondiSoluzioni = Vero;
+    RidisegnaSchema();
+  }
+  ~SchemaSuBianco() {
+    if (Superficie* finestra = FinestraPrincipale()) finestra->Sfondo(sfondo_);
+    NascondiSoluzioni = Falso;
+    RidisegnaSchema();
+  }
+
+ private:
+  Colore sfondo_ = ColoreBianco;
+};
+
 }  // namespace
 
-SchemaSuBianco::SchemaSuBianco(bool senzaSoluzioni) {
-  LasciaAnteprima();
-  if (Superficie* finestra = FinestraPrincipale()) {
-    sfondo_ = finestra->Sfondo();
-    finestra->Sfondo(ColoreBianco);
-  }
-  if (senzaSoluzioni) NascondiSoluzioni = Vero;
-  RidisegnaSchema();
-}
-
-SchemaSuBianco::~SchemaSuBianco() {
-  if (Superficie* finestra = FinestraPrincipale()) finestra->Sfondo(sfondo_);
-  NascondiSoluzioni = Falso;
-  RidisegnaSchema();
-}
-
-bool ScriviPicture(const Percorso& file) {
+std::string BitmapSuBianco(bool senzaSoluzioni) {
+  const SchemaSuBianco suBianco(senzaSoluzioni);
   Superficie* finestra = FinestraPrincipale();
-  const std::string bitmap = finestra ? finestra->Bitmap() : std::string();
+  return finestra ? finestra->Bitmap() : std::string();
+}
+
+bool ScriviPicture(const Percorso& file, const std::string& bitmap) {
   if (!bitmap.empty()) return ScriviUscita(file, bitmap);
   AvvisaErroreDiUscita();
   return false;
@@ -69,12 +89,11 @@ void SalvaPicture() {
   if (NumColonne == 0) return;
   LaFinestra().TogliLabel1();
   const std::string nome = ChiediNome();
-  if (nome.empty()) return;
-  const Percorso file = CartellaProgramma / AUtf8(nome);
+  if (SenzaSpazi(nome).empty()) return;
+  const Percorso file = FileDiUscita(PercorsoDigitato(nome));
   if (!AccettaSovrascrittura(file, nome)) return;
   ChiUsa().CediAiMessaggi();
-  const SchemaSuBianco suBianco(false);
-  if (!ScriviPicture(file)) return;
+  if (!ScriviPicture(file, BitmapSuBianco(false))) return;
   NomeImmagine = nome;
   ApriUscita(file);
 }

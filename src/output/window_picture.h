@@ -1,27 +1,19 @@
 #pragma once
 
-#include "editor/settings.h"
-#include "platform/surface.h"
+#include <string>
+
+#include "platform/files.h"
 
 // The crossword as the main window shows it, as a picture file.
 namespace telarium {
 
-/// The main window shows the grid on white ground for as long as one of these lives, without its
-/// letters if so wanted, and then as before. A print preview is left for good. Wants a grid.
-class SchemaSuBianco {
- public:
-  explicit SchemaSuBianco(bool senzaSoluzioni);
-  ~SchemaSuBianco();
-  SchemaSuBianco(const SchemaSuBianco&) = delete;
-  SchemaSuBianco& operator=(const SchemaSuBianco&) = delete;
+/// The crossword on white ground, without its letters if so wanted: the whole drawing surface of
+/// the main window, bars' bands included, in its real size, as the bytes of a Windows bitmap. The
+/// window shows the grid as before then; a print preview is left for good. Wants a grid.
+std::string BitmapSuBianco(bool senzaSoluzioni);
 
- private:
-  Colore sfondo_ = ColoreBianco;
-};
-
-/// Writes the whole drawing surface of the main window, bars' bands included, in its real size as a
-/// Windows bitmap. A failure shows the message of the output commands and gives false.
-[[nodiscard]] bool ScriviPicture(const Percorso& file);
+/// Writes such bytes. A failure shows the message of the output commands and gives false.
+[[nodiscard]] bool ScriviPicture(const Percorso& file, const std::string& bitmap);
 
 /// MenuSaveWMF: asks for a file name, taken in the program folder unless it says another one, and
 /// whether an older file shall go; writes the picture there and opens it in the user's program.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "platform/files.h"
 
 // The crossword for a word processor: as the table page, or as a picture and texts that a document
@@ -15,13 +13,8 @@ void EsportaInWord();
 /// happens.
 void AperturaWord();
 
-/// Both lists of clues as plain text, one line each: what NONOME.TXT holds.
-std::string TestoNonome();
-
-/// Both lists of clues as a page: what NONOME.html holds.
-std::string PaginaNonome();
-
-/// Writes NONOME.TXT and NONOME.html into a folder. A failure has been told.
+/// Writes the lists of clues into a folder, as plain text in NONOME.TXT and as a page in
+/// NONOME.html: both, or what was there stays. A failure has been told.
 [[nodiscard]] bool ScriviTestiNonome(const Percorso& cartella);
 
 /// menuwpic: writes NONOME.BMP, with the letters, NONOME.TXT and NONOME.html into the program

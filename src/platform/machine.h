@@ -48,7 +48,8 @@ class Macchina {
   virtual bool ApriFile(const Percorso& file) = 0;
   virtual bool ApriIndirizzo(const std::string& indirizzo) = 0;
 
-  /// Opens a document in the word processor. False when there is none, or no such file.
+  /// Opens a document in the word processor; a web page that names no encoding is in the code page.
+  /// False when there is none, or no such file.
   virtual bool ApriInWord(const Percorso& documento) = 0;
 
   /// Opens the word processor on a new document of that text. False when there is none.

@@ -35,7 +35,7 @@ class Stampante {
   virtual bool Grassetto() const = 0;
 
   /// Shows the printer dialog and begins a job of that name. Null when the user gave up, or when
-  /// the job cannot begin.
+  /// the job cannot begin, which has been told.
   virtual std::unique_ptr<LavoroDiStampa> IniziaLavoro(const std::string& nome) = 0;
 };
 

@@ -7,6 +7,8 @@
 #include "output/static_page.h"
 #include "output/web_opening.h"
 #include "output/word_export.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
 #include "telar/command.h"
 #include "telar/files.h"
 
@@ -22,10 +24,19 @@ bool ApriPerUscita(const Argomenti& argomenti) {
   return true;
 }
 
+// A page in the place of its own crossword would be the end of that.
+bool SulSuoCruciverba(const Argomenti& argomenti, const Percorso& uscita) {
+  std::error_code ignorato;
+  if (!std::filesystem::equivalent(argomenti.liberi[0], uscita, ignorato)) return false;
+  Avvisa("L'uscita è il cruciverba stesso: nessun file scritto."_cp);
+  return true;
+}
+
 Stato ScriviPagina(const Argomenti& argomenti, const char* nomeIniziale, const std::string& testo) {
   const Percorso file = argomenti.Ha("--uscita") ? Percorso(argomenti.Valore("--uscita"))
                                                  : FileDiUscita(nomeIniziale);
-  return ScriviUscita(file, testo) ? Stato::Fatto : Stato::Fallito;
+  const bool scritta = !SulSuoCruciverba(argomenti, file) && ScriviUscita(file, testo);
+  return scritta ? Stato::Fatto : Stato::Fallito;
 }
 
 std::int16_t ModoDa(const std::string& valore) {

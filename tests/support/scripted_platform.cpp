@@ -127,9 +127,10 @@ bool ScriptedMachine::ScriviInWord(const std::string& testo) {
 }
 
 std::optional<std::string> ScriptedMachine::Preleva(const std::string& indirizzo,
-                                                    const LimitiDiPrelievo&,
+                                                    const LimitiDiPrelievo& limiti,
                                                     const ProseguePrelievo& prosegue) {
   fetched.push_back(indirizzo);
+  limits = limiti;
   if (prosegue && !prosegue(0)) return std::nullopt;
   const auto page = pages.find(indirizzo);
   return page == pages.end() ? fetches : page->second;

@@ -84,6 +84,7 @@ class ScriptedMachine : public MacchinaIsolata {
   std::vector<std::string> opened;   // files and addresses
   std::vector<std::string> started;  // programs
   std::vector<std::string> fetched;  // addresses
+  LimitiDiPrelievo limits{};         // of the last fetch
   std::vector<std::string> written;  // texts for the word processor
   std::vector<std::string> inWord;   // documents opened in it
   bool opens = true;

@@ -5,8 +5,7 @@ namespace {
 
 constexpr const char* OutputError =
     "Si è verificato un errore di scrittura/accesso al file o drive!, controlla che eventualmente "
-    "i "
-    "files non siano impostati a sola lettura.\n";
+    "i files non siano impostati a sola lettura.\n";
 
 class TelarPages : public Telar {
  protected:

@@ -393,7 +393,11 @@ void Form1::CambiataMisura() {
   const QSize minima(InPixel(MinLarghezza), InPixel(MinAltezza));
   if (minimumSize() != minima) setMinimumSize(minima);
   // The page of a preview does not fit the new size.
-  Command3d15Visibile() ? ChiudiAnteprima() : RidisegnaSchema();
+  if (Command3d15Visibile()) {
+    ChiudiAnteprima();
+  } else {
+    RidisegnaSchema();
+  }
 }
 
 void Form1::PassaSuArea(QPointF punto) {

@@ -58,6 +58,12 @@ void Preleva(Form1&) {
   Prelevadefinizioni(Modo);
 }
 
+// A preview shows what the sheet will show.
+void CommutaSoluzioni(Form1& form) {
+  CommutaStampaSoluzioni();
+  if (form.Command3d15Visibile()) AnteprimaSchema();
+}
+
 template <int Larghezza>
 void MostraPicture(Form1&) {
   StampaHTMLLarga(Larghezza);
@@ -119,7 +125,7 @@ constexpr ComandoDiVoce comandi[] = {
     {"MenuL2", ImpostaLingua<2>},
     {"MenuL3", ImpostaLingua<3>},
     {"MenuL4", ImpostaLingua<4>},
-    {"MenuVis", [](Form1&) { CommutaStampaSoluzioni(); }},
+    {"MenuVis", CommutaSoluzioni},
     {"Menurett", [](Form1&) { CommutaRettangoloParola(); }},
     {"MenuAiuto", [](Form1&) { ApriAiuto(); }},
     {"menutelari", VaiA<Indirizzo::PaginaProdotto>},

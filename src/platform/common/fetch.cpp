@@ -30,9 +30,24 @@ std::size_t Raccogli(const char* dati, std::size_t unita, std::size_t quante, vo
 using Presa = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
 using Insieme = std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)>;
 
+// Users type blanks and accents, which no address has: "%" escapes stand for them.
+std::string ConEscape(std::string_view indirizzo) {
+  constexpr std::string_view cifre = "0123456789ABCDEF";
+  std::string conEscape;
+  for (const char carattere : indirizzo) {
+    const auto codice = static_cast<unsigned char>(carattere);
+    if (codice > ' ' && codice < 0x7F) {
+      conEscape += carattere;
+    } else {
+      conEscape += {'%', cifre[codice / 16], cifre[codice % 16]};
+    }
+  }
+  return conEscape;
+}
+
 void Prepara(CURL* presa, const std::string& indirizzo, std::chrono::milliseconds tempo,
              Raccolta& raccolta) {
-  curl_easy_setopt(presa, CURLOPT_URL, indirizzo.c_str());
+  curl_easy_setopt(presa, CURLOPT_URL, ConEscape(indirizzo).c_str());
   curl_easy_setopt(presa, CURLOPT_PROTOCOLS_STR, Protocolli);
   curl_easy_setopt(presa, CURLOPT_REDIR_PROTOCOLS_STR, Protocolli);
   curl_easy_setopt(presa, CURLOPT_FOLLOWLOCATION, 1L);

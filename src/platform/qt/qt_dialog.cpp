@@ -1,5 +1,6 @@
 #include "platform/qt/qt_dialog.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QScreen>
 #include <QTextDocument>
@@ -8,6 +9,17 @@
 #include <utility>
 
 namespace telarium {
+
+QWidget* GenitoreDiScatola(QWidget* principale) {
+  QWidget* modale = QApplication::activeModalWidget();
+  return modale ? modale : principale;
+}
+
+void TogliFigure(const QDialog& scatola) {
+  for (auto* pulsante : scatola.findChildren<QPushButton*>())
+    pulsante->setIcon({});
+}
+
 namespace {
 
 constexpr qsizetype MaxSenzaSpazi = 1000;  // characters of a word that is broken as others are

@@ -10,6 +10,12 @@
 // What the program's own windows and their controls have in common.
 namespace telarium {
 
+/// The window that a box belongs to: the modal one that is open, else the main window.
+QWidget* GenitoreDiScatola(QWidget* principale);
+
+/// Takes the pictures from a box's buttons: the message boxes have none, and so has no other.
+void TogliFigure(const QDialog& scatola);
+
 /// Gives a control its name, by which tests and style sheets find it.
 template <class Controllo>
 Controllo* Chiamato(const QString& nome, Controllo* controllo) {

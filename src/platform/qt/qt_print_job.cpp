@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QPdfWriter>
 #include <QPrinter>
+#include <algorithm>
 #include <utility>
 
 #include "platform/codepage.h"
@@ -23,6 +24,9 @@ class DellaStampante : public Carta {
  public:
   explicit DellaStampante(QPrinter& stampante) : stampante_(stampante) {}
   QPagedPaintDevice& Pagine() override { return stampante_; }
+  void Concludi() override {
+    if (stampante_.printerState() == QPrinter::Error) AvvisaStampaFallita();
+  }
   void Abbandona() override { stampante_.abort(); }
 
  private:
@@ -67,6 +71,10 @@ std::unique_ptr<Carta> CartaDellaStampante(QPrinter& stampante) {
 
 std::unique_ptr<Carta> CartaPdf(const QPrinter& stampante) {
   return std::make_unique<NelPdf>(stampante);
+}
+
+void AvvisaStampaFallita() {
+  Avvisa("Non è possibile stampare: la stampante non risponde."_cp, {}, Icona::Avviso);
 }
 
 LavoroQt::LavoroQt(std::unique_ptr<Carta> carta, const TipoIniziale& tipo)

@@ -30,6 +30,9 @@ class Carta {
 std::unique_ptr<Carta> CartaDellaStampante(QPrinter& stampante);
 std::unique_ptr<Carta> CartaPdf(const QPrinter& stampante);
 
+/// Tells that the printer does not print.
+void AvvisaStampaFallita();
+
 /// The type that a job begins with.
 struct TipoIniziale {
   std::string famiglia;

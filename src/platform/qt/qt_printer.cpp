@@ -4,9 +4,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QPrintDialog>
-#include <QPushButton>
 #include <QStandardPaths>
 
+#include "platform/qt/qt_dialog.h"
 #include "platform/qt/qt_fonts.h"
 #include "platform/qt/qt_print_job.h"
 #include "platform/qt/qt_text.h"
@@ -52,14 +52,12 @@ void StampanteQt::ProponiFile(const QString& nome) {
 }
 
 bool StampanteQt::Chiedi() {
-  QWidget* modale = QApplication::activeModalWidget();
-  QPrintDialog finestra(scelta_.get(), modale ? modale : finestra_.data());
+  QPrintDialog finestra(scelta_.get(), GenitoreDiScatola(finestra_));
   finestra.setObjectName(u"CommonDialog1");
   finestra.setWindowTitle(QStringLiteral("Stampa"));
   finestra.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies |
                       QAbstractPrintDialog::PrintShowPageSize);
-  for (auto* pulsante : finestra.findChildren<QPushButton*>())
-    pulsante->setIcon({});  // no other box has pictures on its buttons
+  TogliFigure(finestra);
   finestra.setMinimumWidth(LarghezzaFinestra);
   return finestra.exec() == QDialog::Accepted;
 }
@@ -73,8 +71,9 @@ std::unique_ptr<LavoroDiStampa> StampanteQt::IniziaLavoro(const std::string& nom
   auto lavoro =
       std::make_unique<LavoroQt>(pdf ? CartaPdf(stampante) : CartaDellaStampante(stampante),
                                  TipoIniziale{famiglia_, corsivo_, grassetto_});
-  if (!lavoro->Iniziato()) return nullptr;
-  return lavoro;
+  if (lavoro->Iniziato()) return lavoro;
+  AvvisaStampaFallita();
+  return nullptr;
 }
 
 }  // namespace telarium

@@ -11,6 +11,7 @@
 #include <span>
 
 #include "platform/qt/qt_colour.h"
+#include "platform/qt/qt_dialog.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/qt_wait.h"
 
@@ -21,24 +22,24 @@ constexpr qsizetype MaxCaratteri = 2000;  // more would not fit on a screen
 constexpr qsizetype MaxSenzaInterruzioni = 60;
 constexpr int MaxCaratteriPerRiga = 70;
 
-struct Pulsante {
+struct Bottone {
   const char16_t* testo;
   const char* nome;
   Risposta risposta;
   QMessageBox::ButtonRole ruolo;
 };
 
-constexpr Pulsante Ok = {u"OK", "OK", Risposta::Ok, QMessageBox::AcceptRole};
-constexpr Pulsante Si = {u"&Sì", "Si", Risposta::Si, QMessageBox::YesRole};
-constexpr Pulsante No = {u"&No", "No", Risposta::No, QMessageBox::NoRole};
-constexpr Pulsante Annulla = {u"Annulla", "Annulla", Risposta::Annulla, QMessageBox::RejectRole};
+constexpr Bottone Ok = {u"OK", "OK", Risposta::Ok, QMessageBox::AcceptRole};
+constexpr Bottone Si = {u"&Sì", "Si", Risposta::Si, QMessageBox::YesRole};
+constexpr Bottone No = {u"&No", "No", Risposta::No, QMessageBox::NoRole};
+constexpr Bottone Annulla = {u"Annulla", "Annulla", Risposta::Annulla, QMessageBox::RejectRole};
 
 // In each set the last one is what Escape and the close box mean.
-std::span<const Pulsante> PulsantiDi(Pulsanti quali) {
-  static constexpr Pulsante ok[] = {Ok};
-  static constexpr Pulsante okAnnulla[] = {Ok, Annulla};
-  static constexpr Pulsante siNo[] = {Si, No};
-  static constexpr Pulsante siNoAnnulla[] = {Si, No, Annulla};
+std::span<const Bottone> PulsantiDi(Pulsanti quali) {
+  static constexpr Bottone ok[] = {Ok};
+  static constexpr Bottone okAnnulla[] = {Ok, Annulla};
+  static constexpr Bottone siNo[] = {Si, No};
+  static constexpr Bottone siNoAnnulla[] = {Si, No, Annulla};
   switch (quali) {
     case Pulsanti::OkAnnulla:
       return okAnnulla;
@@ -87,12 +88,6 @@ QString TestoQt(const std::string& testo) {
   return qt;
 }
 
-// The message boxes have no pictures on their buttons, and so has no other box.
-void TogliFigure(const QDialog& scatola) {
-  for (auto* pulsante : scatola.findChildren<QPushButton*>())
-    pulsante->setIcon({});
-}
-
 // A prompt wraps once it is wider than a line that reads well; it is text, whatever it looks like.
 void DisponiSuPiuRighe(QLabel& etichetta) {
   etichetta.setTextFormat(Qt::PlainText);
@@ -106,8 +101,7 @@ void DisponiSuPiuRighe(QLabel& etichetta) {
 
 // A box belongs to the window that brought it up.
 QWidget* UtenteQt::Genitore() const {
-  QWidget* modale = QApplication::activeModalWidget();
-  return modale ? modale : finestra_.data();
+  return GenitoreDiScatola(finestra_);
 }
 
 Risposta UtenteQt::MostraMessaggio(const Messaggio& messaggio) {
@@ -117,10 +111,10 @@ Risposta UtenteQt::MostraMessaggio(const Messaggio& messaggio) {
   scatola.setIcon(IconaQt(messaggio.icona));
   scatola.setTextFormat(Qt::PlainText);
   scatola.setText(TestoQt(messaggio.testo));
-  const std::span<const Pulsante> pulsanti = PulsantiDi(messaggio.pulsanti);
+  const std::span<const Bottone> pulsanti = PulsantiDi(messaggio.pulsanti);
   std::map<QAbstractButton*, Risposta> risposte;
   QPushButton* bottone = nullptr;
-  for (const Pulsante& pulsante : pulsanti) {
+  for (const Bottone& pulsante : pulsanti) {
     bottone = scatola.addButton(QString::fromUtf16(pulsante.testo), pulsante.ruolo);
     bottone->setObjectName(QLatin1StringView(pulsante.nome));
     risposte[bottone] = pulsante.risposta;

@@ -12,8 +12,7 @@
 namespace telarium {
 namespace {
 
-constexpr int PrimaDiMostrarsi = 500;  // milliseconds
-constexpr int LarghezzaMinima = 320;   // pixels
+constexpr int LarghezzaMinima = 320;  // pixels
 
 QLabel* Etichetta(const char16_t* nome, const QString& testo, QWidget* genitore) {
   auto* etichetta = Chiamato(QString::fromUtf16(nome), new QLabel(testo, genitore));
@@ -30,7 +29,9 @@ QString ByteRicevuti(std::size_t byte) {
 
 }  // namespace
 
-AttesaQt::AttesaQt(const QString& testo, QWidget* genitore) : QDialog(genitore) {
+AttesaQt::AttesaQt(const QString& testo, QWidget* genitore,
+                   std::chrono::milliseconds primaDiMostrarsi)
+    : QDialog(genitore), primaDiMostrarsi_(primaDiMostrarsi) {
   setObjectName(u"Attesa");
   setWindowTitle(QGuiApplication::applicationDisplayName());
   setModal(true);
@@ -51,7 +52,7 @@ AttesaQt::AttesaQt(const QString& testo, QWidget* genitore) : QDialog(genitore) 
 
 bool AttesaQt::Prosegue(std::size_t byte) {
   byte_->setText(ByteRicevuti(byte));
-  if (!isVisible() && trascorso_.hasExpired(PrimaDiMostrarsi)) show();
+  if (!isVisible() && trascorso_.hasExpired(primaDiMostrarsi_.count())) show();
   // Before the box takes all input, that is kept for later, a close of a window too.
   QCoreApplication::processEvents(isVisible() ? QEventLoop::AllEvents
                                               : QEventLoop::ExcludeUserInputEvents);

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <chrono>
 
 #include "platform/user.h"
 
@@ -13,7 +14,8 @@ namespace telarium {
 /// before it shows has its effect behind a short wait, and none when it shows.
 class AttesaQt : public QDialog, public Attesa {
  public:
-  AttesaQt(const QString& testo, QWidget* genitore);
+  AttesaQt(const QString& testo, QWidget* genitore,
+           std::chrono::milliseconds primaDiMostrarsi = std::chrono::milliseconds(500));
 
   bool Prosegue(std::size_t byte) override;
 
@@ -22,6 +24,7 @@ class AttesaQt : public QDialog, public Attesa {
 
  private:
   QElapsedTimer trascorso_;
+  std::chrono::milliseconds primaDiMostrarsi_;
   QLabel* byte_;
   bool interrotta_ = false;
 };

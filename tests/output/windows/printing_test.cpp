@@ -57,7 +57,7 @@ class PrintingTest : public Form1Test {
     return Output("pdftotext", {QStringLiteral("-layout"), PercorsoAQt(file), QStringLiteral("-")});
   }
   static QImage FirstPage(const Percorso& file, int dotsPerInch) {
-    const QString picture = PercorsoAQt(file) + QStringLiteral(".bild");
+    const QString picture = PercorsoAQt(file) + QStringLiteral(".picture");
     Output("pdftoppm", {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-r"),
                         QString::number(dotsPerInch), PercorsoAQt(file), picture});
     return QImage(picture + QStringLiteral(".png"));

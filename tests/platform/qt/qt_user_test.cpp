@@ -12,6 +12,7 @@
 #include <functional>
 
 #include "platform/codepage.h"
+#include "platform/qt/qt_wait.h"
 #include "support/window_helpers.h"
 
 namespace telarium {
@@ -159,12 +160,12 @@ class WaitTest : public UserTest {
 };
 
 TEST_F(WaitTest, AShortWaitShowsNoBoxAndPaintsTheWindow) {
-  const auto wait = user.IniziaAttesa("Prelievo");
+  AttesaQt wait(QStringLiteral("Prelievo"), &window, std::chrono::hours(1));
   window.paints = 0;
   window.update();
   QDeadlineTimer deadline(Patience);
   while (window.paints == 0 && !deadline.hasExpired())
-    EXPECT_TRUE(wait->Prosegue(0));
+    EXPECT_TRUE(wait.Prosegue(0));
   EXPECT_GT(window.paints, 0);
   EXPECT_FALSE(Box());
 }
