@@ -1,9 +1,12 @@
 #include "platform/qt/qt_printer.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QPrintDialog>
+#include <QPrinterInfo>
 #include <QStandardPaths>
 
 #include "platform/qt/qt_dialog.h"
@@ -20,6 +23,17 @@ constexpr int LarghezzaFinestra = 560;  // pixels: room for the name of a file w
 QString CartellaDeiDocumenti() {
   const QString documenti = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   return QDir(documenti).exists() ? documenti : QDir::homePath();
+}
+
+// The system's dialog offers a choice of pages, where all are printed, and options of printers even
+// if the only one is that of PDF files, which has none of them.
+void TogliScelteSenzaEffetto(const QPrintDialog& finestra) {
+  if (auto* pagine = finestra.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) pagine->hide();
+  const auto* pulsanti = finestra.findChild<QDialogButtonBox*>();
+  if (!pulsanti || !QPrinterInfo::availablePrinterNames().isEmpty()) return;
+  for (QAbstractButton* pulsante : pulsanti->buttons()) {
+    if (pulsanti->buttonRole(pulsante) == QDialogButtonBox::ResetRole) pulsante->hide();
+  }
 }
 
 }  // namespace
@@ -58,6 +72,7 @@ bool StampanteQt::Chiedi() {
   finestra.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies |
                       QAbstractPrintDialog::PrintShowPageSize);
   TogliFigure(finestra);
+  TogliScelteSenzaEffetto(finestra);
   finestra.setMinimumWidth(LarghezzaFinestra);
   return finestra.exec() == QDialog::Accepted;
 }
