@@ -34,7 +34,7 @@ class Fetch : public TelariumTest {
 TEST_F(Fetch, GivesWholeBodiesOnly) {
   const std::string body("7\0\r\n\xE8", 5);
   const Server good(Server::Reply("200 OK", "", body));
-  EXPECT_EQ(From(good.Address() + "/x"), body);
+  EXPECT_EQ(From(good.Address() + "/x y\xC3\xA8"), body);
   EXPECT_EQ(From("HTTP" + good.Address().substr(4)), body);
   const Server empty(Server::Reply("200 OK", "Content-Length: 0\r\n", ""));
   EXPECT_EQ(From(empty.Address()), "");

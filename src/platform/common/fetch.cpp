@@ -1,5 +1,6 @@
 #include "platform/common/fetch.h"
 
+#include <algorithm>
 #include <curl/curl.h>
 #include <memory>
 #include <string_view>
@@ -30,11 +31,14 @@ std::size_t Raccogli(const char* dati, std::size_t unita, std::size_t quante, vo
 using Presa = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
 using Insieme = std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)>;
 
-// Users type blanks and accents, which no address has: "%" escapes stand for them.
+// Users type blanks and accents, which no address has: "%" escapes stand for them behind the host,
+// whose name the library knows how to write.
 std::string ConEscape(std::string_view indirizzo) {
   constexpr std::string_view cifre = "0123456789ABCDEF";
-  std::string conEscape;
-  for (const char carattere : indirizzo) {
+  const std::size_t host = indirizzo.find("://") + 3;
+  const std::size_t percorso = std::min(indirizzo.find_first_of("/?", host), indirizzo.size());
+  std::string conEscape(indirizzo.substr(0, percorso));
+  for (const char carattere : indirizzo.substr(percorso)) {
     const auto codice = static_cast<unsigned char>(carattere);
     if (codice > ' ' && codice < 0x7F) {
       conEscape += carattere;
