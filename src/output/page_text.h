@@ -8,8 +8,8 @@
 
 // What the web pages have in common. A page is text in the code page, as a crossword file is, and
 // nothing that goes into it is escaped: a clue may carry markup, and a browser has to guess the
-// encoding, which no page names. The markup itself is kept as it has always been written, unbalanced
-// tags included, for whoever works on such pages with tools.
+// encoding, which no page names. The markup itself is kept as it has always been written,
+// unbalanced tags included, for whoever works on such pages with tools.
 namespace telarium {
 
 /// A page as it grows, from texts, characters and numbers in decimal.
