@@ -25,18 +25,16 @@ constexpr Colore Grey = 0xC0C0C0;
 // A surface that tells how it looked when a picture of it was taken.
 class Photographed : public RecordingSurface {
  public:
-  struct Picture {
-    Colore ground = 0;
-    Texts drawn;  // texts since the surface was cleared
-  };
-  std::vector<Picture> pictures;
+  Colore pictureGround = 0;
+  Texts pictured;
 
   std::string Bitmap() override {
-    pictures.push_back({ground, Drawn()});
+    pictureGround = ground;
+    pictured = Drawn();
     return bitmap;
   }
 
-  // The texts on the surface: letters, then numbers.
+  // The texts since the surface was cleared: letters, then numbers.
   Texts Drawn() const {
     Texts drawn;
     for (const std::string& call : calls) {
@@ -55,14 +53,7 @@ class Exports : public TelariumTest {
     platform.surface = &surface;
   }
 
-  // The commands of the menus that need a grid, by their entries.
   using Command = void (*)();
-  static constexpr std::pair<const char*, Command> Commands[] = {
-      {"menusphtml", MostraPaginaStatica},   {"mENU400", [] { StampaHTMLLarga(400); }},
-      {"menujava", PubblicaCruciverba},      {"Menuhtmlword", EsportaInWord},
-      {"menuwpic", EsportaInWordConPicture}, {"menuvbhtml", EsportaDaModello},
-      {"MenuSaveWMF", SalvaPicture},
-  };
 
   Texts Files() const {
     const std::vector<Percorso> names = ElencaFile(CartellaProgramma, "*");
@@ -70,13 +61,31 @@ class Exports : public TelariumTest {
   }
   std::string Made(const Percorso& name) { return ReadFile(InFolder(name)); }
 
-  // The window is as it was before an export: grey, with letters, and so will the next redraw be.
-  void ExpectWindowBack(const Texts& drawn) {
-    EXPECT_EQ(surface.ground, Grey);
-    EXPECT_EQ(NascondiSoluzioni, Falso);
-    EXPECT_EQ(surface.Drawn(), drawn);
+  void DrawOnScreen() {
+    Draw({"CA", "#."});
+    RidisegnaSchema();
+    whole = surface.Drawn();
   }
 
+  // A picture on white was taken; the window is as it was before: grey, with letters, and so will
+  // the next redraw be.
+  void ExpectPictureOf(const Texts& pictured) {
+    EXPECT_EQ(surface.pictureGround, ColoreBianco);
+    EXPECT_EQ(surface.pictured, pictured);
+    ExpectWindowBack();
+  }
+  void ExpectWindowBack() {
+    EXPECT_EQ(surface.ground, Grey);
+    EXPECT_EQ(NascondiSoluzioni, Falso);
+    EXPECT_EQ(surface.Drawn(), whole);
+  }
+
+  void Save(std::optional<std::string> name) {
+    user.AnswerText(std::move(name));
+    SalvaPicture();
+  }
+
+  Texts whole;
   Photographed surface;
   RecordingWindow window;
 };
@@ -89,10 +98,6 @@ struct Case {
   bool italic = false;
   bool hidden = false;
 };
-
-void PrintTo(const Case& one, std::ostream* out) {
-  *out << one.folder;
-}
 
 class Pages : public Exports, public ::testing::WithParamInterface<Case> {
  protected:
@@ -109,57 +114,44 @@ class Pages : public Exports, public ::testing::WithParamInterface<Case> {
     StampaSoluzioni = GetParam().hidden ? Vero : Falso;
     RidisegnaSchema();
   }
-
-  // Compares what a command makes, if the folder says what it has to be.
-  int Compare(const char* expected, const char* made, Exports::Command command) {
-    if (!std::filesystem::exists(Source(expected))) return 0;
-    SCOPED_TRACE(expected);
-    command();
-    EXPECT_EQ(FirstDifference(Made(made), ReadFile(Source(expected))), "");
-    return 1;
-  }
 };
 
 TEST_P(Pages, AreTheSameToTheByte) {
+  const std::tuple<const char*, const char*, Command> pages[] = {
+      {"static.html", "telarium_html.html", MostraPaginaStatica},
+      {"static_word.html", "telarium_html.html", EsportaInWord},
+      {"picture.html", "telarium_html.html", [] { StampaHTMLLarga(640); }},
+      {"form.html", "telarium_form.html", PubblicaCruciverba},
+      {"NONOME.TXT", "NONOME.TXT", EsportaInWordConPicture},
+      {"NONOME.html", "NONOME.html", EsportaInWordConPicture},
+  };
   int compared = 0;
-  compared += Compare("static.html", "telarium_html.html", MostraPaginaStatica);
-  compared += Compare("static_word.html", "telarium_html.html", EsportaInWord);
-  compared += Compare("picture.html", "telarium_html.html", [] { StampaHTMLLarga(640); });
-  compared += Compare("form.html", "telarium_form.html", PubblicaCruciverba);
-  compared += Compare("NONOME.TXT", "NONOME.TXT", EsportaInWordConPicture);
-  compared += Compare("NONOME.html", "NONOME.html", EsportaInWordConPicture);
+  for (const auto& [expected, made, command] : pages) {
+    if (!std::filesystem::exists(Source(expected))) continue;
+    ++compared;
+    command();
+    EXPECT_EQ(FirstDifference(Made(made), ReadFile(Source(expected))), "") << expected;
+  }
   EXPECT_GT(compared, 0);
 }
 
 TEST_P(Pages, GiveTheCrosswordBack) {
-  const std::string file = ReadFile(Source("crossword.tlrm"));
   const std::string page = PaginaInterattiva().value();
   const std::string block = page.substr(page.find(InizioDelBlocco) + InizioDelBlocco.size());
-  EXPECT_TRUE(block.starts_with(file + " FINE CODICE HTML SALVATAGGIO -->\r\n"));
   ASSERT_EQ(ApriTestoDiCruciverba(block), Apertura::Intera);
   RidisegnaSchema();
-  EXPECT_EQ(FirstDifference(TestoDelCruciverba().value(), file), "");
+  EXPECT_EQ(FirstDifference(TestoDelCruciverba().value(), ReadFile(Source("crossword.tlrm"))), "");
   EXPECT_EQ(FirstDifference(PaginaInterattiva().value(), page), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(, Pages,
-                         ::testing::Values(Case{"small"}, Case{.folder = "hidden", .hidden = true},
-                                           Case{.folder = "italic_in_folder",
-                                                .name = "/casa/Perché no/gita.tlrm",
-                                                .typeface = "Times New Roman",
-                                                .italic = true},
-                                           Case{"no_clues"}, Case{"black"}, Case{"one_column"},
-                                           Case{"one_row"}, Case{"columns_19"}, Case{"columns_20"},
-                                           Case{"columns_53"}),
+constexpr Case Cases[] = {
+    {"small"},      {.folder = "hidden", .hidden = true},
+    {"no_clues"},   {"italic_in_folder", "/casa/Perché no/gita.tlrm", "Times New Roman", true},
+    {"black"},      {"one_column"},
+    {"one_row"},    {"columns_19"},
+    {"columns_20"}, {"columns_53"}};
+INSTANTIATE_TEST_SUITE_P(, Pages, ::testing::ValuesIn(Cases),
                          [](const auto& info) { return std::string(info.param.folder); });
-
-TEST_F(Exports, AFullGridHasACheckForEachOfItsCells) {
-  Draw(Texts(30, std::string(53, 'A')));
-  const std::string page = PaginaInterattiva().value();
-  EXPECT_NE(page.find(R"(<input type="text" name="num1590" size="1")"), std::string::npos);
-  EXPECT_LT(page.find("theForm.num1590.value"), page.find("theForm.num1.value"));
-  EXPECT_NE(page.find(" if(finite == 1590) {\r\n"), std::string::npos);
-}
 
 TEST_F(Exports, ACharacterThatNoFileHoldsMakesNoPage) {
   Draw({"\xFF\xFF"});
@@ -170,105 +162,69 @@ TEST_F(Exports, ACharacterThatNoFileHoldsMakesNoPage) {
 
 TEST_F(Exports, WithoutAGridNoCommandDoesAnything) {
   WriteFile("template.txt", "' -----\r\n");
-  for (const auto& [entry, command] : Commands) {
-    SCOPED_TRACE(entry);
+  for (const Command command : {MostraPaginaStatica, StampaHTML, PubblicaCruciverba, EsportaInWord,
+                                EsportaInWordConPicture, EsportaDaModello, SalvaPicture})
     command();
-  }
   EXPECT_EQ(Files(), Texts{"template.txt"});
   EXPECT_TRUE(user.requests.empty() && machine.opened.empty() && machine.inWord.empty());
   EXPECT_TRUE(surface.calls.empty());
 }
 
 TEST_F(Exports, ThePictureLiesUnderBothItsNamesAndShowsNoSolutionsIfSoWanted) {
-  Draw({"CA", "#."});
-  RidisegnaSchema();
-  const Texts whole = surface.Drawn();
-  for (const bool hidden : {false, true}) {
+  DrawOnScreen();
+  window.preview = true;  // left first
+  ModoGriglia = ModoAnteprima;
+  const std::tuple<bool, int, const char*> cases[] = {{false, 400, R"("400" height="300")"},
+                                                      {true, 1600, R"("1600" height="1200")"}};
+  for (const auto& [hidden, width, size] : cases) {
     StampaSoluzioni = hidden ? Vero : Falso;
-    surface.bitmap = hidden ? "without letters" : "with letters";
-    StampaHTMLLarga(400);
-    EXPECT_EQ(surface.pictures.back().ground, ColoreBianco);
-    EXPECT_EQ(surface.pictures.back().drawn, hidden ? (Texts{"1", "2"}) : whole);
-    EXPECT_EQ(Made("_filBMP_.BMP"), surface.bitmap);
-    EXPECT_EQ(Made("_filbmp_.bmp"), surface.bitmap);
-    ExpectWindowBack(whole);
+    surface.bitmap = size;
+    StampaHTMLLarga(width);
+    ExpectPictureOf(hidden ? (Texts{"1", "2"}) : whole);
+    EXPECT_EQ(Made("_filBMP_.BMP"), size);
+    EXPECT_EQ(Made("_filbmp_.bmp"), size);
+    EXPECT_NE(Made("telarium_html.html").find(Unisci("_filbmp_.bmp\" width=", size, "></p>\r\n")),
+              std::string::npos);
+    EXPECT_EQ(LarghezzaPicture, width);
   }
   EXPECT_EQ(machine.opened, Texts(2, InFolder("telarium_html.html")));
+  EXPECT_FALSE(window.preview);
+  EXPECT_NE(ModoGriglia, ModoAnteprima);
   EXPECT_EQ(SchemaModificato, Falso);
 }
 
-TEST_F(Exports, ThePictureIsShownThreeQuartersAsHighAsWide) {
-  Draw({"CASA"});
-  const std::pair<int, const char*> sizes[] = {
-      {400, R"("400" height="300")"},   {640, R"("640" height="480")"},
-      {800, R"("800" height="600")"},   {1024, R"("1024" height="768")"},
-      {1280, R"("1280" height="960")"}, {1600, R"("1600" height="1200")"}};
-  for (const auto& [width, size] : sizes) {
-    StampaHTMLLarga(width);
-    EXPECT_NE(Made("telarium_html.html").find(Unisci("_filbmp_.bmp\" width=", size, "></p>\r\n")),
-              std::string::npos)
-        << width;
-    EXPECT_EQ(LarghezzaPicture, width);
-  }
-}
-
-TEST_F(Exports, APictureLeavesThePreviewFirst) {
-  for (const Command command :
-       {Command{StampaHTML}, Command{EsportaInWordConPicture}, Command{SalvaPicture}}) {
-    Draw({"CASA"});
-    window.preview = true;
-    ModoGriglia = ModoAnteprima;
-    if (command == Command{SalvaPicture}) user.AnswerText("x.bmp");
-    command();
-    EXPECT_FALSE(window.preview);
-    EXPECT_NE(ModoGriglia, ModoAnteprima);
-    EXPECT_FALSE(surface.pictures.back().drawn.empty());
-  }
-}
-
-TEST_F(Exports, TheWordProcessorGetsTheTablePageIfThereIsOne) {
-  Draw({"CASA"});
-  EsportaInWord();
-  EXPECT_EQ(machine.inWord, Texts{InFolder("telarium_html.html")});
-  machine.inWord.clear();
-  machine.hasWord = machine.opens = false;
-  EsportaInWord();
-  EXPECT_TRUE(machine.opened.empty()) << "and nothing is said";
-}
-
-TEST_F(Exports, TheDocumentThatTakesTheFilesInIsOpened) {
-  Draw({"CA", "#."});
-  RidisegnaSchema();
-  const Texts whole = surface.Drawn();
+TEST_F(Exports, TheWordProcessorGetsTheTablePageOrTheDocumentThatTakesTheFilesIn) {
+  DrawOnScreen();
   StampaSoluzioni = Vero;
   const std::string document = WriteFile("prendifiletelarium.doc", "{\\rtf1}");
+  EsportaInWord();
   EsportaInWordConPicture();
-  EXPECT_EQ(surface.pictures.back().drawn, whole) << "the letters are in it all the same";
-  EXPECT_EQ(surface.pictures.back().ground, ColoreBianco);
+  EXPECT_EQ(machine.inWord, (Texts{InFolder("telarium_html.html"), document}));
+  ExpectPictureOf(whole);  // the letters are in it all the same
   EXPECT_EQ(Made("NONOME.BMP"), "bitmap");
-  ExpectWindowBack(whole);
   machine.hasWord = false;
   EsportaInWordConPicture();
-  EXPECT_EQ(machine.inWord, Texts{document});
   EXPECT_EQ(machine.opened, Texts{document}) << "without a word processor in what opens it";
+  machine.opened.clear();
+  machine.opens = false;
+  EsportaInWord();
+  EXPECT_TRUE(machine.opened.empty()) << "and nothing is said";
 }
 
 TEST_F(Exports, WithoutAProgramForPagesTheUserHearsOfIt) {
   Draw({"CASA"});
   machine.opens = false;
-  MostraPaginaStatica();
-  PubblicaCruciverba();
-  StampaHTML();
+  for (const Command command : {MostraPaginaStatica, PubblicaCruciverba, StampaHTML})
+    command();
   EXPECT_EQ(user.TakeTexts().size(), 3u);
   EXPECT_EQ(Files(),
             (Texts{"_filBMP_.BMP", "_filbmp_.bmp", "telarium_form.html", "telarium_html.html"}));
 }
 
 TEST_F(Exports, WhatCannotBeWrittenIsToldAndNotOpened) {
-  Draw({"CASA"});
-  RidisegnaSchema();
-  const Texts whole = surface.Drawn();
+  DrawOnScreen();
   WriteFile("template.txt", "' -----\r\n");
+  user.AnswerText("x.bmp");
   const std::pair<const char*, Command> cases[] = {
       {"telarium_html.html", MostraPaginaStatica},
       {"telarium_html.html", EsportaInWord},
@@ -280,6 +236,7 @@ TEST_F(Exports, WhatCannotBeWrittenIsToldAndNotOpened) {
       {"NONOME.TXT", EsportaInWordConPicture},
       {"NONOME.html", EsportaInWordConPicture},
       {"prova.html", EsportaDaModello},
+      {"x.bmp", SalvaPicture},
   };
   for (const auto& [name, command] : cases) {
     SCOPED_TRACE(name);
@@ -287,45 +244,22 @@ TEST_F(Exports, WhatCannotBeWrittenIsToldAndNotOpened) {
     std::filesystem::create_directory(InFolder(name));
     command();
     EXPECT_EQ(user.TakeTexts(), Texts{OutputError});
+    ExpectWindowBack();
     std::filesystem::remove(InFolder(name));
   }
-  EXPECT_TRUE(machine.opened.empty() && machine.inWord.empty());
-  ExpectWindowBack(whole);
-}
-
-TEST_F(Exports, ASurfaceThatGivesNoPictureIsToldAsWell) {
-  Draw({"CASA"});
-  surface.bitmap.clear();
+  Save("no such folder/x.bmp");
+  const Texts before = Files();
+  surface.bitmap.clear();  // a surface that gives no picture
   StampaHTML();
   EsportaInWordConPicture();
-  EXPECT_EQ(user.TakeTexts(), Texts(2, OutputError));
-  EXPECT_EQ(Files(), Texts());
+  Save("y.bmp");
+  EXPECT_EQ(user.TakeTexts(), Texts(4, OutputError));
+  EXPECT_EQ(Files(), before);
   EXPECT_TRUE(machine.opened.empty() && machine.inWord.empty());
 }
 
-class SavedPicture : public Exports {
- protected:
-  void SetUp() override {
-    Exports::SetUp();
-    Draw({"CA", "#."});
-    RidisegnaSchema();
-    whole = surface.Drawn();
-  }
-
-  void Save(std::optional<std::string> name) {
-    user.AnswerText(std::move(name));
-    SalvaPicture();
-    ExpectWindowBack(whole);
-  }
-  std::string Proposal() {
-    Save(std::nullopt);
-    return user.requests.back().predefinito;
-  }
-
-  Texts whole;
-};
-
-TEST_F(SavedPicture, GoesWhereTheUserSaysAndIsProposedAgain) {
+TEST_F(Exports, ThePictureIsSavedWhereTheUserSaysAndItsNameProposedAgain) {
+  DrawOnScreen();
   StampaSoluzioni = Vero;
   window.tipShows = true;
   Save("gita perch\xE9.bmp");
@@ -338,50 +272,34 @@ TEST_F(SavedPicture, GoesWhereTheUserSaysAndIsProposedAgain) {
                    "importarla eventualmente con Paint Brush o altro).  Nome della picture da "
                    "salvare nella directory ",
                    TestoPercorso(CartellaProgramma)));
-  const Percorso file = InFolder("gita perché.bmp");
-  EXPECT_EQ(ReadFile(file), "bitmap");
-  EXPECT_EQ(machine.opened, Texts{file});
-  EXPECT_EQ(surface.pictures.back().ground, ColoreBianco);
-  EXPECT_EQ(surface.pictures.back().drawn, whole) << "with the letters in any case";
-  EXPECT_EQ(Proposal(), "gita perch\xE9.bmp");
+  EXPECT_EQ(Made("gita perché.bmp"), "bitmap");
+  EXPECT_EQ(machine.opened, Texts{InFolder("gita perché.bmp")});
+  ExpectPictureOf(whole);  // with the letters in any case
   std::filesystem::create_directory(InFolder("sotto"));
   Save("sotto\\x.bmp");
-  EXPECT_EQ(ReadFile(InFolder("sotto/x.bmp")), "bitmap");
+  EXPECT_EQ(user.requests.back().predefinito, "gita perch\xE9.bmp");
+  EXPECT_EQ(Made("sotto/x.bmp"), "bitmap");
 }
 
-TEST_F(SavedPicture, NeedsANameAndLeaveToOverwrite) {
+TEST_F(Exports, TheSavedPictureNeedsANameAndLeaveToOverwrite) {
+  DrawOnScreen();
   WriteFile("old.bmp", "old");
   surface.calls.clear();
-  user.AnswerText(std::nullopt);
-  SalvaPicture();
-  user.AnswerText(" ");
-  SalvaPicture();
-  user.AnswerText("old.bmp");
+  Save(std::nullopt);
+  Save(" ");
   user.Answer(Risposta::Annulla);
-  SalvaPicture();
+  Save("old.bmp");
   EXPECT_TRUE(surface.calls.empty()) << "the window was left alone";
   EXPECT_EQ(Made("old.bmp"), "old");
   EXPECT_EQ(user.requests.back().predefinito, "NONOME.BMP");
-  user.AnswerText("old.bmp");
   user.Answer(Risposta::Ok);
-  SalvaPicture();
+  Save("old.bmp");
   EXPECT_EQ(Made("old.bmp"), "bitmap");
   const std::vector<Messaggio> questions = user.TakeMessages();
   ASSERT_EQ(questions.size(), 2u);
   EXPECT_EQ(questions[0].testo, "Il file: old.bmp esiste gi\xE0, si vuole sovrascrivere?");
   EXPECT_EQ(questions[0].titolo, "Immagine gia' esistente");
   EXPECT_EQ(questions[0].pulsanti, Pulsanti::OkAnnulla);
-}
-
-TEST_F(SavedPicture, ThatCannotBeWrittenIsToldAndNotOpened) {
-  Save("no such folder/x.bmp");
-  std::filesystem::create_directory(InFolder("x.bmp"));
-  Save("x.bmp");
-  surface.bitmap.clear();
-  Save("y.bmp");
-  EXPECT_EQ(user.TakeTexts(), Texts(3, OutputError));
-  EXPECT_TRUE(machine.opened.empty());
-  EXPECT_EQ(Files(), Texts());
 }
 
 TEST_F(Exports, ATemplateGetsTheWordsInPlaceOfItsMark) {

@@ -7,10 +7,7 @@ constexpr const char* OutputError =
     "Si è verificato un errore di scrittura/accesso al file o drive!, controlla che eventualmente "
     "i files non siano impostati a sola lettura.\n";
 
-class TelarPages : public Telar {
- protected:
-  std::string InProgramFolder(const char* name) { return ReadFile(InFolder("program") / name); }
-};
+using TelarPages = Telar;
 
 TEST_F(TelarPages, LieInTheProgramFolderUnlessAnotherPlaceIsNamed) {
   for (const char* line : {"html sample", "form sample", "testo sample", "html sample --uscita p",
@@ -20,30 +17,31 @@ TEST_F(TelarPages, LieInTheProgramFolderUnlessAnotherPlaceIsNamed) {
   EXPECT_EQ(Names("program"),
             (Words{"NONOME.TXT", "NONOME.html", "telarium_form.html", "telarium_html.html"}));
   EXPECT_EQ(Names("work"), (Words{"old", "p", "q", "sample", "square", "folder"}));
-  EXPECT_EQ(Read("p"), InProgramFolder("telarium_html.html"));
-  EXPECT_EQ(Read("q"), InProgramFolder("telarium_form.html"));
-  EXPECT_EQ(Read("folder/NONOME.html"), InProgramFolder("NONOME.html"));
-  EXPECT_EQ(Read("folder/NONOME.TXT"), InProgramFolder("NONOME.TXT"));
+  EXPECT_EQ(Read("p"), Read("../program/telarium_html.html"));
+  EXPECT_EQ(Read("q"), Read("../program/telarium_form.html"));
+  EXPECT_EQ(Read("folder/NONOME.html"), Read("../program/NONOME.html"));
+  EXPECT_EQ(Read("folder/NONOME.TXT"), Read("../program/NONOME.TXT"));
   EXPECT_EQ(Read("folder/NONOME.TXT"),
             "ORIZZONTALI:\r\n1 Caff\xE8\tnero  4 ____________  6 ____________  \r\n"
             "VERTICALI:\r\n1   cinque \x80   2 poi  3 ____________  5 ____________  ");
   EXPECT_TRUE(Read("p").starts_with("<html><head><title>Telarium - sample </title></head>\r\n"));
-  EXPECT_NE(InProgramFolder("NONOME.html").find("   -   sample<br>\r\nAutore<br>\r\n"),
+  EXPECT_NE(Read("../program/NONOME.html").find("   -   sample<br>\r\nAutore<br>\r\n"),
             std::string::npos);
 }
 
 TEST_F(TelarPages, LeaveTheSolutionsOutInTwoWays) {
-  const auto shows = [this](std::string_view line, std::string_view text) {
-    Out(line);
-    return Read("p").find(text) != std::string::npos;
-  };
-  const std::string_view letter = "<font size=\"3\">C</td>", mark = "<font size=\"3\">##</td>";
-  EXPECT_TRUE(shows("html sample --uscita p", letter));
-  EXPECT_TRUE(shows("html sample --uscita p --modo 2", letter));
-  EXPECT_FALSE(shows("html sample --uscita p --senza-soluzioni", letter));
-  EXPECT_TRUE(shows("html sample --uscita p --senza-soluzioni --modo 1", mark));
-  EXPECT_FALSE(shows("html sample --uscita p --senza-soluzioni --modo=2", mark));
-  EXPECT_TRUE(shows("form sample --uscita p --senza-soluzioni", mark));
+  const char *letter = "<font size=\"3\">C</td>", *mark = "<font size=\"3\">##</td>";
+  const std::tuple<const char*, const char*, bool> cases[] = {
+      {"html", letter, true},
+      {"html --modo 2", letter, true},
+      {"html --senza-soluzioni", letter, false},
+      {"html --senza-soluzioni --modo 1", mark, true},
+      {"html --senza-soluzioni --modo=2", mark, false},
+      {"form --senza-soluzioni", mark, true}};
+  for (const auto& [line, text, shows] : cases) {
+    Out(Unisci(line, " sample --uscita p"));
+    EXPECT_EQ(Read("p").find(text) != std::string::npos, shows) << line;
+  }
 }
 
 TEST_F(TelarPages, ShowTheConfiguredSite) {
@@ -53,7 +51,7 @@ TEST_F(TelarPages, ShowTheConfiguredSite) {
             std::string::npos);
 }
 
-TEST_F(TelarPages, AFailureIsToldAndLeavesWhatWasThere) {
+TEST_F(TelarPages, AFailureAndWrongArgumentsAreToldAndLeaveWhatWasThere) {
   for (const char* line :
        {"html sample --uscita folder", "html sample --uscita none/p",
         "html sample --uscita=", "form sample --uscita folder", "form sample --uscita none/p",
@@ -65,10 +63,6 @@ TEST_F(TelarPages, AFailureIsToldAndLeavesWhatWasThere) {
               Unisci("Errore: Cruciverba  missing  Non trovato! Esecuzione terminata.\n"));
     EXPECT_EQ(Told(Unisci(command, " old --uscita old"), 1), "Errore di lettura del file!\n");
   }
-  EXPECT_EQ(Names("program"), Words());
-}
-
-TEST_F(TelarPages, WrongArgumentsDoNothing) {
   for (const char* line :
        {"html", "html sample square", "html sample --modo 3", "html sample --modo",
         "form sample --modo 1", "testo sample --uscita p", "form"}) {
