@@ -88,19 +88,21 @@ TEST_F(Editing, ToolsTurnCellsBlackAndWhiteWithBothButtons) {
 
 TEST_F(Editing, ACellShowsItsNewGroundBeforeTheSnapshotIsWritten) {
   Open({"....", "...."});
+  ModoGriglia = ModoAnteprima;
+  auto& calls = platform.window.calls;
+  calls.clear();
   AttivaCasellaNera();
-  platform.window.calls.clear();
+  EXPECT_FALSE(calls.empty()) << "a tool leaves the preview that shows";
+  const double left = BordoSinistro(1) + 2, right = left + LatoCasella - 4;
+  const double top = BordoAlto(1) + 2, bottom = top + LatoCasella - 4;
+  calls.clear();
   Press(Left, 1, 1);
-  EXPECT_TRUE(platform.window.calls.front().starts_with("RiquadroPieno"));
-  EXPECT_TRUE(platform.window.calls.front().ends_with(" 0"));
+  EXPECT_TRUE(calls.front().starts_with("RiquadroPieno") && calls.front().ends_with(" 0"));
   AttivaCasellaBianca();
-  platform.window.calls.clear();
+  calls.clear();
   Press(Left, 1, 1);
-  const double left = BordoSinistro(1) + 2;
-  const double top = BordoAlto(1) + 2;
-  platform.window.RiquadroPieno(left, top, left + LatoCasella - 4, top + LatoCasella - 4,
-                                ColoreBianco);
-  EXPECT_EQ(platform.window.calls.front(), platform.window.calls.back());
+  platform.window.RiquadroPieno(left, top, right, bottom, ColoreBianco);
+  EXPECT_EQ(calls.front(), calls.back());
 }
 
 TEST_F(Editing, AChangeThatCannotReachTheSnapshotStays) {
@@ -114,15 +116,6 @@ TEST_F(Editing, AChangeThatCannotReachTheSnapshotStays) {
   CartellaIstantanea.clear();
   RiprendiSchema();
   EXPECT_EQ(Drawing(), (Rows{"#....", "....."}));
-}
-
-TEST_F(Editing, AToolLeavesThePreviewThatShows) {
-  Open({"...."});
-  ModoGriglia = ModoAnteprima;
-  platform.window.calls.clear();
-  AttivaCasellaBianca();
-  EXPECT_FALSE(platform.window.calls.empty());
-  EXPECT_EQ(ModoGriglia, 8);
 }
 
 TEST_F(Editing, APressOutsideOfEditingOrWithoutMeaningEntersEditing) {
@@ -162,9 +155,7 @@ TEST_F(Editing, AWordGoesToTheClueEditorAndComesBackIntoTheGrid) {
   MoveTo(4, 2, false);  // where no word starts
   Press(Left, 4, 2);
   EXPECT_EQ(window.shown, std::vector{Modale::TelarDef});
-  EXPECT_EQ(CursoreX, 4);
-  EXPECT_EQ(CursoreY, 1);
-  EXPECT_EQ(Direzione, 2);
+  EXPECT_EQ(std::tuple(CursoreX, CursoreY, Direzione), std::tuple(4, 1, 2));
   EXPECT_EQ(SchemaModificato, Falso) << "nothing was changed";
 
   MoveTo(1, 2);
@@ -200,7 +191,6 @@ TEST_F(Editing, NoWordGoesToTheClueEditorWhereThereIsNone) {
 }
 
 TEST_F(Editing, WithoutAGridNoPressDoesAnything) {
-  Press(Left, 1, 1);
   AttivaCasellaNera();
   Press(Left, 1, 1);
   EXPECT_EQ(PuntatoreMouse, 4) << "LatoCasella 0";
@@ -210,8 +200,8 @@ TEST_F(Editing, WithoutAGridNoPressDoesAnything) {
   Press(Left, 1, 1);
   EXPECT_EQ(PuntatoreMouse, 0) << "beside the grid";
   Press(Left, 1, 1);
-  for (const auto operation : {AggiungiColonna, AggiungiRiga, TogliColonna, TogliRiga})
-    operation();
+  TogliColonna();
+  TogliRiga();
   EXPECT_EQ(user.TakeTexts().size(), 2u) << "too small to lose any";
   EXPECT_EQ(NumColonne + NumRighe, 0);
   EXPECT_EQ(SchemaModificato, Falso);
@@ -222,24 +212,19 @@ TEST_F(Editing, TheGridGrowsAndShrinksByOne) {
   Definizione(1, 4, Orizzontale) = "In basso";
   ColoreCasella(3, 2) = 255;
   ColoreCasella(4, 4) = 99;
-  struct Case {
-    void (*operation)();
-    Rows grid;
-    int mode;
-  };
-  const Case cases[] = {
+  const std::tuple<void (*)(), Rows, int> cases[] = {
       {TogliRiga, {"CASA", "A.#.", "NEL."}, 6},
       {TogliColonna, {"CAS", "A.#", "NEL"}, 4},
       {AggiungiColonna, {"CAS.", "A.#.", "NEL."}, 3},
       {AggiungiRiga, {"CAS.", "A.#.", "NEL.", "...."}, 5},
   };
-  for (const Case& one : cases) {
-    SCOPED_TRACE(one.mode);
+  for (const auto& [operation, grid, mode] : cases) {
+    SCOPED_TRACE(mode);
     SchemaModificato = Falso;
-    one.operation();
-    EXPECT_EQ(Drawing(), one.grid);
+    operation();
+    EXPECT_EQ(Drawing(), grid);
     EXPECT_EQ(Schema(4), Unisci("Dimensioni : ", DueCifre(NumColonne), 'x', DueCifre(NumRighe)));
-    EXPECT_EQ(ModoGriglia, one.mode);
+    EXPECT_EQ(ModoGriglia, mode);
     EXPECT_EQ(PuntatoreMouse, 0);
     EXPECT_EQ(SchemaModificato, Vero);
     EXPECT_EQ(ColoreCasella(3, 2), 255);
@@ -250,23 +235,18 @@ TEST_F(Editing, TheGridGrowsAndShrinksByOne) {
 }
 
 TEST_F(Editing, SizesHaveTheirLimits) {
-  struct Case {
-    Rows grid;
-    void (*operation)();
-    const char* told;
-  };
-  const Case cases[] = {
+  const std::tuple<Rows, void (*)(), const char*> cases[] = {
       {{std::string(53, '.')}, AggiungiColonna, "Numero massimo consentito di colonne: 53"},
       {Rows(30, "..."), AggiungiRiga, "Numero massimo consentito di righe: 30"},
       {{"...", "..."}, TogliColonna, "Non ha senso fare un cruciverba con 3 caselle!"},
       {{"....", "....", "...."}, TogliRiga, "Non ha senso un cruciverba con meno di 3 righe"},
   };
-  for (const Case& one : cases) {
-    Open(one.grid);
+  for (const auto& [grid, operation, told] : cases) {
+    Open(grid);
     ImpostaPuntatoreMouse(4);
-    one.operation();
-    EXPECT_EQ(user.TakeTexts(), Rows{one.told});
-    EXPECT_EQ(Drawing(), one.grid);
+    operation();
+    EXPECT_EQ(user.TakeTexts(), Rows{told});
+    EXPECT_EQ(Drawing(), grid);
     EXPECT_EQ(SchemaModificato, Falso);
     EXPECT_EQ(PuntatoreMouse, 4);
     EXPECT_EQ(ModoGriglia, 1);
@@ -275,9 +255,7 @@ TEST_F(Editing, SizesHaveTheirLimits) {
   TogliColonna();
   TogliRiga();
   EXPECT_EQ(Drawing(), Rows(3, "..."));
-}
-
-TEST_F(Editing, RowLinesOfAnyLengthGrowInStep) {
+  // Lines of any length grow in step.
   Open({"....", "...."});
   Schema(5) = "A.";
   Schema(6) = "B.C.D.E.F.G.";

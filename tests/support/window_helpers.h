@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QTest>
@@ -21,6 +22,23 @@ inline void Open(FinestraModale& window) {
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window, Patience));
   ASSERT_TRUE(QTest::qWaitFor([&] { return window.Pronta(); }, Patience));
+}
+
+/// Clicks controls with the left button, one after the other.
+template <class... Controls>
+void Click(Controls*... controls) {
+  (QTest::mouseClick(controls, Qt::LeftButton), ...);
+}
+
+/// Clicks the middle of an item of a list or table, rows and columns from 0; once or twice.
+inline void ClickItem(QAbstractItemView& view, int row, int column = 0) {
+  const QPoint point = view.visualRect(view.model()->index(row, column)).center();
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, point);
+}
+inline void DoubleClickItem(QAbstractItemView& view, int row, int column = 0) {
+  ClickItem(view, row, column);
+  const QPoint point = view.visualRect(view.model()->index(row, column)).center();
+  QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, point);
 }
 
 /// Does this to the next modal window of a class as soon as it is open, while the test waits for it
