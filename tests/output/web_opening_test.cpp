@@ -213,5 +213,32 @@ TEST_F(WebOpening, ABlockThatIsNoCrosswordIsToldAndChangesNothing) {
   }
 }
 
+TEST_F(WebOpening, APageCutAtAnyByteIsTakenWholeOrChangesNothing) {
+  const std::string page = SomePage();
+  const std::size_t block = page.find(MarkerLine) + MarkerLine.size();
+  const std::size_t lastRow = page.find("\r\n", page.find("04x03") + 7 + 2 * 10) + 8;
+  int taken = 0;
+  for (std::size_t length = 0; length <= page.size(); ++length) {
+    SCOPED_TRACE(length);
+    Draw(Older);
+    Definizione(1, 1, Orizzontale) = "older";
+    ColoreCasella(1, 2) = 5;
+    const auto before = TestoDelCruciverba();
+    OpenPage(page.substr(0, length));
+    const Texts told = user.TakeTexts();
+    EXPECT_EQ(NomeCruciverba, "prova.tlrm");
+    if (told.empty()) {
+      ++taken;
+      EXPECT_TRUE(length < lastRow || Drawing() == Newer);
+      continue;
+    }
+    EXPECT_EQ(told.size(), 1u);
+    EXPECT_EQ(told[0] == NotFound, length <= block);
+    EXPECT_EQ(Drawing(), Older);
+    EXPECT_EQ(TestoDelCruciverba(), before);
+  }
+  EXPECT_GT(taken, 0);
+}
+
 }  // namespace
 }  // namespace telarium

@@ -62,7 +62,13 @@ TEST_F(TelarPages, AFailureAndWrongArgumentsAreToldAndLeaveWhatWasThere) {
     EXPECT_EQ(Told(Unisci(command, " missing --uscita old"), 1),
               Unisci("Errore: Cruciverba  missing  Non trovato! Esecuzione terminata.\n"));
     EXPECT_EQ(Told(Unisci(command, " old --uscita old"), 1), "Errore di lettura del file!\n");
+    EXPECT_EQ(Told(Unisci(command, " sample --uscita ./sample"), 1),
+              "L'uscita è il cruciverba stesso: nessun file scritto.\n");
   }
+  fs::create_directory(InFolder("work/folder/NONOME.html"));
+  Write("folder/NONOME.TXT", "old");
+  EXPECT_EQ(Told("testo sample --cartella-uscita folder", 1), OutputError);
+  EXPECT_EQ(Read("folder/NONOME.TXT"), "old");
   for (const char* line :
        {"html", "html sample square", "html sample --modo 3", "html sample --modo",
         "form sample --modo 1", "testo sample --uscita p", "form"}) {
