@@ -14,6 +14,8 @@ from selenium.webdriver.common.by import By
 from selenium.webdriver.support.expected_conditions import alert_is_present
 from selenium.webdriver.support.ui import WebDriverWait
 
+os.environ["no_proxy"] = "localhost,127.0.0.1"  # whatever the network is reached through
+
 TELAR = sys.argv.pop(1)
 PATIENCE = 20  # seconds, for what takes none
 
