@@ -2,6 +2,7 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QPrintDialog>
+#include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
 #include <limits>
@@ -9,6 +10,7 @@
 #include "editor/redraw.h"
 #include "editor/windows/form1_fixture.h"
 #include "platform/codepage.h"
+#include "platform/qt/qt_print_job.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_text.h"
 #include "platform/text.h"
@@ -189,6 +191,25 @@ TEST_F(PrintingTest, WritesNoFileThatIsGivenUpOrCannotBeWritten) {
   WhenOpen<QPrintDialog>(*form, [](QPrintDialog& dialog) { dialog.reject(); });
   form->Voce("MenuStampa").trigger();
   EXPECT_EQ(PuntatoreMouse, PuntatoreCasellaNera);
+}
+
+// Qt's own PDF engine stands for a printer, of which there is none here.
+TEST_F(PrintingTest, PaintsOnThePaperOfAPrinter) {
+  const Percorso file = InFolder("carta.pdf");
+  QPrinter paper(QPrinter::HighResolution);
+  paper.setOutputFileName(PercorsoAQt(file));
+  LavoroQt job(CartaDellaStampante(paper), {"Arial", false, false});
+  ASSERT_TRUE(job.Iniziato());
+  job.ScalaSuperficie(1000, 1400);
+  job.Scrivi("prima");
+  EXPECT_TRUE(job.NuovaPagina());
+  job.Posizione(0, 0);
+  job.Scrivi("seconda");
+  job.FineStampa();
+  EXPECT_GT(TextOf(file).find("seconda"), TextOf(file).find('\f'));
+
+  paper.setOutputFileName(PercorsoAQt(InFolder("no folder/x.pdf")));
+  EXPECT_FALSE(LavoroQt(CartaDellaStampante(paper), {"Arial", false, false}).Iniziato());
 }
 
 TEST_F(PrintingTest, ClosesAPreviewWhenTheWindowChangesItsSize) {
