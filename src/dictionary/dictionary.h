@@ -45,8 +45,9 @@ inline constexpr const char* DizionariDiSistema[NumLingue] = {
 
 /// File name of the open dictionary, in the program folder; "LessicoItaliano.dat" at start.
 extern Percorso NomeDizionario;
-/// 1 Italian, 2 English, 3 Latin, 4 French (or a private dictionary).
+/// 1 Italian, 2 English, 3 Latin, 4 French, LinguaDeiPrivati for a private dictionary.
 extern std::int16_t LinguaDizionario;
+inline constexpr std::int16_t LinguaDeiPrivati = 4;
 /// Position of the first word of each length, as the file says; 0 when the section is empty.
 extern Tabella<std::int32_t, AsseLunghezze> OffsetLunghezza;
 /// Number of words of each length, as the file says: hostile files give any number here.

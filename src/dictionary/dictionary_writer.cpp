@@ -13,6 +13,7 @@ namespace {
 constexpr std::size_t ByteBanner = 199;
 // The zero blocks that are laid down before the words end here, so that no file is shorter.
 constexpr std::size_t MinByteFile = 455;
+constexpr std::size_t ParolePerAvanzamento = 200;
 
 std::string Intestazione() {
   std::string immagine =
@@ -58,19 +59,26 @@ std::string Eccesso(const EsitoDizionario& esito) {
   return Unisci("il file supererebbe la posizione ", MaxPosizione);
 }
 
-void AggiungiSezione(std::string& immagine, int lunghezza, const std::vector<std::string>& lista) {
-  MettiCampo(immagine, PosizioneVoce(lunghezza));
+void AggiungiParole(std::string& immagine, const std::vector<std::string>& lista, int lunghezza,
+                    const std::function<void(std::size_t)>& avanzamento) {
   for (std::size_t i = 0; i < lista.size(); ++i) {
+    if (i % ParolePerAvanzamento == 0) avanzamento(i);
     if (DaScrivere(lista, i, lunghezza)) immagine += lista[i];
   }
-  MettiCampo(immagine, PosizioneVoce(lunghezza) + ByteCampo);
+  avanzamento(lista.size());
 }
 
-std::string Immagine(const ListeDiParole& liste, const EsitoDizionario& esito) {
+std::string Immagine(const ListeDiParole& liste, const EsitoDizionario& esito,
+                     const std::function<void(std::size_t, std::size_t)>& avanzamento) {
   std::string immagine = Intestazione();
   for (std::size_t l = 0; l < liste.size(); ++l) {
-    if (esito.parole[l] > 0)
-      AggiungiSezione(immagine, MinLunghezza + static_cast<int>(l), liste[l]);
+    const int lunghezza = MinLunghezza + static_cast<int>(l);
+    const bool scritta = esito.parole[l] > 0;
+    if (scritta) MettiCampo(immagine, PosizioneVoce(lunghezza));
+    AggiungiParole(immagine, liste[l], lunghezza, [&](std::size_t fatte) {
+      if (avanzamento) avanzamento(l, fatte);
+    });
+    if (scritta) MettiCampo(immagine, PosizioneVoce(lunghezza) + ByteCampo);
   }
   immagine.resize(std::max(immagine.size(), MinByteFile), '\0');
   return immagine;
@@ -85,7 +93,9 @@ Descrittore BloccaCartella(const Percorso& cartella) {
 
 }  // namespace
 
-EsitoDizionario ScriviDizionario(const Percorso& nome, const ListeDiParole& liste) {
+EsitoDizionario ScriviDizionario(
+    const Percorso& nome, const ListeDiParole& liste,
+    const std::function<void(std::size_t lista, std::size_t fatte)>& avanzamento) {
   EsitoDizionario esito;
   const auto nonScritto = [&](std::string_view perche) {
     esito.errore = Unisci("Impossibile scrivere il dizionario ", TestoPercorso(nome.filename()),
@@ -95,7 +105,8 @@ EsitoDizionario ScriviDizionario(const Percorso& nome, const ListeDiParole& list
   ContaParole(liste, esito);
   if (const std::string eccesso = Eccesso(esito); !eccesso.empty()) return nonScritto(eccesso);
   const Descrittore blocco = BloccaCartella(nome.parent_path());
-  const auto errore = ScriviFile(nome, Immagine(liste, esito), Permanenza::SulDisco, "LESSICO.new");
+  const auto errore =
+      ScriviFile(nome, Immagine(liste, esito, avanzamento), Permanenza::SulDisco, "LESSICO.new");
   if (errore) return nonScritto(DescrizioneErrore(errore));
   return esito;
 }

@@ -1,6 +1,7 @@
 #include "editor/commands.h"
 
 #include "dictionary/dictionary.h"
+#include "dictionary/maintenance.h"
 #include "editor/main_window.h"
 #include "editor/redraw.h"
 #include "editor/settings.h"
@@ -80,6 +81,11 @@ void CambiaLingua(int lingua) {
   ApriDizionario();
 }
 
+void GestisciDizionari() {
+  LaFinestra().MostraModale(Modale::Form4);
+  AggiornaSpunte();
+}
+
 void CommutaStampaSoluzioni() {
   StampaSoluzioni = StampaSoluzioni ? Falso : Vero;
   AggiornaSpunte();
@@ -135,7 +141,7 @@ void AggiornaSpunte() {
   finestra.SpuntaVoce("MenuVis", StampaSoluzioni);
   finestra.SpuntaVoce("Menurett", RettangoloParola);
   for (int i = 0; i < NumLingue; ++i)
-    finestra.SpuntaVoce(VociDiLingua[i], LinguaDizionario == i + 1);
+    finestra.SpuntaVoce(VociDiLingua[i], LinguaDelDizionario(NomeDizionario) == i + 1);
 }
 
 }  // namespace telarium

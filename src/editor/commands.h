@@ -25,6 +25,9 @@ void LasciaAnteprima();
 /// Nothing happens when it is the current one.
 void CambiaLingua(int lingua);
 
+/// menudiz: shows Form4, which may leave another dictionary open.
+void GestisciDizionari();
+
 /// MenuVis and Menurett: turn their setting over and write the settings file.
 void CommutaStampaSoluzioni();
 void CommutaRettangoloParola();

@@ -21,6 +21,7 @@ enum class Modale {
   TelarDef,
   TelarBro,
   telariummdb,
+  Form4,
   Form6
 };
 

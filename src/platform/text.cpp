@@ -42,6 +42,15 @@ std::string FormaDiStampa(std::int64_t numero) {
   return Unisci(numero < 0 ? "" : " ", numero, ' ');
 }
 
+std::string ConMigliaia(int numero) {
+  if (numero == 0) return {};
+  std::string testo = std::to_string(numero);
+  const std::size_t primaCifra = numero < 0 ? 1 : 0;
+  for (std::size_t dove = testo.size(); dove > primaCifra + 3;)
+    testo.insert(dove -= 3, 1, '.');
+  return testo;
+}
+
 std::string DueCifre(int numero) {
   return Unisci(numero < 10 ? "0" : "", numero);
 }

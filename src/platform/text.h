@@ -20,6 +20,9 @@ double ValoreDecimale(std::string_view testo);
 /// A number in print form: a blank or the minus sign, the digits, one blank behind.
 std::string FormaDiStampa(std::int64_t numero);
 
+/// A number with a point behind its thousands, as "274.092"; 0 gives an empty text.
+std::string ConMigliaia(int numero);
+
 /// A number from 0 on in two digits at least.
 std::string DueCifre(int numero);
 

@@ -106,6 +106,7 @@ constexpr ComandoDiVoce comandi[] = {
     {"MenuLudarium", [](Form1&) { LanciaLudarium(); }},
     {"MenuEstrazione", [](Form1& form) { form.Estrai(); }},
     {"menuRidisegna", [](Form1&) { ChiudiAnteprima(); }},
+    {"menudiz", [](Form1&) { GestisciDizionari(); }},
     {"Menudefiniz", [](Form1& form) { form.MostraModale(Modale::telariummdb); }},
     {"Menuschemi", [](Form1&) { GestisciModelli(); }},
     {"Menui0", VaiA<Indirizzo::Menui0>},

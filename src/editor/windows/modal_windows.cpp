@@ -13,6 +13,7 @@
 #include "crossworddialogs/windows/FormModels.h"
 #include "crossworddialogs/windows/FormNew.h"
 #include "crossworddialogs/windows/TelarSav.h"
+#include "dictionary/windows/Form4.h"
 #include "editor/windows/Settaggi.h"
 
 namespace telarium {
@@ -52,6 +53,7 @@ constexpr VoceModale finestre[] = {
     {Modale::TelarDef, Mostra<TelarDef>},
     {Modale::TelarBro, Mostra<TelarBro>},
     {Modale::telariummdb, Mostra<telariummdb>},
+    {Modale::Form4, Mostra<Form4>},
     {Modale::Form6, Mostra<Form6>},
 };
 

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/files.h"
+
+// What the dictionary manager does beside its lists.
+namespace telarium {
+
+/// LinguaDizionario of a dictionary by its file name, case ignored; none for another than those of
+/// the system.
+std::optional<std::int16_t> LinguaDelDizionario(const Percorso& nome);
+
+/// The file name of a private dictionary from what the user typed, with one ".priv" at its end.
+/// None for what is no plain name of a file.
+std::optional<Percorso> NomeDizionarioPrivato(std::string_view testo);
+
+/// Makes an empty dictionary in the program folder. The error, 0 for none; a file that is there
+/// already is one.
+[[nodiscard]] std::error_code CreaDizionarioVuoto(const Percorso& nome);
+
+/// The lines of a word list that are not blank, as they stand, and how many lines they were taken
+/// from.
+struct ListaImportata {
+  std::vector<std::string> parole;
+  int righe = 0;
+};
+
+/// The words of the plain list of a length in the program folder, "3.txt" to "15.txt": its first
+/// 32,200 lines. None when it cannot be read.
+std::optional<ListaImportata> LeggiListaDaImportare(int lunghezza);
+
+}  // namespace telarium

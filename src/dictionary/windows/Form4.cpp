@@ -1,0 +1,551 @@
+#include "dictionary/windows/Form4.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QRegularExpressionValidator>
+#include <QVBoxLayout>
+
+#include "dictionary/dictionary_writer.h"
+#include "dictionary/maintenance.h"
+#include "dictionary/section_scan.h"
+#include "dictionary/sorted_words.h"
+#include "model/pointer.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
+#include "platform/qt/qt_text.h"
+#include "platform/text.h"
+
+namespace telarium {
+namespace {
+
+constexpr int ListePerRiga = 7;
+constexpr int AltezzaListe = 150;     // logical pixels, at the least
+constexpr int LarghezzaElenco = 170;  // of the lists of files
+constexpr int AltezzaProgressione = 14;
+constexpr int CaratteriParola = 16;  // of the field for a word, in widths of a letter
+constexpr Colore ColoreBordo = 0xA0A0A0;
+constexpr Colore ColoreVariazioni = 0x000080;  // 4 of the 16-colour palette
+
+int LunghezzaDi(std::size_t lista) {
+  return MinLunghezza + static_cast<int>(lista);
+}
+
+void Arrossa(QLabel& etichetta) {
+  QPalette tavolozza = etichetta.palette();
+  tavolozza.setColor(QPalette::WindowText, QColor(ColoreVariazioni & 0xFF, 0, 0));
+  etichetta.setPalette(tavolozza);
+}
+
+QString TestoConto(int conto, const char* parole) {
+  return QStringLiteral("(%1) %2").arg(conto).arg(QLatin1StringView(parole));
+}
+
+// As a reading or an import counts, and as a change of the list does.
+constexpr const char* ParoleLette = "parole";
+constexpr const char* ParoleCambiate = "Parole";
+
+bool Confermata(std::string testo) {
+  return ChiUsa().MostraMessaggio({.testo = std::move(testo), .pulsanti = Pulsanti::OkAnnulla}) ==
+         Risposta::Ok;
+}
+
+void Abilita(std::initializer_list<QWidget*> controlli, bool abilitati) {
+  for (QWidget* controllo : controlli)
+    controllo->setEnabled(abilitati);
+}
+
+}  // namespace
+
+Form4::Form4(QWidget* genitore)
+    : FinestraModale(QStringLiteral("Form4"), QStringLiteral("Telarium - Creazione dizionario"),
+                     genitore) {
+  std::error_code ignorato;
+  std::filesystem::current_path(CartellaProgramma, ignorato);
+  CreaListe();
+  CreaDizionari();
+  CreaAvanzamento();
+  CreaComandi();
+  Disponi();
+  Collega();
+  AzzeraDidascalie();
+  MostraNome();
+  Abilita({Command1, Command4, Command5, Command8}, false);
+  Text1->hide();
+  Command3->hide();
+}
+
+void Form4::CreaListe() {
+  for (int i = 0; i < NumListe; ++i) {
+    const auto lista = static_cast<std::size_t>(i);
+    Label1[lista] = Chiamato(NomeInSerie("Label1", i), new QLabel(this));
+    Combo1[lista] = new ElencoDiParole(NomeInSerie("Combo1", i), parole_[lista], this);
+    Combo1[lista]->setMinimumHeight(AltezzaListe);
+    Combo1[lista]->QuandoToccato([this, i] { ListaCorrente = static_cast<std::int16_t>(i); });
+    Label2[lista] = Chiamato(NomeInSerie("Label2", i), new QLabel(this));
+  }
+}
+
+void Form4::CreaDizionari() {
+  Label9 = Chiamato(QStringLiteral("Label9"), new QLabel(this));
+  QFont grassetto = Label9->font();
+  grassetto.setBold(true);
+  Label9->setFont(grassetto);
+  Label9->setTextFormat(Qt::PlainText);
+  Label6 =
+      Chiamato(QStringLiteral("Label6"), new QLabel(QStringLiteral("Dizionari di sistema"), this));
+  File1 = Chiamato(QStringLiteral("File1"), new ListaFile("Lessico*.dat", this));
+  Label7 =
+      Chiamato(QStringLiteral("Label7"), new QLabel(QStringLiteral("Dizionari personali"), this));
+  File2 = Chiamato(QStringLiteral("File2"), new ListaFile("*.priv", this));
+  for (ListaFile* file : {File1, File2}) {
+    file->setMinimumWidth(LarghezzaElenco);
+    file->installEventFilter(this);
+    file->Vai(CartellaProgramma);
+  }
+  Label6->setBuddy(File1);
+  Label7->setBuddy(File2);
+}
+
+void Form4::CreaAvanzamento() {
+  Label3 = Chiamato(
+      QStringLiteral("Label3"),
+      new QLabel(QStringLiteral("Scegli il dizionario disponibile qua a fianco da aprire --->"),
+                 this));
+  Label3->setTextFormat(Qt::PlainText);
+  Label3->setWordWrap(true);
+  Label3->setMinimumHeight(Label3->sizeHint().height());  // what is below stays when it is empty
+  Picture1 = Chiamato(QStringLiteral("Picture1"), new Tela(this));
+  Picture1->setFixedHeight(AltezzaProgressione);
+  Picture1->QuandoCambiaMisura([this] { DipingiBarra(1, ColoreBianco); });
+  Label5 = Chiamato(QStringLiteral("Label5"), new QLabel(QStringLiteral("Totale parole"), this));
+  Label4 = Chiamato(QStringLiteral("Label4"), new QLabel(this));
+}
+
+void Form4::CreaComandi() {
+  struct Voce {
+    QPushButton*& pulsante;
+    QString nome, testo, suggerimento = {};
+  };
+  const Voce voci[] = {
+      {Command1, QStringLiteral("Command1"), QStringLiteral("Aggiungi Parola")},
+      {Command3, QStringLiteral("Command3"), QStringLiteral("&OK")},
+      {Command5, QStringLiteral("Command5"), QStringLiteral("&Elimina parola")},
+      {Command4, QStringLiteral("Command4"), QStringLiteral("Ricrea Dizionario")},
+      {Command8, QStringLiteral("Command8"), QStringLiteral("TXT"),
+       QStringLiteral("Importa dai files 3.txt, 4.txt ... 15.txt")},
+      {Command6, QStringLiteral("Command6"), QStringLiteral("&Nuovo dizionario priv.")},
+      {Command7, QStringLiteral("Command7"), QStringLiteral("Cancella dizionario priv.")},
+      {Command2, QStringLiteral("Command2"), QStringLiteral("Uscita")},
+  };
+  for (const Voce& voce : voci)
+    voce.pulsante = Pulsante(voce.nome, voce.testo, voce.suggerimento, this);
+  Text1 = Chiamato(QStringLiteral("Text1"), new CasellaDiTesto(this));
+  Text1->setMinimumWidth(Text1->fontMetrics().maxWidth() * CaratteriParola / 2);
+  Text1->installEventFilter(this);
+  setTabOrder(Command1, Text1);
+}
+
+void Form4::Disponi() {
+  auto* tutto = new QVBoxLayout(this);
+  for (int prima = 0; prima < NumListe; prima += ListePerRiga) {
+    auto* riga = new QHBoxLayout;
+    for (int i = prima; i < std::min(prima + ListePerRiga, NumListe); ++i) {
+      const auto lista = static_cast<std::size_t>(i);
+      auto* colonna = new QVBoxLayout;
+      colonna->setSpacing(2);
+      colonna->addWidget(Label1[lista]);
+      colonna->addWidget(Combo1[lista], 1);
+      colonna->addWidget(Label2[lista]);
+      riga->addLayout(colonna, 8 + LunghezzaDi(lista));  // scroll bar and frame, and the letters
+    }
+    tutto->addLayout(riga, 1);
+  }
+
+  auto* parola = new QHBoxLayout;
+  parola->addWidget(Text1);
+  parola->addWidget(Command3);
+  parola->addStretch(1);
+  auto* stato = new QGridLayout;
+  stato->addWidget(Label9, 0, 0, 1, 4);
+  stato->addWidget(Label3, 1, 0, 1, 4);
+  stato->addWidget(Picture1, 2, 0, 1, 4);
+  stato->addWidget(Label5, 3, 0);
+  stato->addWidget(Label4, 3, 1, 1, 3);
+  stato->addWidget(Command1, 4, 0);
+  stato->addWidget(Command5, 4, 1);
+  stato->addWidget(Command4, 4, 2);
+  stato->addWidget(Command8, 4, 3);
+  stato->addLayout(parola, 5, 0, 1, 4);
+  stato->setRowStretch(6, 1);
+  parola->addStrut(Text1->sizeHint().height());  // the row stays while its controls are hidden
+
+  auto* sistema = new QVBoxLayout;
+  sistema->addWidget(Label6);
+  sistema->addWidget(File1, 1);
+  auto* privati = new QVBoxLayout;
+  privati->addWidget(Label7);
+  privati->addWidget(File2, 1);
+  auto* bottoni = new QVBoxLayout;
+  bottoni->addWidget(Command6);
+  bottoni->addWidget(Command7);
+  bottoni->addStretch(1);
+  bottoni->addWidget(Command2);
+  auto* sotto = new QHBoxLayout;
+  sotto->addLayout(stato, 1);
+  sotto->addLayout(sistema);
+  sotto->addLayout(privati);
+  sotto->addLayout(bottoni);
+  tutto->addLayout(sotto);
+}
+
+void Form4::Collega() {
+  Text1->setValidator(
+      new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[A-Za-z]*")), Text1));
+  ScriviInMaiuscole(*Text1);
+  connect(File1, &QListWidget::itemDoubleClicked, this, [this] { ApriDiSistema(); });
+  connect(File2, &QListWidget::itemDoubleClicked, this, [this] { ApriPrivato(); });
+  struct Voce {
+    QPushButton* pulsante;
+    void (Form4::*comando)();
+  };
+  for (const auto& [pulsante, comando] : {Voce{Command1, &Form4::ChiediParola},
+                                          {Command3, &Form4::AggiungiParola},
+                                          {Command5, &Form4::EliminaParola},
+                                          {Command4, &Form4::RicreaDizionario},
+                                          {Command8, &Form4::ImportaListe},
+                                          {Command6, &Form4::CreaPrivato},
+                                          {Command7, &Form4::CancellaPrivato},
+                                          {Command2, &Form4::reject}}) {
+    connect(pulsante, &QPushButton::clicked, this, comando);
+  }
+}
+
+bool Form4::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() == QEvent::KeyPress && Invio(static_cast<QKeyEvent&>(*evento))) {
+    if (oggetto == Text1) {
+      AggiungiParola();
+    } else if (oggetto == File1) {
+      ApriDiSistema();
+    } else if (oggetto == File2) {
+      ApriPrivato();
+    }
+    return true;
+  }
+  return FinestraModale::eventFilter(oggetto, evento);
+}
+
+// --- Long work ---
+
+// What would begin another piece of work inside this one, or change the lists under a writing,
+// waits for its end.
+void Form4::Inizia(Lavoro lavoro) {
+  lavoro_ = lavoro;
+  FermaLettura = Falso;
+  Abilita({File1, File2, Command4, Command6, Command7, Command8}, false);
+  if (lavoro == Lavoro::Ricostruzione)
+    Abilita({Command1, Command2, Text1, Command3, Command5}, false);
+}
+
+void Form4::Finisci() {
+  lavoro_ = Lavoro::Nessuno;
+  Abilita({File1, File2, Command2, Text1, Command3, Command6, Command7}, true);
+  Abilita({Command1, Command4, Command5, Command8}, letto_);
+}
+
+// Lets the message loop run when it is time; false once the window is to close.
+bool Form4::Cedi() {
+  if (cadenza_.Scaduta()) {
+    ImpostaPuntatoreMouse(PuntatoreFreccia);
+    ChiUsa().CediAiMessaggi();
+    ImpostaPuntatoreMouse(PuntatoreClessidra);
+  }
+  return !FermaLettura;
+}
+
+void Form4::DipingiBarra(double parte, Colore colore) {
+  Superficie& barra = Picture1->Superficie();
+  const double larghezza = barra.LarghezzaSuperficie(), altezza = barra.AltezzaSuperficie();
+  if (parte > 0) barra.RiquadroPieno(0, 0, larghezza * parte, altezza, colore);
+  barra.Riquadro(0, 0, larghezza - 1, altezza - 1, ColoreBordo);
+}
+
+// --- Reading ---
+
+void Form4::LeggiDizio() {
+  const Clessidra clessidra;
+  Inizia(Lavoro::Lettura);
+  Label3->setText(
+      AQt(Unisci("In corso la lettura del dizionario ", TestoPercorso(NomeDizionario), " ...")));
+  TotaleParole = 0;
+  for (std::size_t lista = 0; lista < parole_.size(); ++lista) {
+    if (!LeggiSezione(lista)) return;
+  }
+  letto_ = true;
+  Finisci();
+  Label3->clear();
+}
+
+// False when the user has had enough; the window is closing then.
+bool Form4::LeggiSezione(std::size_t lista) {
+  DipingiBarra(1, ColoreGiallo);
+  if (!Cedi()) return false;
+  const int conto = UltimoNumero(LunghezzaDi(lista));
+  ScansioneSezione scansione(LunghezzaDi(lista));
+  BloccoDiParole blocco;
+  int lette = 0;
+  while (scansione.Prossimo(blocco)) {
+    std::vector<std::string> parole;
+    for (int i = 0; i < blocco.quante; ++i)
+      parole.emplace_back(blocco.Parola(i), static_cast<std::size_t>(blocco.lunghezza));
+    Combo1[lista]->Aggiungi(std::move(parole));
+    lette += blocco.quante;
+    TotaleParole += blocco.quante;
+    DipingiBarra(double(lette) / conto, ColoreBlu);
+    if (!Cedi()) return false;
+  }
+  if (!parole_[lista].empty()) Combo1[lista]->Scrivi(parole_[lista].front());
+  Label2[lista]->setText(TestoConto(lette, ParoleLette));
+  MostraTotale();
+  return true;
+}
+
+void Form4::ApriDiSistema() {
+  const auto nome = File1->Scelto();
+  constexpr std::size_t otto = 8 - MinLunghezza;
+  const bool altro = nome && *nome != NomeDizionario;
+  if (nome && (parole_[otto].empty() || altro)) {
+    NomeDizionario = *nome;
+    LinguaDizionario = LinguaDelDizionario(*nome).value_or(LinguaDizionario);
+    ApriEMostra();
+  }
+  RiaprePronto();
+}
+
+void Form4::ApriPrivato() {
+  const auto nome = File2->Scelto();
+  if (nome && *nome != NomeDizionario) {
+    NomeDizionario = *nome;
+    LinguaDizionario = LinguaDeiPrivati;
+    ApriEMostra();
+  }
+  RiaprePronto();
+}
+
+// A file that cannot be read, which has been told, leaves nothing to change or to write.
+void Form4::ApriEMostra() {
+  SvuotaListe();
+  letto_ = false;
+  if (ApriDizionario()) return LeggiDizio();
+  TotaleParole = 0;
+  AzzeraDidascalie();
+  MostraTotale();
+  Finisci();
+}
+
+void Form4::RiaprePronto() {
+  Abilita({Command1, Command4, Command5}, letto_);
+  MostraNome();
+}
+
+// --- Single words ---
+
+void Form4::ChiediParola() {
+  Text1->show();
+  Command3->show();
+  Text1->clear();
+  Text1->setFocus();
+}
+
+void Form4::AggiungiParola() {
+  const std::string parola = Maiuscole(SenzaSpazi(DaQt(Text1->text())));
+  if (!LunghezzaAmmessa(static_cast<int>(parola.size()))) {
+    Avvisa("Nel dizionario sono ammesse solamente parole formate da 3 a 15 caratteri.");
+  } else {
+    const std::size_t lista = parola.size() - MinLunghezza;
+    if (PostoDellaParola(parole_[lista], parola)) {
+      Avvisa(Unisci("La parola '", parola, "' esiste già nel dizionario."_cp));
+      return Text1->clear();
+    }
+    Combo1[lista]->Aggiungi(parola);
+    Avvisa(Unisci("La parola '", parola,
+                  "' è stata momentaneamente aggiunta al dizionario, cliccare sul bottone 'Crea "
+                  "dizionario' per la ricostruzione definitiva sul disco."_cp));
+    ContaUnaParola(lista, 1);
+  }
+  Command3->hide();
+  Text1->hide();
+}
+
+void Form4::EliminaParola() {
+  const auto lista = static_cast<std::size_t>(ListaCorrente);
+  const auto scelta = Combo1[lista]->Scelta();
+  if (!scelta) return;
+  const std::string parola = parole_[lista][*scelta];
+  if (!Confermata("Si desidera veramente eliminare la parola: " + parola)) return;
+  // The list may have been read on while the question stood.
+  const auto posto = PostoDellaParola(parole_[lista], parola);
+  if (!posto) return;
+  Combo1[lista]->Togli(*posto);
+  ContaUnaParola(lista, -1);
+  Avvisa(
+      "Parola eliminata, cliccare su 'Ricostruzione dizionario' per la ricostruzione effettiva del "
+      "dizionario");
+}
+
+// The label itself holds the count that a change goes on from.
+void Form4::ContaUnaParola(std::size_t lista, int variazione) {
+  const std::string didascalia = DaQt(Label2[lista]->text());
+  const int conto = didascalia.empty() ? 0 : ValoreNumerico(didascalia.substr(1));
+  Label2[lista]->setText(TestoConto(conto + variazione, ParoleCambiate));
+  Arrossa(*Label2[lista]);
+  TotaleParole += variazione;
+  MostraTotale();
+  Arrossa(*Label4);
+}
+
+// --- Rebuild ---
+
+void Form4::RicreaDizionario() {
+  if (!Confermata("Attenzione non interrompere assolutamente la fase di creazione del dizionario! "
+                  "Su computer lenti questa operazione potrebbe durare diversi minuti. Si desidera "
+                  "ricreare il dizionario principale?")) {
+    return Avvisa("Operazione annulata.");
+  }
+  Inizia(Lavoro::Ricostruzione);
+  Label3->setText(
+      AQt(Unisci("In corso la scrittura del dizionario ", TestoPercorso(NomeDizionario), "...")));
+  ScriviSulDisco();
+  Finisci();
+}
+
+void Form4::ScriviSulDisco() {
+  const EsitoDizionario esito = ScriviDizionario(
+      PercorsoDizionario(), parole_,
+      [this](std::size_t lista, std::size_t fatte) { SegueScrittura(lista, fatte); });
+  DipingiBarra(1, ColoreBianco);
+  if (!esito.errore.empty()) {
+    Label3->setText(QStringLiteral("Il dizionario sul disco resta com'era"));
+    return Avvisa(esito.errore, {}, Icona::Avviso);
+  }
+  if (ApriDizionario()) Label3->setText(QStringLiteral("Dizionario riscritto correttamente"));
+}
+
+void Form4::SegueScrittura(std::size_t lista, std::size_t fatte) {
+  const std::size_t tutte = parole_[lista].size();
+  if (fatte == 0) {
+    Label2[lista]->clear();
+    DipingiBarra(1, ColoreBianco);
+  }
+  if (tutte > 0) DipingiBarra(double(fatte) / double(tutte), ColoreBlu);
+  if (fatte == tutte) Label2[lista]->setText(TestoConto(static_cast<int>(tutte), ParoleCambiate));
+  if (cadenza_.Scaduta()) ChiUsa().CediAiMessaggi();
+}
+
+// --- Import ---
+
+void Form4::ImportaListe() {
+  Inizia(Lavoro::Importazione);
+  bool riuscita = true;
+  for (std::size_t lista = 0; riuscita && lista < parole_.size(); ++lista) {
+    riuscita = ImportaLista(lista);
+    if (cadenza_.Scaduta()) ChiUsa().CediAiMessaggi();
+    if (FermaLettura) return;
+  }
+  Finisci();
+  if (!riuscita) {
+    Avvisa(
+        "Per usare questa utility bisogna prima preparare una serie di files di testo 3.txt, "
+        "4.txt, "
+        "5.txt .... 15.txt contenenti le parole che si vogliono importare");
+  }
+}
+
+bool Form4::ImportaLista(std::size_t lista) {
+  Combo1[lista]->Svuota();
+  auto importata = LeggiListaDaImportare(LunghezzaDi(lista));
+  if (!importata) return false;
+  Combo1[lista]->Aggiungi(std::move(importata->parole));
+  Label2[lista]->setText(TestoConto(importata->righe, ParoleLette));
+  return true;
+}
+
+// --- Private dictionaries ---
+
+void Form4::CreaPrivato() {
+  const auto risposta = ChiUsa().ChiediTesto(
+      {.richiesta = "Inserire nome del dizionario privato che si vuole creare :"});
+  if (!risposta || risposta->empty()) return;
+  const auto nome = NomeDizionarioPrivato(*risposta);
+  const auto esistente = nome ? TrovaFile(CartellaProgramma, *nome) : std::nullopt;
+  if (!nome || (!esistente && CreaDizionarioVuoto(*nome))) {
+    return Avvisa("Nome del file specificato NON valido oppure disco di sola lettura.");
+  }
+  NomeDizionario = esistente ? esistente->filename() : *nome;
+  LinguaDizionario = LinguaDeiPrivati;
+  ApriEMostra();
+  MostraNome();
+  if (esistente) {
+    Label3->setText(QStringLiteral("Questo dizionario esisteva già: è stato aperto"));
+  } else {
+    AzzeraDidascalie();
+  }
+  File2->Vai(CartellaProgramma);
+}
+
+void Form4::CancellaPrivato() {
+  const auto nome = File2->Scelto();
+  if (!nome) return;
+  const std::string testo = TestoPercorso(*nome);
+  if (Maiuscole(testo) == Maiuscole(TestoPercorso(NomeDizionario))) {
+    return Avvisa(Unisci(
+        "Dizionario ", testo,
+        " aperto in questo momento, chiuderlo e selezionarne un altro prima di cancellarlo."));
+  }
+  if (!Confermata(Unisci("Si desidera veramente cancellare il dizionario privato : ", testo,
+                         "?  -  Questa operazione è irreversibile quindi il file non potrà più "
+                         "essere ripristinato."_cp))) {
+    return;
+  }
+  std::error_code errore;
+  const bool cancellato = std::filesystem::remove(CartellaProgramma / *nome, errore);
+  if (!cancellato) {
+    Avvisa(Unisci("Impossibile cancellare il dizionario personale : ", testo,
+                  " - Disco/File probabile sola lettura."));
+  }
+  File2->Vai(CartellaProgramma);
+}
+
+// --- Labels and lists ---
+
+void Form4::SvuotaListe() {
+  for (ElencoDiParole* lista : Combo1)
+    lista->Svuota();
+}
+
+void Form4::AzzeraDidascalie() {
+  for (std::size_t lista = 0; lista < Label1.size(); ++lista) {
+    Label1[lista]->setText(QStringLiteral("%1 Caratt.").arg(LunghezzaDi(lista)));
+    Label2[lista]->clear();
+  }
+}
+
+void Form4::MostraNome() {
+  const std::string nome = TestoPercorso(NomeDizionario);
+  Label9->setText(AQt(nome.substr(0, nome.find('.'))));
+}
+
+void Form4::MostraTotale() {
+  Label4->setText(AQt(ConMigliaia(TotaleParole)));
+}
+
+// --- Exit ---
+
+void Form4::reject() {
+  if (lavoro_ == Lavoro::Ricostruzione) return;
+  ImpostaPuntatoreMouse(PuntatoreFreccia);
+  ChiUsa().CediAiMessaggi();
+  FermaLettura = Vero;
+  FinestraModale::reject();
+}
+
+}  // namespace telarium

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <array>
+
+#include "crossworddialogs/windows/file_lists.h"
+#include "dictionary/windows/word_box.h"
+#include "dictionary/word_list.h"
+#include "platform/pace.h"
+#include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_dialog.h"
+
+namespace telarium {
+
+/// The dictionary manager: reads a dictionary into one sorted list for each length of word, changes
+/// the lists and writes the dictionary anew from them. What was not written is gone when it closes.
+/// The dictionary opened last in it stays the open one.
+class Form4 : public FinestraModale {
+ public:
+  explicit Form4(QWidget* genitore);
+
+  static constexpr int NumListe = MaxLunghezza - MinLunghezza + 1;
+
+  // Of each length: its heading, its words, their number.
+  std::array<QLabel*, NumListe> Label1;
+  std::array<ElencoDiParole*, NumListe> Combo1;
+  std::array<QLabel*, NumListe> Label2;
+  QLabel* Label3;  // the status line
+  QLabel* Label4;  // TotaleParole
+  QLabel* Label5;
+  QLabel* Label6;
+  ListaFile* File1;  // the dictionaries of the system
+  QLabel* Label7;
+  ListaFile* File2;       // the private ones
+  QLabel* Label9;         // name of the open dictionary
+  Tela* Picture1;         // how far a reading or writing has come
+  QPushButton* Command1;  // asks for a word to add
+  QLineEdit* Text1;
+  QPushButton* Command3;  // adds it
+  QPushButton* Command5;  // deletes the selected word
+  QPushButton* Command4;  // rebuild
+  QPushButton* Command8;  // import
+  QPushButton* Command6;  // new private dictionary
+  QPushButton* Command7;  // deletes one
+  QPushButton* Command2;  // exit
+
+  /// Reads the dictionary named by NomeDizionario into the lists, behind what they hold.
+  void LeggiDizio();
+
+ public slots:
+  /// The close box and Esc act as Command2.
+  void reject() override;
+
+ protected:
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+ private:
+  enum class Lavoro { Nessuno, Lettura, Ricostruzione, Importazione };
+
+  void CreaListe();
+  void CreaDizionari();
+  void CreaAvanzamento();
+  void CreaComandi();
+  void Disponi();
+  void Collega();
+
+  void Inizia(Lavoro lavoro);
+  void Finisci();
+  bool Cedi();
+  bool LeggiSezione(std::size_t lista);
+  void ApriDiSistema();
+  void ApriPrivato();
+  void ApriEMostra();
+  void RiaprePronto();
+  void ChiediParola();
+  void AggiungiParola();
+  void EliminaParola();
+  void RicreaDizionario();
+  void ScriviSulDisco();
+  void SegueScrittura(std::size_t lista, std::size_t fatte);
+  void ImportaListe();
+  bool ImportaLista(std::size_t lista);
+  void CreaPrivato();
+  void CancellaPrivato();
+
+  void SvuotaListe();
+  void AzzeraDidascalie();
+  void MostraNome();
+  void MostraTotale();
+  void ContaUnaParola(std::size_t lista, int variazione);
+  void DipingiBarra(double parte, Colore colore);
+
+  ListeDiParole parole_;
+  std::int32_t TotaleParole = 0;
+  std::int16_t ListaCorrente = 0;
+  Booleano16 FermaLettura = Falso;
+  Lavoro lavoro_ = Lavoro::Nessuno;
+  bool letto_ = false;  // the lists hold a dictionary
+  Cadenza cadenza_;
+};
+
+}  // namespace telarium
