@@ -1,7 +1,11 @@
 #include "dictionary/dictionary_writer.h"
 
+#include <chrono>
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
 
 #include "platform/codepage.h"
 #include "support/numbered_words.h"
@@ -118,6 +122,36 @@ TEST_F(DictionaryWriterTest, StaleTemporaryFileIsReplaced) {
   WriteFile("LESSICO.new", std::string(1000, 'x'));
   ASSERT_EQ(Write({Words{}, {"CASA"}}), "");
   EXPECT_EQ(ReadFile(InFolder(file)).size(), 455u);
+}
+
+// A process that rebuilds without end is killed at any moment: the file is one of the two whole
+// ones.
+TEST_F(DictionaryWriterTest, KilledRebuildLeavesAWholeDictionary) {
+  const ListeDiParole lists[] = {{Words{}, NumberedWords(2000, 4)}, {Words{"APE"}}};
+  std::string whole[2];
+  for (int i : {0, 1}) {
+    ASSERT_EQ(Write(lists[i]), "");
+    whole[i] = ReadFile(InFolder(file));
+  }
+  int stale = 0, seen[2] = {};
+  for (int kill = 0; kill < 60; ++kill) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+      for (int i = 0;; i = 1 - i)
+        ScriviDizionario(InFolder(file), lists[i]);
+    }
+    std::this_thread::sleep_for(std::chrono::microseconds(300 * kill));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    const std::string left = ReadFile(InFolder(file));
+    ASSERT_TRUE(left == whole[0] || left == whole[1])
+        << left.size() << " bytes after kill " << kill;
+    ++seen[left == whole[0] ? 0 : 1];
+    stale += std::filesystem::exists(InFolder("LESSICO.new"));
+    ASSERT_EQ(Write(lists[0]), "");  // removes what the killed one has left
+  }
+  EXPECT_GT(stale, 0) << "no kill came while a file was being written";
+  EXPECT_GT(seen[0], 0);
 }
 
 }  // namespace

@@ -46,6 +46,7 @@ class ScriptedUser : public Utente {
   std::vector<RichiestaDiTesto> requests;  // the input boxes so far
   std::vector<std::string> waits;          // the waits so far
   bool patient = true;                     // false: breaks a wait off at once
+  std::function<void()> whileYielding;     // what the user does at each look at the message loop
   int beeps = 0;
   std::vector<int> pointerShapes;
   std::vector<AvanzamentoEstrazione> polls;
@@ -61,7 +62,9 @@ class ScriptedUser : public Utente {
   std::unique_ptr<Attesa> IniziaAttesa(const std::string& testo) override;
   void FormaPuntatore(int forma) override { pointerShapes.push_back(forma); }
   void SegnaleAcustico() override { ++beeps; }
-  void CediAiMessaggi() override {}
+  void CediAiMessaggi() override {
+    if (whileYielding) whileYielding();
+  }
 
  private:
   std::vector<Messaggio> messages_;

@@ -113,7 +113,7 @@ void Form4::CreaAvanzamento() {
                  this));
   Label3->setTextFormat(Qt::PlainText);
   Label3->setWordWrap(true);
-  Label3->setMinimumHeight(Label3->sizeHint().height());  // what is below stays when it is empty
+  Label3->setMinimumHeight(Label3->fontMetrics().height());  // also while it is empty
   Picture1 = Chiamato(QStringLiteral("Picture1"), new Tela(this));
   Picture1->setFixedHeight(AltezzaProgressione);
   Picture1->QuandoCambiaMisura([this] { DipingiBarra(1, ColoreBianco); });

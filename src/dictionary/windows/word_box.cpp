@@ -30,6 +30,12 @@ class ModelloDiParole : public QAbstractListModel {
     return genitore.isValid() ? 0 : NumeroDi(parole_.size());
   }
 
+  // A view asks for every row at each change, so this must be quicker than Qt's own.
+  QModelIndex index(int riga, int colonna, const QModelIndex& genitore) const override {
+    const bool presente = riga >= 0 && static_cast<std::size_t>(riga) < parole_.size();
+    return presente && colonna == 0 && !genitore.isValid() ? createIndex(riga, 0) : QModelIndex();
+  }
+
   QVariant data(const QModelIndex& voce, int ruolo) const override {
     if (!voce.isValid() || ruolo != Qt::DisplayRole) return {};
     return AQt(parole_[static_cast<std::size_t>(voce.row())]).left(MaxCaratteriMostrati);
@@ -52,7 +58,7 @@ class ModelloDiParole : public QAbstractListModel {
     beginInsertRows({}, posto, posto);
     parole_.insert(parole_.begin() + posto, parola);
     endInsertRows();
-    return index(posto);
+    return createIndex(posto, 0);
   }
 
   void Togli(std::size_t posto) {
@@ -132,7 +138,7 @@ void ElencoDiParole::CercaScritta() {
   const std::string scritto = DaQt(Testo->text());
   const std::size_t posto = PrimoPostoDa(parole_, scritto);
   if (posto == parole_.size() || scritto.empty()) return Lascia();
-  const QModelIndex voce = modello_->index(NumeroDi(posto));
+  const QModelIndex voce = modello_->index(NumeroDi(posto), 0, {});
   if (Maiuscole(parole_[posto]) == Maiuscole(scritto)) {
     Elenco->setCurrentIndex(voce);
   } else {
