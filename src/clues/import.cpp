@@ -1,7 +1,5 @@
 #include "clues/import.h"
 
-#include <chrono>
-
 #include "clues/encyclopedia.h"
 #include "clues/merging.h"
 #include "clues/store_use.h"
@@ -9,14 +7,14 @@
 #include "model/pointer.h"
 #include "model/state.h"
 #include "platform/codepage.h"
+#include "platform/pace.h"
 #include "platform/platform.h"
 #include "platform/text.h"
 
 namespace telarium {
 namespace {
 
-constexpr std::size_t MaxByteFile = 256u << 20;   // far above any list; it is held in memory
-constexpr std::chrono::milliseconds Cadenza{16};  // between two looks at the message loop
+constexpr std::size_t MaxByteFile = 256u << 20;  // far above any list; it is held in memory
 
 // Tells on Command1 how far the import has come, and looks at the message loop, as often as the
 // screen can show it; at the end once more.
@@ -27,9 +25,7 @@ class Avanzamento {
   void Aggiunta(int parole, std::string_view parola) { didascalia_ = Unisci(parole, ' ', parola); }
 
   void Avanza() {
-    const auto adesso = std::chrono::steady_clock::now();
-    if (adesso < prossimo_) return;
-    prossimo_ = adesso + Cadenza;
+    if (!cadenza_.Scaduta()) return;
     Mostra();
     ChiUsa().CediAiMessaggi();
   }
@@ -40,7 +36,7 @@ class Avanzamento {
   }
 
   std::string didascalia_;
-  std::chrono::steady_clock::time_point prossimo_;
+  Cadenza cadenza_;
 };
 
 // The text in the code page. A file that somebody has saved in UTF-8 is told by its multi-byte
