@@ -15,7 +15,7 @@ namespace telarium {
 namespace {
 
 constexpr std::size_t BytePerVolta = 64 << 10;  // of a list: a few milliseconds
-constexpr double QuotaLettura = 0.4;            // of the whole time, as measured
+constexpr double QuotaLettura = 0.3;            // of the whole time, as measured
 
 std::vector<Percorso> ListeInstallate(const Percorso& installati) {
   std::vector<Percorso> liste = ElencaFile(installati / CartellaListeInstallate, "*.tsv");
