@@ -2,4 +2,4 @@
 build_packages=(g++ cmake ninja-build xz-utils qt6-base-dev libqt6svg6-dev qt6-translations-l10n
   libcurl4-openssl-dev ca-certificates libsqlite3-dev libx11-dev fonts-liberation)
 test_packages=(libgtest-dev libbenchmark-dev clang-format-14 poppler-utils
-  chromium chromium-driver python3-selenium)
+  chromium chromium-driver python3-selenium dpkg-dev file)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -8,6 +9,9 @@
 // Plain lists of clues, from which the encyclopedia is built: one clue a line, in UTF-8, as word
 // TAB family TAB clue, the family being F for an easy clue and D for a hard one.
 namespace telarium {
+
+/// Far above the largest list there is; it is held in memory.
+inline constexpr std::size_t MaxByteLista = 256u << 20;
 
 struct VoceDiLista {
   std::string parola;  // in capitals

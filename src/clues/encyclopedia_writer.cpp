@@ -15,6 +15,10 @@ namespace {
 
 using Voce = std::vector<VoceDiLista>::const_iterator;
 
+// Shares of the whole time, as measured; the rest is the index and the file.
+constexpr double QuotaOrdine = 0.4;
+constexpr double QuotaRighe = 0.4;
+
 // One family of the entries of one word; none without a clue.
 std::optional<std::string> Famiglia(Voce da, Voce a, bool difficile, int& definizioni) {
   std::optional<std::string> famiglia;
@@ -35,25 +39,43 @@ std::optional<std::string> Famiglia(Voce da, Voce a, bool difficile, int& defini
   return famiglia;
 }
 
+void OrdinaPerParola(std::vector<VoceDiLista>& voci) {
+  const auto perParola = [](const VoceDiLista& a, const VoceDiLista& b) {
+    return a.parola < b.parola;
+  };
+  std::stable_sort(voci.begin(), voci.end(), perParola);
+}
+
+// A row for each word; false when it was broken off.
+bool InserisciParole(BaseDati& base, const std::vector<VoceDiLista>& voci,
+                     const ProsegueOpera& prosegue, EsitoEnciclopedia& esito) {
+  const auto quante = static_cast<double>(voci.size());
+  Istruzione inserisci(base, "INSERT INTO Parole VALUES (?1, ?2, ?3)");
+  for (Voce da = voci.begin(); da != voci.end();) {
+    const double parte = static_cast<double>(da - voci.begin()) / quante;
+    if (prosegue && !prosegue(QuotaOrdine + QuotaRighe * parte)) return false;
+    const Voce a = std::find_if(
+        da, voci.end(), [da](const VoceDiLista& voce) { return voce.parola != da->parola; });
+    inserisci.Lega(1, std::string_view(da->parola));
+    inserisci.Lega(2, Famiglia(da, a, false, esito.definizioni));
+    inserisci.Lega(3, Famiglia(da, a, true, esito.definizioni));
+    inserisci.Esegui();
+    ++esito.parole;
+    da = a;
+  }
+  return true;
+}
+
 // The database as a file has it. The rows go in sorted, so that neighbours lie side by side.
-std::string ImmagineEnciclopedia(const std::vector<VoceDiLista>& voci, EsitoEnciclopedia& esito) {
+std::string ImmagineEnciclopedia(std::vector<VoceDiLista> voci, const ProsegueOpera& prosegue,
+                                 EsitoEnciclopedia& esito) {
+  OrdinaPerParola(voci);
   BaseDati base;
   base.Esegui(
       "CREATE TABLE Parole (PAROLA TEXT NOT NULL, DEFINIZ_FACILE TEXT, DEFINIZ_DIFFIC TEXT);"
       "BEGIN");
-  {
-    Istruzione inserisci(base, "INSERT INTO Parole VALUES (?1, ?2, ?3)");
-    for (Voce da = voci.begin(); da != voci.end();) {
-      const Voce a = std::find_if(
-          da, voci.end(), [da](const VoceDiLista& voce) { return voce.parola != da->parola; });
-      inserisci.Lega(1, std::string_view(da->parola));
-      inserisci.Lega(2, Famiglia(da, a, false, esito.definizioni));
-      inserisci.Lega(3, Famiglia(da, a, true, esito.definizioni));
-      inserisci.Esegui();
-      ++esito.parole;
-      da = a;
-    }
-  }
+  esito.interrotta = !InserisciParole(base, voci, prosegue, esito);
+  if (esito.interrotta) return {};
   base.Esegui("COMMIT; CREATE INDEX ParolePerParola ON Parole (PAROLA)");
   return base.Immagine();
 }
@@ -83,25 +105,42 @@ void TogliRegistro(const Percorso& file) {
   }
 }
 
-}  // namespace
+// Puts the bytes of a complete database in their place.
+using ScriviImmagine = std::function<std::error_code(const std::string& immagine)>;
 
-EsitoEnciclopedia ScriviEnciclopedia(std::vector<VoceDiLista> voci) {
-  const auto perParola = [](const VoceDiLista& a, const VoceDiLista& b) {
-    return a.parola < b.parola;
-  };
-  std::stable_sort(voci.begin(), voci.end(), perParola);
+EsitoEnciclopedia Componi(std::vector<VoceDiLista> voci, const ProsegueOpera& prosegue,
+                          const ScriviImmagine& scrivi) {
   EsitoEnciclopedia esito;
-  const Percorso nome = PercorsoNellaCartella(CartellaProgramma, NomeEnciclopedia);
   try {
-    RaccogliRegistro(nome);
-    const std::string immagine = ImmagineEnciclopedia(voci, esito);
-    TogliRegistro(nome);
-    if (const auto errore = ScriviFile(nome, immagine))
+    const std::string immagine = ImmagineEnciclopedia(std::move(voci), prosegue, esito);
+    if (esito.interrotta) return {.errore = {}, .interrotta = true};
+    if (const auto errore = scrivi(immagine))
       throw ErroreEnciclopedia(Unisci("impossibile scriverla: ", DescrizioneErrore(errore)));
   } catch (const ErroreEnciclopedia& errore) {
     return {.errore = errore.Descrizione()};
   }
   return esito;
+}
+
+}  // namespace
+
+EsitoEnciclopedia ScriviEnciclopedia(std::vector<VoceDiLista> voci, const ProsegueOpera& prosegue) {
+  return Componi(std::move(voci), prosegue, [](const std::string& immagine) {
+    const Percorso nome = PercorsoNellaCartella(CartellaProgramma, NomeEnciclopedia);
+    RaccogliRegistro(nome);
+    TogliRegistro(nome);
+    return ScriviFile(nome, immagine);
+  });
+}
+
+EsitoEnciclopedia CreaEnciclopedia(const Percorso& cartella, std::vector<VoceDiLista> voci,
+                                   const ProsegueOpera& prosegue) {
+  if (!TrovaFile(cartella, NomeEnciclopedia)) TogliRegistro(cartella / NomeEnciclopedia);
+  return Componi(std::move(voci), prosegue, [&](const std::string& immagine) {
+    const std::error_code errore = ScriviFileNuovo(cartella / NomeEnciclopedia, immagine);
+    const bool fattaDaAltri = errore && TrovaFile(cartella, NomeEnciclopedia);
+    return fattaDaAltri ? std::error_code() : errore;
+  });
 }
 
 }  // namespace telarium

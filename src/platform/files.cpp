@@ -83,6 +83,21 @@ class FileAccanto {
     return {};
   }
 
+  // The same unless something has that name.
+  std::error_code PrendiIlPostoLibero() {
+    if (::renameat2(AT_FDCWD, nome_.c_str(), AT_FDCWD, definitivo_.c_str(), RENAME_NOREPLACE) ==
+        0) {
+      nome_.clear();
+      return {};
+    }
+    // A file system that cannot do both in one step.
+    if (errno != EINVAL && errno != ENOSYS) return UltimoErrore();
+    std::error_code ignorato;
+    if (fs::exists(fs::symlink_status(definitivo_, ignorato)))
+      return std::make_error_code(std::errc::file_exists);
+    return PrendiIlPosto();
+  }
+
  private:
   void CreaConNomeNuovo() {
     // Shortened, so that a name of the greatest length has room for what is put round it.
@@ -158,6 +173,22 @@ std::vector<Percorso> NomiDelleVoci(const Percorso& cartella, std::error_code& e
   return nomi;
 }
 
+// The first entry, a folder or none, of that name whatever the case of the letters behind the last
+// separator.
+std::optional<Percorso> TrovaVoce(const Percorso& esatto, bool unaCartella) {
+  if (esatto.filename().empty()) return std::nullopt;
+  const std::string cercato = InMaiuscole(esatto.filename());
+  std::error_code ignorato;
+  const auto trovati =
+      NomiDelleVoci(esatto.parent_path(), ignorato, [&](const fs::directory_entry& voce) {
+        std::error_code nonCartella;
+        return InMaiuscole(voce.path().filename()) == cercato &&
+               voce.is_directory(nonCartella) == unaCartella;
+      });
+  if (trovati.empty()) return std::nullopt;
+  return esatto.parent_path() / trovati.front();
+}
+
 }  // namespace
 
 EsitoLettura LeggiFile(const Percorso& nome, std::size_t massimo, std::string& contenuto) {
@@ -210,6 +241,18 @@ std::error_code ScriviFile(const Percorso& nome, std::string_view contenuto, Per
   return {};
 }
 
+std::error_code ScriviFileNuovo(const Percorso& nome, std::string_view contenuto,
+                                Permanenza permanenza) {
+  std::error_code errore;
+  if (fs::exists(fs::symlink_status(nome, errore)))
+    return std::make_error_code(std::errc::file_exists);
+  FileAccanto nuovo(nome, {});
+  if ((errore = nuovo.Scrivi(contenuto, permanenza))) return errore;
+  if ((errore = nuovo.PrendiIlPostoLibero())) return errore;
+  if (permanenza == Permanenza::SulDisco) FissaCartella(nome.parent_path());
+  return {};
+}
+
 std::string DescrizioneErrore(const std::error_code& errore) {
   struct Voce {
     std::errc codice;
@@ -223,6 +266,7 @@ std::string DescrizioneErrore(const std::error_code& errore) {
       {std::errc::no_such_file_or_directory, "il file o la cartella non esiste"_cp},
       {std::errc::not_a_directory, "il percorso non è una cartella"_cp},
       {std::errc::is_a_directory, "il nome è quello di una cartella"_cp},
+      {std::errc::file_exists, "il nome è già occupato"_cp},
       {std::errc::file_too_large, "il file è troppo grande"_cp},
       {std::errc::filename_too_long, "il nome è troppo lungo"_cp},
   };
@@ -235,16 +279,14 @@ std::string DescrizioneErrore(const std::error_code& errore) {
 std::optional<Percorso> TrovaFile(const Percorso& cartella, const Percorso& nome) {
   const Percorso esatto = cartella / nome;
   if (EsisteFile(esatto)) return esatto;
-  if (nome.filename().empty()) return std::nullopt;
-  const std::string cercato = InMaiuscole(nome.filename());
+  return TrovaVoce(esatto, false);
+}
+
+Percorso PercorsoDellaCartella(const Percorso& cartella, const Percorso& nome) {
+  const Percorso esatto = cartella / nome;
   std::error_code ignorato;
-  const auto trovati =
-      NomiDelleVoci(esatto.parent_path(), ignorato, [&](const fs::directory_entry& voce) {
-        std::error_code nonCartella;
-        return InMaiuscole(voce.path().filename()) == cercato && !voce.is_directory(nonCartella);
-      });
-  if (trovati.empty()) return std::nullopt;
-  return esatto.parent_path() / trovati.front();
+  if (fs::is_directory(esatto, ignorato)) return esatto;
+  return TrovaVoce(esatto, true).value_or(esatto);
 }
 
 Percorso PercorsoNellaCartella(const Percorso& cartella, const Percorso& nome) {

@@ -35,6 +35,11 @@ enum class Permanenza { SulDisco, Provvisoria };
                                          Permanenza permanenza = Permanenza::SulDisco,
                                          const Percorso& accanto = {});
 
+/// Writes a whole file where there is none: one that is there, or that another program makes
+/// meanwhile, stays, with the error file_exists. Else as ScriviFile.
+[[nodiscard]] std::error_code ScriviFileNuovo(const Percorso& nome, std::string_view contenuto,
+                                              Permanenza permanenza = Permanenza::SulDisco);
+
 /// What an error of the file system means, in Italian, as the end of a sentence.
 std::string DescrizioneErrore(const std::error_code& errore);
 
@@ -46,6 +51,10 @@ std::optional<Percorso> TrovaFile(const Percorso& cartella, const Percorso& nome
 /// TrovaFile, or where it finds nothing the name in the folder as it stands: for opening and
 /// making.
 Percorso PercorsoNellaCartella(const Percorso& cartella, const Percorso& nome);
+
+/// The folder of that name in a folder, found likewise; the name in it as it stands when there is
+/// none.
+Percorso PercorsoDellaCartella(const Percorso& cartella, const Percorso& nome);
 
 /// The names of the ordinary files of a folder that match a pattern with "*" and "?", whatever
 /// their case, in the order of the bytes. An unreadable folder gives none.

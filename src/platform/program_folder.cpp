@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "platform/platform.h"
+#include "platform/text.h"
 
 namespace telarium {
 namespace {
@@ -28,11 +29,46 @@ Percorso CartellaUtente() {
   return casa.is_absolute() ? casa / ".local/share/telarium" : Percorso();
 }
 
-bool CopiaFile(const Percorso& da, const Percorso& a) {
+std::error_code CopiaFile(const Percorso& da, const Percorso& a) {
   std::string contenuto;
-  return LeggiFile(da, std::numeric_limits<std::int32_t>::max(), contenuto) ==
-             EsitoLettura::Letto &&
-         !ScriviFile(a, contenuto, Permanenza::Provvisoria);
+  if (LeggiFile(da, std::numeric_limits<std::int32_t>::max(), contenuto) != EsitoLettura::Letto)
+    return std::make_error_code(std::errc::io_error);
+  const std::error_code errore = ScriviFileNuovo(a, contenuto, Permanenza::Provvisoria);
+  // Another start of the program was faster.
+  return errore == std::errc::file_exists && FileOrdinario(a) ? std::error_code() : errore;
+}
+
+void CopiaMancanti(const Percorso& da, const Percorso& a, const Percorso& relativo,
+                   std::vector<CopiaFallita>& falliti) {
+  const Percorso chiamata = relativo.empty() ? da : relativo;
+  std::error_code errore;
+  fs::create_directories(a, errore);
+  if (errore) return falliti.push_back({chiamata, errore});
+  for (fs::directory_iterator voce(da, errore), fine; !errore && voce != fine;
+       voce.increment(errore)) {
+    std::error_code ignorato;
+    const Percorso nome = voce->path().filename();
+    if (FileNascosto(nome)) continue;
+    if (voce->is_directory(ignorato)) {
+      if (relativo.empty() && nome == CartellaListeInstallate) continue;
+      CopiaMancanti(voce->path(), PercorsoDellaCartella(a, nome), relativo / nome, falliti);
+    } else if (!TrovaFile(a, nome)) {
+      if (const auto fallito = CopiaFile(voce->path(), a / nome))
+        falliti.push_back({relativo / nome, fallito});
+    }
+  }
+  if (errore) falliti.push_back({chiamata, errore});
+}
+
+// One line for all of them: they have the same cause as a rule.
+void DiciFalliti(const std::vector<CopiaFallita>& falliti, const Percorso& cartella) {
+  if (falliti.empty()) return;
+  std::string testo =
+      Unisci("Impossibile preparare la cartella programma ", TestoPercorso(cartella), ": ",
+             DescrizioneErrore(falliti.front().errore), ". Non copiati: ");
+  for (const CopiaFallita& fallito : falliti)
+    testo += (&fallito == &falliti.front() ? "" : ", ") + TestoPercorso(fallito.nome);
+  Avvisa(testo, {}, Icona::Avviso);
 }
 
 }  // namespace
@@ -57,38 +93,20 @@ SceltaCartella ScegliCartellaProgramma() {
   return {utente, !utente.empty()};
 }
 
-std::vector<Percorso> RiempiCartella(const Percorso& installati, const Percorso& cartella) {
-  std::vector<Percorso> falliti;
-  std::error_code errore;
-  fs::create_directories(cartella, errore);
-  for (fs::recursive_directory_iterator
-           voce(installati, fs::directory_options::skip_permission_denied, errore),
-       fine;
-       !errore && voce != fine; voce.increment(errore)) {
-    std::error_code ignorato;
-    const Percorso relativo = voce->path().lexically_relative(installati);
-    if (voce->is_directory(ignorato)) {
-      fs::create_directories(cartella / relativo, ignorato);
-    } else if (!TrovaFile(cartella, relativo) && !CopiaFile(voce->path(), cartella / relativo)) {
-      falliti.push_back(relativo);
-    }
-  }
-  if (errore) falliti.push_back(installati);
+std::vector<CopiaFallita> RiempiCartella(const Percorso& installati, const Percorso& cartella) {
+  std::vector<CopiaFallita> falliti;
+  CopiaMancanti(installati, cartella, {}, falliti);
   return falliti;
 }
 
-Percorso PreparaCartellaProgramma() {
+SceltaCartella PreparaCartellaProgramma() {
   const SceltaCartella scelta = ScegliCartellaProgramma();
   if (scelta.cartella.empty()) {
     Avvisa("Impossibile stabilire la cartella programma: manca la cartella dell'utente (HOME).");
-    return {};
+  } else if (scelta.daRiempire) {
+    DiciFalliti(RiempiCartella(CartellaDatiInstallati(), scelta.cartella), scelta.cartella);
   }
-  if (!scelta.daRiempire) return scelta.cartella;
-  std::string falliti;
-  for (const Percorso& fallito : RiempiCartella(CartellaDatiInstallati(), scelta.cartella))
-    falliti += (falliti.empty() ? "" : ", ") + TestoPercorso(fallito);
-  if (!falliti.empty()) Avvisa("Impossibile copiare nella cartella programma: " + falliti);
-  return scelta.cartella;
+  return scelta;
 }
 
 }  // namespace telarium

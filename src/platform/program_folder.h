@@ -26,13 +26,23 @@ Percorso CartellaEseguibile();
 /// Where the installed data lie, seen from the executable.
 Percorso CartellaDatiInstallati();
 
-/// Copies into `cartella` each file below `installati` that is missing there, whatever the case of
-/// its name, and makes folders as needed. Nothing that exists is written over. Gives the files that
-/// could not be copied.
-std::vector<Percorso> RiempiCartella(const Percorso& installati, const Percorso& cartella);
+/// The folder of the installed data that holds the clue lists. It stays there: the encyclopedia of
+/// the program folder is made from it.
+inline constexpr const char* CartellaListeInstallate = "clues";
+
+/// A file, or a folder with all in it, that could not be copied: its name below the installed data.
+struct CopiaFallita {
+  Percorso nome;
+  std::error_code errore;
+};
+
+/// Copies into `cartella` each file below `installati` that is missing there, and makes folders as
+/// needed, the case of all names aside; the clue lists and hidden files stay behind. Nothing that
+/// exists is written over. Gives what could not be copied.
+std::vector<CopiaFallita> RiempiCartella(const Percorso& installati, const Percorso& cartella);
 
 /// Chooses the program folder and, when it is the user's own, brings it what is missing there of
-/// the installed data. What cannot be copied is told. Empty, told, when there is no folder.
-Percorso PreparaCartellaProgramma();
+/// the installed data. What cannot be copied is told. No folder, told, when there is none.
+SceltaCartella PreparaCartellaProgramma();
 
 }  // namespace telarium

@@ -43,6 +43,9 @@ class Attesa {
 
   /// Shows that it lasts, and how many bytes have come. False once the user wants no more of it.
   virtual bool Prosegue(std::size_t byte) = 0;
+
+  /// The same for work of known length: shows the share that is done, from 0 to 1.
+  virtual bool ProsegueFino(double parte) = 0;
 };
 
 // Shapes of the mouse pointer.
@@ -76,7 +79,7 @@ class Utente {
   /// Called at each slot and each restart of a fill. False: the user wants it to stop.
   virtual bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) = 0;
 
-  /// Begins a wait for something from outside, which the text says.
+  /// Begins a wait, for which the text says the reason.
   virtual std::unique_ptr<Attesa> IniziaAttesa(const std::string& testo) = 0;
 
   /// Gives the mouse pointer one of the shapes above.

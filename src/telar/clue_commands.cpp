@@ -14,9 +14,6 @@
 namespace telarium::telar {
 namespace {
 
-// Far above the largest list there is; it is held in memory.
-constexpr std::size_t MaxByteLista = 256u << 20;
-
 // A report is a result, on one line: its last line break ends it.
 Stato StampaRapporto(const std::optional<std::string>& rapporto) {
   if (!rapporto) return Stato::Fallito;
@@ -25,7 +22,7 @@ Stato StampaRapporto(const std::optional<std::string>& rapporto) {
   return Stato::Fatto;
 }
 
-Stato EncCrea(const Argomenti& argomenti, PiattaformaConsole&) {
+Stato EncCrea(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   std::vector<VoceDiLista> voci;
   bool tutteTralasciate = false;
   for (const std::string& file : argomenti.liberi) {
@@ -43,11 +40,10 @@ Stato EncCrea(const Argomenti& argomenti, PiattaformaConsole&) {
     return Stato::Fallito;
   }
   AscoltaInterruzione();  // a file beside the encyclopedia must not be left
-  const EsitoEnciclopedia esito = ScriviEnciclopedia(std::move(voci));
-  if (!esito.errore.empty()) {
-    Avvisa(esito.errore);
-    return Stato::Fallito;
-  }
+  const EsitoEnciclopedia esito = ScriviEnciclopedia(
+      std::move(voci), [&](double) { return !piattaforma.ChiUsa().Interrotto(); });
+  if (!esito.errore.empty()) Avvisa(esito.errore);
+  if (esito.interrotta || !esito.errore.empty()) return Stato::Fallito;
   StampaCampi({std::to_string(esito.parole), std::to_string(esito.definizioni)});
   return Stato::Fatto;
 }
@@ -100,17 +96,17 @@ std::vector<Comando> ComandiDefinizioni() {
        EncCrea},
       {"definizioni", "PAROLA", "", 1, 1, {},
        "Mostra le definizioni facili (F) e difficili (D) di una parola.",
-       Definizioni},
+       Definizioni, true},
       {"preleva", "FILE USCITA", "", 2, 2,
        {{"--modo", "1|2|3", "definizioni di ogni tipo, solo facili, solo difficili (1)"}},
        "Dà a ogni parola del cruciverba una definizione dell'enciclopedia.",
-       Preleva},
+       Preleva, true},
       {"salva-definizioni", "FILE", "", 1, 1, {},
        "Aggiunge all'enciclopedia le definizioni del cruciverba.",
-       Salva},
+       Salva, true},
       {"importa-definizioni", "", "", 0, 0, {},
        "Aggiunge all'enciclopedia le coppie di definizIONI.txt della cartella programma.",
-       Importa},
+       Importa, true},
   };
   // clang-format on
 }

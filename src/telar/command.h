@@ -27,6 +27,7 @@ struct Comando {
   std::vector<Opzione> opzioni;
   std::string_view aiuto;
   std::function<Stato(const Argomenti&, PiattaformaConsole&)> esegui;
+  bool usaEnciclopedia = false;  // the user's own one is made first when it is missing
 };
 
 /// All commands, in the order of the help text.

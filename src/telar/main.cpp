@@ -2,7 +2,9 @@
 #include <cstdio>
 #include <exception>
 
+#include "clues/first_encyclopedia.h"
 #include "model/state.h"
+#include "platform/codepage.h"
 #include "platform/console/console_platform.h"
 #include "platform/program_folder.h"
 #include "telar/command.h"
@@ -15,6 +17,8 @@ namespace {
 constexpr Opzione OpzioneCartella = {"--cartella", "CARTELLA", "la cartella programma"};
 constexpr Opzione OpzioneAiuto = {"--help", "", "mostra questo aiuto"};
 constexpr Opzione OpzioneVersione = {"--version", "", "mostra la versione"};
+constexpr const char* NotaEnciclopedia =
+    "\nSe nella cartella dell'utente manca l'enciclopedia, la fa prima dalle liste installate.\n";
 
 void Aggiungi(std::string& testo, std::initializer_list<std::string_view> parti) {
   for (const std::string_view parte : parti)
@@ -51,6 +55,7 @@ std::string UsoDi(const Comando& comando) {
                    " [OPZIONI]\n\n", comando.aiuto, "\n\nOpzioni:\n"});
   AggiungiOpzioni(testo, comando.opzioni);
   AggiungiOpzioni(testo, {OpzioneCartella, OpzioneAiuto});
+  if (comando.usaEnciclopedia) testo += NotaEnciclopedia;
   return testo;
 }
 
@@ -82,17 +87,31 @@ Argomenti Leggi(const std::vector<std::string>& parole, const Comando* comando) 
   return Separa(parole, ammesse);
 }
 
-// Sets CartellaProgramma; false, told, when there is no folder that could be it.
-bool ScegliCartella(const Argomenti& argomenti) {
+// Sets CartellaProgramma and gives the choice; no folder, told, when there is none that could be
+// it.
+SceltaCartella ScegliCartella(const Argomenti& argomenti) {
+  SceltaCartella scelta;
   if (argomenti.Ha(OpzioneCartella.nome)) {
     const Percorso nominata = argomenti.Valore(OpzioneCartella.nome);
     if (nominata.empty()) throw ArgomentiErrati("--cartella vuole il nome di una cartella");
     std::error_code errore;
-    CartellaProgramma = std::filesystem::absolute(nominata, errore);
-    return true;
+    scelta.cartella = std::filesystem::absolute(nominata, errore);
+  } else {
+    scelta = PreparaCartellaProgramma();
   }
-  CartellaProgramma = PreparaCartellaProgramma();
-  return !CartellaProgramma.empty();
+  CartellaProgramma = scelta.cartella;
+  return scelta;
+}
+
+// False when the encyclopedia is missing and could not be made, or Ctrl+C was pressed.
+bool PreparaEnciclopediaMancante() {
+  const Percorso installati = CartellaDatiInstallati();
+  if (!MancaEnciclopedia(installati, CartellaProgramma)) return true;
+  AscoltaInterruzione();
+  Avvisa(
+      "L'enciclopedia delle definizioni non c'è ancora: viene fatta dalle liste installate, una "
+      "volta sola."_cp);
+  return PreparaEnciclopedia(installati, CartellaProgramma);
 }
 
 Stato Esegui(const Comando& comando, const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
@@ -101,7 +120,10 @@ Stato Esegui(const Comando& comando, const Argomenti& argomenti, PiattaformaCons
     const char* quale = quanti < comando.minArgomenti ? "mancano argomenti" : "troppi argomenti";
     throw ArgomentiErrati(std::string(quale) + ", servono: " + std::string(comando.argomenti));
   }
-  if (!ScegliCartella(argomenti)) return Stato::Fallito;
+  const SceltaCartella scelta = ScegliCartella(argomenti);
+  if (scelta.cartella.empty()) return Stato::Fallito;
+  if (scelta.daRiempire && comando.usaEnciclopedia && !PreparaEnciclopediaMancante())
+    return Stato::Fallito;
   return comando.esegui(argomenti, piattaforma);
 }
 

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "clues/first_encyclopedia.h"
 #include "editor/startup.h"
 #include "editor/windows/Form1.h"
 #include "editor/windows/pictures.h"
@@ -74,7 +75,7 @@ void ParlaItaliano(QApplication& applicazione) {
 int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
   PiattaformaQt piattaforma;
   ImpostaPiattaforma(&piattaforma);
-  const Percorso cartella = PreparaCartellaProgramma();
+  const auto [cartella, daRiempire] = PreparaCartellaProgramma();
   if (cartella.empty()) return EXIT_FAILURE;
 
   UnicaIstanza istanza(cartella);
@@ -94,6 +95,8 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
     return EXIT_FAILURE;
   }
 
+  if (daRiempire && MancaEnciclopedia(CartellaDatiInstallati(), cartella))
+    PreparaEnciclopedia(CartellaDatiInstallati(), cartella);
   RigaDiComando = file;
   CaricaProgramma(cartella);
   Form1 form;
@@ -133,6 +136,8 @@ int main(int argc, char** argv) {
   // A display name would be put behind every title.
   QApplication::setApplicationName(QStringLiteral("Telarium"));
   QApplication::setApplicationVersion(QStringLiteral(TELARIUM_VERSION));
+  QApplication::setDesktopFileName(QStringLiteral("telarium"));
+  QApplication::setWindowIcon(Immagine("icon"));
   ParlaItaliano(applicazione);
   return EseguiDesktop(applicazione, file);
 }

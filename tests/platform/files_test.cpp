@@ -40,6 +40,17 @@ TEST_F(Files, WriteThatFailsKeepsTheOldFileLeavesNoOtherAndTellsWhy) {
   EXPECT_EQ(ElencaFile(CartellaProgramma, "*"), Names{"vecchio"});
 }
 
+TEST_F(Files, ANewFileIsWrittenWhereThereIsNone) {
+  EXPECT_FALSE(ScriviFileNuovo(InFolder("nuovo"), "primo"));
+  fs::create_symlink("manca", InFolder("legame"));
+  fs::create_directory(InFolder("sotto"));
+  for (const char* name : {"nuovo", "legame", "sotto"})
+    EXPECT_EQ(ScriviFileNuovo(InFolder(name), "secondo"), std::errc::file_exists) << name;
+  EXPECT_EQ(ScriviFileNuovo(InFolder("manca/file"), "y"), std::errc::no_such_file_or_directory);
+  EXPECT_EQ(ReadFile(InFolder("nuovo")), "primo");
+  EXPECT_EQ(ElencaFile(CartellaProgramma, "*"), Names{"nuovo"});
+}
+
 TEST_F(Files, WriteKeepsLinksAndRightsAndTakesTheLongestName) {
   fs::create_directory(InFolder("sotto"));
   fs::permissions(WriteFile("sotto/vero", "vecchio"), fs::perms(0604));

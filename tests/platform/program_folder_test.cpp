@@ -48,17 +48,25 @@ using Names = std::vector<Percorso>;
 TEST_F(FillingFolder, WhatIsMissingIsCopiedAndNothingIsWrittenOver) {
   std::filesystem::create_directories(InFolder("dati/aiuto/figure"));
   std::filesystem::create_directories(InFolder("dati/occupata"));
-  std::filesystem::create_directories(InFolder("mia/aiuto"));
-  for (const char* name : {"INI", "DFC", "aiuto/A.html", "aiuto/figure/una.bmp", "occupata/file"}) {
+  std::filesystem::create_directories(InFolder("dati/clues"));
+  std::filesystem::create_directories(InFolder("mia/AIUTO"));
+  for (const char* name : {"INI", "DFC", "aiuto/A.html", "aiuto/figure/una.bmp", "occupata/file",
+                           "clues/lista.tsv", ".telarium.lock"}) {
     WriteFile(Percorso("dati") / name, "installato");
   }
-  const char* const kept[] = {"ini", "aiuto/a.HTML", "occupata"};
+  const char* const kept[] = {"ini", "AIUTO/a.HTML", "occupata"};
   for (const char* name : kept)
     WriteFile(Percorso("mia") / name, "mio");
-  EXPECT_EQ(RiempiCartella(InFolder("dati"), InFolder("mia")), Names{"occupata/file"});
+  const auto failed = RiempiCartella(InFolder("dati"), InFolder("mia"));
+  ASSERT_EQ(failed.size(), 1u);
+  EXPECT_EQ(failed[0].nome, "occupata");
+  EXPECT_EQ(failed[0].errore, std::errc::not_a_directory);
   EXPECT_EQ(ElencaFile(InFolder("mia"), "*"), (Names{"DFC", "ini", "occupata"}));
-  EXPECT_EQ(ElencaFile(InFolder("mia/aiuto"), "*"), Names{"a.HTML"});
-  EXPECT_EQ(ReadFile(InFolder("mia/aiuto/figure/una.bmp")), "installato");
+  Names folders;
+  EXPECT_FALSE(ElencaCartelle(InFolder("mia"), folders));
+  EXPECT_EQ(folders, Names{"AIUTO"}) << "one folder, whatever the case; no clue lists";
+  EXPECT_EQ(ElencaFile(InFolder("mia/AIUTO"), "*"), Names{"a.HTML"});
+  EXPECT_EQ(ReadFile(InFolder("mia/AIUTO/figure/una.bmp")), "installato");
   for (const char* name : kept)
     EXPECT_EQ(ReadFile(InFolder("mia") / name), "mio");
 }

@@ -59,6 +59,7 @@ std::unique_ptr<Attesa> ScriptedUser::IniziaAttesa(const std::string& testo) {
   struct Wait : Attesa {
     explicit Wait(bool patient) : patient_(patient) {}
     bool Prosegue(std::size_t) override { return patient_; }
+    bool ProsegueFino(double) override { return patient_; }
     bool patient_;
   };
   waits.push_back(testo);

@@ -80,7 +80,6 @@ AzioneDiPulsante AzioneDi(const QAction& pulsante) {
 Form1::Form1() {
   setObjectName(u"Form1");
   setWindowTitle(QStringLiteral("Telarium"));
-  setWindowIcon(Immagine("icon"));
   CreaControlli();
   CreaMenu();
   CollegaPulsanti();

@@ -17,6 +17,7 @@ void SegnaInterruzione(int) {
 class AttesaConsole : public Attesa {
  public:
   bool Prosegue(std::size_t) override { return interruzione == 0; }
+  bool ProsegueFino(double) override { return interruzione == 0; }
 };
 
 }  // namespace

@@ -197,7 +197,10 @@ QCursor UtenteQt::PuntatorePer(int forma) const {
 }
 
 std::unique_ptr<Attesa> UtenteQt::IniziaAttesa(const std::string& testo) {
-  return std::make_unique<AttesaQt>(TestoQt(testo), Genitore());
+  QWidget* genitore = Genitore();
+  // Without a window on the screen nothing else tells that the program is there.
+  const std::chrono::milliseconds primaDiMostrarsi(genitore ? 500 : 0);
+  return std::make_unique<AttesaQt>(TestoQt(testo), genitore, primaDiMostrarsi);
 }
 
 // The shape is the main window's: over other windows, menus and boxes the pointer is ordinary.

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QLocale>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -13,6 +12,7 @@ namespace telarium {
 namespace {
 
 constexpr int LarghezzaMinima = 320;  // pixels
+constexpr int PassiDellaBarra = 1000;
 
 QLabel* Etichetta(const char16_t* nome, const QString& testo, QWidget* genitore) {
   auto* etichetta = Chiamato(QString::fromUtf16(nome), new QLabel(testo, genitore));
@@ -37,14 +37,14 @@ AttesaQt::AttesaQt(const QString& testo, QWidget* genitore,
   setModal(true);
   setMinimumWidth(LarghezzaMinima);
   byte_ = Etichetta(u"Byte", {}, this);
-  auto* barra = Chiamato(QStringLiteral("Barra"), new QProgressBar(this));
-  barra->setRange(0, 0);  // nobody knows how much will come
+  barra_ = Chiamato(QStringLiteral("Barra"), new QProgressBar(this));
+  barra_->setRange(0, 0);  // nobody knows how much will come
   auto* interrompi =
       Chiamato(QStringLiteral("Interrompi"), new QPushButton(QStringLiteral("Interrompi"), this));
   connect(interrompi, &QPushButton::clicked, this, &QDialog::reject);
   auto* disposizione = new QVBoxLayout(this);
   disposizione->addWidget(Etichetta(u"Testo", testo, this));
-  disposizione->addWidget(barra);
+  disposizione->addWidget(barra_);
   disposizione->addWidget(byte_);
   disposizione->addWidget(interrompi, 0, Qt::AlignRight);
   trascorso_.start();
@@ -52,7 +52,18 @@ AttesaQt::AttesaQt(const QString& testo, QWidget* genitore,
 
 bool AttesaQt::Prosegue(std::size_t byte) {
   byte_->setText(ByteRicevuti(byte));
-  if (!isVisible() && trascorso_.hasExpired(primaDiMostrarsi_.count())) show();
+  return Mostra();
+}
+
+bool AttesaQt::ProsegueFino(double parte) {
+  byte_->hide();
+  barra_->setRange(0, PassiDellaBarra);
+  barra_->setValue(static_cast<int>(parte * PassiDellaBarra));
+  return Mostra();
+}
+
+bool AttesaQt::Mostra() {
+  if (!isVisible() && trascorso_.elapsed() >= primaDiMostrarsi_.count()) show();
   // Before the box takes all input, that is kept for later, a close of a window too.
   QCoreApplication::processEvents(isVisible() ? QEventLoop::AllEvents
                                               : QEventLoop::ExcludeUserInputEvents);

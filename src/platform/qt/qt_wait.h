@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QProgressBar>
 #include <chrono>
 
 #include "platform/user.h"
@@ -14,17 +15,20 @@ namespace telarium {
 /// before it shows has its effect behind a short wait, and none when it shows.
 class AttesaQt : public QDialog, public Attesa {
  public:
-  AttesaQt(const QString& testo, QWidget* genitore,
-           std::chrono::milliseconds primaDiMostrarsi = std::chrono::milliseconds(500));
+  AttesaQt(const QString& testo, QWidget* genitore, std::chrono::milliseconds primaDiMostrarsi);
 
   bool Prosegue(std::size_t byte) override;
+  bool ProsegueFino(double parte) override;
 
   /// The button, Escape and the close box.
   void reject() override;
 
  private:
+  bool Mostra();
+
   QElapsedTimer trascorso_;
   std::chrono::milliseconds primaDiMostrarsi_;
+  QProgressBar* barra_;
   QLabel* byte_;
   bool interrotta_ = false;
 };

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 #include <QWindow>
@@ -195,6 +196,19 @@ TEST_F(WaitTest, ALongWaitShowsABoxThatBreaksItOff) {
   EXPECT_EQ(window.clicks, 0);
   Click(window);
   EXPECT_EQ(window.clicks, 1) << "the window is free again";
+}
+
+TEST_F(WaitTest, WorkOfKnownLengthShowsItsShare) {
+  UtenteQt early;  // no window yet: the box shows at once
+  const auto wait = early.IniziaAttesa("Preparazione");
+  EXPECT_TRUE(wait->ProsegueFino(0.25));
+  QWidget* box = Box();
+  ASSERT_TRUE(box);
+  const auto* bar = box->findChild<QProgressBar*>();
+  EXPECT_EQ(4 * bar->value(), bar->maximum());
+  EXPECT_FALSE(box->findChild<QLabel*>(QStringLiteral("Byte"))->isVisible());
+  QTest::keyClick(box, Qt::Key_Escape);
+  EXPECT_FALSE(wait->ProsegueFino(0.5));
 }
 
 TEST_F(UserTest, ThePointerFollowsItsStateOverTheMainWindowAlone) {

@@ -1,0 +1,172 @@
+#!/usr/bin/python3
+"""The Debian package as a new user meets it: package_test.py BUILD_FOLDER. It is made, unpacked into a
+folder, and both programs are started there with a home of their own. No network, no display."""
+
+import gzip
+import os
+import pathlib
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+import xml.etree.ElementTree
+
+BUILD = pathlib.Path(sys.argv.pop(1))
+PATIENCE = 60  # seconds, for what takes few
+
+MIME_TYPE = "application/x-telarium"
+
+
+def run(*command, **options):
+    return subprocess.run(command, check=True, capture_output=True, text=True, encoding="utf-8",
+                          **options).stdout
+
+
+def wait_until(condition, what):
+    end = time.monotonic() + PATIENCE
+    while not condition():
+        if time.monotonic() > end:
+            raise AssertionError("waited in vain until " + what)
+        time.sleep(0.02)
+
+
+class Package(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        folder = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
+        cls.addClassCleanup(folder.cleanup)
+        cls.folder = pathlib.Path(folder.name)
+        # What is handed on is packed tighter, which takes a minute.
+        run("cpack", "-G", "DEB", "--config", BUILD / "CPackConfig.cmake",
+            "-D", "CPACK_DEBIAN_COMPRESSION_TYPE=gzip", "-B", cls.folder / "out")
+        cls.package, = (cls.folder / "out").glob("telarium_*.deb")
+        cls.usr = cls.folder / "root" / "usr"
+        run("dpkg-deb", "-x", cls.package, cls.folder / "root")
+        cls.data = cls.usr / "share" / "telarium"
+        cls.samples = sorted((cls.data / "Archivio cruciverba").glob("*.tlrm"))
+
+    def setUp(self):
+        self.home = pathlib.Path(tempfile.mkdtemp(dir=self.folder))
+        self.environment = {"HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.home),
+                            "QT_QPA_PLATFORM": "offscreen", "PATH": os.environ["PATH"]}
+        self.own = self.home / ".local" / "share" / "telarium"
+
+    def start(self, program, *arguments):
+        process = subprocess.Popen(
+            [self.usr / "bin" / program, *arguments], env=self.environment, cwd=self.home,
+            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, encoding="utf-8")
+        self.addCleanup(process.communicate)
+        self.addCleanup(process.kill)
+        return process
+
+    def telar(self, *arguments):
+        """Standard output and standard error of a command that succeeds."""
+        process = self.start("telar", *arguments)
+        results = process.communicate(timeout=PATIENCE)
+        self.assertEqual(process.returncode, 0, results[1])
+        return results
+
+    def names_in_own(self):
+        return {path.name for path in self.own.iterdir() if path.name != ".telarium.lock"}
+
+    def expected_names(self):
+        return {path.name for path in self.data.iterdir()} - {"clues"}
+
+    def test_says_what_it_needs(self):
+        def field(name):
+            return run("dpkg-deb", "-f", self.package, name).strip()
+        self.assertEqual(field("Version"), run(self.usr / "bin/telar", "--version").split()[1])
+        needed = re.split(r"[ ,]+", field("Depends"))
+        for name in ("libqt6widgets6", "libqt6svg6", "libqt6printsupport6", "libqt6network6",
+                     "libcurl4", "libsqlite3-0", "fonts-liberation", "qt6-translations-l10n",
+                     "ca-certificates", "xdg-utils"):
+            self.assertIn(name, needed)
+
+    def test_hands_the_lists_on_and_never_the_store(self):
+        lists = sorted(path.name for path in (self.data / "clues").iterdir())
+        self.assertEqual([re.sub(r"\d+-", "", name) for name in lists],
+                         [name + ".tsv" for name in
+                          ("scritte", "words", "letters", "hints", "names", "elements", "latin",
+                           "english", "geography", "wikdict", "mythes")])
+        self.assertEqual([path for path in self.usr.rglob("*") if path.suffix == ".mdb"], [])
+        notice = (self.usr / "share/doc/telarium/copyright").read_text(encoding="utf-8")
+        for name in [re.sub(r"\d+-", "*-", name) for name in lists] + [
+                path.name for path in self.data.glob("*.dat")]:
+            self.assertIn(name, notice)
+
+    def test_console_makes_the_encyclopedia_when_a_command_needs_it(self):
+        sample = self.samples[0]
+        grid, told = self.telar("griglia", sample)
+        self.assertGreater(len(grid.splitlines()), 5)
+        self.assertEqual(told, "")
+        self.assertEqual(self.names_in_own(), self.expected_names())
+
+        broken = self.start("telar", "definizioni", "casa")
+        self.assertIn("enciclopedia", broken.stderr.readline())
+        broken.send_signal(signal.SIGINT)
+        self.assertEqual(broken.wait(PATIENCE), 1)
+        self.assertEqual(self.names_in_own(), self.expected_names())
+
+        clues, told = self.telar("definizioni", "casa")
+        self.assertRegex(clues, r"\AF\t.+\n")
+        self.assertEqual(len(told.splitlines()), 1, told)
+        self.assertEqual(self.telar("definizioni", "casa"), (clues, ""))
+        self.assertEqual(self.names_in_own(), self.expected_names() | {"telarium1.mdb"})
+        self.assertGreater(len(self.telar("parole", sample)[0].splitlines()), 10)
+
+    def test_desktop_makes_it_at_the_first_start_and_opens_crosswords(self):
+        def shows(sample):
+            snapshot = self.own / "_tlma_32.tmp"
+            return snapshot.exists() and snapshot.read_bytes() == sample.read_bytes()
+        first = self.start("telarium", self.samples[0])
+        wait_until(lambda: first.poll() is not None or shows(self.samples[0]), "the file is open")
+        self.assertEqual(self.start("telarium", self.samples[1]).wait(PATIENCE), 0)
+        wait_until(lambda: shows(self.samples[1]), "the second file is open")
+        self.assertLessEqual(self.expected_names() | {"telarium1.mdb"}, self.names_in_own())
+        self.assertNotIn("clues", self.names_in_own())
+        self.assertEqual(self.telar("definizioni", "casa")[1], "")
+        self.assertIsNone(first.poll(), "it has ended")
+
+    def test_a_double_click_on_a_crossword_leads_here(self):
+        entry = self.usr / "share/applications/telarium.desktop"
+        lines = dict(line.split("=", 1) for line in entry.read_text(encoding="utf-8").splitlines()
+                     if "=" in line)
+        self.assertEqual(lines["Exec"], "telarium %f")
+        self.assertEqual(lines["MimeType"], MIME_TYPE + ";")
+        kind = xml.etree.ElementTree.parse(
+            self.usr / "share/mime/packages/telarium.xml").getroot()[0]
+        self.assertEqual(kind.get("type"), MIME_TYPE)
+        self.assertEqual(kind.find("{*}glob").get("pattern"), "*.tlrm")
+        icons = self.usr / "share/icons/hicolor"
+        for name in ("apps/" + lines["Icon"], "mimetypes/" + kind.find("{*}icon").get("name")):
+            self.assertTrue((icons / "scalable" / (name + ".svg")).exists(), name)
+            self.assertEqual(len(list(icons.glob(f"*x*/{name}.png"))), 7, name)
+        if shutil.which("desktop-file-validate"):
+            self.assertEqual(run("desktop-file-validate", entry), "")
+
+    def test_man_pages_name_every_command_and_option(self):
+        pages = {name: self.usr / f"share/man/man1/{name}.1.gz" for name in ("telar", "telarium")}
+        for name, page in pages.items():
+            self.assertEqual((self.usr / f"share/man/it/man1/{name}.1.gz").read_bytes(),
+                             page.read_bytes())
+            if shutil.which("man"):
+                formatted = subprocess.run(
+                    ["man", "--warnings", "-E", "UTF-8", "-l", page], capture_output=True,
+                    env={"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8"}, check=True)
+                self.assertEqual(formatted.stderr, b"")
+        text = gzip.decompress(pages["telar"].read_bytes()).decode("utf-8").replace("\\-", "-")
+        commands = re.findall(r"^  ([a-z][a-z-]*) ", self.telar("--help")[0], re.MULTILINE)
+        self.assertGreater(len(commands), 15)
+        for command in commands:
+            self.assertRegex(text, rf'(?m)^(\.BI? |\\fB){command}\b')
+            for option in re.findall(r"^  (--[a-z-]+)", self.telar(command, "--help")[0],
+                                     re.MULTILINE):
+                self.assertRegex(text, option + r"\b")
+
+
+if __name__ == "__main__":
+    unittest.main()
