@@ -21,7 +21,9 @@ enum class Modale {
   TelarDef,
   TelarBro,
   telariummdb,
-  Form6
+  Form6,
+  frmTip,
+  Form3
 };
 
 /// The word rectangle: place and size on the surface in pixels, and its colour.
