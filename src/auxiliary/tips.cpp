@@ -1,5 +1,7 @@
 #include "auxiliary/tips.h"
 
+#include <utility>
+
 #include "model/state.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
@@ -52,6 +54,7 @@ EsitoLettura Suggerimenti::LoadTips(const Percorso& file) {
   std::string contenuto;
   const EsitoLettura esito = LeggiFile(file, MaxByteSuggerimenti, contenuto);
   if (esito != EsitoLettura::Letto) return esito;
+  contenuto = NellaCodePage(std::move(contenuto));
   LettoreDiRighe righe(contenuto);
   for (std::string_view riga; righe.Prossima(riga);)
     suggerimenti_.emplace_back(riga);

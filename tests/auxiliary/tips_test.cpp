@@ -23,6 +23,10 @@ TEST_F(TipsTest, DrawsFromTheFirstToTheLastWithEqualChances) {
     tips.Estrai();
     EXPECT_EQ(tips.Testo(), tip);
   }
+  WriteFile("tlrmtips.txt", "\xEF\xBB\xBFPerch\xC3\xA9");  // as most editors save it
+  tips = {};
+  tips.Carica();
+  EXPECT_EQ(tips.Testo(), "Perch\xE9");
 }
 
 TEST_F(TipsTest, ToldWhatIsWrongWithTheFileAndNothingForAnEmptyOne) {

@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Suggerimenti tips;
   tips.Carica();
   for (int draw = 0; draw < 3; ++draw) {
-    Verifica(input.find(tips.Testo()) != std::string_view::npos, "a tip that is not in the file");
+    Verifica(tips.Testo().find_first_of("\r\n") == std::string::npos, "a tip is one line");
     tips.Estrai();
   }
   return 0;
