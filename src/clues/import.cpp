@@ -39,15 +39,6 @@ class Avanzamento {
   Cadenza cadenza_;
 };
 
-// The text in the code page. A file that somebody has saved in UTF-8 is told by its multi-byte
-// characters, which no Italian text in the code page happens to hold.
-std::string NellaCodePage(std::string testo) {
-  const std::string_view senzaSegno = SenzaSegnoUtf8(testo);
-  if (senzaSegno.size() < testo.size()) return DaUtf8(senzaSegno);
-  if (auto convertito = DaUtf8Esatto(testo)) return std::move(*convertito);
-  return testo;
-}
-
 // Reads the file; a failure has been told.
 std::optional<std::string> LeggiFileDefinizioni() {
   std::string testo;

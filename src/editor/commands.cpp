@@ -1,5 +1,6 @@
 #include "editor/commands.h"
 
+#include "auxiliary/tips.h"
 #include "dictionary/dictionary.h"
 #include "dictionary/maintenance.h"
 #include "editor/main_window.h"
@@ -119,6 +120,20 @@ void ApriAiuto() {
            {}, Icona::Avviso);
   }
   LasciaAnteprima();
+}
+
+void ApriSuggerimenti() {
+  LeggiMostraSuggerimenti();
+  if (!MostraSuggerimenti) return;
+  LaFinestra().TogliLabel1();
+  LasciaAnteprima();
+  LaFinestra().MostraModale(Modale::frmTip);
+}
+
+void MostraInformazioni() {
+  LasciaAnteprima();
+  PrendiCongedo();
+  LaFinestra().MostraModale(Modale::Form3);
 }
 
 void ScegliCarattere() {

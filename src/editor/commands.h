@@ -38,6 +38,12 @@ void LanciaLudarium();
 /// MenuAiuto: opens the help file.
 void ApriAiuto();
 
+/// Menusugg, and the first activation: shows frmTip, unless the user wants no tips any more.
+void ApriSuggerimenti();
+
+/// MenuInfo, and a click on StatusBar1: leaves a print preview and shows Form3.
+void MostraInformazioni();
+
 /// MenuFont: shows fONTEN.
 void ScegliCarattere();
 

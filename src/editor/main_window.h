@@ -22,7 +22,9 @@ enum class Modale {
   TelarBro,
   telariummdb,
   Form4,
-  Form6
+  Form6,
+  frmTip,
+  Form3
 };
 
 /// The word rectangle: place and size on the surface in pixels, and its colour.

@@ -113,6 +113,7 @@ void AttivaForm1() {
   LaFinestra().MostraCommand3d15(false);
   if (!RigaDiComando.empty() && FileComando.empty()) ApriRigaDiComando();
   if (!GiaAttivata) {
+    ApriSuggerimenti();
     LaFinestra().CollocaPicture2();
     LaFinestra().MettiGraficaAMenuFile();
   }

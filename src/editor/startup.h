@@ -24,8 +24,9 @@ void AbbandonaIstantanea();
 /// command line the splash picture shows.
 void MostraAvvio();
 
-/// What an activation of the main window does: at the first one it takes up the command line's file
-/// and places what the start leaves to it; each time it takes over what the snapshot holds.
+/// What an activation of the main window does: at the first one it takes up the command line's
+/// file, shows the tip of the day and places what the start leaves to it; each time it takes over
+/// what the snapshot holds.
 void AttivaForm1();
 
 }  // namespace telarium

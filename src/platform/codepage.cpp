@@ -58,6 +58,13 @@ std::string_view SenzaSegnoUtf8(std::string_view utf8) {
   return utf8.starts_with(segno) ? utf8.substr(segno.size()) : utf8;
 }
 
+std::string NellaCodePage(std::string testo) {
+  const std::string_view senzaSegno = SenzaSegnoUtf8(testo);
+  if (senzaSegno.size() < testo.size()) return DaUtf8(senzaSegno);
+  if (auto convertito = DaUtf8Esatto(testo)) return std::move(*convertito);
+  return testo;
+}
+
 std::string AUtf8(std::string_view testo) {
   std::string utf8;
   utf8.reserve(testo.size() + testo.size() / 8);

@@ -79,6 +79,10 @@ std::optional<std::string> DaUtf8Esatto(std::string_view utf8);
 /// A UTF-8 text without the mark that some editors begin a file with.
 std::string_view SenzaSegnoUtf8(std::string_view utf8);
 
+/// What a user's file holds, in the code page. One that somebody has saved in UTF-8 is told by its
+/// multi-byte characters, which no Italian text in the code page happens to hold.
+std::string NellaCodePage(std::string testo);
+
 /// A text of the code page in UTF-8.
 std::string AUtf8(std::string_view testo);
 

@@ -43,6 +43,10 @@ class Macchina {
   virtual std::error_code EseguiComando(const Percorso& programma,
                                         const std::vector<std::string>& argomenti) = 0;
 
+  /// Starts a program of the system, by its name and arguments, that shows something. False when
+  /// there is none of that name, or it ends in an error at once.
+  virtual bool ApriProgramma(const std::vector<std::string>& parole) = 0;
+
   /// Opens a file, or an address of the web or a "mailto:" one, with the system's program for it.
   /// False when there is none.
   virtual bool ApriFile(const Percorso& file) = 0;
@@ -55,7 +59,8 @@ class Macchina {
   /// Opens the word processor on a new document of that text. False when there is none.
   virtual bool ScriviInWord(const std::string& testo) = 0;
 
-  /// Hands a mail to the user's mail program. False when there is none.
+  /// Hands a mail to the user's mail program, which gets the attachment by its name. False when
+  /// there is none, or it does not take the mail.
   virtual bool PreparaMail(const Mail& mail) = 0;
 
   /// The bytes behind an http, https or file address, which is in UTF-8 like a file name; none when

@@ -30,7 +30,7 @@ Folders With(Folders folders, const Folders& more) {
 const std::map<std::string, Folders> Allowed = {
     {"platform", {"platform"}},
     {"model", {"platform", "model"}},
-    {"auxiliary", {"platform", "model", "auxiliary"}},
+    {"auxiliary", {"platform", "model", "auxiliary", "telarium_version.h"}},
     {"dictionary", {"platform", "model", "dictionary"}},
     {"editor", {"platform", "model", "dictionary", "auxiliary", "editor", "telarium_version.h"}},
     {"fill", {"platform", "model", "editor", "dictionary", "fill"}},

@@ -9,6 +9,7 @@
 #include "editor/settings.h"
 #include "model/crossword_file.h"
 #include "model/words.h"
+#include "platform/codepage.h"
 #include "support/telarium_test.h"
 
 // The contents that lie beside the program: what a user sees first.
@@ -121,6 +122,22 @@ TEST_F(DataTest, EncyclopediaHasCluesForEveryShortestWord) {
             584);
   ASSERT_TRUE(store->CercaParola("ZEN"));
   EXPECT_EQ(store->LeggiDifficili(), "Fa meditare sull'applauso di una mano sola");
+}
+
+TEST_F(DataTest, TipsAreManyAndShortLinesOfTheCodePage) {
+  const std::string file = ReadFile(Data("TLRMTIPS.TXT"));
+  EXPECT_EQ(DaUtf8Esatto(file), std::nullopt) << "not in UTF-8";
+  std::set<std::string_view> tips;
+  std::string_view rest = file;
+  for (std::size_t end; (end = rest.find("\r\n")) != std::string_view::npos;) {
+    const std::string_view tip = rest.substr(0, end);
+    EXPECT_TRUE(tips.insert(tip).second) << tip;
+    EXPECT_TRUE(tip.size() >= 40 && tip.size() <= 300) << tip;
+    EXPECT_EQ(tip.find_first_of("\r\n\t"), std::string_view::npos) << tip;
+    rest.remove_prefix(end + 2);
+  }
+  EXPECT_EQ(rest, "") << "each line has its end";
+  EXPECT_GE(tips.size(), 40u);
 }
 
 TEST_F(DataTest, SettingsFileHoldsTheInitialSettings) {

@@ -107,6 +107,11 @@ std::error_code ScriptedMachine::EseguiComando(const Percorso& programma,
   return startError;
 }
 
+bool ScriptedMachine::ApriProgramma(const std::vector<std::string>& parole) {
+  tried.push_back(parole.front());
+  return parole.front() == program;
+}
+
 bool ScriptedMachine::ApriFile(const Percorso& file) {
   opened.push_back(file.string());
   return opens;
@@ -125,6 +130,16 @@ bool ScriptedMachine::ApriInWord(const Percorso& documento) {
 bool ScriptedMachine::ScriviInWord(const std::string& testo) {
   written.push_back(testo);
   return opens;
+}
+
+bool ScriptedMachine::PreparaMail(const Mail& mail) {
+  mails.push_back(mail);
+  return takesMail;
+}
+
+std::optional<std::string> ScriptedMachine::LeggiImpostazione(const std::string& chiave) {
+  const auto setting = settings.find(chiave);
+  return setting == settings.end() ? std::nullopt : std::optional(setting->second);
 }
 
 std::optional<std::string> ScriptedMachine::Preleva(const std::string& indirizzo,

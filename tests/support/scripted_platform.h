@@ -86,26 +86,38 @@ class ScriptedMachine : public MacchinaIsolata {
   SorgenteCasuale random{20240305};
   std::vector<std::string> opened;   // files and addresses
   std::vector<std::string> started;  // programs
+  std::vector<std::string> tried;    // programs of the system
+  std::string program;               // the one of them that there is
+  std::vector<Mail> mails;
   std::vector<std::string> fetched;  // addresses
   LimitiDiPrelievo limits{};         // of the last fetch
   std::vector<std::string> written;  // texts for the word processor
   std::vector<std::string> inWord;   // documents opened in it
   bool opens = true;
+  bool takesMail = true;
   bool hasWord = true;
   std::error_code startError;
   std::optional<std::string> fetches;        // what is behind an address
   std::map<std::string, std::string> pages;  // before that: what is behind this one
+  /// This user wants no tips: a modal window at each start would hold the tests up.
+  std::map<std::string, std::string> settings{{"Options/Show Tips at Startup", "0"}};
 
   std::chrono::year_month_day Oggi() override { return today; }
   double Casuale() override;
   std::error_code EseguiComando(const Percorso& programma,
                                 const std::vector<std::string>& argomenti) override;
+  bool ApriProgramma(const std::vector<std::string>& parole) override;
   bool ApriFile(const Percorso& file) override;
   bool ApriIndirizzo(const std::string& indirizzo) override;
   bool ApriInWord(const Percorso& documento) override;
   bool ScriviInWord(const std::string& testo) override;
+  bool PreparaMail(const Mail& mail) override;
   std::optional<std::string> Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
                                      const ProseguePrelievo& prosegue) override;
+  std::optional<std::string> LeggiImpostazione(const std::string& chiave) override;
+  void ScriviImpostazione(const std::string& chiave, const std::string& valore) override {
+    settings[chiave] = valore;
+  }
 };
 
 /// A printer that takes every typeface but one. Its user may give up in the printer dialog.

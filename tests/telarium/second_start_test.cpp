@@ -20,6 +20,8 @@ class DesktopTest : public TelariumTest {
     TelariumTest::SetUp();
     WriteFile("telarium.INI", "");
     OpenDictionary({"CASA"});
+    std::filesystem::create_directory(InFolder("Telarium"));
+    WriteFile("Telarium/telarium.ini", "[Options]\nShow%20Tips%20at%20Startup=0\n");
   }
 
   std::unique_ptr<QProcess> Start(const QStringList& arguments, const char* display = "offscreen") {
@@ -28,6 +30,8 @@ class DesktopTest : public TelariumTest {
     environment.insert(QStringLiteral("TELARIUM_CARTELLA"),
                        QString::fromStdString(InFolder("").string()));
     environment.insert(QStringLiteral("TELARIUM_TEMPI"), QStringLiteral("1"));
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
+                       QString::fromStdString(InFolder("").string()));
     for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
       environment.remove(QLatin1StringView(variable));
     if (*display) environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QLatin1StringView(display));

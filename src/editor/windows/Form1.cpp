@@ -307,7 +307,10 @@ void Form1::CollocaLabel1(double sinistra, double cima) {
 }
 
 void Form1::MostraModale(Modale quale) {
-  if (MostraFinestraModale(quale, *this)) AccodaAttivazione();
+  schemaLibero_ = quale == Modale::frmTip;
+  const bool mostrata = MostraFinestraModale(quale, *this);
+  schemaLibero_ = false;
+  if (mostrata) AccodaAttivazione();
 }
 
 void Form1::MostraPicture1(bool visibile) {
@@ -385,7 +388,7 @@ void Form1::CambiataMisura() {
   Disponi();
   TogliLabel1();  // parked below the old height, it would come into view
   // A fill holds the grid's tables and geometry, and a modal window the word that it edits.
-  misuraCambiata_ = ComandoInCorso();
+  misuraCambiata_ = ComandoInCorso() && !schemaLibero_;
   if (isMinimized() || misuraCambiata_) return;
   Shape1->hide();
   if (NomeCruciverba.empty()) return;

@@ -111,6 +111,8 @@ class Form1 : public QMainWindow, public FinestraEditor {
   std::vector<Percorso> ricevuti_;
   bool occupata_ = false;        // by a run that lets the message loop go on
   bool misuraCambiata_ = false;  // during a command
+  // The tip holds nothing of the grid. At the start it opens before the window has its final size.
+  bool schemaLibero_ = false;
   QShortcut* esc_;
 };
 

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "auxiliary/links.h"
+#include "auxiliary/mail.h"
 #include "clues/bulk.h"
 #include "clues/table_view.h"
 #include "editor/cell_editing.h"
@@ -129,9 +130,13 @@ constexpr ComandoDiVoce comandi[] = {
     {"MenuVis", CommutaSoluzioni},
     {"Menurett", [](Form1&) { CommutaRettangoloParola(); }},
     {"MenuAiuto", [](Form1&) { ApriAiuto(); }},
+    {"Menusugg", [](Form1&) { ApriSuggerimenti(); }},
+    {"menuconsiglia", [](Form1&) { ConsigliaTelarium(); }},
     {"menutelari", VaiA<Indirizzo::PaginaProdotto>},
     {"MenuPHP", VaiA<Indirizzo::SitoProdotto>},
     {"MenuMail", [](Form1&) { ScriviMail(Indirizzo::MailAutore); }},
+    {"mandaschema", [](Form1&) { MandaSchema(); }},
+    {"MenuInfo", [](Form1&) { MostraInformazioni(); }},
 };
 
 constexpr AzioneDiPulsante pulsanti[] = {

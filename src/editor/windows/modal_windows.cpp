@@ -4,8 +4,10 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "auxiliary/windows/Form3.h"
 #include "auxiliary/windows/Form6.h"
 #include "auxiliary/windows/fONTEN.h"
+#include "auxiliary/windows/frmTip.h"
 #include "clues/windows/TelarBro.h"
 #include "clues/windows/TelarDef.h"
 #include "clues/windows/telariummdb.h"
@@ -55,6 +57,8 @@ constexpr VoceModale finestre[] = {
     {Modale::telariummdb, Mostra<telariummdb>},
     {Modale::Form4, Mostra<Form4>},
     {Modale::Form6, Mostra<Form6>},
+    {Modale::frmTip, Mostra<frmTip>},
+    {Modale::Form3, Mostra<Form3>},
 };
 
 }  // namespace

@@ -13,6 +13,7 @@ class MacchinaIsolata : public Macchina {
   std::error_code EseguiComando(const Percorso&, const std::vector<std::string>&) override {
     return std::make_error_code(std::errc::not_supported);
   }
+  bool ApriProgramma(const std::vector<std::string>&) override { return false; }
   bool ApriFile(const Percorso&) override { return false; }
   bool ApriIndirizzo(const std::string&) override { return false; }
   bool ApriInWord(const Percorso&) override { return false; }

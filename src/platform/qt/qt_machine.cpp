@@ -18,16 +18,19 @@ namespace {
 // How long a program that hands its file on to another one is waited for, the window standing
 // still: what takes longer is busy showing it.
 constexpr std::chrono::milliseconds AttesaDiConsegna{500};
+// A mail program is looked for by a long script, which tells only at its end that there is none.
+constexpr std::chrono::milliseconds AttesaDellaPosta{2000};
 
 bool Presente(const char* programma) {
   return !QStandardPaths::findExecutable(QLatin1StringView(programma)).isEmpty();
 }
 
 // Runs a program that opens something; false when it could not be started or soon ended in error.
-bool Consegna(const std::vector<std::string>& parole) {
+bool Consegna(const std::vector<std::string>& parole,
+              std::chrono::milliseconds attesa = AttesaDiConsegna) {
   const ProcessoAvviato processo = Avvia(parole);
   if (processo.errore) return false;
-  const bool finito = processo.esito.wait_for(AttesaDiConsegna) == std::future_status::ready;
+  const bool finito = processo.esito.wait_for(attesa) == std::future_status::ready;
   return !finito || processo.esito.get() == 0;
 }
 
@@ -88,6 +91,28 @@ bool ApriNelSistema(const std::string& cosa, const QUrl& url) {
   return QDesktopServices::openUrl(url);
 }
 
+std::string Codificato(const std::string& utf8) {
+  return QUrl::toPercentEncoding(QString::fromStdString(utf8), "@").toStdString();
+}
+
+// A file name need not be text: each of its bytes by itself.
+std::string Codificato(const Percorso& file) {
+  return QByteArray::fromStdString(file.string()).toPercentEncoding("/").toStdString();
+}
+
+// All of a mail as one address, in which no character is a mark of a shell's or of the address:
+// the options of xdg-email would pass through an "echo" that takes the backslash for one. This is
+// the address that it makes of them.
+std::string IndirizzoDellaMail(const Mail& mail) {
+  std::string indirizzo = "mailto:" + Codificato(AUtf8(mail.destinatario)) +
+                          "?subject=" + Codificato(AUtf8(mail.oggetto)) +
+                          "&body=" + Codificato(AUtf8(mail.testo));
+  std::error_code ignorato;
+  if (mail.allegato)
+    indirizzo += "&attach=" + Codificato(std::filesystem::absolute(*mail.allegato, ignorato));
+  return indirizzo;
+}
+
 QSettings Impostazioni() {
   return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Telarium"),
                    QStringLiteral("telarium"));
@@ -105,6 +130,10 @@ std::error_code MacchinaQt::EseguiComando(const Percorso& programma,
   for (const std::string& argomento : argomenti)
     parole.push_back(AUtf8(argomento));
   return Avvia(parole).errore;
+}
+
+bool MacchinaQt::ApriProgramma(const std::vector<std::string>& parole) {
+  return Consegna(parole);
 }
 
 bool MacchinaQt::ApriFile(const Percorso& file) {
@@ -137,14 +166,7 @@ bool MacchinaQt::ScriviInWord(const std::string& testo) {
 }
 
 bool MacchinaQt::PreparaMail(const Mail& mail) {
-  if (Presente("xdg-email")) {
-    std::vector<std::string> parole = {"xdg-email",         "--utf8", "--subject",
-                                       AUtf8(mail.oggetto), "--body", AUtf8(mail.testo)};
-    if (mail.allegato) parole.insert(parole.end(), {"--attach", mail.allegato->string()});
-    parole.push_back(AUtf8(mail.destinatario));
-    return Consegna(parole);
-  }
-  return false;
+  return Consegna({"xdg-email", IndirizzoDellaMail(mail)}, AttesaDellaPosta);
 }
 
 std::optional<std::string> MacchinaQt::Preleva(const std::string& indirizzo,

@@ -13,6 +13,7 @@ class MacchinaQt : public Macchina {
   double Casuale() override { return casuali_.Prossimo(); }
   std::error_code EseguiComando(const Percorso& programma,
                                 const std::vector<std::string>& argomenti) override;
+  bool ApriProgramma(const std::vector<std::string>& parole) override;
   bool ApriFile(const Percorso& file) override;
   bool ApriIndirizzo(const std::string& indirizzo) override;
   bool ApriInWord(const Percorso& documento) override;

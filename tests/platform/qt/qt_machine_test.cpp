@@ -103,6 +103,37 @@ TEST_F(MachineTest, OpensFilesAndAddressesAndKnowsWhenItCannot) {
   EXPECT_FALSE(machine.ApriIndirizzo("https://www.telarium.example"));
 }
 
+TEST_F(MachineTest, HandsAMailOverAsOneAddressOrSaysThatItIsNotTaken) {
+  Mail mail{.destinatario = "-a&b=c+d@x.example",
+            .oggetto = "Perch\xE9 \\n?",
+            .testo = "Uno\r\ndue & 100%",
+            .allegato = folder.Nome() / "l'\xC3\xA8 due.tlrm"};
+  EXPECT_FALSE(machine.PreparaMail(mail)) << "there is no mail program";
+  Program("xdg-email", "printf '%s\\n' \"$#$*\" > \"$TO.tmp\"; mv \"$TO.tmp\" \"$TO\"");
+  EXPECT_TRUE(machine.PreparaMail(mail));
+  EXPECT_EQ(Told(),
+            "1mailto:-a%26b%3Dc%2Bd@x.example?subject=Perch%C3%A9%20%5Cn%3F"
+            "&body=Uno%0D%0Adue%20%26%20100%25&attach=" +
+                folder.Nome().string() + "/l%27%C3%A8%20due.tlrm");
+  const Percorso before = fs::current_path();
+  fs::current_path(folder.Nome());
+  mail.allegato = "mio.tlrm";
+  EXPECT_TRUE(machine.PreparaMail(mail));
+  EXPECT_TRUE(Told().ends_with("&attach=" + folder.Nome().string() + "/mio.tlrm"));
+  fs::current_path(before);
+  Program("xdg-email", "exit 4");  // its program did not take the mail
+  EXPECT_FALSE(machine.PreparaMail(mail));
+}
+
+TEST_F(MachineTest, OpensAProgramOfTheSystemThatDoesNotFailAtOnce) {
+  EXPECT_FALSE(machine.ApriProgramma({"sysinfo"}));
+  Program("sysinfo", "printf '%s\\n' \"$1\" > \"$TO.tmp\"; mv \"$TO.tmp\" \"$TO\"");
+  EXPECT_TRUE(machine.ApriProgramma({"sysinfo", "a panel"}));
+  EXPECT_EQ(Told(), "a panel");
+  Program("sysinfo", "exit 1");  // not on this desktop
+  EXPECT_FALSE(machine.ApriProgramma({"sysinfo"}));
+}
+
 TEST_F(MachineTest, KeepsSettingsFromOneRunToTheNext) {
   qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder.Nome().string()));
   EXPECT_EQ(machine.LeggiImpostazione("Options/Show Tips at Startup"), std::nullopt);
