@@ -44,7 +44,7 @@ class Macchina {
                                         const std::vector<std::string>& argomenti) = 0;
 
   /// Opens a file, or an address of the web or a "mailto:" one, with the system's program for it.
-  /// False when there is none.
+  /// False when there is none, or for a web archive none that shows it.
   virtual bool ApriFile(const Percorso& file) = 0;
   virtual bool ApriIndirizzo(const std::string& indirizzo) = 0;
 

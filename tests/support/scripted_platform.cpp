@@ -108,7 +108,7 @@ std::error_code ScriptedMachine::EseguiComando(const Percorso& programma,
 
 bool ScriptedMachine::ApriFile(const Percorso& file) {
   opened.push_back(file.string());
-  return opens;
+  return opens && (unshown.empty() || file.extension() != unshown);
 }
 
 bool ScriptedMachine::ApriIndirizzo(const std::string& indirizzo) {

@@ -88,6 +88,7 @@ class ScriptedMachine : public MacchinaIsolata {
   std::vector<std::string> written;  // texts for the word processor
   std::vector<std::string> inWord;   // documents opened in it
   bool opens = true;
+  std::string unshown;  // the ending of files that nothing opens
   bool hasWord = true;
   std::error_code startError;
   std::optional<std::string> fetches;        // what is behind an address
