@@ -14,6 +14,8 @@ namespace telarium {
 namespace {
 
 constexpr const char* FileAiuto = "TELARIUM7.mht";
+// The same guide for a system that shows no web archives.
+constexpr const char* GemelloAiuto = "TELARIUM7.html";
 constexpr const char* ProgrammaLudarium = "Ludarium.EXE";
 // The buttons that a print preview disables.
 constexpr int PrimoPulsanteSenzaAnteprima = 8;
@@ -114,7 +116,10 @@ void LanciaLudarium() {
 
 void ApriAiuto() {
   PrendiCongedo();
-  if (!Sistema().ApriFile(PercorsoNellaCartella(CartellaProgramma, FileAiuto))) {
+  const auto apri = [](const char* nome) {
+    return Sistema().ApriFile(PercorsoNellaCartella(CartellaProgramma, nome));
+  };
+  if (!apri(FileAiuto) && !apri(GemelloAiuto)) {
     Avvisa(Unisci("Non è possibile aprire il file della guida "_cp, FileAiuto,
                   ": manca il file o un programma adatto."),
            {}, Icona::Avviso);

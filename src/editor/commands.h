@@ -35,7 +35,7 @@ void CommutaRettangoloParola();
 /// MenuLudarium: starts the companion program.
 void LanciaLudarium();
 
-/// MenuAiuto: opens the help file.
+/// MenuAiuto: opens the guide, as a web archive or, where nothing shows those, as a web page.
 void ApriAiuto();
 
 /// Menusugg, and the first activation: shows frmTip, unless the user wants no tips any more.

@@ -48,7 +48,7 @@ class Macchina {
   virtual bool ApriProgramma(const std::vector<std::string>& parole) = 0;
 
   /// Opens a file, or an address of the web or a "mailto:" one, with the system's program for it.
-  /// False when there is none.
+  /// False when there is none, or for a web archive none that shows it.
   virtual bool ApriFile(const Percorso& file) = 0;
   virtual bool ApriIndirizzo(const std::string& indirizzo) = 0;
 

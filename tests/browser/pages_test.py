@@ -1,23 +1,16 @@
-#!/usr/bin/python3
+#!/usr/bin/python3 -B
 """The web pages of a crossword in a real browser, as a visitor meets them: pages_test.py TELAR."""
 
-import os
-import pathlib
-import shutil
 import subprocess
 import sys
-import tempfile
 import unittest
 
-from selenium import webdriver
 from selenium.webdriver.common.by import By
 from selenium.webdriver.support.expected_conditions import alert_is_present
-from selenium.webdriver.support.ui import WebDriverWait
 
-os.environ["no_proxy"] = "localhost,127.0.0.1"  # whatever the network is reached through
+from browser_test_case import BrowserTest
 
 TELAR = sys.argv.pop(1)
-PATIENCE = 20  # seconds, for what takes none
 
 GRID = ["CITTÀ", "ÈRA*.", "DUE**"]
 CLUES = {(1, 1, 1): "Perché c'è, è «grande»", (1, 1, 2): "L'€ però"}
@@ -34,24 +27,7 @@ def crossword(grid, clues):
                         [line.encode("cp1252") for line in lines] + [b""])
 
 
-class Pages(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        folder = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
-        cls.addClassCleanup(folder.cleanup)
-        cls.folder = pathlib.Path(folder.name)
-        options = webdriver.ChromeOptions()
-        options.binary_location = shutil.which("chromium")
-        for argument in ("--headless=new", f"--user-data-dir={folder.name}/profile",
-                         "--window-size=1600,1000", "--disable-dev-shm-usage",
-                         "--disable-background-networking", "--no-first-run"):
-            options.add_argument(argument)
-        if os.geteuid() == 0:  # the browser refuses its sandbox to root
-            options.add_argument("--no-sandbox")
-        service = webdriver.chrome.service.Service(shutil.which("chromedriver"))
-        cls.browser = webdriver.Chrome(service=service, options=options)
-        cls.addClassCleanup(cls.browser.quit)
-
+class Pages(BrowserTest):
     def open(self, command, grid, clues=None):
         """Makes a page of a crossword and opens it."""
         source, page = self.folder / "prova.tlrm", self.folder / "page.html"
@@ -59,9 +35,6 @@ class Pages(unittest.TestCase):
         subprocess.run([TELAR, "--cartella", self.folder, command, source, "--uscita", page],
                        check=True)
         self.browser.get(page.as_uri())
-
-    def wait(self, condition):
-        return WebDriverWait(self.browser, PATIENCE).until(condition)
 
     def named(self, name):
         return self.browser.find_element(By.NAME, name)

@@ -275,6 +275,23 @@ TEST_F(StartupTest, LeavingAPreviewAllowsAllCommandsAndEntersEditing) {
   EXPECT_EQ(ModoGriglia, 0);
 }
 
+TEST_F(StartupTest, TheGuideOpensAsAPageWhereNothingShowsWebArchives) {
+  StartWith({"CASA"});
+  WriteFile("telarium7.MHT", "x");
+  const std::string archive = InFolder("telarium7.MHT").string();
+  const std::string page = InFolder("TELARIUM7.html").string();
+  ApriAiuto();
+  EXPECT_EQ(machine.opened, std::vector{archive});
+  machine.opened.clear();
+  machine.unshown = ".MHT";
+  ApriAiuto();
+  EXPECT_EQ(machine.opened, (std::vector{archive, page}));
+  EXPECT_TRUE(user.TakeTexts().empty());
+  machine.opens = false;
+  ApriAiuto();
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+}
+
 TEST_F(StartupTest, LanguagesSettingsAndCompanionsDoAsTheirEntriesSay) {
   StartWith({"CASA"});
   WriteFile("lessicolatino.DAT", ReadFile(InFolder("LessicoItaliano.dat")));

@@ -114,7 +114,7 @@ bool ScriptedMachine::ApriProgramma(const std::vector<std::string>& parole) {
 
 bool ScriptedMachine::ApriFile(const Percorso& file) {
   opened.push_back(file.string());
-  return opens;
+  return opens && (unshown.empty() || file.extension() != unshown);
 }
 
 bool ScriptedMachine::ApriIndirizzo(const std::string& indirizzo) {

@@ -95,6 +95,7 @@ class ScriptedMachine : public MacchinaIsolata {
   std::vector<std::string> inWord;   // documents opened in it
   bool opens = true;
   bool takesMail = true;
+  std::string unshown;  // the ending of files that nothing opens
   bool hasWord = true;
   std::error_code startError;
   std::optional<std::string> fetches;        // what is behind an address

@@ -1,6 +1,7 @@
 #include "platform/qt/qt_machine.h"
 
 #include <QDesktopServices>
+#include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QUrl>
@@ -85,6 +86,35 @@ bool ConsegnaCopiaDellaPagina(const std::string& programma, const Percorso& pagi
   return ConsegnaComeNuovo(programma, pagina.filename(), testo);
 }
 
+// The program that the system has for web archives; empty when it has none, or is slow to tell.
+QByteArray ProgrammaPerArchivi() {
+  constexpr int pazienza = 2000;  // milliseconds, the window standing still
+  QProcess domanda;
+  domanda.setStandardInputFile(QProcess::nullDevice());
+  domanda.start(QStringLiteral("xdg-mime"),
+                {QStringLiteral("query"), QStringLiteral("default"),
+                 QStringLiteral("application/x-mimearchive")},
+                QIODevice::ReadOnly);
+  if (domanda.waitForFinished(pazienza)) return domanda.readAllStandardOutput().trimmed().toLower();
+  domanda.kill();
+  domanda.waitForFinished(pazienza);  // killed, it is only to be buried
+  return {};
+}
+
+// Whether opening a web archive would show it: other browsers would save it again, or show its
+// source.
+bool ArchiviVisibili() {
+  const QByteArray programma = ProgrammaPerArchivi();
+  constexpr const char* mostrano[] = {"chrom", "edge", "brave", "vivaldi", "opera", "epiphany"};
+  return std::any_of(std::begin(mostrano), std::end(mostrano),
+                     [&](const char* nome) { return programma.contains(nome); });
+}
+
+bool ArchivioWeb(const Percorso& file) {
+  const std::string tipo = Maiuscole(file.extension().string());
+  return tipo == ".MHT" || tipo == ".MHTML";
+}
+
 // Opens a file or an address, both as the system's opener takes them.
 bool ApriNelSistema(const std::string& cosa, const QUrl& url) {
   if (Presente("xdg-open")) return Consegna({"xdg-open", cosa});
@@ -139,8 +169,9 @@ bool MacchinaQt::ApriProgramma(const std::vector<std::string>& parole) {
 bool MacchinaQt::ApriFile(const Percorso& file) {
   std::error_code ignorato;
   const Percorso intero = std::filesystem::absolute(file, ignorato);
-  return std::filesystem::exists(intero, ignorato) &&
-         ApriNelSistema(intero.string(), QUrl::fromLocalFile(PercorsoAQt(intero)));
+  if (!std::filesystem::exists(intero, ignorato)) return false;
+  if (ArchivioWeb(intero) && !ArchiviVisibili()) return false;
+  return ApriNelSistema(intero.string(), QUrl::fromLocalFile(PercorsoAQt(intero)));
 }
 
 bool MacchinaQt::ApriIndirizzo(const std::string& indirizzo) {

@@ -134,6 +134,22 @@ TEST_F(MachineTest, OpensAProgramOfTheSystemThatDoesNotFailAtOnce) {
   EXPECT_FALSE(machine.ApriProgramma({"sysinfo"}));
 }
 
+TEST_F(MachineTest, OpensWebArchivesOnlyInProgramsThatShowThem) {
+  Program("xdg-open", "printf '%s\\n' \"$1\" > \"$TO.tmp\"; mv \"$TO.tmp\" \"$TO\"");
+  const Percorso archive = folder.Nome() / "guide.MHT";
+  std::ofstream(archive) << "x";
+  EXPECT_FALSE(machine.ApriFile(archive)) << "nothing tells";
+  for (const char* answer : {"exit 4", "echo", "echo firefox-esr.desktop"}) {
+    Program("xdg-mime", answer);
+    EXPECT_FALSE(machine.ApriFile(archive)) << answer;
+  }
+  EXPECT_FALSE(fs::exists(folder.Nome() / "told"));
+  Program("xdg-mime",
+          "[ \"$*\" = 'query default application/x-mimearchive' ] && echo org.Chromium.desktop");
+  EXPECT_TRUE(machine.ApriFile(archive));
+  EXPECT_EQ(Told(), archive.string());
+}
+
 TEST_F(MachineTest, KeepsSettingsFromOneRunToTheNext) {
   qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder.Nome().string()));
   EXPECT_EQ(machine.LeggiImpostazione("Options/Show Tips at Startup"), std::nullopt);
