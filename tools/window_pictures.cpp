@@ -140,6 +140,13 @@ void FindWord(Studio& studio, QWidget& window) {
   Button(window, "Cerca").click();
 }
 
+void OpenDictionary(Studio& studio, QWidget& window) {
+  auto& files = *window.findChild<QListWidget*>(QStringLiteral("File1"));
+  PickLine(window, "File1", QStringLiteral("LessicoItaliano"));
+  QTest::keyClick(&files, Qt::Key_Return);
+  if (!Button(window, "Command4").isEnabled()) studio.Fail("no dictionary was read");
+}
+
 const MenuWindow menu_windows[] = {
     {"formnew", "MenuNuovo", {}},
     {"form2", "MenuApri", {}},
@@ -159,6 +166,9 @@ const MenuWindow menu_windows[] = {
      }},
     {"telarbro", "MenuParole", {1040, 680}, EditRow},
     {"telariummdb", "Menudefiniz", {}, FindWord},
+    {"form4", "menudiz", {}, OpenDictionary},
+    {"frmtip", "Menusugg", {}},
+    {"form3", "MenuInfo", {}},
 };
 
 void TakeMenuWindows(Studio& studio) {
