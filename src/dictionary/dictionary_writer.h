@@ -22,6 +22,7 @@ struct EsitoDizionario {
 /// past position 9,999,999, are refused before anything is written. `avanzamento`, which may be
 /// empty, gets the length less 3 and how many words of its list are done, now and then and at the
 /// beginning and end of each list; the lists must stay as they are meanwhile.
+/// Another writer of the same folder is waited for, some seconds at most.
 EsitoDizionario ScriviDizionario(
     const Percorso& nome, const ListeDiParole& liste,
     const std::function<void(std::size_t lista, std::size_t fatte)>& avanzamento = {});

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <fcntl.h>
+#include <unistd.h>
 
-#include "dictionary/dictionary.h"
+#include "dictionary/dictionary_file.h"
+#include "dictionary/word_list.h"
 #include "platform/codepage.h"
 #include "platform/descriptor.h"
 #include "platform/text.h"
@@ -13,13 +15,23 @@ namespace {
 
 constexpr std::string_view Estensione = ".priv";
 constexpr int MaxRigheImportate = 32'200;
-constexpr std::size_t MaxByteLista = 64u << 20;  // held in memory; far above any list of words
 
 // Whether a character can stand in a file name wherever the dictionary is taken to. "?" also stands
 // for what the code page cannot write.
 bool AmmessoInUnNome(char carattere) {
   constexpr std::string_view vietati = "\\/:*?\"<>|";
   return static_cast<unsigned char>(carattere) >= ' ' && vietati.find(carattere) == vietati.npos;
+}
+
+// What a file begins with, which holds more lines than are taken; none when it cannot be read.
+std::optional<std::string> LeggiInizio(const Percorso& nome) {
+  const FileDizionario file(nome);
+  if (!file.Aperto() || !FileOrdinario(nome)) return std::nullopt;
+  std::error_code errore;
+  const auto misura = std::filesystem::file_size(nome, errore);
+  std::string testo(std::min<std::uintmax_t>(errore ? 0 : misura, MaxByteListaDiParole), '\0');
+  testo.resize(file.Leggi(1, testo.data(), testo.size()));
+  return testo;
 }
 
 }  // namespace
@@ -33,10 +45,10 @@ std::optional<std::int16_t> LinguaDelDizionario(const Percorso& nome) {
 }
 
 std::optional<Percorso> NomeDizionarioPrivato(std::string_view testo) {
-  std::string nome(testo);
+  std::string nome(SenzaSpazi(testo));
   if (!Maiuscole(nome).ends_with(Maiuscole(Estensione))) nome += Estensione;
-  const bool senzaNome = nome.size() == Estensione.size();
-  if (senzaNome || !std::all_of(nome.begin(), nome.end(), AmmessoInUnNome)) return std::nullopt;
+  const bool nascosto = nome.front() == '.';  // the lists of files would not show it
+  if (nascosto || !std::all_of(nome.begin(), nome.end(), AmmessoInUnNome)) return std::nullopt;
   return AUtf8(nome);
 }
 
@@ -47,15 +59,25 @@ std::error_code CreaDizionarioVuoto(const Percorso& nome) {
   return file ? std::error_code() : std::error_code(errno, std::generic_category());
 }
 
+bool CancellaDizionario(const Percorso& nome) {
+  const Percorso intero = CartellaProgramma / nome;
+  // The folder would allow it, but whoever protected the file does not want it deleted.
+  if (::faccessat(AT_FDCWD, intero.c_str(), W_OK, AT_EACCESS) != 0) return false;
+  std::error_code errore;
+  return std::filesystem::remove(intero, errore);
+}
+
 std::optional<ListaImportata> LeggiListaDaImportare(int lunghezza) {
-  std::string testo;
-  const Percorso nome = PercorsoNellaCartella(CartellaProgramma, Unisci(lunghezza, ".txt"));
-  if (LeggiFile(nome, MaxByteLista, testo) != EsitoLettura::Letto) return std::nullopt;
+  auto inizio = LeggiInizio(PercorsoNellaCartella(CartellaProgramma, Unisci(lunghezza, ".txt")));
+  if (!inizio) return std::nullopt;
+  const std::string testo = NellaCodePage(std::move(*inizio));
   ListaImportata lista;
-  LettoreDiRighe righe(SenzaSegnoUtf8(testo));
-  for (std::string_view riga; lista.righe < MaxRigheImportate && righe.Prossima(riga);) {
-    ++lista.righe;
-    if (!SenzaSpazi(riga).empty()) lista.parole.emplace_back(riga);
+  LettoreDiRighe righe(testo);
+  std::string_view riga;
+  for (int numero = 1; numero <= MaxRigheImportate && righe.Prossima(riga); ++numero) {
+    if (SenzaSpazi(riga).empty()) continue;
+    lista.parole.emplace_back(riga);
+    lista.righe = numero;
   }
   return lista;
 }

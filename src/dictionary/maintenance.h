@@ -16,15 +16,19 @@ namespace telarium {
 std::optional<std::int16_t> LinguaDelDizionario(const Percorso& nome);
 
 /// The file name of a private dictionary from what the user typed, with one ".priv" at its end.
-/// None for what is no plain name of a file.
+/// None for what is no plain name of a file, or that of a hidden one.
 std::optional<Percorso> NomeDizionarioPrivato(std::string_view testo);
 
 /// Makes an empty dictionary in the program folder. The error, 0 for none; a file that is there
 /// already is one.
 [[nodiscard]] std::error_code CreaDizionarioVuoto(const Percorso& nome);
 
-/// The lines of a word list that are not blank, as they stand, and how many lines they were taken
-/// from.
+/// Deletes a dictionary of the program folder. False when it is not there, is write-protected or
+/// cannot be deleted.
+[[nodiscard]] bool CancellaDizionario(const Percorso& nome);
+
+/// The lines of a word list that are not blank, as they stand, and the number of the last one of
+/// them, blank ones counted. A list in UTF-8 is brought into the code page.
 struct ListaImportata {
   std::vector<std::string> parole;
   int righe = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +11,10 @@
 
 // Plain word lists, from which dictionaries are built.
 namespace telarium {
+
+/// The largest list that is read; lists are held in memory, and this is far above any of 13 full
+/// sections.
+inline constexpr std::size_t MaxByteListaDiParole = 64u << 20;
 
 /// Words by their length less 3.
 using ListeDiParole = std::array<std::vector<std::string>, MaxLunghezza - MinLunghezza + 1>;

@@ -14,9 +14,6 @@
 namespace telarium::telar {
 namespace {
 
-// Far above any list of 13 full sections; the list is held in memory.
-constexpr std::size_t MaxByteLista = 64u << 20;
-
 bool ApriDizionario(std::string_view nome) {
   NomeDizionario = nome;
   return telarium::ApriDizionario();
@@ -82,7 +79,7 @@ Stato DizCrea(const Argomenti& argomenti, PiattaformaConsole&) {
   }
   ListeDiParole liste;
   for (std::size_t i = 1; i < argomenti.liberi.size(); ++i) {
-    const auto contenuto = LeggiLista("lista di parole", argomenti.liberi[i], MaxByteLista);
+    const auto contenuto = LeggiLista("lista di parole", argomenti.liberi[i], MaxByteListaDiParole);
     if (!contenuto) return Stato::Fallito;
     AggiungiLista(*contenuto, liste);
   }

@@ -40,6 +40,7 @@ TEST_F(MaintenanceTest, PrivateNamesGetOneExtensionAndStayInTheFolder) {
       {"a.b", "a.b.priv"},
       {std::string("caffè"_cp), "caffè.priv"},
       {".priv", ""},
+      {".mio", ""},
       {"../mio", ""},
       {"/tmp/mio", ""},
       {"sotto\\mio", ""},
@@ -51,11 +52,11 @@ TEST_F(MaintenanceTest, PrivateNamesGetOneExtensionAndStayInTheFolder) {
 }
 
 TEST_F(MaintenanceTest, ImportTakesTheFirstLinesBlankOnesCounted) {
-  std::string text = "\xEF\xBB\xBFuno\r\n   \r\n due \nTRE";
+  std::string text = "\xEF\xBB\xBFuno\r\n   \r\n due \nPER\xC3\x92\n\n \n";
   WriteFile("3.TXT", text);
   const auto list = LeggiListaDaImportare(3);
   ASSERT_TRUE(list);
-  EXPECT_EQ(list->parole, (Words{"uno", " due ", "TRE"}));
+  EXPECT_EQ(list->parole, (Words{"uno", " due ", "PER\xD2"}));
   EXPECT_EQ(list->righe, 4);
   EXPECT_FALSE(LeggiListaDaImportare(4));
 

@@ -72,6 +72,13 @@ Form4::Form4(QWidget* genitore)
   Abilita({Command1, Command4, Command5, Command8}, false);
   Text1->hide();
   Command3->hide();
+  File1->setFocus();
+}
+
+// The boxes show lists of this window, which go before the controls do.
+Form4::~Form4() {
+  for (ElencoDiParole* lista : Combo1)
+    delete lista;
 }
 
 void Form4::CreaListe() {
@@ -241,6 +248,10 @@ bool Form4::eventFilter(QObject* oggetto, QEvent* evento) {
 void Form4::Inizia(Lavoro lavoro) {
   lavoro_ = lavoro;
   FermaLettura = Falso;
+  // From a control that is disabled the focus would go on to the next one, and a list of files
+  // selects something then.
+  fuoco_ = focusWidget();
+  setFocus();
   Abilita({File1, File2, Command4, Command6, Command7, Command8}, false);
   if (lavoro == Lavoro::Ricostruzione)
     Abilita({Command1, Command2, Text1, Command3, Command5}, false);
@@ -250,6 +261,7 @@ void Form4::Finisci() {
   lavoro_ = Lavoro::Nessuno;
   Abilita({File1, File2, Command2, Text1, Command3, Command6, Command7}, true);
   Abilita({Command1, Command4, Command5, Command8}, letto_);
+  if (fuoco_) fuoco_->setFocus();
 }
 
 // Lets the message loop run when it is time; false once the window is to close.
@@ -289,6 +301,7 @@ void Form4::LeggiDizio() {
 bool Form4::LeggiSezione(std::size_t lista) {
   DipingiBarra(1, ColoreGiallo);
   if (!Cedi()) return false;
+  DipingiBarra(1, ColoreBianco);
   const int conto = UltimoNumero(LunghezzaDi(lista));
   ScansioneSezione scansione(LunghezzaDi(lista));
   BloccoDiParole blocco;
@@ -309,11 +322,20 @@ bool Form4::LeggiSezione(std::size_t lista) {
   return true;
 }
 
+// A file of the lists may be gone by now, which is no reason to end the program.
+bool Form4::Presente(const Percorso& nome) {
+  if (TrovaFile(CartellaProgramma, nome)) return true;
+  Avvisa(Unisci("Il dizionario ", TestoPercorso(nome), " non c'è più."_cp), {}, Icona::Avviso);
+  for (ListaFile* file : {File1, File2})
+    file->Vai(CartellaProgramma);
+  return false;
+}
+
 void Form4::ApriDiSistema() {
   const auto nome = File1->Scelto();
   constexpr std::size_t otto = 8 - MinLunghezza;
   const bool altro = nome && *nome != NomeDizionario;
-  if (nome && (parole_[otto].empty() || altro)) {
+  if (nome && (parole_[otto].empty() || altro) && Presente(*nome)) {
     NomeDizionario = *nome;
     LinguaDizionario = LinguaDelDizionario(*nome).value_or(LinguaDizionario);
     ApriEMostra();
@@ -323,7 +345,7 @@ void Form4::ApriDiSistema() {
 
 void Form4::ApriPrivato() {
   const auto nome = File2->Scelto();
-  if (nome && *nome != NomeDizionario) {
+  if (nome && *nome != NomeDizionario && Presente(*nome)) {
     NomeDizionario = *nome;
     LinguaDizionario = LinguaDeiPrivati;
     ApriEMostra();
@@ -331,15 +353,20 @@ void Form4::ApriPrivato() {
   RiaprePronto();
 }
 
-// A file that cannot be read, which has been told, leaves nothing to change or to write.
-void Form4::ApriEMostra() {
+// A file that cannot be read, which has been told, leaves nothing to change or to write. False
+// then.
+bool Form4::ApriEMostra() {
   SvuotaListe();
   letto_ = false;
-  if (ApriDizionario()) return LeggiDizio();
+  if (ApriDizionario()) {
+    LeggiDizio();
+    return true;
+  }
   TotaleParole = 0;
   AzzeraDidascalie();
   MostraTotale();
   Finisci();
+  return false;
 }
 
 void Form4::RiaprePronto() {
@@ -371,21 +398,27 @@ void Form4::AggiungiParola() {
                   "' è stata momentaneamente aggiunta al dizionario, cliccare sul bottone 'Crea "
                   "dizionario' per la ricostruzione definitiva sul disco."_cp));
     ContaUnaParola(lista, 1);
+    if (parole_[lista].size() > MaxParole) AvvisaListaPiena(lista);
   }
   Command3->hide();
   Text1->hide();
+  Command1->setFocus();
+}
+
+// The rebuild would refuse it, and until then nothing would say so.
+void Form4::AvvisaListaPiena(std::size_t lista) {
+  Label3->setText(QStringLiteral("Le parole di %1 lettere sono più di %2: toglierne una prima di "
+                                 "ricreare il dizionario")
+                      .arg(LunghezzaDi(lista))
+                      .arg(MaxParole));
 }
 
 void Form4::EliminaParola() {
   const auto lista = static_cast<std::size_t>(ListaCorrente);
   const auto scelta = Combo1[lista]->Scelta();
   if (!scelta) return;
-  const std::string parola = parole_[lista][*scelta];
-  if (!Confermata("Si desidera veramente eliminare la parola: " + parola)) return;
-  // The list may have been read on while the question stood.
-  const auto posto = PostoDellaParola(parole_[lista], parola);
-  if (!posto) return;
-  Combo1[lista]->Togli(*posto);
+  if (!Confermata("Si desidera veramente eliminare la parola: " + parole_[lista][*scelta])) return;
+  Combo1[lista]->Togli(*scelta);
   ContaUnaParola(lista, -1);
   Avvisa(
       "Parola eliminata, cliccare su 'Ricostruzione dizionario' per la ricostruzione effettiva del "
@@ -433,7 +466,7 @@ void Form4::ScriviSulDisco() {
 void Form4::SegueScrittura(std::size_t lista, std::size_t fatte) {
   const std::size_t tutte = parole_[lista].size();
   if (fatte == 0) {
-    Label2[lista]->clear();
+    if (lista == 0) SvuotaConteggi();
     DipingiBarra(1, ColoreBianco);
   }
   if (tutte > 0) DipingiBarra(double(fatte) / double(tutte), ColoreBlu);
@@ -480,16 +513,25 @@ void Form4::CreaPrivato() {
   if (!nome || (!esistente && CreaDizionarioVuoto(*nome))) {
     return Avvisa("Nome del file specificato NON valido oppure disco di sola lettura.");
   }
-  NomeDizionario = esistente ? esistente->filename() : *nome;
+  if (esistente) return ApriEsistente(esistente->filename());
+  NomeDizionario = *nome;
   LinguaDizionario = LinguaDeiPrivati;
   ApriEMostra();
+  AzzeraDidascalie();
   MostraNome();
-  if (esistente) {
-    Label3->setText(QStringLiteral("Questo dizionario esisteva già: è stato aperto"));
-  } else {
-    AzzeraDidascalie();
-  }
   File2->Vai(CartellaProgramma);
+  File2->Scegli(*nome);
+}
+
+// One that is open keeps its changes.
+void Form4::ApriEsistente(const Percorso& nome) {
+  if (letto_ && nome == NomeDizionario)
+    return Label3->setText(QStringLiteral("Questo dizionario è già aperto"));
+  NomeDizionario = nome;
+  LinguaDizionario = LinguaDeiPrivati;
+  if (ApriEMostra())
+    Label3->setText(QStringLiteral("Questo dizionario esisteva già: è stato aperto"));
+  MostraNome();
 }
 
 void Form4::CancellaPrivato() {
@@ -506,9 +548,7 @@ void Form4::CancellaPrivato() {
                          "essere ripristinato."_cp))) {
     return;
   }
-  std::error_code errore;
-  const bool cancellato = std::filesystem::remove(CartellaProgramma / *nome, errore);
-  if (!cancellato) {
+  if (!CancellaDizionario(*nome)) {
     Avvisa(Unisci("Impossibile cancellare il dizionario personale : ", testo,
                   " - Disco/File probabile sola lettura."));
   }
@@ -523,10 +563,14 @@ void Form4::SvuotaListe() {
 }
 
 void Form4::AzzeraDidascalie() {
-  for (std::size_t lista = 0; lista < Label1.size(); ++lista) {
+  for (std::size_t lista = 0; lista < Label1.size(); ++lista)
     Label1[lista]->setText(QStringLiteral("%1 Caratt.").arg(LunghezzaDi(lista)));
-    Label2[lista]->clear();
-  }
+  SvuotaConteggi();
+}
+
+void Form4::SvuotaConteggi() {
+  for (QLabel* conto : Label2)
+    conto->clear();
 }
 
 void Form4::MostraNome() {

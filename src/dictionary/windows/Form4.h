@@ -19,6 +19,7 @@ namespace telarium {
 class Form4 : public FinestraModale {
  public:
   explicit Form4(QWidget* genitore);
+  ~Form4() override;
 
   static constexpr int NumListe = MaxLunghezza - MinLunghezza + 1;
 
@@ -45,7 +46,9 @@ class Form4 : public FinestraModale {
   QPushButton* Command7;  // deletes one
   QPushButton* Command2;  // exit
 
-  /// Reads the dictionary named by NomeDizionario into the lists, behind what they hold.
+  /// Reads the dictionary named by NomeDizionario, through the table that ApriDizionario has
+  /// filled, into the lists, beside what they hold. The message loop runs meanwhile; ends early
+  /// when the window is closed.
   void LeggiDizio();
 
  public slots:
@@ -71,10 +74,12 @@ class Form4 : public FinestraModale {
   bool LeggiSezione(std::size_t lista);
   void ApriDiSistema();
   void ApriPrivato();
-  void ApriEMostra();
+  bool ApriEMostra();
+  bool Presente(const Percorso& nome);
   void RiaprePronto();
   void ChiediParola();
   void AggiungiParola();
+  void AvvisaListaPiena(std::size_t lista);
   void EliminaParola();
   void RicreaDizionario();
   void ScriviSulDisco();
@@ -82,10 +87,12 @@ class Form4 : public FinestraModale {
   void ImportaListe();
   bool ImportaLista(std::size_t lista);
   void CreaPrivato();
+  void ApriEsistente(const Percorso& nome);
   void CancellaPrivato();
 
   void SvuotaListe();
   void AzzeraDidascalie();
+  void SvuotaConteggi();
   void MostraNome();
   void MostraTotale();
   void ContaUnaParola(std::size_t lista, int variazione);
@@ -96,7 +103,8 @@ class Form4 : public FinestraModale {
   std::int16_t ListaCorrente = 0;
   Booleano16 FermaLettura = Falso;
   Lavoro lavoro_ = Lavoro::Nessuno;
-  bool letto_ = false;  // the lists hold a dictionary
+  QWidget* fuoco_ = nullptr;  // where the focus was when it began
+  bool letto_ = false;        // the lists hold a dictionary
   Cadenza cadenza_;
 };
 

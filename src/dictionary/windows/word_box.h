@@ -14,7 +14,7 @@ class ModelloDiParole;
 
 /// A sorted list of words, always open, under a field: what is typed there brings the first word
 /// into view that begins so, and selects it when it is the whole word. It changes the list that it
-/// was given, which is not changed by others meanwhile.
+/// was given, which outlives it and is changed by nobody else meanwhile.
 class ElencoDiParole : public QWidget {
  public:
   ElencoDiParole(const QString& nome, std::vector<std::string>& parole, QWidget* genitore);

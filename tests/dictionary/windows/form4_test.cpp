@@ -300,6 +300,11 @@ TEST_F(Form4Test, PrivateDictionariesAreMadeOpenedAndDeleted) {
   Click(window->Command6);
   EXPECT_EQ(NomeDizionario, "mio.priv");
   EXPECT_EQ(Shown(4) + Count(4), "NAVE (1) parole");
+  Add(QStringLiteral("RETE"));
+  user.AnswerText("mio");  // it is open, with a change that is not written yet
+  Click(window->Command6);
+  EXPECT_EQ(Shown(4), "NAVE RETE ");
+  user.TakeTexts();
 
   for (const char* name : {"../fuori", "?"}) {
     user.AnswerText(name);
@@ -338,6 +343,18 @@ TEST_F(Form4Test, PrivateDictionariesAreMadeOpenedAndDeleted) {
   EXPECT_EQ(user.TakeTexts().back(),
             "Impossibile cancellare il dizionario personale : mio.priv - Disco/File probabile sola "
             "lettura.");
+}
+
+TEST_F(Form4Test, AFileThatIsGoneChangesNothing) {
+  OpenItalian();
+  EXPECT_TRUE(window->File1->hasFocus()) << "where it was before the reading";
+  EXPECT_FALSE(window->File2->Scelto()) << "a click on the command beside it would delete that one";
+  std::filesystem::remove(InFolder("mio.priv"));
+  OpenFile(*window->File2, QStringLiteral("mio.priv"));
+  EXPECT_EQ(user.TakeTexts(), Words{std::string("Il dizionario mio.priv non c'è più."_cp)});
+  EXPECT_EQ(NomeDizionario, "LessicoItaliano.dat");
+  EXPECT_EQ(Shown(4), "CASA SOLE ");
+  EXPECT_EQ(window->File2->count(), 0);
 }
 
 TEST_F(Form4Test, ExitStopsAReading) {
