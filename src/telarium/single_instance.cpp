@@ -1,8 +1,11 @@
 #include "telarium/single_instance.h"
 
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QLocalSocket>
+#include <QThread>
+#include <QTimer>
 
 #include "platform/qt/qt_text.h"
 
@@ -63,7 +66,9 @@ void UnicaIstanza::Ascolta() {
       cliente->readAll();
       cliente->write(&FineMessaggio, 1);  // taken: the other one may end
       cliente->flush();
-      riceve_(avuto.left(fine).toStdString());
+      // Behind the socket's own work: a message box that opens here would see the socket's end.
+      QTimer::singleShot(0, servente_.get(),
+                         [this, file = avuto.left(fine).toStdString()] { riceve_(file); });
     };
     QObject::connect(cliente, &QLocalSocket::readyRead, cliente, legge);
     if (cliente->bytesAvailable() > 0) legge();
@@ -71,10 +76,19 @@ void UnicaIstanza::Ascolta() {
   servente_->listen(presa_);
 }
 
+// The first one has the lock before it listens: one that has just started is not there yet.
+bool UnicaIstanza::Raggiungi(QLocalSocket& prima) const {
+  constexpr unsigned long pausa = 20;  // milliseconds
+  for (QDeadlineTimer termine(TempoDiAttesa); !termine.hasExpired(); QThread::msleep(pausa)) {
+    prima.connectToServer(presa_);
+    if (prima.waitForConnected(static_cast<int>(termine.remainingTime()))) return true;
+  }
+  return false;
+}
+
 bool UnicaIstanza::Consegna(const Percorso& file) const {
   QLocalSocket prima;
-  prima.connectToServer(presa_);
-  if (!prima.waitForConnected(TempoDiAttesa)) return false;
+  if (!Raggiungi(prima)) return false;
   prima.write(QByteArray::fromStdString(file.string()) + FineMessaggio);
   return prima.waitForReadyRead(TempoDiAttesa);
 }

@@ -9,6 +9,8 @@
 
 #include "platform/files.h"
 
+class QLocalSocket;
+
 namespace telarium {
 
 /// Sees to it that one desktop at a time works in a program folder: a lock file in that folder
@@ -27,6 +29,7 @@ class UnicaIstanza {
 
  private:
   void Ascolta();
+  bool Raggiungi(QLocalSocket& prima) const;
 
   QString presa_;  // the socket's path
   QLockFile blocco_;

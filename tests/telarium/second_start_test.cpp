@@ -1,10 +1,13 @@
 #include <QProcess>
 #include <QTest>
+#include <atomic>
 #include <csignal>
 #include <filesystem>
+#include <thread>
 
 #include "model/crossword_file.h"
 #include "support/telarium_test.h"
+#include "telarium/single_instance.h"
 
 namespace telarium {
 namespace {
@@ -88,6 +91,27 @@ TEST_F(DesktopTest, HandsTheFileOfASecondStartToTheFirst) {
   EXPECT_TRUE(Shows(one)) << "words of one name";
   third->kill();
   third->waitForFinished(Patience);
+}
+
+// The first one may have to ask before it opens the file: the other one is gone by the answer.
+TEST_F(DesktopTest, AQuestionMayStandWhileTheSecondStartEnds) {
+  UnicaIstanza first(InFolder(""));
+  Percorso received;
+  std::atomic<bool> gone = false;
+  bool answered = false;
+  ASSERT_TRUE(first.Prima([&](const Percorso& file) {
+    received = file;
+    answered = QTest::qWaitFor([&] { return gone.load(); }, Patience);
+    for (int round = 0; round < 3; ++round)  // the server notices that end, and clears up
+      QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+  }));
+  std::thread second([&] {
+    EXPECT_TRUE(UnicaIstanza(InFolder("")).Consegna("due.tlrm"));
+    gone = true;
+  });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return answered; }, Patience));
+  second.join();
+  EXPECT_EQ(received, "due.tlrm");
 }
 
 TEST_F(DesktopTest, TellsItsUseAndItsVersionAndAMissingDisplay) {
