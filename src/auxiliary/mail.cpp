@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "auxiliary/addresses.h"
+#include "auxiliary/guide.h"
 #include "model/state.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
@@ -12,7 +13,6 @@
 namespace telarium {
 namespace {
 
-constexpr const char* FileAiuto = "Telarium7.mht";
 constexpr std::string_view Saluti = "Cordiali saluti";
 
 // An address may be pasted from anywhere. The quotes, commas and brackets that a mail program takes
@@ -37,7 +37,7 @@ bool SiPuoAllegare(const Percorso& file) {
 // Why a mail cannot be handed on; empty when the mail program has taken it.
 std::string Consegna(const Mail& mail) {
   if (!CasellaValida(mail.destinatario)) return "Casella postale non valida";
-  if (!SiPuoAllegare(*mail.allegato)) {
+  if (mail.allegato && !SiPuoAllegare(*mail.allegato)) {
     return Unisci("Non è possibile allegare il file \""_cp, TestoPercorso(*mail.allegato),
                   "\": il file non esiste o non si può leggere."_cp);
   }
@@ -57,7 +57,8 @@ bool Spedisci(const Mail& mail) {
 }  // namespace
 
 void MandaSchema() {
-  if (NomeCruciverba.empty() || NomeCruciverba == NomeMaiSalvato) {
+  if (NomeCruciverba.empty()) return Avvisa("Non c'è alcun cruciverba aperto da spedire."_cp);
+  if (NomeCruciverba == NomeMaiSalvato) {
     Avvisa("Il cruciverba non è ancora stato salvato: salvalo, poi potrai spedirlo."_cp, {},
            Icona::Avviso);
     return;
@@ -84,8 +85,7 @@ void ConsigliaTelarium() {
   const auto risposta = ChiUsa().ChiediTesto(
       {.richiesta = "Per segnalare questo programma inserisci un indirizzo Email di un tuo amico :",
        .predefinito = "amico@posta.example"});
-  if (!risposta) return;
-  if (!Spedisci({.destinatario = std::string(SenzaSpazi(*risposta)),
+  if (!Spedisci({.destinatario = std::string(SenzaSpazi(risposta.value_or(""))),
                  .oggetto = "Ti consiglio di scaricare Telarium e Ludarium",
                  .testo = Unisci("Ciao, ho trovato molto carini questi 2 programmi freeware e te "
                                  "li consiglio.\r\nLi puoi scaricare dal sito : ",

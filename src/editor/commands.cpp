@@ -1,5 +1,6 @@
 #include "editor/commands.h"
 
+#include "auxiliary/guide.h"
 #include "auxiliary/tips.h"
 #include "dictionary/dictionary.h"
 #include "dictionary/maintenance.h"
@@ -13,9 +14,6 @@
 namespace telarium {
 namespace {
 
-constexpr const char* FileAiuto = "TELARIUM7.mht";
-// The same guide for a system that shows no web archives.
-constexpr const char* GemelloAiuto = "TELARIUM7.html";
 constexpr const char* ProgrammaLudarium = "Ludarium.EXE";
 // The buttons that a print preview disables.
 constexpr int PrimoPulsanteSenzaAnteprima = 8;

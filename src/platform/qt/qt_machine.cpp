@@ -86,25 +86,29 @@ bool ConsegnaCopiaDellaPagina(const std::string& programma, const Percorso& pagi
   return ConsegnaComeNuovo(programma, pagina.filename(), testo);
 }
 
-// The program that the system has for web archives; empty when it has none, or is slow to tell.
-QByteArray ProgrammaPerArchivi() {
+// The program that the system has for a type of files or addresses; empty for none. Nothing when it
+// does not tell, or not soon.
+std::optional<QByteArray> ProgrammaPer(const char* tipo) {
   constexpr int pazienza = 2000;  // milliseconds, the window standing still
   QProcess domanda;
   domanda.setStandardInputFile(QProcess::nullDevice());
   domanda.start(QStringLiteral("xdg-mime"),
-                {QStringLiteral("query"), QStringLiteral("default"),
-                 QStringLiteral("application/x-mimearchive")},
+                {QStringLiteral("query"), QStringLiteral("default"), QLatin1StringView(tipo)},
                 QIODevice::ReadOnly);
-  if (domanda.waitForFinished(pazienza)) return domanda.readAllStandardOutput().trimmed().toLower();
+  if (domanda.waitForFinished(pazienza)) {
+    if (domanda.exitStatus() != QProcess::NormalExit || domanda.exitCode() != 0)
+      return std::nullopt;
+    return domanda.readAllStandardOutput().trimmed().toLower();
+  }
   domanda.kill();
   domanda.waitForFinished(pazienza);  // killed, it is only to be buried
-  return {};
+  return std::nullopt;
 }
 
 // Whether opening a web archive would show it: other browsers would save it again, or show its
 // source.
 bool ArchiviVisibili() {
-  const QByteArray programma = ProgrammaPerArchivi();
+  const QByteArray programma = ProgrammaPer("application/x-mimearchive").value_or(QByteArray());
   constexpr const char* mostrano[] = {"chrom", "edge", "brave", "vivaldi", "opera", "epiphany"};
   return std::any_of(std::begin(mostrano), std::end(mostrano),
                      [&](const char* nome) { return programma.contains(nome); });
@@ -141,6 +145,12 @@ std::string IndirizzoDellaMail(const Mail& mail) {
   if (mail.allegato)
     indirizzo += "&attach=" + Codificato(std::filesystem::absolute(*mail.allegato, ignorato));
   return indirizzo;
+}
+
+// Without a mail program xdg-email gives the mail to a browser, which takes it and does nothing.
+bool PostaPresente() {
+  const auto programma = ProgrammaPer("x-scheme-handler/mailto");
+  return !programma || !programma->isEmpty() || qEnvironmentVariableIsSet("MAILER");
 }
 
 QSettings Impostazioni() {
@@ -197,7 +207,7 @@ bool MacchinaQt::ScriviInWord(const std::string& testo) {
 }
 
 bool MacchinaQt::PreparaMail(const Mail& mail) {
-  return Consegna({"xdg-email", IndirizzoDellaMail(mail)}, AttesaDellaPosta);
+  return PostaPresente() && Consegna({"xdg-email", IndirizzoDellaMail(mail)}, AttesaDellaPosta);
 }
 
 std::optional<std::string> MacchinaQt::Preleva(const std::string& indirizzo,

@@ -121,6 +121,10 @@ TEST_F(MachineTest, HandsAMailOverAsOneAddressOrSaysThatItIsNotTaken) {
   EXPECT_TRUE(machine.PreparaMail(mail));
   EXPECT_TRUE(Told().ends_with("&attach=" + folder.Nome().string() + "/mio.tlrm"));
   fs::current_path(before);
+  Program("xdg-mime", "echo");  // no program for mail: a browser would get it
+  EXPECT_FALSE(machine.PreparaMail(mail));
+  Program("xdg-mime", "echo thunderbird.desktop");
+  EXPECT_TRUE(machine.PreparaMail(mail));
   Program("xdg-email", "exit 4");  // its program did not take the mail
   EXPECT_FALSE(machine.PreparaMail(mail));
 }
