@@ -53,6 +53,31 @@ mode_t DirittiPer(const Percorso& nome) {
   return 0666 & ~maschera;
 }
 
+std::error_code ScriviContenuto(const Descrittore& file, std::string_view contenuto,
+                                const Percorso& definitivo, Permanenza permanenza) {
+  if (const auto errore = ScriviTutto(file.Numero(), contenuto)) return errore;
+  // A file system without such rights is no reason to lose the contents.
+  [[maybe_unused]] const int ignorato = ::fchmod(file.Numero(), DirittiPer(definitivo));
+  if (permanenza == Permanenza::SulDisco && ::fsync(file.Numero()) != 0) return UltimoErrore();
+  return {};
+}
+
+// A file without a name until it is complete: a process that is killed leaves nothing. None where
+// the file system has no such files.
+std::optional<std::error_code> ScriviSenzaNome(const Percorso& nome, std::string_view contenuto,
+                                               Permanenza permanenza) {
+  const Percorso cartella = nome.parent_path();
+  const Descrittore file(
+      ::open(cartella.empty() ? "." : cartella.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600));
+  if (!file) return std::nullopt;
+  if (const auto errore = ScriviContenuto(file, contenuto, nome, permanenza)) return errore;
+  const std::string aperto = Unisci("/proc/self/fd/", file.Numero());
+  if (::linkat(AT_FDCWD, aperto.c_str(), AT_FDCWD, nome.c_str(), AT_SYMLINK_FOLLOW) == 0)
+    return std::error_code();
+  if (errno == EEXIST) return UltimoErrore();
+  return std::nullopt;
+}
+
 // A file beside the one to be written, removed again unless it took that one's place.
 class FileAccanto {
  public:
@@ -70,10 +95,8 @@ class FileAccanto {
 
   std::error_code Scrivi(std::string_view contenuto, Permanenza permanenza) {
     if (!file_) return UltimoErrore();
-    if (const auto errore = ScriviTutto(file_.Numero(), contenuto)) return errore;
-    // A file system without such rights is no reason to lose the contents.
-    [[maybe_unused]] const int ignorato = ::fchmod(file_.Numero(), DirittiPer(definitivo_));
-    if (permanenza == Permanenza::SulDisco && ::fsync(file_.Numero()) != 0) return UltimoErrore();
+    if (const auto errore = ScriviContenuto(file_, contenuto, definitivo_, permanenza))
+      return errore;
     return file_.Chiudi();
   }
 
@@ -246,11 +269,15 @@ std::error_code ScriviFileNuovo(const Percorso& nome, std::string_view contenuto
   std::error_code errore;
   if (fs::exists(fs::symlink_status(nome, errore)))
     return std::make_error_code(std::errc::file_exists);
-  FileAccanto nuovo(nome, {});
-  if ((errore = nuovo.Scrivi(contenuto, permanenza))) return errore;
-  if ((errore = nuovo.PrendiIlPostoLibero())) return errore;
-  if (permanenza == Permanenza::SulDisco) FissaCartella(nome.parent_path());
-  return {};
+  if (const auto esito = ScriviSenzaNome(nome, contenuto, permanenza)) {
+    errore = *esito;
+  } else {
+    FileAccanto nuovo(nome, {});
+    errore = nuovo.Scrivi(contenuto, permanenza);
+    if (!errore) errore = nuovo.PrendiIlPostoLibero();
+  }
+  if (!errore && permanenza == Permanenza::SulDisco) FissaCartella(nome.parent_path());
+  return errore;
 }
 
 std::string DescrizioneErrore(const std::error_code& errore) {
