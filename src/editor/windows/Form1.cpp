@@ -164,11 +164,10 @@ void Form1::CreaMenu() {
       azione->setShortcut(QKeySequence(QLatin1StringView(voce.tasti)));
       azione->setCheckable(ConSpunta(voce.nome));
       const ComandoDiForm1 comando = ComandoDellaVoce(voce.nome);
-      azione->setEnabled(comando != nullptr);
       connect(azione, &QAction::triggered, this, [this, azione, comando] {
         // A check mark shows a setting, which only its command changes.
         if (azione->isCheckable()) azione->toggle();
-        if (comando) Esegui([this, comando] { comando(*this); });
+        Esegui([this, comando] { comando(*this); });
       });
     }
     azione->setObjectName(QLatin1StringView(voce.nome));
@@ -183,7 +182,6 @@ void Form1::CollegaPulsanti() {
     QAction& pulsante = Toolbar1->Pulsante(numero);
     if (pulsante.isSeparator()) continue;
     connect(&pulsante, &QAction::triggered, this, [this, numero] { PremutoPulsante(numero); });
-    AbilitaPulsante(numero, true);
   }
 }
 
@@ -192,8 +190,9 @@ void Form1::PremutoPulsante(int numero) {
   Esegui([&] {
     if (!azione.menu.empty()) {
       Voce(azione.menu).menu()->popup(Toolbar1->SottoIlPulsante(numero));
-    } else if (const ComandoDiForm1 comando =
-                   azione.comando ? azione.comando : ComandoDellaVoce(azione.voce)) {
+    } else {
+      const ComandoDiForm1 comando =
+          azione.comando ? azione.comando : ComandoDellaVoce(azione.voce);
       comando(*this);
     }
     PremiEdit(true);
@@ -308,9 +307,9 @@ void Form1::CollocaLabel1(double sinistra, double cima) {
 
 void Form1::MostraModale(Modale quale) {
   schemaLibero_ = quale == Modale::frmTip;
-  const bool mostrata = MostraFinestraModale(quale, *this);
+  MostraFinestraModale(quale, *this);
   schemaLibero_ = false;
-  if (mostrata) AccodaAttivazione();
+  AccodaAttivazione();
 }
 
 void Form1::MostraPicture1(bool visibile) {
@@ -325,8 +324,7 @@ void Form1::MostraPicture1(bool visibile) {
 }
 
 void Form1::AbilitaPulsante(int numero, bool abilitato) {
-  QAction& pulsante = Toolbar1->Pulsante(numero);
-  pulsante.setEnabled(abilitato && HaComando(AzioneDi(pulsante)));
+  Toolbar1->Pulsante(numero).setEnabled(abilitato);
 }
 
 void Form1::PremiEdit(bool premuto) {
@@ -338,8 +336,7 @@ bool Form1::EditPremuto() const {
 }
 
 void Form1::AbilitaVoce(std::string_view nome, bool abilitata) {
-  QAction& voce = Voce(nome);
-  voce.setEnabled(abilitata && (voce.menu() || ComandoDellaVoce(nome)));
+  Voce(nome).setEnabled(abilitata);
 }
 
 void Form1::SpuntaVoce(std::string_view nome, bool spuntata) {

@@ -22,8 +22,7 @@ class QShortcut;
 namespace telarium {
 
 /// The main window. Menu entries and toolbar buttons are actions that carry their names and keys as
-/// objectName; what they run stands in the table of form_commands.h. An entry that has nothing to
-/// run stays disabled whatever the editor says.
+/// objectName; what they run stands in the table of form_commands.h.
 class Form1 : public QMainWindow, public FinestraEditor {
  public:
   Form1();

@@ -8,7 +8,6 @@
 namespace telarium {
 namespace {
 
-constexpr int MillisecondiPerFotogramma = 1000 / 60;
 constexpr int Margine = 6;  // pixels
 
 }  // namespace
@@ -31,16 +30,15 @@ void PannelloEstrazione::Inizia() {
   interrotta_ = false;
   avanzamento_ = {};
   daInizio_.start();
-  daFotogramma_.start();
+  cadenza_ = {};
 }
 
 bool PannelloEstrazione::Segui(const AvanzamentoEstrazione& avanzamento, bool infinita) {
   avanzamento_ = avanzamento;
   infinita_ = infinita;
-  if (daFotogramma_.elapsed() < MillisecondiPerFotogramma) return !interrotta_;
+  if (!cadenza_.Scaduta()) return !interrotta_;
   update();
   QCoreApplication::processEvents();
-  daFotogramma_.restart();
   return !interrotta_;
 }
 

@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <QPushButton>
 
+#include "platform/pace.h"
 #include "platform/user.h"
 
 namespace telarium {
@@ -35,7 +36,7 @@ class PannelloEstrazione : public QFrame {
   AvanzamentoEstrazione avanzamento_;
   bool infinita_ = false;
   QElapsedTimer daInizio_;
-  QElapsedTimer daFotogramma_;
+  Cadenza cadenza_;
   bool interrotta_ = false;
 };
 

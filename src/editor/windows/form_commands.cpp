@@ -22,6 +22,7 @@
 #include "output/web_opening.h"
 #include "output/window_picture.h"
 #include "output/word_export.h"
+#include "platform/check.h"
 
 namespace telarium {
 namespace {
@@ -164,7 +165,8 @@ constexpr AzioneDiPulsante pulsanti[] = {
 ComandoDiForm1 ComandoDellaVoce(std::string_view nome) {
   const auto trovato = std::find_if(std::begin(comandi), std::end(comandi),
                                     [nome](const ComandoDiVoce& uno) { return uno.voce == nome; });
-  return trovato == std::end(comandi) ? nullptr : trovato->comando;
+  Verifica(trovato != std::end(comandi), "ComandoDellaVoce: voce senza comando");
+  return trovato->comando;
 }
 
 AzioneDiPulsante AzioneDelPulsante(std::string_view chiave) {
@@ -172,10 +174,6 @@ AzioneDiPulsante AzioneDelPulsante(std::string_view chiave) {
       std::find_if(std::begin(pulsanti), std::end(pulsanti),
                    [chiave](const AzioneDiPulsante& una) { return una.chiave == chiave; });
   return trovata == std::end(pulsanti) ? AzioneDiPulsante{} : *trovata;
-}
-
-bool HaComando(const AzioneDiPulsante& azione) {
-  return azione.comando || !azione.menu.empty() || ComandoDellaVoce(azione.voce);
 }
 
 }  // namespace telarium

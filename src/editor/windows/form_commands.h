@@ -6,7 +6,7 @@ namespace telarium {
 
 class Form1;
 
-/// What a menu entry runs; null when nothing stands behind it yet.
+/// What a menu entry runs. To ask for that of a submenu or of no entry is a programming error.
 using ComandoDiForm1 = void (*)(Form1&);
 ComandoDiForm1 ComandoDellaVoce(std::string_view nome);
 
@@ -19,8 +19,5 @@ struct AzioneDiPulsante {
   std::string_view menu = {};
 };
 AzioneDiPulsante AzioneDelPulsante(std::string_view chiave);
-
-/// Whether anything stands behind a button.
-bool HaComando(const AzioneDiPulsante& azione);
 
 }  // namespace telarium

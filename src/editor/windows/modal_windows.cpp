@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QWidget>
 #include <algorithm>
+#include <iterator>
 
 #include "auxiliary/windows/Form3.h"
 #include "auxiliary/windows/Form6.h"
@@ -17,6 +18,7 @@
 #include "crossworddialogs/windows/TelarSav.h"
 #include "dictionary/windows/Form4.h"
 #include "editor/windows/Settaggi.h"
+#include "platform/check.h"
 
 namespace telarium {
 namespace {
@@ -63,13 +65,11 @@ constexpr VoceModale finestre[] = {
 
 }  // namespace
 
-bool MostraFinestraModale(Modale quale, QWidget& principale) {
-  for (const VoceModale& voce : finestre) {
-    if (voce.quale != quale) continue;
-    voce.mostra(principale);
-    return true;
-  }
-  return false;
+void MostraFinestraModale(Modale quale, QWidget& principale) {
+  const auto voce = std::find_if(std::begin(finestre), std::end(finestre),
+                                 [quale](const VoceModale& una) { return una.quale == quale; });
+  Verifica(voce != std::end(finestre), "MostraFinestraModale: finestra senza classe");
+  voce->mostra(principale);
 }
 
 }  // namespace telarium

