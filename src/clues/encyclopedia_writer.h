@@ -15,10 +15,12 @@ using ProsegueOpera = std::function<bool(double parte)>;
 
 /// What became of an encyclopedia to be written.
 struct EsitoEnciclopedia {
-  std::string errore;       // why nothing was written, for the user; empty when the file is
+  std::string errore;       // why nothing was written, for the user
   bool interrotta = false;  // broken off: nothing was written either
   int parole = 0;
   int definizioni = 0;
+
+  bool Fatta() const { return !interrotta && errore.empty(); }
 };
 
 /// Makes telarium1.mdb of the program folder anew: a row for each word, its clues in the order of

@@ -69,7 +69,7 @@ EsitoEnciclopedia FaiDalleListe(const Percorso& installati, const Percorso& cart
   std::vector<VoceDiLista> voci;
   const auto leggendo = [&](double parte) { return prosegue(QuotaLettura * parte); };
   EsitoEnciclopedia esito = LeggiListe(ListeInstallate(installati), leggendo, voci);
-  if (esito.interrotta || !esito.errore.empty()) return esito;
+  if (!esito.Fatta()) return esito;
   return CreaEnciclopedia(cartella, std::move(voci), [&](double parte) {
     return prosegue(QuotaLettura + (1 - QuotaLettura) * parte);
   });
@@ -95,7 +95,7 @@ bool PreparaEnciclopedia(const Percorso& installati, const Percorso& cartella) {
                   " Telarium riprova al prossimo avvio."),
            {}, Icona::Avviso);
   }
-  return !esito.interrotta && esito.errore.empty();
+  return esito.Fatta();
 }
 
 }  // namespace telarium

@@ -4,6 +4,7 @@
 #include "clues/encyclopedia_writer.h"
 #include "clues/import.h"
 #include "clues/store_use.h"
+#include "dictionary/word_list.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
@@ -43,7 +44,7 @@ Stato EncCrea(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   const EsitoEnciclopedia esito = ScriviEnciclopedia(
       std::move(voci), [&](double) { return !piattaforma.ChiUsa().Interrotto(); });
   if (!esito.errore.empty()) Avvisa(esito.errore);
-  if (esito.interrotta || !esito.errore.empty()) return Stato::Fallito;
+  if (!esito.Fatta()) return Stato::Fallito;
   StampaCampi({std::to_string(esito.parole), std::to_string(esito.definizioni)});
   return Stato::Fatto;
 }
@@ -79,7 +80,13 @@ void StampaFamiglia(std::string_view sigla, const std::string& famiglia) {
 
 Stato Definizioni(const Argomenti& argomenti, PiattaformaConsole&) {
   std::optional<Famiglie> famiglie;
-  ConEnciclopedia([&] { famiglie = LeggiFamiglie(ParolaDaCercare(DaUtf8(argomenti.liberi[0]))); });
+  const std::string& utf8 = argomenti.liberi[0];
+  ConEnciclopedia([&] {
+    famiglie = LeggiFamiglie(ParolaDaCercare(DaUtf8(utf8)));
+    if (famiglie) return;
+    // Words of a grid have no accents: "perché" is there as PERCHE.
+    if (const auto piegata = PiegaParola(utf8)) famiglie = LeggiFamiglie(*piegata);
+  });
   if (!famiglie) return Stato::Fallito;
   StampaFamiglia("F", famiglie->facili);
   StampaFamiglia("D", famiglie->difficili);

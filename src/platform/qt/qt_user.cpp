@@ -20,7 +20,7 @@ namespace {
 
 constexpr qsizetype MaxCaratteri = 2000;  // more would not fit on a screen
 constexpr qsizetype MaxSenzaInterruzioni = 60;
-constexpr int MaxCaratteriPerRiga = 70;
+constexpr int MaxCaratteriPerRiga = 84;
 
 struct Bottone {
   const char16_t* testo;
