@@ -59,6 +59,8 @@ class Form4 : public FinestraModale {
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
+  static int LunghezzaDi(std::size_t lista) { return MinLunghezza + static_cast<int>(lista); }
+
   enum class Lavoro { Nessuno, Lettura, Ricostruzione, Importazione };
 
   void CreaListe();
