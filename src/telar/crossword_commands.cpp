@@ -151,7 +151,7 @@ std::vector<Comando> ComandiCruciverba() {
        "Elenca le parole: numero, O o V, colonna, riga, lunghezza, lettere, definizione.",
        Parole},
       {"griglia", "FILE", "", 1, 1, {},
-       "Mostra la griglia, un carattere per casella.",
+       "Mostra lo schema, un carattere per casella.",
        Griglia},
       {"copia", "FILE USCITA", "", 2, 2, {},
        "Apre il cruciverba e lo riscrive in USCITA.",
@@ -167,7 +167,7 @@ std::vector<Comando> ComandiCruciverba() {
         {"--vicolo-cieco", "si|no|annulla", "la risposta a ogni vicolo cieco (si)"},
         {"--infinito", "", "ricomincia da solo a ogni vicolo cieco"},
         {"--tentativi", "N", "rinuncia dopo N tentativi (1000)"}},
-       "Riempie la griglia con parole estratte dal dizionario.",
+       "Riempie lo schema con parole estratte dal dizionario.",
        Estrai},
   };
   // clang-format on

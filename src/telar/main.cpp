@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <utility>
 
 #include "clues/first_encyclopedia.h"
 #include "model/state.h"
@@ -25,24 +26,37 @@ void Aggiungi(std::string& testo, std::initializer_list<std::string_view> parti)
     testo += parte;
 }
 
+// A row of a list. The explanation has a column of its own, below a name that is too long for it.
+void AggiungiVoce(std::string& testo, std::string voce, std::string_view spiegazione) {
+  constexpr std::size_t colonna = 32;
+  if (voce.size() >= colonna) {
+    Aggiungi(testo, {voce, "\n"});
+    voce.clear();
+  }
+  voce.resize(colonna, ' ');
+  Aggiungi(testo, {voce, spiegazione, "\n"});
+}
+
+// The name of a command and what it takes.
+std::string Forma(const Comando& comando) {
+  std::string forma(comando.nome);
+  if (!comando.argomenti.empty()) Aggiungi(forma, {" ", comando.argomenti});
+  return forma.append(comando.uso);
+}
+
 void AggiungiOpzioni(std::string& testo, const std::vector<Opzione>& opzioni) {
   for (const auto& [nome, valore, aiuto] : opzioni) {
     std::string sinistra = "  " + std::string(nome);
     if (!valore.empty()) Aggiungi(sinistra, {" ", valore});
-    sinistra.resize(std::max<std::size_t>(sinistra.size() + 1, 32), ' ');
-    Aggiungi(testo, {sinistra, aiuto, "\n"});
+    AggiungiVoce(testo, std::move(sinistra), aiuto);
   }
 }
 
 std::string UsoGenerale() {
   std::string testo =
       "Uso: telar [--cartella CARTELLA] COMANDO [ARGOMENTI] [OPZIONI]\n\nComandi:\n";
-  for (const Comando& comando : Comandi()) {
-    std::string sinistra = "  ";
-    Aggiungi(sinistra, {comando.nome, " ", comando.argomenti, comando.uso});
-    sinistra.resize(std::max<std::size_t>(sinistra.size() + 1, 32), ' ');
-    Aggiungi(testo, {sinistra, comando.aiuto, "\n"});
-  }
+  for (const Comando& comando : Comandi())
+    AggiungiVoce(testo, "  " + Forma(comando), comando.aiuto);
   testo += "\nOpzioni:\n";
   AggiungiOpzioni(testo, {OpzioneCartella, OpzioneAiuto, OpzioneVersione});
   testo += "\n\"telar COMANDO --help\" spiega un comando.\n";
@@ -51,8 +65,8 @@ std::string UsoGenerale() {
 
 std::string UsoDi(const Comando& comando) {
   std::string testo;
-  Aggiungi(testo, {"Uso: telar ", comando.nome, " ", comando.argomenti, comando.uso,
-                   " [OPZIONI]\n\n", comando.aiuto, "\n\nOpzioni:\n"});
+  Aggiungi(testo,
+           {"Uso: telar ", Forma(comando), " [OPZIONI]\n\n", comando.aiuto, "\n\nOpzioni:\n"});
   AggiungiOpzioni(testo, comando.opzioni);
   AggiungiOpzioni(testo, {OpzioneCartella, OpzioneAiuto});
   if (comando.usaEnciclopedia) testo += NotaEnciclopedia;

@@ -76,14 +76,14 @@ Stato ApriPagina(const Argomenti& argomenti, PiattaformaConsole&) {
 }  // namespace
 
 std::vector<Comando> ComandiUscita() {
-  constexpr Opzione senzaSoluzioni = {"--senza-soluzioni", "", "lascia via le soluzioni"};
+  constexpr Opzione senzaSoluzioni = {"--senza-soluzioni", "", "omette le soluzioni"};
   // clang-format off
   return {
       {"html", "FILE", "", 1, 1,
-       {{"--modo", "1|2", "per il browser o per Word (1)"},
+       {{"--modo", "1|2", "per il browser o per un programma di scrittura (1)"},
         senzaSoluzioni,
         {"--uscita", "PERCORSO", "il file (telarium_html.html della cartella programma)"}},
-       "Scrive la pagina da leggere, con la griglia come tabella.",
+       "Scrive la pagina da leggere, con lo schema come tabella.",
        Html},
       {"form", "FILE", "", 1, 1,
        {senzaSoluzioni,
