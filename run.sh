@@ -17,7 +17,8 @@ tools/install_packages.sh "${build_packages[@]}"
 
 log=build/run.log
 mkdir -p build
-if ! { cmake --preset release -DBUILD_TESTING=OFF && cmake --build --preset release; } >"$log" 2>&1; then
+if ! { cmake --preset release -DBUILD_TESTING=OFF &&
+  cmake --build --preset release --target telarium telar telarium_data; } >"$log" 2>&1; then
   tail -n 40 "$log" >&2
   echo "La compilazione non è riuscita; tutto il resoconto è in $log" >&2
   exit 1

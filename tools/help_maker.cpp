@@ -1,4 +1,4 @@
-#include <array>
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <exception>
@@ -6,7 +6,9 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <regex>
 #include <set>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -16,25 +18,31 @@
 //   help_maker FOLDER OUT_FOLDER CHAPTER...
 // CHAPTER is the name of a file of FOLDER without ".html"; the pictures lie in FOLDER/pictures.
 // Makes TELARIUM7.mht, a web archive, and TELARIUM7.html, the same page for browsers that take
-// none. A picture that is missing, a link to nowhere and an anchor that stands twice are errors.
+// none. What would be missing or lead nowhere in them is an error, and so is a tag that is written
+// otherwise than the routines here read it.
 namespace {
 
 namespace fs = std::filesystem;
 
 constexpr std::string_view title = "Guida di Telarium";
 constexpr std::string_view boundary = "----=_Guida_di_Telarium";
+constexpr std::string_view picture_folder = "pictures/";
 constexpr std::string_view picture_mark = "src=\"pictures/";
+
+[[noreturn]] void Refuse(const std::string& why) {
+  throw std::runtime_error(why);
+}
 
 std::string Read(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);
-  if (!in) throw std::runtime_error("cannot read " + file.string());
+  if (!in) Refuse("cannot read " + file.string());
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
 void Write(const fs::path& file, std::string_view text) {
   std::ofstream out(file, std::ios::binary);
   out.write(text.data(), static_cast<std::streamsize>(text.size()));
-  if (!out.flush()) throw std::runtime_error("cannot write " + file.string());
+  if (!out.flush()) Refuse("cannot write " + file.string());
 }
 
 // In lines of that many characters, ended by CR LF; 0: without a break.
@@ -54,71 +62,133 @@ std::string Base64(std::string_view bytes, std::size_t line) {
   return text;
 }
 
-// Calls `visit` with what stands behind each `mark` up to the closing quote.
-template <class Visit>
-void ForEachValue(std::string_view page, std::string_view mark, Visit visit) {
-  for (std::size_t at = page.find(mark); at != page.npos; at = page.find(mark, at)) {
-    at += mark.size();
-    visit(page.substr(at, page.find('"', at) - at));
+// --- What the chapters say, checked ---
+
+struct Attribute {
+  std::string name, value;
+};
+
+// The attributes of all tags, which have the shape <tag name="value" name>.
+std::vector<Attribute> Attributes(const std::string& chapters) {
+  static const std::regex tag(R"re(</?[a-z][a-z0-9]*((?:\s+[a-z-]+(?:="[^"<>]*")?)*)>)re");
+  static const std::regex attribute(R"re(([a-z-]+)(?:="([^"]*)")?)re");
+  std::vector<Attribute> attributes;
+  for (std::size_t at = chapters.find('<'); at != chapters.npos; at = chapters.find('<', at + 1)) {
+    const std::string text = chapters.substr(at, chapters.find('>', at) - at + 1);
+    std::smatch parts;
+    if (!std::regex_match(text, parts, tag))
+      Refuse("tag of another shape than <tag name=\"value\">: " + text);
+    const std::string inner = parts[1];
+    for (std::sregex_iterator i(inner.begin(), inner.end(), attribute), end; i != end; ++i)
+      attributes.push_back({(*i)[1], (*i)[2]});
   }
+  return attributes;
 }
 
-void CheckLinks(const std::string& page) {
-  std::set<std::string, std::less<>> anchors;
-  ForEachValue(page, " id=\"", [&](std::string_view name) {
-    if (!anchors.emplace(name).second)
-      throw std::runtime_error("anchor stands twice: " + std::string(name));
-  });
-  ForEachValue(page, "href=\"#", [&](std::string_view name) {
-    if (!anchors.contains(name)) throw std::runtime_error("broken link: #" + std::string(name));
-  });
+bool LeadsOutside(const std::string& link) {
+  return link.starts_with("https://") || link.starts_with("http://") || link.starts_with("mailto:");
 }
 
-// Headings of chapters and sections that have an anchor: <h2 id="a">Text</h2>, likewise h3.
-std::string TableOfContents(std::string_view chapters) {
+// The file names of the pictures that the attributes show. Anchors stand once, links lead to one of
+// them or out into the web, and nothing but a picture is taken from a file.
+std::set<std::string> CheckedPictures(const std::vector<Attribute>& attributes) {
+  std::set<std::string> anchors, pictures;
+  for (const auto& [name, value] : attributes)
+    if (name == "id" && !anchors.insert(value).second) Refuse("anchor stands twice: " + value);
+  for (const auto& [name, value] : attributes) {
+    if (name == "href" && !LeadsOutside(value)) {
+      if (!value.starts_with('#')) Refuse("link to a file, which the guide has not: " + value);
+      if (!anchors.contains(value.substr(1))) Refuse("broken link: " + value);
+    }
+    if (name == "src") {
+      if (!value.starts_with(picture_folder)) Refuse("no picture of the guide's folder: " + value);
+      pictures.insert(value.substr(picture_folder.size()));
+    }
+  }
+  return pictures;
+}
+
+struct Heading {
+  char level;  // 2: of a chapter, 3: of a section
+  std::string anchor, text;
+};
+
+// All headings but that of the guide itself.
+std::vector<Heading> Headings(const std::string& chapters) {
+  static const std::regex opening("<h[1-6]");
+  static const std::regex heading(R"re(<h([23]) id="([^"]+)">(.+)</h\1>)re");
+  std::vector<Heading> headings;
+  std::istringstream lines(chapters);
+  for (std::string line; std::getline(lines, line);) {
+    const auto count = std::distance(std::sregex_iterator(line.begin(), line.end(), opening), {});
+    if (count == 0 || line.starts_with("<h1>")) continue;
+    std::smatch parts;
+    if (count > 1 || !std::regex_match(line, parts, heading))
+      Refuse("heading of another shape than <h2 id=\"anchor\">Text</h2> or h3 on one line: " +
+             line);
+    headings.push_back({*parts[1].first, parts[2], parts[3]});
+    if (headings.front().level != '2') Refuse("section before the first chapter: " + line);
+  }
+  return headings;
+}
+
+std::string Entry(const Heading& heading) {
+  return "<li><a href=\"#" + heading.anchor + "\">" + heading.text + "</a>";
+}
+
+// A list of the chapters, with a list of its sections in each that has some.
+std::string TableOfContents(const std::vector<Heading>& headings) {
   std::string contents = "<nav><h2>Indice</h2><ol>\n";
-  bool in_chapter = false, in_sections = false;
-  for (std::size_t at = chapters.find("<h"); at != chapters.npos; at = chapters.find("<h", at)) {
-    const std::string_view heading = chapters.substr(at, chapters.find('\n', at) - at);
-    at += 2;
-    const char level = heading[2];
-    const std::size_t anchor = heading.find(" id=\"");
-    const std::size_t end = heading.find("</h");
-    if ((level != '2' && level != '3') || anchor != 3 || end == heading.npos) continue;
-    const std::size_t close = heading.find('"', 8);
-    if (level == '2' && in_sections) contents += "</ol>";
-    if (level == '2' && in_chapter) contents += "</li>\n";
-    if (level == '3' && !in_sections) contents += "\n<ol>";
-    in_sections = level == '3';
-    in_chapter = true;
-    contents += "<li><a href=\"#" + std::string(heading.substr(8, close - 8)) + "\">" +
-                std::string(heading.substr(close + 2, end - close - 2)) + "</a>";
-    if (level == '3') contents += "</li>";
+  for (auto chapter = headings.begin(); chapter != headings.end();) {
+    const auto first = chapter + 1;
+    const auto next =
+        std::find_if(first, headings.end(), [](const Heading& h) { return h.level == '2'; });
+    contents += Entry(*chapter);
+    if (first != next) contents += "\n<ol>";
+    for (auto section = first; section != next; ++section)
+      contents += Entry(*section) + "</li>";
+    if (first != next) contents += "</ol>";
+    contents += "</li>\n";
+    chapter = next;
   }
-  if (in_sections) contents += "</ol>";
-  return contents + "</li>\n</ol></nav>\n";
+  return contents + "</ol></nav>\n";
 }
 
-std::string Page(const fs::path& folder, const std::vector<std::string>& names) {
+std::string Chapters(const fs::path& folder, const std::vector<std::string>& names) {
   std::string chapters;
   for (const std::string& name : names)
     chapters += Read(folder / (name + ".html"));
-  const std::string page =
-      "<!DOCTYPE html>\n<html lang=\"it\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
-      std::string(title) +
-      "</title>\n<meta name=\"viewport\" content=\"width=device-width\">\n<style>\n" +
-      Read(folder / "guide.css") + "</style>\n</head>\n<body>\n" + TableOfContents(chapters) +
-      "<main>\n" + chapters + "</main>\n</body>\n</html>\n";
-  CheckLinks(page);
-  return page;
+  return chapters;
 }
 
-// The pictures that a page shows, by name.
-std::map<std::string, std::string> Pictures(const fs::path& folder, std::string_view page) {
+std::string Page(const fs::path& folder, const std::string& chapters) {
+  return "<!DOCTYPE html>\n<html lang=\"it\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
+         std::string(title) +
+         "</title>\n<meta name=\"viewport\" content=\"width=device-width\">\n<style>\n" +
+         Read(folder / "guide.css") + "</style>\n</head>\n<body>\n" +
+         TableOfContents(Headings(chapters)) + "<main>\n" + chapters +
+         "</main>\n</body>\n</html>\n";
+}
+
+// --- The pictures ---
+
+std::string ReadPicture(const fs::path& file) {
+  constexpr std::string_view signature = "\x89PNG\r\n\x1A\n";
+  constexpr std::size_t size_end = 24;  // where the width and the height have been told
+  std::string png = Read(file);
+  if (!png.starts_with(signature) || png.size() < size_end) Refuse("no PNG: " + file.string());
+  return png;
+}
+
+// The contents of the pictures by name: these must be all that lie in the folder.
+std::map<std::string, std::string> Pictures(const fs::path& folder,
+                                            const std::set<std::string>& names) {
   std::map<std::string, std::string> pictures;
-  ForEachValue(page, picture_mark, [&](std::string_view name) {
-    pictures[std::string(name)] = Read(folder / "pictures" / name);
-  });
+  for (const std::string& name : names)
+    pictures[name] = ReadPicture(folder / name);
+  for (const auto& entry : fs::directory_iterator(folder))
+    if (!names.contains(entry.path().filename().string()))
+      Refuse("picture that no chapter shows: " + entry.path().string());
   return pictures;
 }
 
@@ -200,8 +270,9 @@ int main(int argc, char** argv) {
   }
   const fs::path folder = argv[1], out = argv[2];
   try {
-    const std::string page = Page(folder, {argv + 3, argv + argc});
-    const auto files = Pictures(folder, page);
+    const std::string chapters = Chapters(folder, {argv + 3, argv + argc});
+    const std::string page = Page(folder, chapters);
+    const auto files = Pictures(folder / picture_folder, CheckedPictures(Attributes(chapters)));
     Write(out / "TELARIUM7.mht", Archive(page, files));
     Write(out / "TELARIUM7.html", Twin(page, files));
   } catch (const std::exception& error) {

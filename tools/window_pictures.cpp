@@ -2,63 +2,104 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QFontInfo>
 #include <QLabel>
-#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QPainter>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <QTranslator>
+#include <chrono>
 #include <cstdio>
 #include <functional>
+#include <optional>
+#include <stdexcept>
+#include <string>
 
 #include "editor/cell_editing.h"
 #include "editor/startup.h"
 #include "editor/windows/Form1.h"
 #include "model/state.h"
+#include "platform/common/random_source.h"
 #include "platform/platform.h"
 #include "platform/qt/qt_dialog.h"
 #include "platform/qt/qt_platform.h"
-#include "platform/qt/qt_text.h"
+#include "telarium/desktop.h"
 
 // Takes the pictures of the guide: window_pictures DATA_FOLDER WORK_FOLDER PICTURE_FOLDER
 // They show the real windows, on a screen that nobody sees, in a copy of the data folder that is
-// made as WORK_FOLDER, whose name some of them show, and removed. A window that no longer opens as
-// it is told here is an error.
+// made as WORK_FOLDER, whose name some of them show, and removed. Chance and the clocks are fixed,
+// so that only the pictures of what has changed come out otherwise; the fill tells its speed all
+// the same. A window that no longer opens as it is told here is an error.
 namespace telarium {
 namespace {
 
-constexpr QSize MainSize(1000, 700);  // logical pixels
-constexpr int Patience = 60'000;      // milliseconds
-constexpr int Glance = 20;            // milliseconds between two looks
-constexpr int ButtonSide = 48;        // pixels, shown at half the size
+constexpr QSize MainSize(1000, 700);      // logical pixels
+constexpr int Patience = 60'000;          // milliseconds
+constexpr int Glance = 20;                // milliseconds between two looks
+constexpr int ButtonSide = 48;            // pixels, shown at half the size
+constexpr std::uint64_t Seed = 20240305;  // with it a fill of the sample has a dead end
+constexpr std::chrono::year_month_day Today{std::chrono::year(2026), std::chrono::month(11),
+                                            std::chrono::day(23)};
 constexpr const char* Sample = "Archivio cruciverba/A tavola.tlrm";
 constexpr const char* SmallSample = "Archivio cruciverba/Primo incontro.tlrm";
 
+// The user's machine without chance, time and network.
+class FixedMachine : public MacchinaQt {
+ public:
+  std::chrono::year_month_day Oggi() override { return Today; }
+  double Casuale() override { return random_.Prossimo(); }
+  std::optional<std::string> Preleva(const std::string&, const LimitiDiPrelievo&,
+                                     const ProseguePrelievo&) override {
+    return std::nullopt;
+  }
+
+ private:
+  SorgenteCasuale random_{Seed};
+};
+
+class FixedPlatform : public PiattaformaQt {
+ public:
+  Macchina& Sistema() override { return machine_; }
+
+ private:
+  FixedMachine machine_;
+};
+
+bool IsBlank(const QImage& image) {
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixel(x, y) != image.pixel(0, 0)) return false;
+  return true;
+}
+
 class Studio {
  public:
-  Studio(Form1& form, const QString& folder) : form(form), folder_(folder) {}
+  Studio(FixedPlatform& platform, Form1& form, const QString& folder)
+      : platform(platform), form(form), folder_(folder) {}
 
+  FixedPlatform& platform;
   Form1& form;
 
   void Save(const QPixmap& picture, const char* name) {
     const QString file =
         folder_ + QLatin1Char('/') + QLatin1StringView(name) + QStringLiteral(".png");
     constexpr int smallest = 0;  // file, by the strongest compression
-    if (!picture.save(file, "PNG", smallest)) Fail(name);
+    if (IsBlank(picture.toImage())) Fail("nothing is to be seen in the picture", name);
+    if (!picture.save(file, "PNG", smallest)) Fail("cannot write the picture", name);
   }
   void Save(QWidget& window, const char* name) {
     QCoreApplication::processEvents();
+    StopClock();
     Save(window.grab(), name);
   }
 
-  void Fail(const char* what) {
-    std::fprintf(stderr, "window_pictures: %s\n", what);
+  void Fail(const char* what, const std::string& which) {
+    std::fprintf(stderr, "window_pictures: %s: %s\n", what, which.c_str());
     failed_ = true;
   }
   bool Failed() const { return failed_ || awaited_ > 0; }
@@ -71,28 +112,44 @@ class Studio {
   }
 
   void Command(const char* entry) {
-    if (!form.Voce(entry).isEnabled()) return Fail(entry);
+    if (!form.Voce(entry).isEnabled()) return Fail("the menu entry is disabled", entry);
     form.Voce(entry).trigger();
   }
 
   /// Does `act` with the next modal window over `below`, as soon as it is ready, and closes it.
-  void OnWindow(const std::function<void(QWidget&)>& act, const QWidget* below = nullptr,
-                QDeadlineTimer deadline = QDeadlineTimer(Patience)) {
+  void OnWindow(const std::function<void(QWidget&)>& act, QWidget* below = nullptr) {
     ++awaited_;
-    QTimer::singleShot(Glance, &form, [=, this] {
-      --awaited_;
-      QWidget* window = QApplication::activeModalWidget();
-      const auto* ours = dynamic_cast<FinestraModale*>(window);
-      const bool ready =
-          window && window != below && window->isVisible() && (!ours || ours->Pronta());
-      if (!ready && !deadline.hasExpired()) return OnWindow(act, below, deadline);
-      if (!ready) return Fail("a window did not open");
-      act(*window);
-      if (window->isVisible()) window->close();
-    });
+    Await(act, below, QDeadlineTimer(Patience));
   }
 
  private:
+  // `below` may be gone by then: another window may have got its place in memory.
+  void Await(const std::function<void(QWidget&)>& act, const QPointer<QWidget>& below,
+             QDeadlineTimer deadline) {
+    QTimer::singleShot(Glance, &form, [=, this] {
+      const QPointer<QWidget> window = QApplication::activeModalWidget();
+      const auto* ours = dynamic_cast<FinestraModale*>(window.data());
+      const bool ready =
+          window && window != below && window->isVisible() && (!ours || ours->Pronta());
+      if (!ready && !deadline.hasExpired()) return Await(act, below, deadline);
+      --awaited_;
+      if (!ready) return Fail("no window opened", below ? TextOf(*below) : "over the main one");
+      act(*window);
+      if (window && window->isVisible()) window->close();
+    });
+  }
+
+  static std::string TextOf(const QWidget& below) {
+    return "over " + below.windowTitle().toStdString();
+  }
+
+  // The status bar tells the time by the clock on the wall, until it is told another.
+  void StopClock() {
+    const auto panels = form.StatusBar1->findChildren<QLabel*>();
+    panels[panels.size() - 2]->setText(QString::fromStdString(DataDiOggi()).replace(u'-', u'/'));
+    panels[panels.size() - 1]->setText(QStringLiteral("12:00"));
+  }
+
   QString folder_;
   int awaited_ = 0;
   bool failed_ = false;
@@ -144,7 +201,7 @@ void OpenDictionary(Studio& studio, QWidget& window) {
   auto& files = *window.findChild<QListWidget*>(QStringLiteral("File1"));
   PickLine(window, "File1", QStringLiteral("LessicoItaliano"));
   QTest::keyClick(&files, Qt::Key_Return);
-  if (!Button(window, "Command4").isEnabled()) studio.Fail("no dictionary was read");
+  if (!Button(window, "Command4").isEnabled()) studio.Fail("no dictionary was read", "Form4");
 }
 
 const MenuWindow menu_windows[] = {
@@ -253,45 +310,56 @@ void TakeMessages(Studio& studio) {
   studio.During("Menupreltutt", [&](QWidget& box) { studio.Save(box, "report"); });
 }
 
-// Hardly a fill of the sample's grid comes through without a dead end, or soon without any.
-void TakeFill(Studio& studio) {
-  const auto accept = [](QWidget& question) { Button(question, "OK").click(); };
+void TakeDeadEnd(Studio& studio) {
   studio.During("MenuEstrazione", [&](QWidget& question) {
     studio.Save(question, "fill_question");
     studio.OnWindow([&](QWidget& deadEnd) { studio.Save(deadEnd, "dead_end"); }, &question);
-    accept(question);
-  });
-  studio.Command("MenuInf");
-  studio.During("MenuEstrazione", [&](QWidget& question) {
-    constexpr int while_it_runs = 700;  // milliseconds
-    QTimer::singleShot(while_it_runs, &studio.form, [&] {
-      studio.Save(studio.form.Avanzamento->grab(), "fill_progress");
-      studio.form.Avanzamento->Interrompi();
-    });
-    accept(question);
+    Button(question, "OK").click();
   });
 }
 
-bool TakeAll(const QString& pictures) {
-  PiattaformaQt platform;
-  ImpostaPiattaforma(&platform);
+// The endless run, stopped in one of its attempts.
+void TakeFillProgress(Studio& studio) {
+  constexpr int attempt = 500;
+  constexpr int words = 15;
+  bool taken = false;
+  studio.platform.ChiUsa().SegueEstrazione([&](const AvanzamentoEstrazione& progress) {
+    const bool goes_on = studio.form.SeguiEstrazione(progress);
+    if (!taken && progress.tentativo >= attempt && progress.slotCollocati >= words) {
+      studio.Save(studio.form.Avanzamento->grab(), "fill_progress");
+      taken = true;
+    }
+    return goes_on && !taken;
+  });
+  studio.Command("MenuInf");
+  studio.During("MenuEstrazione", [&](QWidget& question) { Button(question, "OK").click(); });
+  if (!taken) studio.Fail("the run ended before its attempt", "fill_progress");
+}
+
+// The form and the platform as in the program, the first activation done. The tips are not wanted
+// at the start, but later by the menu entry.
+void Begin(FixedPlatform& platform, Form1& form) {
   constexpr const char* tips = "Options/Show Tips at Startup";
   platform.Sistema().ScriviImpostazione(tips, "0");
-  CaricaProgramma(CartellaProgramma);
-  Form1 form;
-  platform.ChiUsa().Finestra(&form);
-  platform.ChiUsa().SegueEstrazione(
-      [&form](const AvanzamentoEstrazione& a) { return form.SeguiEstrazione(a); });
-  platform.FinestraPrincipale(&form.Area->Superficie());
+  CollegaFinestra(platform, form);
   form.Mostra();
-  Studio studio(form, pictures);
-  if (!QTest::qWaitFor([] { return GiaAttivata != Falso; }, Patience)) return false;
-  platform.Sistema().ScriviImpostazione(tips, "1");  // for the menu entry
+  if (!QTest::qWaitFor([] { return GiaAttivata != Falso; }, Patience))
+    throw std::runtime_error("the main window did not come to its first activation");
+  platform.Sistema().ScriviImpostazione(tips, "1");
   form.showNormal();
   form.resize(MainSize);
   QCoreApplication::processEvents();
+}
+
+bool TakeAll(const QString& pictures) {
+  FixedPlatform platform;
+  ImpostaPiattaforma(&platform);
+  CaricaProgramma(CartellaProgramma);
+  Form1 form;
+  Begin(platform, form);
+  Studio studio(platform, form, pictures);
   for (const auto take : {TakeMain, TakeMenus, TakeMenuWindows, TakePreview, TakeClueEditor,
-                          TakeTableOfEncyclopedia, TakeMessages, TakeFill})
+                          TakeTableOfEncyclopedia, TakeMessages, TakeDeadEnd, TakeFillProgress})
     take(studio);
   return !studio.Failed();
 }
@@ -305,48 +373,74 @@ bool CopyFolder(const QDir& from, const QDir& to) {
   return true;
 }
 
+// A copy of the data folder, as long as this object lives.
+class WorkFolder {
+ public:
+  WorkFolder(const QString& name, const QDir& data) : folder_(QDir(name).absolutePath()) {
+    if (folder_.exists()) throw std::runtime_error("there is already " + name.toStdString());
+    if (CopyFolder(data, folder_)) return;
+    folder_.removeRecursively();
+    throw std::runtime_error("cannot copy the data folder to " + name.toStdString());
+  }
+  ~WorkFolder() { folder_.removeRecursively(); }
+  WorkFolder(const WorkFolder&) = delete;
+  WorkFolder& operator=(const WorkFolder&) = delete;
+
+  std::string Path() const { return QFile::encodeName(folder_.path()).toStdString(); }
+
+ private:
+  QDir folder_;
+};
+
 // One screen of a usual size, for the platform that shows nothing.
 void DescribeScreen(const QString& file) {
   QFile json(file);
-  if (!json.open(QIODevice::WriteOnly)) return;
-  json.write(R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 1280, "height": 900,
-                 "logicalDpi": 96, "dpr": 1}]})");
-  json.close();
+  if (!json.open(QIODevice::WriteOnly) ||
+      json.write(R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 1280, "height": 900,
+                     "logicalDpi": 96, "dpr": 1}]})") < 0 ||
+      !json.flush())
+    throw std::runtime_error("cannot write the description of the screen");
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(file));
+  qputenv("QT_SCALE_FACTOR", "1");
+}
+
+// The same on every machine, so that the windows have the same sizes.
+void SetTypeface() {
+  const QFont font(QStringLiteral("DejaVu Sans"), 9);
+  if (!QFontInfo(font).exactMatch()) throw std::runtime_error("DejaVu Sans is not installed");
+  QApplication::setFont(font);
+}
+
+bool Run(int& argc, char** argv) {
+  const QDir pictures(QString::fromLocal8Bit(argv[3]));
+  const QString shown = pictures.absolutePath();  // the working folder will be the program's own
+  if (!pictures.mkpath(QStringLiteral(".")))
+    throw std::runtime_error("cannot make the folder of the pictures");
+  const WorkFolder work(QString::fromLocal8Bit(argv[2]), QDir(QString::fromLocal8Bit(argv[1])));
+  CartellaProgramma = work.Path();
+  const QTemporaryDir settings;  // instead of the user's
+  qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
+  DescribeScreen(settings.filePath(QStringLiteral("screen.json")));
+  QApplication::setStyle(QStringLiteral("Fusion"));
+  QApplication application(argc, argv);
+  NominaApplicazione();
+  SetTypeface();
+  if (!ParlaItaliano(application)) throw std::runtime_error("Qt's translations are not installed");
+  return TakeAll(shown);
 }
 
 }  // namespace
 }  // namespace telarium
 
 int main(int argc, char** argv) {
-  using namespace telarium;
   if (argc != 4) {
     std::fputs("usage: window_pictures DATA_FOLDER WORK_FOLDER PICTURE_FOLDER\n", stderr);
     return 2;
   }
-  const QDir data(QString::fromLocal8Bit(argv[1])), pictures(QString::fromLocal8Bit(argv[3]));
-  QDir work(QString::fromLocal8Bit(argv[2]));
-  if (work.exists() || !CopyFolder(data, work) || !pictures.mkpath(QStringLiteral("."))) {
-    std::fprintf(stderr, "window_pictures: cannot make %s of %s\n", argv[2], argv[1]);
+  try {
+    return telarium::Run(argc, argv) ? 0 : 1;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "window_pictures: %s\n", error.what());
     return 1;
   }
-  CartellaProgramma = QFile::encodeName(work.absolutePath()).toStdString();
-  const QString shown =
-      pictures.absolutePath();   // the program's own folder becomes the working one
-  const QTemporaryDir settings;  // instead of the user's
-  qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
-  qputenv("QT_SCALE_FACTOR", "1");
-  DescribeScreen(settings.filePath(QStringLiteral("screen.json")));
-  QApplication::setStyle(QStringLiteral("Fusion"));
-  QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("Telarium"));
-  QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
-  QTranslator translator;
-  if (!translator.load(QStringLiteral("qtbase_it"),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-    return 1;
-  QApplication::installTranslator(&translator);
-  const bool taken = TakeAll(shown);
-  QDir(PercorsoAQt(CartellaProgramma)).removeRecursively();
-  return taken ? 0 : 1;
 }

@@ -1,8 +1,5 @@
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QTimer>
-#include <QTranslator>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -12,11 +9,11 @@
 #include "clues/first_encyclopedia.h"
 #include "editor/startup.h"
 #include "editor/windows/Form1.h"
-#include "editor/windows/pictures.h"
 #include "platform/codepage.h"
 #include "platform/program_folder.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/qt_text.h"
+#include "telarium/desktop.h"
 #include "telarium/process_age.h"
 #include "telarium/single_instance.h"
 #include "telarium_version.h"
@@ -49,27 +46,12 @@ bool SchermoPresente() {
   return false;
 }
 
-void ImpostaPuntatori(UtenteQt& utente, const Form1& form) {
-  utente.Immagine(PuntatoreCasellaNera,
-                  PuntatoreDi("black_pointer", {6, 6}, form.devicePixelRatioF()));
-  utente.Immagine(PuntatoreMano, form.PuntatoreDelLogo());
-}
-
 void DiciTempi(Form1& form) {
   if (!std::getenv("TELARIUM_TEMPI")) return;
   form.Area->QuandoDipinta([] {
     std::fprintf(stderr, "avvio: %lld ms fino alla prima immagine\n",
                  static_cast<long long>(EtaDelProcesso().count()));
   });
-}
-
-// Qt's own texts, as those of the colour chooser, in Italian whatever the language of the system.
-void ParlaItaliano(QApplication& applicazione) {
-  QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
-  auto* traduttore = new QTranslator(&applicazione);
-  if (traduttore->load(QStringLiteral("qtbase_it"),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-    QApplication::installTranslator(traduttore);
 }
 
 int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
@@ -100,12 +82,7 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
   RigaDiComando = file;
   CaricaProgramma(cartella);
   Form1 form;
-  ImpostaPuntatori(piattaforma.ChiUsa(), form);
-  piattaforma.ChiUsa().Finestra(&form);
-  piattaforma.LaStampante()->Finestra(&form);
-  piattaforma.ChiUsa().SegueEstrazione(
-      [&form](const AvanzamentoEstrazione& a) { return form.SeguiEstrazione(a); });
-  piattaforma.FinestraPrincipale(&form.Area->Superficie());
+  CollegaFinestra(piattaforma, form);
   DiciTempi(form);
   form.Mostra();
   QTimer::singleShot(0, &form, [&] {  // behind the first activation
@@ -133,11 +110,7 @@ int main(int argc, char** argv) {
   const Percorso file = FileDellaRigaDiComando(argc, argv);
   int soloIlNome = 1;  // the command line is a file, not options of the windows
   QApplication applicazione(soloIlNome, argv);
-  // A display name would be put behind every title.
-  QApplication::setApplicationName(QStringLiteral("Telarium"));
-  QApplication::setApplicationVersion(QStringLiteral(TELARIUM_VERSION));
-  QApplication::setDesktopFileName(QStringLiteral("telarium"));
-  QApplication::setWindowIcon(Immagine("icon"));
-  ParlaItaliano(applicazione);
+  NominaApplicazione();
+  ParlaItaliano(applicazione);  // without the translations Qt says "Cancel", and all works
   return EseguiDesktop(applicazione, file);
 }

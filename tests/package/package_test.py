@@ -6,7 +6,6 @@ import gzip
 import os
 import pathlib
 import re
-import shutil
 import signal
 import subprocess
 import sys
@@ -16,6 +15,7 @@ import unittest
 import xml.etree.ElementTree
 
 BUILD = pathlib.Path(sys.argv.pop(1))
+SOURCE = pathlib.Path(__file__).resolve().parents[2]
 PATIENCE = 60  # seconds, for what takes few
 
 MIME_TYPE = "application/x-telarium"
@@ -47,6 +47,7 @@ class Package(unittest.TestCase):
         cls.usr = cls.folder / "root" / "usr"
         run("dpkg-deb", "-x", cls.package, cls.folder / "root")
         cls.data = cls.usr / "share" / "telarium"
+        cls.documents = cls.usr / "share" / "doc" / "telarium"
         cls.samples = sorted((cls.data / "Archivio cruciverba").glob("*.tlrm"))
 
     def setUp(self):
@@ -79,7 +80,12 @@ class Package(unittest.TestCase):
     def test_says_what_it_needs(self):
         def field(name):
             return run("dpkg-deb", "-f", self.package, name).strip()
-        self.assertEqual(field("Version"), run(self.usr / "bin/telar", "--version").split()[1])
+        version = field("Version")
+        self.assertEqual(version, run(self.usr / "bin/telar", "--version").split()[1])
+        changes = gzip.decompress((self.documents / "changelog.gz").read_bytes()).decode("utf-8")
+        self.assertEqual(re.match(r"telarium \((.+?)\) ", changes)[1], version)
+        told = (self.documents / "CHANGELOG.md").read_text(encoding="utf-8")
+        self.assertEqual(re.search(r"(?m)^## (.+)$", told)[1], version)
         needed = re.split(r"[ ,]+", field("Depends"))
         for name in ("libqt6widgets6", "libqt6svg6", "libqt6printsupport6", "libqt6network6",
                      "libcurl4", "libsqlite3-0", "fonts-liberation", "qt6-translations-l10n",
@@ -88,15 +94,20 @@ class Package(unittest.TestCase):
 
     def test_hands_the_lists_on_and_never_the_store(self):
         lists = sorted(path.name for path in (self.data / "clues").iterdir())
-        self.assertEqual([re.sub(r"\d+-", "", name) for name in lists],
-                         [name + ".tsv" for name in
-                          ("scritte", "words", "letters", "hints", "names", "elements", "latin",
-                           "english", "geography", "wikdict", "mythes")])
+        self.assertEqual(sorted(re.sub(r"\d+-", "", name) for name in lists),
+                         sorted(path.name.removesuffix(".xz")
+                                for path in (SOURCE / "data/clues").glob("*.tsv*")))
+        self.assertEqual(lists[0], "10-scritte.tsv")  # the project's own clues stand first
         self.assertEqual([path for path in self.usr.rglob("*") if path.suffix == ".mdb"], [])
-        notice = (self.usr / "share/doc/telarium/copyright").read_text(encoding="utf-8")
+        notice = (self.documents / "copyright").read_text(encoding="utf-8")
         for name in [re.sub(r"\d+-", "*-", name) for name in lists] + [
                 path.name for path in self.data.glob("*.dat")]:
             self.assertIn(name, notice)
+
+    def test_documents_have_what_they_link_to(self):
+        for page in self.documents.glob("*.md"):
+            links = re.findall(r"\]\(([^):#]+)\)", page.read_text(encoding="utf-8"))
+            self.assertEqual([link for link in links if not (page.parent / link).exists()], [])
 
     def test_console_makes_the_encyclopedia_when_a_command_needs_it(self):
         sample = self.samples[0]
@@ -152,19 +163,17 @@ class Package(unittest.TestCase):
         for name in ("apps/" + lines["Icon"], "mimetypes/" + kind.find("{*}icon").get("name")):
             self.assertTrue((icons / "scalable" / (name + ".svg")).exists(), name)
             self.assertEqual(len(list(icons.glob(f"*x*/{name}.png"))), 7, name)
-        if shutil.which("desktop-file-validate"):
-            self.assertEqual(run("desktop-file-validate", entry), "")
+        self.assertEqual(run("desktop-file-validate", entry), "")
 
     def test_man_pages_name_every_command_and_option(self):
         pages = {name: self.usr / f"share/man/man1/{name}.1.gz" for name in ("telar", "telarium")}
         for name, page in pages.items():
             self.assertEqual((self.usr / f"share/man/it/man1/{name}.1.gz").read_bytes(),
                              page.read_bytes())
-            if shutil.which("man"):
-                formatted = subprocess.run(
-                    ["man", "--warnings", "-E", "UTF-8", "-l", page], capture_output=True,
-                    env={"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8"}, check=True)
-                self.assertEqual(formatted.stderr, b"")
+            formatted = subprocess.run(
+                ["man", "--warnings", "-E", "UTF-8", "-l", page], capture_output=True,
+                env={"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8"}, check=True)
+            self.assertEqual(formatted.stderr, b"")
         text = gzip.decompress(pages["telar"].read_bytes()).decode("utf-8").replace("\\-", "-")
         commands = re.findall(r"^  ([a-z][a-z-]*) ", self.telar("--help")[0], re.MULTILINE)
         self.assertGreater(len(commands), 15)

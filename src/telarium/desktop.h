@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QApplication>
+
+#include "editor/windows/Form1.h"
+#include "platform/qt/qt_platform.h"
+
+namespace telarium {
+
+/// Gives the application its name, version and icon.
+void NominaApplicazione();
+
+/// Makes Qt's own texts, as those of the colour chooser, and its numbers and dates Italian,
+/// whatever the language of the system. False when Qt's translations are not installed.
+bool ParlaItaliano(QApplication& applicazione);
+
+/// Joins the main window to the platform, which draws on it, shows boxes before it, has its
+/// pointers and tells it how a fill goes. The caller keeps both alive.
+void CollegaFinestra(PiattaformaQt& piattaforma, Form1& form);
+
+}  // namespace telarium
