@@ -1,5 +1,5 @@
-#include <QElapsedTimer>
 #include <QHeaderView>
+#include <ctime>
 #include <filesystem>
 
 #include "auxiliary/windows/Form6.h"
@@ -355,11 +355,10 @@ TEST_F(OneWord, ClosingInAModeAsksForWhatWasTyped) {
 
 TEST_F(OneWord, FamilyOfOneEndlessWordShowsWithoutAPause) {
   ApriEnciclopedia()->AggiungiParola("A", std::string(1'000'000, 'z'));
-  QElapsedTimer clock;
-  clock.start();
+  const std::clock_t begun = std::clock();  // of this process: others may hold the machine
   Start();
   window->grab();
-  EXPECT_LT(clock.elapsed(), Patience);
+  EXPECT_LT((std::clock() - begun) / (CLOCKS_PER_SEC / 1000), Patience);
   EXPECT_EQ(Family(1).toPlainText().size(), 1'000'000);
 }
 
