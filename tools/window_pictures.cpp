@@ -322,6 +322,7 @@ void TakeDeadEnd(Studio& studio) {
 void TakeFillProgress(Studio& studio) {
   constexpr int attempt = 500;
   constexpr int words = 15;
+  constexpr int too_many = 2 * attempt;
   bool taken = false;
   studio.platform.ChiUsa().SegueEstrazione([&](const AvanzamentoEstrazione& progress) {
     const bool goes_on = studio.form.SeguiEstrazione(progress);
@@ -329,11 +330,11 @@ void TakeFillProgress(Studio& studio) {
       studio.Save(studio.form.Avanzamento->grab(), "fill_progress");
       taken = true;
     }
-    return goes_on && !taken;
+    return goes_on && !taken && progress.tentativo < too_many;
   });
   studio.Command("MenuInf");
   studio.During("MenuEstrazione", [&](QWidget& question) { Button(question, "OK").click(); });
-  if (!taken) studio.Fail("the run ended before its attempt", "fill_progress");
+  if (!taken) studio.Fail("the run did not come to as many words as", "fill_progress");
 }
 
 // The form and the platform as in the program, the first activation done. The tips are not wanted
