@@ -65,7 +65,7 @@ bool ScriviConAutore(const Percorso& nome, const std::string& autore) {
 }  // namespace
 
 Percorso CartellaArchivio() {
-  const Percorso archivio = CartellaProgramma / NomeArchivio;
+  const Percorso archivio = PercorsoDellaCartella(CartellaProgramma, NomeArchivio);
   std::error_code errore;
   fs::create_directory(archivio, errore);
   return Leggibile(archivio) ? archivio : CartellaProgramma;

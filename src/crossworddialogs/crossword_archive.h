@@ -8,8 +8,9 @@ namespace telarium {
 /// The pattern of the files that they list.
 inline constexpr const char* ModelloCruciverba = "*.tlr*";
 
-/// The folder in which they start: "Archivio cruciverba" in the program folder, which is made when
-/// it is missing; the program folder itself where it cannot be made or read.
+/// The folder in which they start: "Archivio cruciverba" in the program folder, whatever the case
+/// of its letters, which is made when it is missing; the program folder itself where it cannot be
+/// made or read.
 Percorso CartellaArchivio();
 
 /// Gives up opening: without a crossword ModoGriglia tells that the surface shows no grid.

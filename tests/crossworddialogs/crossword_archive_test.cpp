@@ -112,7 +112,10 @@ TEST_F(Archive, WithoutAGridNoFileIsWrittenOver) {
 TEST_F(Archive, TheFolderIsMadeWhereItCanBe) {
   EXPECT_EQ(CartellaArchivio(), InFolder("Archivio cruciverba"));
   EXPECT_TRUE(fs::is_directory(InFolder("Archivio cruciverba")));
-  fs::remove(InFolder("Archivio cruciverba"));
+  fs::rename(InFolder("Archivio cruciverba"), InFolder("ARCHIVIO Cruciverba"));
+  EXPECT_EQ(CartellaArchivio(), InFolder("ARCHIVIO Cruciverba"));
+  EXPECT_FALSE(fs::exists(InFolder("Archivio cruciverba"))) << "no second one";
+  fs::remove(InFolder("ARCHIVIO Cruciverba"));
   WriteFile("Archivio cruciverba", "a file");
   EXPECT_EQ(CartellaArchivio(), CartellaProgramma);
 }
