@@ -12,7 +12,6 @@ namespace telarium {
 namespace {
 
 constexpr double Margine = 10;  // both sides together
-constexpr double MinCorpo = 5;  // points
 constexpr std::string_view NonLeggibile = "Errore di lettura del file!";
 constexpr std::size_t MaxCaratteri = 200;  // of a text beside the picture
 constexpr std::size_t MaxDimensioni = 20;
@@ -82,8 +81,7 @@ void DisegnaAnteprima(const AnteprimaCruciverba& anteprima, Superficie& superfic
   const auto [colonne, righe] = anteprima.misure;
   const AnteprimaDiSchema schema(superficie, colonne, righe, Margine);
   superficie.Carattere(CarattereIniziale);
-  superficie.CorpoCarattere(
-      std::max<double>(ArrotondaPari(CorpoLettere(schema.Lato(), 0)), MinCorpo));
+  superficie.CorpoCarattere(CorpoLettereIntero(schema.Lato()));
   for (int r = 1; r <= righe; ++r) {
     const std::string& caselle = anteprima.caselle[static_cast<std::size_t>(r) - 1];
     for (int c = 1; c <= static_cast<int>(caselle.size()); ++c) {

@@ -12,8 +12,14 @@ namespace {
 // A settings file can hold any number; as many points as the cell has pixels overfill it already.
 constexpr int MaxPercentualeCorpo = 100;
 
-double Corpo(int percentuale, double lato) {
-  return lato / 100.0 * std::clamp(percentuale, 0, MaxPercentualeCorpo);
+constexpr double MinCorpoIntero = 5;  // points
+
+int Percentuale(int impostata) {
+  return std::clamp(impostata, 0, MaxPercentualeCorpo);
+}
+
+double Corpo(int impostata, double lato) {
+  return lato / 100.0 * Percentuale(impostata);
 }
 
 }  // namespace
@@ -34,6 +40,12 @@ void DisegnaCasellaNera(Superficie& superficie, double x, double y, double lato,
 
 double CorpoLettere(double lato, double minimo) {
   return std::max(Corpo(AltezzaCaratteri, lato), minimo);
+}
+
+double CorpoLettereIntero(double lato, double riduzione) {
+  // The product before the division: the inexact quotient would tip what lies between two integers.
+  return std::max<double>(ArrotondaPari(lato * Percentuale(AltezzaCaratteri) / (100 * riduzione)),
+                          MinCorpoIntero);
 }
 
 double CorpoNumeri(double lato) {

@@ -21,6 +21,10 @@ void DisegnaCasellaNera(Superficie& superficie, double x, double y, double lato,
 /// no larger than a letter that overfills its cell already, whatever the settings say.
 double CorpoLettere(double lato, double minimo);
 
+/// The same in whole points, as pages and previews want it: of a size between two integers the even
+/// one, and at least 5. The letters are those of cells smaller by `riduzione`.
+double CorpoLettereIntero(double lato, double riduzione = 1);
+
 /// Type size of the clue numbers, from AltezzaNumeri, within the same bounds.
 double CorpoNumeri(double lato);
 

@@ -17,7 +17,6 @@ namespace {
 
 constexpr double MargineProvvisorio = 50;  // on each side, for the size of a cell
 constexpr double MargineAlto = 50;         // of the pages behind the first one
-constexpr double MinCorpoLettere = 5;      // points
 constexpr double SottoLoSchema = 10;
 constexpr std::size_t TrattiniSenzaDefinizione = 30;
 
@@ -99,8 +98,7 @@ void ScriviRigheFinali(Superficie& superficie, int margine) {
 void DisegnaFoglio(Superficie& superficie, const Foglio& foglio) {
   RicalcolaCaselle();
   CalcolaGeometriaDelFoglio(superficie, foglio);
-  superficie.CorpoCarattere(
-      ArrotondaPari(CorpoLettere(LatoCasella / foglio.riduzioneCorpi, MinCorpoLettere)));
+  superficie.CorpoCarattere(CorpoLettereIntero(LatoCasella, foglio.riduzioneCorpi));
   superficie.Carattere(FontDelleLettere());
   if (LatoCasella > 0) DisegnaGriglia(superficie, foglio);
 

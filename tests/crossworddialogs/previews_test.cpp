@@ -69,6 +69,15 @@ TEST_F(Previews, TheLargestGridFitsAndItsTypeStaysReadable) {
   EXPECT_EQ(surface.calls.back(), "Riquadro 232 211 236 215 0");
 }
 
+TEST_F(Previews, ATypeBetweenTwoPointsIsTheEvenOne) {
+  const auto preview = Read(Head("02x01") + "H.H.\r\n");
+  ASSERT_TRUE(preview);
+  AltezzaCaratteri = 75;
+  surface.width = 2 * 14 + 10;
+  DisegnaAnteprima(*preview, surface);
+  EXPECT_EQ(surface.calls[2], "CorpoCarattere 10") << "10.5: three quarters of 14";
+}
+
 TEST_F(Previews, TextsOfAnyLengthAreCut) {
   const std::string much(1 << 20, 'W');
   const auto preview = Read("Autore     : " + much + "\r\nd\r\n" + much + "\r\nDimensioni : 02x01" +

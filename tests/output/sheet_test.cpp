@@ -156,6 +156,14 @@ TEST_F(SheetTest, PlacesLettersAndNumbersOfThePreviewAsOnTheScreen) {
             "Creazione e stampa con Telarium - www.telarium.example|");
 }
 
+TEST_F(SheetTest, ATypeBetweenTwoPointsIsTheEvenOne) {
+  AltezzaCaratteri = 75;
+  DrawEmpty(47, 1);
+  EXPECT_EQ(Of(Print(), "CorpoCarattere")[0], "10") << "9.5: three quarters of 19 by 1.5";
+  DrawEmpty(25, 1);
+  EXPECT_EQ(Of(Preview(), "CorpoCarattere")[0], "10") << "10.5: three quarters of 14";
+}
+
 TEST_F(SheetTest, LeavesOutTheSolutionsOnPaperAndInThePreview) {
   Draw({"AB#"});
   StampaSoluzioni = Vero;
