@@ -9,6 +9,7 @@
 #include "fill/placed_word.h"
 #include "fill/word_choice.h"
 #include "model/crossword_file.h"
+#include "model/pointer.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 
@@ -252,10 +253,8 @@ EsitoEstrazione EseguiEstrazione() {
   if (!ScriviIstantanea()) return EsitoEstrazione::NonRegistrata;
   ModoGriglia = ModoNeutro;
   SchemaModificato = Vero;
-  ImpostaPuntatoreMouse(PuntatoreClessidra);
-  const EsitoEstrazione esito = Estrazione().Esegui();
-  ImpostaPuntatoreMouse(PuntatoreFreccia);
-  return esito;
+  const Clessidra clessidra;
+  return Estrazione().Esegui();
 }
 
 }  // namespace telarium

@@ -14,8 +14,14 @@ PittoreDiParole::PittoreDiParole(Superficie* finestra) : finestra_(finestra) {
   if (finestra_) semilatoGomma_ = ArrotondaPari(finestra_->CorpoCarattere() / 2) + 2;
 }
 
+PittoreDiParole::~PittoreDiParole() {
+  if (diretto_) finestra_->DisegnoPersistente(true);
+}
+
 void PittoreDiParole::DirettoSulloSchermo() {
-  if (finestra_) finestra_->DisegnoPersistente(false);
+  if (!finestra_) return;
+  diretto_ = true;
+  finestra_->DisegnoPersistente(false);
 }
 
 void PittoreDiParole::PreparaCarattere() {
@@ -42,6 +48,7 @@ void PittoreDiParole::DipingiLettera(Casella cella, char lettera) {
 
 void PittoreDiParole::Fine() {
   if (!finestra_) return;
+  diretto_ = false;
   finestra_->DisegnoPersistente(true);
   finestra_->Pulisci();
 }

@@ -13,6 +13,10 @@ class PittoreDiParole {
  public:
   /// `finestra` may be null. Takes the half side of the eraser from its type as it is now.
   explicit PittoreDiParole(Superficie* finestra);
+  /// Back to the persistent surface, whatever ended the fill before Fine.
+  ~PittoreDiParole();
+  PittoreDiParole(const PittoreDiParole&) = delete;
+  PittoreDiParole& operator=(const PittoreDiParole&) = delete;
 
   /// Draws from now on on the screen alone, so that what is painted appears at once.
   void DirettoSulloSchermo();
@@ -31,6 +35,7 @@ class PittoreDiParole {
 
   Superficie* finestra_;
   int semilatoGomma_ = 0;  // pixels
+  bool diretto_ = false;
 };
 
 }  // namespace telarium

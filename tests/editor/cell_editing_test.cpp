@@ -183,9 +183,10 @@ TEST_F(Editing, NoWordGoesToTheClueEditorWhereThereIsNone) {
   Press(Left, 2, 4);
   TogliColonna();
   ModoGriglia = ModoModifica;
-  ImpostaPuntatoreMouse(PuntatoreOrizzontale);
-  MouseCol = 4;  // as it was before the column went
+  ImpostaPuntatoreMouse(PuntatoreVerticale);
+  MouseCol = 4;  // as it was before the column went, whose word is in memory still
   MouseRiga = 1;
+  ASSERT_EQ(ParolaCasella(4, 1, Verticale), "....");
   Press(Left, 2, 2);
   EXPECT_TRUE(window.shown.empty());
 }

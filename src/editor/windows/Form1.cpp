@@ -220,6 +220,7 @@ QCursor Form1::PuntatoreDelLogo() const {
 void Form1::Esegui(const std::function<void()>& comando) {
   if (occupata_) return;
   EseguiComandoDiFinestra(comando);
+  Toolbar1->MostraStrumento(PuntatoreMouse);
   if (ComandoInCorso()) return;
   if (std::exchange(misuraCambiata_, false)) CambiataMisura();
   ApriRicevuti();
@@ -250,23 +251,32 @@ void Form1::Occupa(bool occupata) {
   Picture2->setEnabled(!occupata);
 }
 
+// Takes the window out of use for as long as it lives, however a run ends.
+class Form1::Occupazione {
+ public:
+  explicit Occupazione(Form1& form) : form_(form) { form_.Occupa(true); }
+  ~Occupazione() {
+    form_.Avanzamento->hide();
+    form_.esc_->setEnabled(false);
+    form_.Occupa(false);
+  }
+  Occupazione(const Occupazione&) = delete;
+  Occupazione& operator=(const Occupazione&) = delete;
+
+ private:
+  Form1& form_;
+};
+
 void Form1::Estrai() {
   Shape1->hide();
-  Occupa(true);
+  TogliLabel1();  // nothing that the pointer meant holds any longer
+  const Occupazione occupazione(*this);
   esc_->setEnabled(true);
   EstraiSchema();
-  Avanzamento->hide();
-  esc_->setEnabled(false);
-  Occupa(false);
 }
 
 void Form1::Importa() {
-  struct Occupazione {
-    Form1& form;
-    ~Occupazione() { form.Occupa(false); }
-  };
-  Occupa(true);
-  const Occupazione fino{*this};
+  const Occupazione occupazione(*this);
   Recupera_Definizioni();
 }
 
@@ -361,9 +371,11 @@ void Form1::MettiGraficaAMenuFile() {
     Voce(voce).setIcon(Immagine(immagine));
 }
 
+// In a narrow window the buttons need its room.
 void Form1::CollocaPicture2() {
-  Picture2->move(Area->width() - Picture2->width() - InPixel(DistanzaPicture2),
-                 (Toolbar1->height() - Picture2->height()) / 2);
+  const int sinistra = Area->width() - Picture2->width() - InPixel(DistanzaPicture2);
+  Picture2->move(sinistra, (Toolbar1->height() - Picture2->height()) / 2);
+  Picture2->setVisible(sinistra >= Toolbar1->sizeHint().width());
 }
 
 // Puts the controls in their places on the surface as large as it is now.
@@ -423,9 +435,11 @@ bool Form1::eventFilter(QObject* oggetto, QEvent* evento) {
     switch (evento->type()) {
       case QEvent::MouseMove:
         if (PuntatoreMouse != PuntatoreMano) ImpostaPuntatoreMouse(PuntatoreMano);
+        Toolbar1->MostraStrumento(PuntatoreMouse);
         return true;  // no movement over the surface below
       case QEvent::MouseButtonPress:
-        Voce("MenuPHP").trigger();
+        if (static_cast<QMouseEvent*>(evento)->button() == Qt::LeftButton)
+          Voce("MenuPHP").trigger();
         return true;
       case QEvent::Leave:
         if (PuntatoreMouse == PuntatoreMano) ImpostaPuntatoreMouse(PuntatoreFreccia);

@@ -95,6 +95,8 @@ class Form1 : public QMainWindow, public FinestraEditor {
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
+  class Occupazione;
+
   void CreaControlli();
   void CreaMenu();
   void CollegaPulsanti();

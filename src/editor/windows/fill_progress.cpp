@@ -36,8 +36,8 @@ void PannelloEstrazione::Inizia() {
 bool PannelloEstrazione::Segui(const AvanzamentoEstrazione& avanzamento, bool infinita) {
   avanzamento_ = avanzamento;
   infinita_ = infinita;
+  update();  // also behind a question, which may come before it is time again
   if (!cadenza_.Scaduta()) return !interrotta_;
-  update();
   QCoreApplication::processEvents();
   return !interrotta_;
 }

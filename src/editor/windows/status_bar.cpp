@@ -62,8 +62,8 @@ void BarraDiStato::Accendi(Pannello quale, bool acceso) {
   pannelli_[static_cast<std::size_t>(quale)]->setEnabled(acceso);
 }
 
-void BarraDiStato::mousePressEvent(QMouseEvent*) {
-  if (premuta_) premuta_();
+void BarraDiStato::mousePressEvent(QMouseEvent* evento) {
+  if (premuta_ && evento->button() == Qt::LeftButton) premuta_();
 }
 
 bool BarraDiStato::eventFilter(QObject* oggetto, QEvent* evento) {

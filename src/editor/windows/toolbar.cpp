@@ -6,6 +6,7 @@
 #include "editor/windows/pictures.h"
 #include "platform/check.h"
 #include "platform/qt/qt_text.h"
+#include "platform/user.h"
 
 namespace telarium {
 namespace {
@@ -24,7 +25,7 @@ constexpr DatiPulsante pulsanti[NumPulsanti] = {
     {},
     {"Stampa", "Stampa cruciverba", "print"},
     {"Anteprima", "Anteprima di stampa", "preview"},
-    {"HTML", "Anteprima HTML nel browser", "html"},
+    {"HTML", "Anteprima HTML nel browser", "html_menu"},
     {},
     {"CambiaFont", "Cambia carattere", "font"},
     {"AggColonna", "Aggiungi colonna", "add_column"},
@@ -38,9 +39,11 @@ constexpr DatiPulsante pulsanti[NumPulsanti] = {
     {"Tabella", "Vista tabellare", "table"},
     {"Estrazione", "Estrazione automatica", "extract"},
     {"Edit", "Edit definizioni", "edit"},
-    {"Compila", "Prende le definizioni dall'enciclopedia", "compile"},
+    {"Compila", "Prende le definizioni dall'enciclopedia", "compile_menu"},
 };
 
+constexpr int PulsanteCasBianca = 16;
+constexpr int PulsanteCasNera = 17;
 constexpr int LatoImmagine = 24;  // logical pixels
 
 }  // namespace
@@ -64,12 +67,18 @@ BarraStrumenti::BarraStrumenti(QWidget* genitore) : QToolBar(genitore) {
     widgetForAction(azione)->setMouseTracking(true);
     widgetForAction(azione)->setFocusPolicy(Qt::NoFocus);
   }
-  Pulsante(PulsanteEdit).setCheckable(true);
+  for (const int numero : {PulsanteCasBianca, PulsanteCasNera, PulsanteEdit})
+    Pulsante(numero).setCheckable(true);
 }
 
 QAction& BarraStrumenti::Pulsante(int numero) const {
   Verifica(numero >= 1 && numero <= NumPulsanti, "Toolbar1 ha i pulsanti da 1 a 22");
   return *pulsanti_[static_cast<std::size_t>(numero) - 1];
+}
+
+void BarraStrumenti::MostraStrumento(int puntatore) {
+  Pulsante(PulsanteCasBianca).setChecked(puntatore == PuntatoreCasellaBianca);
+  Pulsante(PulsanteCasNera).setChecked(puntatore == PuntatoreCasellaNera);
 }
 
 QPoint BarraStrumenti::SottoIlPulsante(int numero) const {

@@ -21,6 +21,9 @@ class BarraStrumenti : public QToolBar {
   /// Below a button, where its menu pops up.
   QPoint SottoIlPulsante(int numero) const;
 
+  /// Presses the button of the tool that the shape of the pointer stands for, and no other tool's.
+  void MostraStrumento(int puntatore);
+
   /// What a pointer movement over the bar calls.
   void QuandoPassaIlMouse(std::function<void()> chiama) { passaIlMouse_ = std::move(chiama); }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMouseEvent>
 #include <filesystem>
 #include <memory>
 
@@ -74,6 +75,14 @@ class Form1Test : public TelariumTest {
       }
     }
     return keys;
+  }
+
+  // Sent straight to the control: the offscreen platform follows no pointer.
+  static void MoveOver(QWidget* control) {
+    const QPointF point(5, 5);
+    QMouseEvent move(QEvent::MouseMove, point, control->mapToGlobal(point), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(control, &move);
   }
 
   void ClickButton(int number) { form->Toolbar1->Pulsante(number).trigger(); }

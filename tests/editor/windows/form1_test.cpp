@@ -204,14 +204,6 @@ TEST_F(Form1Test, TheTableOfWordsLeavesTheGeometryOfTheGrid) {
   EXPECT_EQ(LatoCasella, side) << "of the main window again";
 }
 
-// Sent straight to the control: the offscreen platform follows no pointer.
-void MoveOver(QWidget* control) {
-  const QPointF point(5, 5);
-  QMouseEvent move(QEvent::MouseMove, point, control->mapToGlobal(point), Qt::NoButton,
-                   Qt::NoButton, Qt::NoModifier);
-  QCoreApplication::sendEvent(control, &move);
-}
-
 TEST_F(Form1Test, ShowsTheLogoPointerOverTheLogoAlone) {
   StartWith({"CASA"});
   MoveOver(form->Picture2);
