@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLayout>
@@ -97,6 +98,21 @@ void DisponiSuPiuRighe(QLabel& etichetta) {
   etichetta.setMinimumWidth(larghezza);
 }
 
+// Qt keeps the place of the icon, and moves the text in, also in a box that has none.
+void TogliPostoDellIcona(QMessageBox& scatola) {
+  auto* griglia = qobject_cast<QGridLayout*>(scatola.layout());
+  auto* testo = scatola.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (!griglia || !testo) return;
+  for (int i = 0; i < griglia->count(); ++i) {
+    if (QSpacerItem* vuoto = griglia->itemAt(i)->spacerItem())
+      vuoto->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+  }
+  griglia->setHorizontalSpacing(0);
+  griglia->setColumnStretch(1, 1);
+  testo->setIndent(0);
+  testo->setContentsMargins(0, 0, 0, 0);
+}
+
 }  // namespace
 
 // A box belongs to the window that brought it up.
@@ -111,6 +127,7 @@ Risposta UtenteQt::MostraMessaggio(const Messaggio& messaggio) {
   scatola.setIcon(IconaQt(messaggio.icona));
   scatola.setTextFormat(Qt::PlainText);
   scatola.setText(TestoQt(messaggio.testo));
+  if (messaggio.icona == Icona::Nessuna) TogliPostoDellIcona(scatola);
   const std::span<const Bottone> pulsanti = PulsantiDi(messaggio.pulsanti);
   std::map<QAbstractButton*, Risposta> risposte;
   QPushButton* bottone = nullptr;

@@ -68,6 +68,21 @@ TEST_F(UserTest, BoxesHaveTheToldTitleIconAndItalianButtons) {
   }
 }
 
+TEST_F(UserTest, ABoxWithoutAnIconHasEqualMarginsAroundItsText) {
+  const std::string inOneLine = "Errore!";
+  for (const std::string& text : {inOneLine, inOneLine + std::string(60, '\r'),
+                                  std::string(40, 'x') + ' ' + std::string(400, 'x')}) {
+    WhenOpen<QMessageBox>([](QMessageBox& box) {
+      const auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+      const QRect shown = label->geometry();
+      EXPECT_EQ(shown.left(), box.width() - shown.right() - 1);
+      EXPECT_EQ(label->indent(), 0) << "the text begins where the label does";
+      QTest::keyClick(&box, Qt::Key_Return);
+    });
+    user.MostraMessaggio({.testo = text});
+  }
+}
+
 TEST_F(UserTest, ADeadEndHasThreeAnswers) {
   WhenOpen<QMessageBox>([](QMessageBox& box) {
     EXPECT_EQ(box.windowTitle(), QStringLiteral("Telarium"));
