@@ -76,13 +76,17 @@ void FormNew::Attivata() {
 }
 
 void FormNew::Crea() {
+  const auto ritenta = [](CasellaDiTesto& casella) {
+    casella.setFocus();
+    casella.selectAll();  // it may have had the focus all the time
+  };
   switch (NuovoVuoto(Numero(*Text1), Numero(*Text2))) {
     case EsitoNuovo::Fatto:
       return accept();
     case EsitoNuovo::ColonneRifiutate:
-      return Text1->setFocus();
+      return ritenta(*Text1);
     case EsitoNuovo::RigheRifiutate:
-      return Text2->setFocus();
+      return ritenta(*Text2);
     default:
       return;
   }

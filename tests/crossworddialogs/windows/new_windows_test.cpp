@@ -27,11 +27,13 @@ TEST_F(NewWindows, TheSizeIsTakenByEnterAndAWrongOneKeepsTheWindow) {
   QTest::keyClick(window.Text1, Qt::Key_Return);
   EXPECT_EQ(user.TakeTexts(), Texts{"Numero caselle orizzontali consentito da 3 a 53."});
   EXPECT_EQ(window.focusWidget(), window.Text1);
+  EXPECT_EQ(window.Text1->selectedText(), QStringLiteral("54")) << "what is typed next replaces it";
   window.Text1->setText(QStringLiteral(" 7 caselle"));
   window.Text2->setText(QStringLiteral("tre"));
   QTest::keyClick(window.Text1, Qt::Key_Return);
   EXPECT_EQ(user.TakeTexts(), Texts{"Numero caselle verticali consentito da 3 a 30."});
   EXPECT_EQ(window.focusWidget(), window.Text2);
+  EXPECT_EQ(window.Text2->selectedText(), QStringLiteral("tre"));
   EXPECT_EQ(user.beeps, 2);
   EXPECT_TRUE(window.isVisible());
   window.Text2->setText(QStringLiteral("4"));
