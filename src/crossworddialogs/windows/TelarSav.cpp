@@ -70,6 +70,11 @@ void TelarSav::Attivata() {
   Text1->selectAll();
 }
 
+// The proposed name goes along; one that the user has typed stays what it is.
+void TelarSav::CambiataCartella() {
+  if (Text1->Immutata()) Text1->Mostra(Text1->Nome().filename());
+}
+
 void TelarSav::Conferma() {
   const auto autore = DaQtEsatto(Text2->text());
   if (!autore) {

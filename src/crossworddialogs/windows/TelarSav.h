@@ -21,6 +21,7 @@ class TelarSav : public FinestraArchivio {
 
  protected:
   void Attivata() override;
+  void CambiataCartella() override;
   void Conferma() override;
 
  private:

@@ -212,6 +212,25 @@ TEST_F(FileWindows, SaveTakesNameAndAuthor) {
   EXPECT_TRUE(ReadFile(archive / "Città.tlrm").starts_with("Autore     : Nicol\xF2, Forl\xEC\r\n"));
 }
 
+TEST_F(FileWindows, TheFolderChosenForASaveCountsUnlessAFullNameIsTyped) {
+  const Percorso chosen = archive / "scelta";
+  fs::create_directory(chosen);
+  const Percorso typed = InFolder("battuto.tlrm");
+  for (const Percorso& name : {Percorso(), typed}) {
+    NomeCruciverba = InFolder("caff\xE8.tlrm");  // elsewhere, and no text
+    TelarSav window(nullptr);
+    Open(window);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Telarium  - Salvataggio"));
+    EXPECT_TRUE(window.Text1->text().contains(u'/'));
+    if (!name.empty()) window.Text1->setText(QString::fromStdString(name.string()));
+    GoTo(*window.Dir1, QStringLiteral("scelta"));
+    Click(window.Command3d1);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(NomeCruciverba, name.empty() ? chosen / "caff\xE8.tlrm" : typed);
+    EXPECT_TRUE(fs::exists(NomeCruciverba));
+  }
+}
+
 TEST_F(FileWindows, TheKeyboardReachesEverything) {
   Form2 open(nullptr);
   Open(open);
