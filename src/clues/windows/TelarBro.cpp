@@ -13,6 +13,7 @@
 #include "clues/small_grid.h"
 #include "model/crossword_file.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/word_line.h"
 #include "platform/text.h"
 
 namespace telarium {
@@ -45,10 +46,10 @@ constexpr int NoniDelleColonne[Colonne] = {1, 3, 5};
 // Of a clue, which can have any length.
 constexpr std::size_t MaxCaratteriInUnaRiga = 500;
 
-// A key that only leads to another control, or that is held for another key.
+// A key that only leads to another control, or to the guide, or that is held for another key.
 bool SoloDiPassaggio(const QKeyEvent& evento) {
-  constexpr int tasti[] = {Qt::Key_Tab,     Qt::Key_Backtab, Qt::Key_Shift,
-                           Qt::Key_Control, Qt::Key_Alt,     Qt::Key_AltGr};
+  constexpr int tasti[] = {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Shift, Qt::Key_Control,
+                           Qt::Key_Alt, Qt::Key_AltGr,   Qt::Key_F1};
   return std::find(std::begin(tasti), std::end(tasti), evento.key()) != std::end(tasti);
 }
 
@@ -135,8 +136,7 @@ void TelarBro::CreaTabella() {
 }
 
 void TelarBro::CreaCaselle() {
-  Text1 = Chiamato(QStringLiteral("Text1"), new QLineEdit(campo_));
-  ScriviInMaiuscole(*Text1);
+  Text1 = Chiamato(QStringLiteral("Text1"), new CasellaMaiuscola(campo_));
   Text2 = Chiamato(QStringLiteral("Text2"), new RigaDefinizione(campo_));
   for (QLineEdit* casella : std::initializer_list<QLineEdit*>{Text1, Text2})
     casella->installEventFilter(this);
@@ -299,10 +299,16 @@ void TelarBro::MostraModifica(bool visibile) {
   }
 }
 
-// What somebody has typed into an open row counts as wanted, also without Varia. False when it is
-// refused, which has been told.
+bool TelarBro::RigaApertaCambiata() const {
+  if (!InModifica() || RigaCorrente() < 0) return false;
+  const Slot& slot = RiferimentoRiga[static_cast<std::size_t>(RigaCorrente())];
+  return DaQt(Text1->text()) != ParolaDi(slot) || Text2->Definizione() != DefinizioneDi(slot);
+}
+
+// What was written into an open row, or picked for it, counts as wanted, also without Varia. False
+// when it is refused, which has been told.
 bool TelarBro::ConfermaRigaAperta() {
-  if (!InModifica() || (!Text1->isModified() && !Text2->isModified())) return true;
+  if (!RigaApertaCambiata()) return true;
   Varia();
   return !InModifica();
 }

@@ -69,6 +69,7 @@ class TelarBro : public FinestraModale {
   void ApriModificaRiga();
   void CliccaGitter();
   void MostraModifica(bool visibile);
+  bool RigaApertaCambiata() const;
   bool ConfermaRigaAperta();
   bool DefinizioneScrivibile();
   void Varia();

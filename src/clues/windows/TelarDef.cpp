@@ -18,6 +18,7 @@
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/word_line.h"
 
 namespace telarium {
 namespace {
@@ -73,7 +74,7 @@ void TelarDef::CreaParola() {
   grassetto.setBold(true);
   Label1->setFont(grassetto);
   Label3 = Chiamato(QStringLiteral("Label3"), new QLabel(QStringLiteral("Parola:"), this));
-  Text2 = Chiamato(QStringLiteral("Text2"), new CasellaDiTesto(this));
+  Text2 = Chiamato(QStringLiteral("Text2"), new CasellaMaiuscola(this));
   Label3->setBuddy(Text2);
   Text2->installEventFilter(this);
 }
@@ -196,7 +197,6 @@ void TelarDef::Disponi() {
 }
 
 void TelarDef::Collega() {
-  ScriviInMaiuscole(*Text2);  // what else is typed is looked at later
   for (std::size_t i = 0; i < Check3d1.size(); ++i)
     connect(Check3d1[i], &QCheckBox::toggled, Label2[i], &QLabel::setVisible);
   connect(Combo1, &QComboBox::textActivated, Text2, &QLineEdit::setText);

@@ -26,7 +26,7 @@ class TelarDef : public FinestraModale {
 
   QLabel* Label1;  // number and direction
   QLabel* Label3;
-  QLineEdit* Text2;  // the word
+  QLineEdit* Text2;  // the word; what is no letter is refused when it is accepted
   QGroupBox* Frame5;
   CasellaDefinizione* Text1;
   QPushButton* Command1;  // search in the encyclopedia

@@ -285,10 +285,6 @@ void FinestraEnciclopedia::reject() {
 bool FinestraEnciclopedia::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() != QEvent::KeyPress) return FinestraModale::eventFilter(oggetto, evento);
   const auto& tasto = static_cast<const QKeyEvent&>(*evento);
-  if (auto* bottone = qobject_cast<QPushButton*>(oggetto); bottone && Invio(tasto)) {
-    bottone->click();
-    return true;
-  }
   return Anticipa(tasto) || FinestraModale::eventFilter(oggetto, evento);
 }
 

@@ -54,12 +54,8 @@ telariummdb::telariummdb(QWidget* genitore)
 }
 
 void telariummdb::CreaCampi() {
-  parola_ = Chiamato(NomeInSerie("txtFields", 2), new CasellaDiTesto(this));
-  connect(parola_, &QLineEdit::textChanged, this, [this](const QString& testo) {
-    const auto esatto = DaQtEsatto(testo);
-    const QString maiuscole = esatto ? AQt(Maiuscole(*esatto)) : testo;
-    if (maiuscole != testo) Ritocca(*parola_, maiuscole);
-  });
+  parola_ = Chiamato(NomeInSerie("txtFields", 2),
+                     new CasellaMaiuscola(this, CasellaMaiuscola::Lettere::Tutte));
   txtFields[Parola] = parola_;
   for (std::size_t i = 0; i < famiglie_.size(); ++i) {
     famiglie_[i] =
@@ -120,7 +116,7 @@ void telariummdb::MostraRiga() {
 }
 
 void telariummdb::Mostra(const std::array<QString, 3>& testi, bool scrivibili) {
-  parola_->setText(testi[Parola]);
+  parola_->setText(parola_->InMaiuscole(testi[Parola]));
   parola_->setReadOnly(!scrivibili);
   for (std::size_t i = 0; i < famiglie_.size(); ++i) {
     telarium::Mostra(*famiglie_[i], testi[i]);

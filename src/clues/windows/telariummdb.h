@@ -5,6 +5,7 @@
 #include <array>
 
 #include "clues/windows/encyclopedia_window.h"
+#include "platform/qt/word_line.h"
 
 namespace telarium {
 
@@ -36,7 +37,7 @@ class telariummdb : public FinestraEnciclopedia {
   void ChiediAiuto();
   void MostraTabella();
 
-  QLineEdit* parola_;
+  CasellaMaiuscola* parola_;
   std::array<QPlainTextEdit*, 2> famiglie_;
   std::array<QString, 3> mostrati_;  // the boxes' texts as the row put them there
 };

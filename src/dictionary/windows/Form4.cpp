@@ -6,15 +6,25 @@
 #include <QVBoxLayout>
 
 #include "model/state.h"
+#include "platform/qt/word_line.h"
 
 namespace telarium {
 namespace {
 
 constexpr int ListePerRiga = 7;
-constexpr int AltezzaListe = 150;     // logical pixels, at the least
-constexpr int LarghezzaElenco = 170;  // of the lists of files
+// Logical pixels.
+constexpr QSize MisuraIniziale(960, 680);
+constexpr int LarghezzaElenco = 130;  // of the lists of files, at the least
 constexpr int AltezzaProgressione = 14;
-constexpr int CaratteriParola = 16;  // of the field for a word, in widths of a letter
+constexpr int RigheDiStato = 2;  // lines of the longest status
+
+// Controls one below the other, as high as they are, lists as high as there is room.
+QVBoxLayout* InColonna(std::initializer_list<QWidget*> controlli) {
+  auto* colonna = new QVBoxLayout;
+  for (QWidget* controllo : controlli)
+    colonna->addWidget(controllo);
+  return colonna;
+}
 
 }  // namespace
 
@@ -34,7 +44,8 @@ Form4::Form4(QWidget* genitore)
   Finisci();
   Text1->hide();
   Command3->hide();
-  File1->setFocus();
+  SegnaAperto();
+  (File2->Scelto() ? File2 : File1)->setFocus();
 }
 
 // The boxes show lists of this window, which go before the controls do.
@@ -48,7 +59,6 @@ void Form4::CreaListe() {
     const auto lista = static_cast<std::size_t>(i);
     Label1[lista] = Chiamato(NomeInSerie("Label1", i), new QLabel(this));
     Combo1[lista] = new ElencoDiParole(NomeInSerie("Combo1", i), parole_[lista], this);
-    Combo1[lista]->setMinimumHeight(AltezzaListe);
     Combo1[lista]->QuandoToccato([this, i] { ListaCorrente = static_cast<std::int16_t>(i); });
     Label2[lista] = Chiamato(NomeInSerie("Label2", i), new QLabel(this));
   }
@@ -82,7 +92,9 @@ void Form4::CreaAvanzamento() {
                  this));
   Label3->setTextFormat(Qt::PlainText);
   Label3->setWordWrap(true);
-  Label3->setMinimumHeight(Label3->fontMetrics().height());  // also while it is empty
+  Label3->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  Label3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // whatever it says
+  Label3->setFixedHeight(RigheDiStato * Label3->fontMetrics().lineSpacing());
   Picture1 = Chiamato(QStringLiteral("Picture1"), new Tela(this));
   Picture1->setFixedHeight(AltezzaProgressione);
   Picture1->QuandoCambiaMisura([this] { DipingiBarra(1, ColoreBianco); });
@@ -108,69 +120,69 @@ void Form4::CreaComandi() {
   };
   for (const Voce& voce : voci)
     voce.pulsante = Pulsante(voce.nome, voce.testo, voce.suggerimento, this);
-  Text1 = Chiamato(QStringLiteral("Text1"), new CasellaDiTesto(this));
-  Text1->setMinimumWidth(Text1->fontMetrics().maxWidth() * CaratteriParola / 2);
+  Text1 = Chiamato(QStringLiteral("Text1"), new CasellaMaiuscola(this));
   Text1->installEventFilter(this);
   setTabOrder(Command1, Text1);
+  setTabOrder(Text1, Command3);
 }
 
+// It also fits a screen of 800 x 600: the lists then show fewer words.
 void Form4::Disponi() {
   auto* tutto = new QVBoxLayout(this);
-  for (int prima = 0; prima < NumListe; prima += ListePerRiga) {
-    auto* riga = new QHBoxLayout;
-    for (int i = prima; i < std::min(prima + ListePerRiga, NumListe); ++i) {
-      const auto lista = static_cast<std::size_t>(i);
-      auto* colonna = new QVBoxLayout;
-      colonna->setSpacing(2);
-      colonna->addWidget(Label1[lista]);
-      colonna->addWidget(Combo1[lista], 1);
-      colonna->addWidget(Label2[lista]);
-      riga->addLayout(colonna, 8 + LunghezzaDi(lista));  // scroll bar and frame, and the letters
-    }
-    tutto->addLayout(riga, 1);
-  }
-
-  auto* parola = new QHBoxLayout;
-  parola->addWidget(Text1);
-  parola->addWidget(Command3);
-  parola->addStretch(1);
-  auto* stato = new QGridLayout;
-  stato->addWidget(Label9, 0, 0, 1, 4);
-  stato->addWidget(Label3, 1, 0, 1, 4);
-  stato->addWidget(Picture1, 2, 0, 1, 4);
-  stato->addWidget(Label5, 3, 0);
-  stato->addWidget(Label4, 3, 1, 1, 3);
-  stato->addWidget(Command1, 4, 0);
-  stato->addWidget(Command5, 4, 1);
-  stato->addWidget(Command4, 4, 2);
-  stato->addWidget(Command8, 4, 3);
-  stato->addLayout(parola, 5, 0, 1, 4);
-  stato->setRowStretch(6, 1);
-  parola->addStrut(Text1->sizeHint().height());  // the row stays while its controls are hidden
-
-  auto* sistema = new QVBoxLayout;
-  sistema->addWidget(Label6);
-  sistema->addWidget(File1, 1);
-  auto* privati = new QVBoxLayout;
-  privati->addWidget(Label7);
-  privati->addWidget(File2, 1);
-  auto* bottoni = new QVBoxLayout;
-  bottoni->addWidget(Command6);
-  bottoni->addWidget(Command7);
+  for (int prima = 0; prima < NumListe; prima += ListePerRiga)
+    tutto->addLayout(RigaDiListe(prima, std::min(prima + ListePerRiga, NumListe)), 1);
+  auto* sotto = new QHBoxLayout;
+  sotto->addLayout(Stato(), 2);
+  sotto->addLayout(InColonna({Label6, File1}), 1);
+  sotto->addLayout(InColonna({Label7, File2}), 1);
+  auto* bottoni = InColonna({Command6, Command7});
   bottoni->addStretch(1);
   bottoni->addWidget(Command2);
-  auto* sotto = new QHBoxLayout;
-  sotto->addLayout(stato, 1);
-  sotto->addLayout(sistema);
-  sotto->addLayout(privati);
   sotto->addLayout(bottoni);
   tutto->addLayout(sotto);
+  resize(MisuraIniziale);
+}
+
+// Columns as wide as their words need, or as their counts at the least.
+QLayout* Form4::RigaDiListe(int prima, int fine) {
+  auto* riga = new QHBoxLayout;
+  for (int i = prima; i < fine; ++i) {
+    const auto lista = static_cast<std::size_t>(i);
+    Label2[lista]->setMinimumWidth(
+        Label2[lista]->fontMetrics().horizontalAdvance(QStringLiteral("(99999) Parole")));
+    QVBoxLayout* colonna = InColonna({Label1[lista], Combo1[lista], Label2[lista]});
+    colonna->setSpacing(2);
+    colonna->setStretch(1, 1);
+    riga->addLayout(colonna, Combo1[lista]->LarghezzaPer(LunghezzaDi(lista)));
+  }
+  return riga;
+}
+
+QLayout* Form4::Stato() {
+  auto* parola = new QHBoxLayout;
+  parola->addWidget(Text1, 1);
+  parola->addWidget(Command3);
+  parola->addStrut(Text1->sizeHint().height());  // the row stays while its controls are hidden
+  auto* stato = new QGridLayout;
+  constexpr int Colonne = 3;  // the last one takes what room is left
+  stato->addWidget(Label9, 0, 0, 1, Colonne);
+  stato->addWidget(Label3, 1, 0, 1, Colonne);
+  stato->addWidget(Picture1, 2, 0, 1, Colonne);
+  stato->addWidget(Label5, 3, 0);
+  stato->addWidget(Label4, 3, 1);
+  stato->addWidget(Command1, 4, 0);
+  stato->addWidget(Command5, 4, 1);
+  stato->addWidget(Command4, 5, 0);
+  stato->addWidget(Command8, 5, 1);
+  stato->addLayout(parola, 6, 0, 1, 2);
+  stato->setColumnStretch(Colonne - 1, 1);
+  stato->setRowStretch(7, 1);
+  return stato;
 }
 
 void Form4::Collega() {
   Text1->setValidator(
       new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[A-Za-z]*")), Text1));
-  ScriviInMaiuscole(*Text1);
   connect(File1, &QListWidget::itemDoubleClicked, this, [this] { ApriDiSistema(); });
   connect(File2, &QListWidget::itemDoubleClicked, this, [this] { ApriPrivato(); });
   struct Voce {

@@ -68,6 +68,8 @@ class Form4 : public FinestraModale {
   void CreaAvanzamento();
   void CreaComandi();
   void Disponi();
+  QLayout* RigaDiListe(int prima, int fine);
+  QLayout* Stato();
   void Collega();
 
   void Inizia(Lavoro lavoro);
@@ -79,6 +81,7 @@ class Form4 : public FinestraModale {
   bool ApriEMostra();
   bool Presente(const Percorso& nome);
   void RiaprePronto();
+  void SegnaAperto();
   void ChiediParola();
   void AggiungiParola();
   void AvvisaListaPiena(std::size_t lista);

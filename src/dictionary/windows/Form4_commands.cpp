@@ -102,7 +102,6 @@ void Form4::LeggiDizio() {
 bool Form4::LeggiSezione(std::size_t lista) {
   DipingiBarra(1, ColoreGiallo);
   if (!Cedi()) return false;
-  DipingiBarra(1, ColoreBianco);
   const int conto = UltimoNumero(LunghezzaDi(lista));
   ScansioneSezione scansione(LunghezzaDi(lista));
   BloccoDiParole blocco;
@@ -146,7 +145,8 @@ void Form4::ApriDiSistema() {
 
 void Form4::ApriPrivato() {
   const auto nome = File2->Scelto();
-  if (nome && *nome != NomeDizionario && Presente(*nome)) {
+  const bool altro = nome && *nome != NomeDizionario;
+  if (nome && (!letto_ || altro) && Presente(*nome)) {
     NomeDizionario = *nome;
     LinguaDizionario = LinguaDeiPrivati;
     ApriEMostra();
@@ -173,6 +173,15 @@ bool Form4::ApriEMostra() {
 void Form4::RiaprePronto() {
   Abilita({Command1, Command4, Command5}, letto_);
   MostraNome();
+  SegnaAperto();
+}
+
+// Of both lists of files the open dictionary alone is selected.
+void Form4::SegnaAperto() {
+  for (ListaFile* file : {File1, File2}) {
+    file->clearSelection();
+    file->Scegli(NomeDizionario);
+  }
 }
 
 // --- Single words ---
@@ -321,7 +330,7 @@ void Form4::CreaPrivato() {
   AzzeraDidascalie();
   MostraNome();
   File2->Vai(CartellaProgramma);
-  File2->Scegli(*nome);
+  SegnaAperto();
 }
 
 // One that is open keeps its changes.
@@ -333,6 +342,7 @@ void Form4::ApriEsistente(const Percorso& nome) {
   if (ApriEMostra())
     Label3->setText(QStringLiteral("Questo dizionario esisteva già: è stato aperto"));
   MostraNome();
+  SegnaAperto();
 }
 
 void Form4::CancellaPrivato() {

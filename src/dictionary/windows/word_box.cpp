@@ -1,17 +1,24 @@
 #include "dictionary/windows/word_box.h"
 
 #include <QAbstractListModel>
+#include <QCoreApplication>
 #include <QFontDatabase>
+#include <QKeyEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <iterator>
 
 #include "dictionary/sorted_words.h"
 #include "platform/codepage.h"
 #include "platform/qt/qt_dialog.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/word_line.h"
 
 namespace telarium {
 namespace {
 
+constexpr int RigheVisibili = 3;                 // of the list, at the least
 constexpr qsizetype MaxCaratteriMostrati = 100;  // of a line that was imported; all of it is kept
 
 int NumeroDi(std::size_t posto) {
@@ -75,7 +82,7 @@ ElencoDiParole::ElencoDiParole(const QString& nome, std::vector<std::string>& pa
                                QWidget* genitore)
     : QWidget(genitore), parole_(parole) {
   setObjectName(nome);
-  Testo = Chiamato(nome + QStringLiteral("_testo"), new CasellaDiTesto(this));
+  Testo = Chiamato(nome + QStringLiteral("_testo"), new CasellaMaiuscola(this));
   Elenco = Chiamato(nome + QStringLiteral("_elenco"), new QListView(this));
   modello_ = new ModelloDiParole(parole_, this);
   Elenco->setModel(modello_);
@@ -86,6 +93,8 @@ ElencoDiParole::ElencoDiParole(const QString& nome, std::vector<std::string>& pa
   const QFont fisso = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   Testo->setFont(fisso);
   Elenco->setFont(fisso);
+  Elenco->setMinimumSize(1,
+                         RigheVisibili * Elenco->fontMetrics().height() + 2 * Elenco->frameWidth());
   setFocusProxy(Testo);
 
   auto* tutto = new QVBoxLayout(this);
@@ -94,7 +103,6 @@ ElencoDiParole::ElencoDiParole(const QString& nome, std::vector<std::string>& pa
   tutto->addWidget(Testo);
   tutto->addWidget(Elenco, 1);
 
-  ScriviInMaiuscole(*Testo);
   connect(Testo, &QLineEdit::textEdited, this, [this] { CercaScritta(); });
   connect(Elenco->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this](const QModelIndex& voce) { MostraScelta(voce); });
@@ -134,9 +142,19 @@ std::optional<std::size_t> ElencoDiParole::Scelta() const {
   return static_cast<std::size_t>(scelte.first().row());
 }
 
+int ElencoDiParole::LarghezzaPer(int lettere) const {
+  constexpr int Margine = 8;  // on both sides of a word, together
+  return lettere * Elenco->fontMetrics().averageCharWidth() + Margine + 2 * Elenco->frameWidth() +
+         Elenco->verticalScrollBar()->sizeHint().width();
+}
+
+std::size_t ElencoDiParole::PostoDellaScritta() const {
+  return PrimoPostoDa(parole_, DaQt(Testo->text()));
+}
+
 void ElencoDiParole::CercaScritta() {
   const std::string scritto = DaQt(Testo->text());
-  const std::size_t posto = PrimoPostoDa(parole_, scritto);
+  const std::size_t posto = PostoDellaScritta();
   if (posto == parole_.size() || scritto.empty()) return Lascia();
   const QModelIndex voce = modello_->index(NumeroDi(posto), 0, {});
   if (Maiuscole(parole_[posto]) == Maiuscole(scritto)) {
@@ -155,6 +173,22 @@ void ElencoDiParole::Lascia() {
   Elenco->selectionModel()->clear();
 }
 
+// To the word that the typed letters lead to; from a selected one as in the list itself.
+bool ElencoDiParole::EntraInElenco(QKeyEvent& tasto) {
+  constexpr int tasti[] = {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp};
+  const bool entra = std::find(std::begin(tasti), std::end(tasti), tasto.key()) != std::end(tasti);
+  if (!entra || parole_.empty()) return false;
+  const bool scelta = Scelta().has_value();
+  const std::size_t posto = std::min(PostoDellaScritta(), parole_.size() - 1);
+  Elenco->setFocus();
+  if (scelta) {
+    QCoreApplication::sendEvent(Elenco, &tasto);
+    return true;
+  }
+  Elenco->setCurrentIndex(modello_->index(NumeroDi(posto), 0, {}));
+  return true;
+}
+
 bool ElencoDiParole::eventFilter(QObject* oggetto, QEvent* evento) {
   switch (evento->type()) {
     case QEvent::KeyPress:
@@ -165,6 +199,10 @@ bool ElencoDiParole::eventFilter(QObject* oggetto, QEvent* evento) {
       break;
     default:
       break;
+  }
+  if (oggetto == Testo && evento->type() == QEvent::KeyPress &&
+      EntraInElenco(static_cast<QKeyEvent&>(*evento))) {
+    return true;
   }
   return QWidget::eventFilter(oggetto, evento);
 }

@@ -13,8 +13,9 @@ namespace telarium {
 class ModelloDiParole;
 
 /// A sorted list of words, always open, under a field: what is typed there brings the first word
-/// into view that begins so, and selects it when it is the whole word. It changes the list that it
-/// was given, which outlives it and is changed by nobody else meanwhile.
+/// into view that begins so, and selects it when it is the whole word; the arrow and page keys lead
+/// from there into the list. It changes the list that it was given, which outlives it and is
+/// changed by nobody else meanwhile.
 class ElencoDiParole : public QWidget {
  public:
   ElencoDiParole(const QString& nome, std::vector<std::string>& parole, QWidget* genitore);
@@ -32,6 +33,9 @@ class ElencoDiParole : public QWidget {
   /// Puts a text into the field.
   void Scrivi(std::string_view testo);
 
+  /// How wide it is with words of a length, in logical pixels.
+  int LarghezzaPer(int lettere) const;
+
   /// The place, from 0, of the selected word.
   std::optional<std::size_t> Scelta() const;
 
@@ -42,7 +46,9 @@ class ElencoDiParole : public QWidget {
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
+  std::size_t PostoDellaScritta() const;
   void CercaScritta();
+  bool EntraInElenco(QKeyEvent& tasto);
   void MostraScelta(const QModelIndex& voce);
   void Lascia();
 

@@ -25,29 +25,25 @@ namespace {
 constexpr qsizetype MaxSenzaSpazi = 1000;  // characters of a word that is broken as others are
 constexpr QSize Cornice(10, 40);  // of a window, roughly: it is not known before the first showing
 
+class BottoneDaInvio : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* evento) override {
+    if (!Invio(*evento)) return QPushButton::keyPressEvent(evento);
+    if (!evento->isAutoRepeat()) click();
+  }
+};
+
 }  // namespace
 
 QPushButton* Pulsante(const QString& nome, const QString& testo, const QString& suggerimento,
                       QWidget* genitore) {
-  auto* pulsante = Chiamato(nome, new QPushButton(testo, genitore));
+  auto* pulsante = Chiamato(nome, new BottoneDaInvio(testo, genitore));
   pulsante->setToolTip(suggerimento);
   pulsante->setAutoDefault(false);
   return pulsante;
-}
-
-void Ritocca(QLineEdit& casella, const QString& testo) {
-  const int cursore = casella.cursorPosition();
-  casella.setText(testo);
-  casella.setCursorPosition(cursore);
-}
-
-void ScriviInMaiuscole(QLineEdit& casella) {
-  QObject::connect(&casella, &QLineEdit::textEdited, &casella, [&casella](const QString& testo) {
-    QString capitali = testo;
-    for (QChar& carattere : capitali)
-      if (carattere >= u'a' && carattere <= u'z') carattere = carattere.toUpper();
-    if (capitali != testo) Ritocca(casella, capitali);
-  });
 }
 
 void Mostra(QPlainTextEdit& casella, const QString& testo) {

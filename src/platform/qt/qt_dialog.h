@@ -28,15 +28,10 @@ inline bool Invio(const QKeyEvent& tasto) {
   return tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;
 }
 
-/// A button that Enter in another control does not press.
+/// A button that Enter presses while it has the focus, and not in another control. The key held
+/// down presses it once.
 QPushButton* Pulsante(const QString& nome, const QString& testo, const QString& suggerimento,
                       QWidget* genitore);
-
-/// Gives a line of text another text and keeps the cursor where it is.
-void Ritocca(QLineEdit& casella, const QString& testo);
-
-/// Makes capitals of the small letters from a to z that are typed, or pasted, into a line.
-void ScriviInMaiuscole(QLineEdit& casella);
 
 /// Puts a text into a box of several lines; texts without a blank to break at take no longer than
 /// others.

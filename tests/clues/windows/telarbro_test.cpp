@@ -260,17 +260,49 @@ TEST_F(TelarBroTest, EveryOtherWayOutPutsGridAndCluesBack) {
 }
 
 TEST_F(TelarBroTest, OkTakesAnOpenRowAlongUnlessItIsRefused) {
+  MakeStore("CASA\tF\tUn tetto\n");
   Show();
   DoubleClick(0, 1);
   Type(window->Text1, u"C");
   Click(window->Command3d1);
   EXPECT_TRUE(window->isVisible());
   EXPECT_EQ(user.TakeTexts().size(), 1u);
+  const std::function<void()> ways[] = {
+      [this] { Type(window->Text2, u"Oggetti"); },
+      [this] { Type(window->Text1, u"cose"); },  // in small letters
+      [this] {
+        Click(window->Command2);
+        Popup();
+        window->Menud1.at(0)->trigger();
+      },
+  };
+  Texts taken;
+  for (const auto& write : ways) {
+    Draw({"CASA", "A#LE", "SOLE"});
+    Definizione(1, 1, Orizzontale) = "Ci si abita";
+    Show();
+    DoubleClick(0, 1);
+    write();
+    Click(window->Command3d1);
+    EXPECT_FALSE(window->isVisible());
+    taken.push_back(ParolaCasella(1, 1, Orizzontale) + ' ' + Definizione(1, 1, Orizzontale));
+  }
+  EXPECT_EQ(taken, (Texts{"CASA Oggetti", "COSE Ci si abita", "CASA Un tetto"}));
+  SchemaModificato = Falso;
+  Show();
   DoubleClick(0, 1);
-  Type(window->Text2, u"Oggetti");
   Click(window->Command3d1);
-  EXPECT_FALSE(window->isVisible());
-  EXPECT_EQ(Definizione(1, 1, Orizzontale), "Oggetti");
+  EXPECT_EQ(SchemaModificato, Falso) << "only looked at";
+}
+
+TEST_F(TelarBroTest, WhatWasTypedIntoAWordIsUndone) {
+  Show();
+  DoubleClick(0, 1);
+  Type(window->Text1, u"cose");
+  EXPECT_EQ(window->Text1->text(), QStringLiteral("COSE"));
+  while (window->Text1->isUndoAvailable())
+    window->Text1->undo();
+  EXPECT_EQ(window->Text1->text(), QStringLiteral("CASA"));
 }
 
 TEST_F(TelarBroTest, TheSmallestAndTheWidestGridShow) {

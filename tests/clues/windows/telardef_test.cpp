@@ -94,7 +94,8 @@ TEST_F(TelarDefTest, AcceptsWordAndClueAndLeavesTheGridAlone) {
   EXPECT_EQ(window.Text2->text(), QStringLiteral("MELA"));
   window.Text1->selectAll();
   window.Text1->insertPlainText(QStringLiteral("La pi\u00F9 bella"));
-  QTest::keyClick(window.Text1, Qt::Key_Return);
+  window.Command3d1->setFocus();
+  QTest::keyClick(window.Command3d1, Qt::Key_Return);
   EXPECT_FALSE(window.isVisible());
   EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "MELA");
   EXPECT_EQ(Definizione(1, 1, Orizzontale), "La pi\xF9 bella");

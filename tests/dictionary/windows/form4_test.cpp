@@ -1,5 +1,8 @@
 #include "dictionary/windows/Form4.h"
 
+#include <QClipboard>
+#include <QLayout>
+
 #include "dictionary/dictionary.h"
 #include "platform/codepage.h"
 #include "support/numbered_words.h"
@@ -127,14 +130,81 @@ TEST_F(Form4Test, OpensEmptyAndReadsWhatIsChosen) {
   EXPECT_EQ(window->Label9->text(), QStringLiteral("mio"));
 }
 
-TEST_F(Form4Test, AnOpenPrivateDictionaryIsNotReadAgainNorEmptied) {
+TEST_F(Form4Test, TheOpenDictionaryIsSelectedAtTheStartAndCanBeRead) {
+  EXPECT_EQ(window->File1->Scelto(), "LessicoItaliano.dat");
+  QTest::keyClick(window->File1, Qt::Key_Return);
+  EXPECT_EQ(Shown(4), "CASA SOLE ");
   OpenFile(*window->File2, QStringLiteral("mio.priv"));
+  EXPECT_FALSE(window->File1->Scelto());
   window = std::make_unique<Form4>(nullptr);
   Open(*window);
-  OpenFile(*window->File2, QStringLiteral("mio.priv"));
-  EXPECT_EQ(Shown(4), "");
+  EXPECT_EQ(window->File2->Scelto(), "mio.priv");
+  EXPECT_TRUE(window->File2->hasFocus());
   EXPECT_FALSE(window->Command4->isEnabled()) << "a rebuild would empty it";
-  EXPECT_EQ(window->Label9->text(), QStringLiteral("mio"));
+  OpenFile(*window->File2, QStringLiteral("mio.priv"));
+  EXPECT_EQ(Shown(4), "NAVE ");
+  Add(QStringLiteral("rete"));
+  OpenFile(*window->File2, QStringLiteral("mio.priv"));
+  EXPECT_EQ(Shown(4), "NAVE RETE ") << "it is read: what was changed stays";
+  user.TakeTexts();
+}
+
+TEST_F(Form4Test, FitsASmallScreenWhateverItTells) {
+  OpenItalian();
+  Click(window->Command1);
+  for (const QSize size : {QSize(790, 560), QSize(960, 680)}) {  // of 800 x 600, of 1366 x 768
+    SCOPED_TRACE(size.width());
+    window->resize(size);
+    EXPECT_EQ(window->size(), size);
+    std::vector<QRect> places;
+    for (const QWidget* control : window->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+      places.push_back(control->geometry());
+      EXPECT_TRUE(window->rect().contains(places.back())) << control->objectName().toStdString();
+    }
+    for (auto one = places.begin(); one != places.end(); ++one) {
+      for (auto other = one + 1; other != places.end(); ++other)
+        EXPECT_FALSE(one->intersects(*other));
+    }
+    for (const ElencoDiParole* list : window->Combo1)
+      EXPECT_GE(list->Elenco->viewport()->height(), 4 * list->Elenco->sizeHintForRow(0));
+    const QPoint button = window->Command1->pos();
+    for (const char16_t* status :
+         {u"", u"Una", u"Una riga \u00E8 troppo corta per tutto quel che c'\u00E8 da dire"}) {
+      window->Label3->setText(QString::fromUtf16(status));
+      window->layout()->activate();
+      EXPECT_EQ(window->Command1->pos(), button);
+    }
+  }
+}
+
+TEST_F(Form4Test, TheBarIsYellowWhereALengthHasNoWordsYet) {
+  OpenItalian();  // which has none of 15 letters
+  const QImage bar = window->Picture1->grab().toImage();
+  EXPECT_EQ(bar.pixelColor(bar.width() / 2, bar.height() / 2), QColor(Qt::yellow));
+}
+
+TEST_F(Form4Test, TheKeyboardDoesItAll) {
+  OpenItalian();
+  List(4).Testo->setFocus();
+  List(4).Testo->clear();
+  QTest::keyClicks(List(4).Testo, QStringLiteral("so"));
+  QTest::keyClick(List(4).Testo, Qt::Key_Down);
+  EXPECT_TRUE(List(4).Elenco->hasFocus());
+  EXPECT_EQ(List(4).Scelta(), 1u) << "where the letters lead";
+  EXPECT_EQ(List(4).Testo->text(), QStringLiteral("SOLE"));
+  List(4).Testo->setFocus();
+  QTest::keyClick(List(4).Testo, Qt::Key_Up);
+  EXPECT_EQ(List(4).Testo->text(), QStringLiteral("CASA"));
+  window->Command1->setFocus();
+  QTest::keyClick(window->Command1, Qt::Key_Return);
+  ASSERT_TRUE(window->Text1->hasFocus());
+  QTest::keyClicks(window->Text1, QStringLiteral("casa"));
+  QGuiApplication::clipboard()->setText(QStringLiteral("li"));
+  QTest::keySequence(window->Text1, QKeySequence::Paste);
+  EXPECT_EQ(window->Text1->text(), QStringLiteral("CASALI"));
+  QTest::keySequence(window->Text1, QKeySequence::Undo);
+  EXPECT_TRUE(QStringLiteral("CASA").startsWith(window->Text1->text()))
+      << window->Text1->text().toStdString();
 }
 
 TEST_F(Form4Test, WordsAreAddedAndDeletedInTheListsAlone) {
