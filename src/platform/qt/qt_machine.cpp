@@ -134,11 +134,22 @@ std::string Codificato(const Percorso& file) {
   return QByteArray::fromStdString(file.string()).toPercentEncoding("/").toStdString();
 }
 
+// xdg-email gives some mail programs the recipient decoded, between apostrophes of its own: behind
+// one of ours a comma would begin another field, as an attachment. Both together never stand in one
+// address; the apostrophe then reaches the program encoded.
+std::string DestinatarioCodificato(const std::string& destinatario) {
+  const bool rischioso =
+      destinatario.find('\'') < destinatario.size() && destinatario.find(',') < destinatario.size();
+  QByteArray codificato = QByteArray::fromStdString(Codificato(AUtf8(destinatario)));
+  if (rischioso) codificato.replace("%27", "%2527");
+  return codificato.toStdString();
+}
+
 // All of a mail as one address, in which no character is a mark of a shell's or of the address:
 // the options of xdg-email would pass through an "echo" that takes the backslash for one. This is
 // the address that it makes of them.
 std::string IndirizzoDellaMail(const Mail& mail) {
-  std::string indirizzo = "mailto:" + Codificato(AUtf8(mail.destinatario)) +
+  std::string indirizzo = "mailto:" + DestinatarioCodificato(mail.destinatario) +
                           "?subject=" + Codificato(AUtf8(mail.oggetto)) +
                           "&body=" + Codificato(AUtf8(mail.testo));
   std::error_code ignorato;

@@ -115,6 +115,17 @@ TEST_F(MachineTest, HandsAMailOverAsOneAddressOrSaysThatItIsNotTaken) {
             "1mailto:-a%26b%3Dc%2Bd@x.example?subject=Perch%C3%A9%20%5Cn%3F"
             "&body=Uno%0D%0Adue%20%26%20100%25&attach=" +
                 folder.Nome().string() + "/l%27%C3%A8%20due.tlrm");
+  const std::pair<const char*, const char*> recipients[] = {
+      {"o'neil@x.example", "1mailto:o%27neil@x.example?"},
+      {"\"a b\" <a@x>, \xE8@x", "1mailto:%22a%20b%22%20%3Ca@x%3E%2C%20%C3%A8@x?"},
+      // xdg-email decodes it and puts it between apostrophes.
+      {"a@x',attachment='/etc/passwd", "1mailto:a@x%2527%2Cattachment%3D%2527%2Fetc%2Fpasswd?"}};
+  for (const auto& [recipient, begins] : recipients) {
+    mail.destinatario = recipient;
+    EXPECT_TRUE(machine.PreparaMail(mail));
+    const std::string told = Told();
+    EXPECT_EQ(told.substr(0, told.find('?') + 1), begins);
+  }
   const Percorso before = fs::current_path();
   fs::current_path(folder.Nome());
   mail.allegato = "mio.tlrm";
