@@ -55,8 +55,8 @@ std::string ChiediIndirizzo() {
   return std::string(SenzaSpazi(risposta.value_or("")));
 }
 
-// A block that breaks off would pass for the crossword whose name it comes under, and be saved over
-// its file: it is told, and the crossword stays.
+// A block whose reading breaks off would pass for the crossword whose name it comes under, and be
+// saved over its file: it is told, and the crossword stays.
 bool PrendiIlBlocco(std::string_view blocco) {
   CruciverbaDiPrima prima;
   const Apertura esito = ApriTestoDiCruciverba(blocco);

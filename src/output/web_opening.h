@@ -23,8 +23,10 @@ std::optional<std::string_view> BloccoDiSalvataggio(std::string_view pagina);
 std::optional<std::string> PrelevaBlocco(const std::string& indirizzo);
 
 /// menurl: asks for an address and makes the crossword of that page the current one, under the name
-/// that there is. The crossword that was there stays when the page holds none or one that breaks
-/// off, which is told, and when it was to be saved before and is not.
+/// that there is. The crossword that was there stays when the page holds none, or one that breaks
+/// off where its reader notices, which is told, and when it was to be saved before and is not. One
+/// that breaks off in the last row of the grid, in the text of a clue or in the colours is taken as
+/// far as it goes, and nothing is said.
 void ApriDaIndirizzo();
 
 }  // namespace telarium

@@ -213,7 +213,7 @@ TEST_F(WebOpening, ABlockThatIsNoCrosswordIsToldAndChangesNothing) {
   }
 }
 
-TEST_F(WebOpening, APageCutAtAnyByteIsTakenWholeOrChangesNothing) {
+TEST_F(WebOpening, APageCutAnywhereIsTakenAsFarAsItGoesOrToldAndChangesNothing) {
   const std::string page = SomePage();
   const std::size_t block = page.find(MarkerLine) + MarkerLine.size();
   const std::size_t lastRow = page.find("\r\n", page.find("04x03") + 7 + 2 * 10) + 8;
