@@ -1,5 +1,8 @@
 #include "output/word_export.h"
 
+#include <utility>
+#include <vector>
+
 #include "output/clue_entries.h"
 #include "output/clue_page.h"
 #include "output/output_file.h"
@@ -39,19 +42,25 @@ std::string PaginaNonome() {
   return std::move(pagina).Prendi();
 }
 
+struct FileDaScrivere {
+  Percorso file;
+  std::string contenuto;
+};
+
 // A file as it was before it was written over.
 class FileDiPrima {
  public:
   explicit FileDiPrima(const Percorso& file) : file_(file) {
-    constexpr std::size_t massimo = 64u << 20;
-    cera_ = LeggiFile(file, massimo, contenuto_) == EsitoLettura::Letto;
+    constexpr std::size_t massimo = 512u << 20;
+    esito_ = LeggiFile(file, massimo, contenuto_);
   }
 
+  // What could not be read cannot be put back, and is not removed either.
   void Rimetti() const {
     std::error_code errore;
-    if (cera_) {
+    if (esito_ == EsitoLettura::Letto) {
       errore = ScriviFile(file_, contenuto_, Permanenza::Provvisoria);
-    } else {
+    } else if (esito_ == EsitoLettura::Assente) {
       std::filesystem::remove(file_, errore);
     }
   }
@@ -59,13 +68,38 @@ class FileDiPrima {
  private:
   Percorso file_;
   std::string contenuto_;
-  bool cera_;
+  EsitoLettura esito_;
 };
+
+// Writes all of them, or what was there stays. A failure has been told.
+bool ScriviInsieme(const std::vector<FileDaScrivere>& tutti) {
+  std::vector<FileDiPrima> scritti;
+  for (const auto& [file, contenuto] : tutti) {
+    FileDiPrima prima(file);
+    if (!ScriviUscita(file, contenuto)) {
+      for (const FileDiPrima& scritto : scritti)
+        scritto.Rimetti();
+      return false;
+    }
+    scritti.push_back(std::move(prima));
+  }
+  return true;
+}
+
+std::vector<FileDaScrivere> TestiNonome(const Percorso& cartella) {
+  return {{cartella / "NONOME.TXT", TestoNonome()}, {cartella / "NONOME.html", PaginaNonome()}};
+}
 
 bool ScriviFileNonome() {
   ChiUsa().CediAiMessaggi();
-  return ScriviPicture(FileDiUscita("NONOME.BMP"), BitmapSuBianco(false)) &&
-         ScriviTestiNonome(CartellaProgramma);
+  std::string bitmap = BitmapSuBianco(false);
+  if (bitmap.empty()) {
+    AvvisaErroreDiUscita();
+    return false;
+  }
+  std::vector<FileDaScrivere> tutti = TestiNonome(CartellaProgramma);
+  tutti.insert(tutti.begin(), {FileDiUscita("NONOME.BMP"), std::move(bitmap)});
+  return ScriviInsieme(tutti);
 }
 
 }  // namespace
@@ -79,12 +113,7 @@ void AperturaWord() {
 }
 
 bool ScriviTestiNonome(const Percorso& cartella) {
-  const Percorso testo = cartella / "NONOME.TXT";
-  const FileDiPrima prima(testo);
-  if (!ScriviUscita(testo, TestoNonome())) return false;
-  if (ScriviUscita(cartella / "NONOME.html", PaginaNonome())) return true;
-  prima.Rimetti();
-  return false;
+  return ScriviInsieme(TestiNonome(cartella));
 }
 
 void EsportaInWordConPicture() {

@@ -18,8 +18,8 @@ void AperturaWord();
 [[nodiscard]] bool ScriviTestiNonome(const Percorso& cartella);
 
 /// menuwpic: writes NONOME.BMP, with the letters, NONOME.TXT and NONOME.html into the program
-/// folder and opens the document that takes them in. A failure is told. Without a grid nothing
-/// happens.
+/// folder, all three or none, and opens the document that takes them in. A failure is told. Without
+/// a grid nothing happens.
 void EsportaInWordConPicture();
 
 }  // namespace telarium

@@ -258,6 +258,29 @@ TEST_F(Exports, WhatCannotBeWrittenIsToldAndNotOpened) {
   EXPECT_TRUE(machine.opened.empty() && machine.inWord.empty());
 }
 
+TEST_F(Exports, TheThreeHandOverFilesAreWrittenTogetherOrStay) {
+  DrawOnScreen();
+  const Texts names = {"NONOME.BMP", "NONOME.TXT", "NONOME.html"};
+  for (const std::string& blocked : names) {
+    SCOPED_TRACE(blocked);
+    for (const std::string& name : names)
+      WriteFile(name, "old " + name);
+    std::filesystem::remove(InFolder(blocked));
+    std::filesystem::create_directory(InFolder(blocked));
+    EsportaInWordConPicture();
+    EXPECT_EQ(user.TakeTexts(), Texts{OutputError});
+    std::filesystem::remove(InFolder(blocked));
+    for (const std::string& name : names)
+      EXPECT_TRUE(name == blocked || Made(name) == "old " + name) << name;
+  }
+  std::filesystem::create_directory(InFolder("NONOME.html"));
+  std::filesystem::remove(InFolder("NONOME.TXT"));
+  std::filesystem::remove(InFolder("NONOME.BMP"));
+  EsportaInWordConPicture();
+  EXPECT_EQ(user.TakeTexts(), Texts{OutputError});
+  EXPECT_EQ(Files(), Texts()) << "none was there before";
+}
+
 TEST_F(Exports, ThePictureIsSavedWhereTheUserSaysAndItsNameProposedAgain) {
   DrawOnScreen();
   StampaSoluzioni = Vero;
