@@ -129,6 +129,7 @@ void Form1::CreaControlli() {
   Picture2->installEventFilter(this);
   Picture3->setPixmap(Figura("hand", devicePixelRatioF()));
   Command3d15->setToolTip(QStringLiteral("Chiude anteprima di stampa"));
+  Command3d15->setShortcut(Qt::Key_Escape);
   Command3d15->adjustSize();
   for (QWidget* nascosto :
        std::initializer_list<QWidget*>{Picture1, Picture3, Command3d15, Command1})

@@ -55,15 +55,20 @@ void ImpostaLingua(Form1&) {
   CambiaLingua(Lingua);
 }
 
-template <std::int16_t Modo>
-void Preleva(Form1&) {
-  Prelevadefinizioni(Modo);
+// A preview shows what the sheet will show.
+void AggiornaAnteprima(const Form1& form) {
+  if (form.Command3d15Visibile()) AnteprimaSchema();
 }
 
-// A preview shows what the sheet will show.
+template <std::int16_t Modo>
+void Preleva(Form1& form) {
+  Prelevadefinizioni(Modo);
+  AggiornaAnteprima(form);
+}
+
 void CommutaSoluzioni(Form1& form) {
   CommutaStampaSoluzioni();
-  if (form.Command3d15Visibile()) AnteprimaSchema();
+  AggiornaAnteprima(form);
 }
 
 template <int Larghezza>

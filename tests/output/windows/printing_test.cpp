@@ -14,6 +14,7 @@
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_text.h"
 #include "platform/text.h"
+#include "support/clue_store.h"
 
 namespace telarium {
 namespace {
@@ -227,6 +228,22 @@ TEST_F(PrintingTest, ClosesAPreviewWhenTheWindowChangesItsSize) {
   ClickButton(PreviewButton);
   QTest::mouseClick(form->Command3d15, Qt::LeftButton);
   EXPECT_EQ(EnabledButtons(), all);
+  ClickButton(PreviewButton);
+  QTest::keyClick(form.get(), Qt::Key_Escape);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return form->Command3d15->isHidden(); }, Patience));
+  EXPECT_EQ(EnabledButtons(), all);
+}
+
+TEST_F(PrintingTest, APreviewShowsTheCluesThatAreFetchedMeanwhile) {
+  MakeStore("CASA\tF\tDove si abita, e per giunta volentieri\n");
+  StartWith({"CASA"});
+  Resize(800, 700);
+  ClickButton(PreviewButton);
+  const QImage before = form->Area->grab().toImage();
+  form->Voce("Menuprelfac").trigger();
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+  EXPECT_TRUE(form->Command3d15->isVisible());
+  EXPECT_NE(form->Area->grab().toImage(), before);
 }
 
 }  // namespace
