@@ -114,14 +114,7 @@ void LanciaLudarium() {
 
 void ApriAiuto() {
   PrendiCongedo();
-  const auto apri = [](const char* nome) {
-    return Sistema().ApriFile(PercorsoNellaCartella(CartellaProgramma, nome));
-  };
-  if (!apri(FileAiuto) && !apri(GemelloAiuto)) {
-    Avvisa(Unisci("Non è possibile aprire il file della guida "_cp, FileAiuto,
-                  ": manca il file o un programma adatto."),
-           {}, Icona::Avviso);
-  }
+  ApriGuida();
   LasciaAnteprima();
 }
 

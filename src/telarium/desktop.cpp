@@ -5,6 +5,7 @@
 #include <QTranslator>
 
 #include "editor/windows/pictures.h"
+#include "editor/windows/window_help.h"
 #include "telarium_version.h"
 
 namespace telarium {
@@ -42,6 +43,7 @@ void CollegaFinestra(PiattaformaQt& piattaforma, Form1& form) {
       [&form](const AvanzamentoEstrazione& a) { return form.SeguiEstrazione(a); });
   piattaforma.LaStampante()->Finestra(&form);
   piattaforma.FinestraPrincipale(&form.Area->Superficie());
+  QApplication::instance()->installEventFilter(new AiutoNelleFinestre(&form));
 }
 
 }  // namespace telarium

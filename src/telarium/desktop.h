@@ -15,7 +15,8 @@ void NominaApplicazione();
 bool ParlaItaliano(QApplication& applicazione);
 
 /// Joins the main window to the platform, which draws on it, shows boxes before it, has its
-/// pointers and tells it how a fill goes. The caller keeps both alive.
+/// pointers and tells it how a fill goes, and gives its modal windows their help. The caller keeps
+/// both alive.
 void CollegaFinestra(PiattaformaQt& piattaforma, Form1& form);
 
 }  // namespace telarium
