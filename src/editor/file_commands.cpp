@@ -90,7 +90,7 @@ void EsciDalProgramma() {
   ImpostaPuntatoreMouse(PuntatoreFreccia);
   if (SchemaModificato && !ChiediSalvataggio()) return;
   AbbandonaIstantanea();
-  TerminaProgramma();
+  TerminaProgramma(Fine::Regolare);
 }
 
 bool ApriFileDiCruciverba(const Percorso& nome) {

@@ -51,7 +51,7 @@ void ControllaAggiornamento() {
   testo->pop_back();  // the last byte only ends the file
   if (ValoreDecimale(*testo) <= NostroNumero() || !Offri(*testo)) return;
   ApriIndirizzo(ConSchema(server) + "/telarium/");
-  TerminaProgramma();
+  TerminaProgramma(Fine::Regolare);
 }
 
 }  // namespace telarium

@@ -362,15 +362,14 @@ bool CartellaScrivibile(const Percorso& cartella) {
   return true;
 }
 
-CartellaTemporanea::CartellaTemporanea() {
+CartellaTemporanea::CartellaTemporanea()
+    : rimozione_([this] {
+        std::error_code ignorato;
+        if (!nome_.empty()) fs::remove_all(nome_, ignorato);
+      }) {
   std::error_code errore;
   std::string modello = (fs::temp_directory_path(errore) / "telarium-XXXXXX").string();
   if (!errore && ::mkdtemp(modello.data())) nome_ = modello;
-}
-
-CartellaTemporanea::~CartellaTemporanea() {
-  std::error_code ignorato;
-  if (!nome_.empty()) fs::remove_all(nome_, ignorato);
 }
 
 }  // namespace telarium

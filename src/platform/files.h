@@ -8,6 +8,8 @@
 #include <system_error>
 #include <vector>
 
+#include "platform/commitment.h"
+
 // Files for one operation: nothing stays open between two calls.
 namespace telarium {
 
@@ -82,15 +84,13 @@ bool CartellaScrivibile(const Percorso& cartella);
 class CartellaTemporanea {
  public:
   CartellaTemporanea();
-  ~CartellaTemporanea();
-  CartellaTemporanea(const CartellaTemporanea&) = delete;
-  CartellaTemporanea& operator=(const CartellaTemporanea&) = delete;
 
   /// Empty when the system gave none.
   const Percorso& Nome() const { return nome_; }
 
  private:
   Percorso nome_;
+  Impegno rimozione_;
 };
 
 }  // namespace telarium

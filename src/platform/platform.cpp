@@ -19,8 +19,8 @@ Piattaforma& LaPiattaforma() {
   return *corrente;
 }
 
-void TerminaProgramma() {
-  LaPiattaforma().Termina();
+void TerminaProgramma(Fine fine) {
+  LaPiattaforma().Termina(fine);
   ErroreDiProgrammazione("la piattaforma non ha terminato il programma");
 }
 

@@ -7,6 +7,9 @@
 
 namespace telarium {
 
+/// How the program ends: as the user wanted, or because it cannot go on, after a message.
+enum class Fine { Regolare, Fatale };
+
 /// The one object that stands between the core and the machine. `main` or a test fixture sets it.
 class Piattaforma {
  public:
@@ -23,7 +26,7 @@ class Piattaforma {
 
   /// Ends the program: the process in the desktop, by an exception in tests and in `telar`. What
   /// comes behind the call never runs.
-  virtual void Termina() = 0;
+  virtual void Termina(Fine fine) = 0;
 };
 
 /// Sets the platform of this process; null takes it away. The caller keeps it alive.
@@ -44,7 +47,7 @@ inline Superficie* FinestraPrincipale() {
 inline Stampante* LaStampante() {
   return LaPiattaforma().LaStampante();
 }
-[[noreturn]] void TerminaProgramma();
+[[noreturn]] void TerminaProgramma(Fine fine = Fine::Fatale);
 
 /// Today's date as day-month-year, in two, two and four digits.
 std::string DataDiOggi();

@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "editor/startup.h"
 #include "editor/windows/Form1.h"
 #include "platform/codepage.h"
+#include "platform/commitment.h"
 #include "platform/program_folder.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/qt_text.h"
@@ -60,10 +62,11 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
   const auto [cartella, daRiempire] = PreparaCartellaProgramma();
   if (cartella.empty()) return EXIT_FAILURE;
 
-  UnicaIstanza istanza(cartella);
+  std::optional<UnicaIstanza> istanza(std::in_place, cartella);
+  const Impegno libera([&istanza] { istanza.reset(); });
   Form1* ricevente = nullptr;
   std::vector<Percorso> inAttesa;  // what comes before the first activation
-  const bool prima = istanza.Prima([&](const Percorso& altro) {
+  const bool prima = istanza->Prima([&](const Percorso& altro) {
     if (ricevente) {
       ricevente->RiceviDaFuori(altro);
     } else {
@@ -71,7 +74,7 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
     }
   });
   if (!prima) {
-    if (istanza.Consegna(file)) return EXIT_SUCCESS;
+    if (istanza->Consegna(file)) return EXIT_SUCCESS;
     Avvisa("Telarium è già aperto in questa cartella programma e non risponde."_cp, {},
            Icona::Avviso);
     return EXIT_FAILURE;

@@ -44,7 +44,7 @@ TEST_F(ClueEditorTest, PopupHasNoSecondSeparatorWithoutPrivateDictionaries) {
 
 TEST_F(ClueEditorTest, DictionaryThatIsGoneWhenItIsPickedEndsTheProgram) {
   bool searched = false;
-  EXPECT_THROW(ConDizionario("Mio.priv", [&] { searched = true; }), ProgramEnded);
+  EXPECT_THROW(ConDizionario("Mio.priv", [&] { searched = true; }), ProgramFailed);
   EXPECT_FALSE(searched);
   EXPECT_EQ(user.TakeTexts().size(), 1u);
 }

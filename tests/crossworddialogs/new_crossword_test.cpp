@@ -87,7 +87,7 @@ TEST_F(NewCrossword, WhatCannotBeMadeIsToldAndChangesNothing) {
   }
   for (const char* model : {"...\r\n..\r\n-", "..\r\n...\r\n-", ".a\r\n-", ".@\r\n-", ".[\r\n-"}) {
     WriteFile("m.dfc", model);
-    EXPECT_THROW(NuovoDaModello(path, 0), ProgramEnded) << model;
+    EXPECT_THROW(NuovoDaModello(path, 0), ProgramFailed) << model;
     ExpectTold({"Tipo di file modelli non valido!"});
   }
   EXPECT_EQ(NuovoDaModello(InFolder("manca.dfc"), 0), EsitoNuovo::ModelloRifiutato);

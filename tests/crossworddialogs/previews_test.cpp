@@ -135,7 +135,7 @@ TEST_F(Previews, AModelFileThatCannotBeShownIsTold) {
   EXPECT_TRUE(ModelliDaMostrare(InFolder("manca.dfc")).empty());
   EXPECT_EQ(user.TakeTexts(), Texts{"Errore: Non trovato file di definizione modelli standard!"});
   for (const char* model : {"...\r\n..\r\n-", "..\r\n.x\r\n-", "MZ\x90\r\n-"}) {
-    EXPECT_THROW(ModelliDaMostrare(WriteFile("m.dfc", model)), ProgramEnded);
+    EXPECT_THROW(ModelliDaMostrare(WriteFile("m.dfc", model)), ProgramFailed);
     EXPECT_EQ(user.TakeTexts(), Texts{"Tipo di file modelli non valido!"});
   }
   EXPECT_TRUE(ModelliDaMostrare(WriteFile("m.dfc", "..\r\n..")).empty()) << "no terminator";

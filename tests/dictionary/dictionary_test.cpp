@@ -102,9 +102,9 @@ TEST_F(DictionaryTest, FileCutAnywhereGivesTheWholeWordsBeforeTheCut) {
 
 TEST_F(DictionaryTest, MissingFileOrFolderInItsPlaceEndsTheProgram) {
   NomeDizionario = "Mio.priv";
-  EXPECT_THROW(ApriDizionario(), ProgramEnded);
+  EXPECT_THROW(ApriDizionario(), ProgramFailed);
   std::filesystem::create_directory(InFolder(NomeDizionario));
-  EXPECT_THROW(ApriDizionario(), ProgramEnded);
+  EXPECT_THROW(ApriDizionario(), ProgramFailed);
   const std::string message = "Errore fatale! non trovato file di vocabolario: Mio.priv";
   EXPECT_EQ(user.TakeTexts(), (Words{message, message}));
   // The case of the name does not count.

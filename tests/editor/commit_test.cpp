@@ -73,7 +73,7 @@ TEST_F(Commit, TakingOverNeedsACrosswordAndClearsNothing) {
   EXPECT_EQ(ParolaCasella(1, 1, Orizzontale) + Definizione(2, 2, Verticale), "ABfuori");
 
   std::filesystem::remove(PercorsoIstantanea());
-  EXPECT_THROW(RiprendiSchema(), ProgramEnded);
+  EXPECT_THROW(RiprendiSchema(), ProgramFailed);
   EXPECT_EQ(user.TakeTexts(),
             Texts{"Errore: Cruciverba  _tlma_32.tmp  Non trovato! Esecuzione terminata."});
 }

@@ -128,7 +128,7 @@ TEST_F(StartupTest, AHostileCommandLineLeavesNoCrossword) {
   }
   AzzeraStato();
   RigaDiComando = InFolder("missing.tlrm");
-  EXPECT_THROW(Start(), ProgramEnded);
+  EXPECT_THROW(Start(), ProgramFailed);
   OnlyMessage();
 }
 
@@ -144,10 +144,10 @@ TEST_F(StartupTest, ACommandLineThatCannotBeTakenToTheSnapshotIsOpenAllTheSame) 
 
 TEST_F(StartupTest, AMissingSettingsFileOrDictionaryEndsTheProgram) {
   fs::remove(InFolder("LessicoItaliano.dat"));
-  EXPECT_THROW(Start(), ProgramEnded);
+  EXPECT_THROW(Start(), ProgramFailed);
   EXPECT_EQ(user.TakeTexts().size(), 1u);
   fs::remove(InFolder("telarium.INI"));
-  EXPECT_THROW(Start(), ProgramEnded);
+  EXPECT_THROW(Start(), ProgramFailed);
   const Messaggio told = OnlyMessage();
   EXPECT_EQ(told.testo,
             "Errore Fatale: Manca il file di inizializzazione : Telarium.ini. E' necessario "
@@ -178,7 +178,7 @@ TEST_F(StartupTest, OffersANewerVersionAndOnlyThat) {
                                "Si desidera scaricala ed installarla adesso? "});
   EXPECT_TRUE(machine.opened.empty());
   user.Answer(Risposta::Si);
-  EXPECT_THROW(ControllaAggiornamento(), ProgramEnded);
+  EXPECT_THROW(ControllaAggiornamento(), ProgramDone);
   EXPECT_EQ(machine.opened, std::vector<std::string>{"https://server.example/telarium/"});
   user.TakeTexts();
 }
@@ -201,7 +201,7 @@ TEST_F(StartupTest, AWindowOfTheProgramQueuesOneActivationForTheEndOfItsCommand)
                  AccodaAttivazione();
                  EsciDalProgramma();
                }),
-               ProgramEnded);
+               ProgramDone);
   EXPECT_EQ(activations(), 1) << "never after the end";
   EseguiComandoDiFinestra([] {});
   EXPECT_EQ(activations(), 1);
@@ -222,7 +222,7 @@ TEST_F(StartupTest, SavesWhatTheUserWantsSavedAndEndsEitherWay) {
   SchemaModificato = Vero;
   Schema(5) = "S.O.L.E.";
   user.Answer(Risposta::Annulla);
-  EXPECT_THROW(EsciDalProgramma(), ProgramEnded);
+  EXPECT_THROW(EsciDalProgramma(), ProgramDone);
   const Messaggio asked = OnlyMessage();
   EXPECT_EQ(asked.titolo, "Modifica del file corrente");
   EXPECT_EQ(asked.pulsanti, Pulsanti::OkAnnulla);
@@ -232,11 +232,11 @@ TEST_F(StartupTest, SavesWhatTheUserWantsSavedAndEndsEitherWay) {
 
   const std::string before = ReadFile(file);
   user.Answer(Risposta::Ok);
-  EXPECT_THROW(EsciDalProgramma(), ProgramEnded);
+  EXPECT_THROW(EsciDalProgramma(), ProgramDone);
   EXPECT_EQ(SchemaModificato, Falso);
   EXPECT_NE(ReadFile(file), before);
   user.TakeTexts();
-  EXPECT_THROW(EsciDalProgramma(), ProgramEnded) << "without a question";
+  EXPECT_THROW(EsciDalProgramma(), ProgramDone) << "without a question";
 
   SchemaModificato = Vero;
   NomeCruciverba = InFolder("nowhere/mio.tlrm");
@@ -301,7 +301,7 @@ TEST_F(StartupTest, LanguagesSettingsAndCompanionsDoAsTheirEntriesSay) {
   EXPECT_FALSE(window.checked["MenuL1"]);
   fs::remove(InFolder("lessicolatino.DAT"));
   CambiaLingua(3);  // the current one: nothing is opened
-  EXPECT_THROW(CambiaLingua(4), ProgramEnded);
+  EXPECT_THROW(CambiaLingua(4), ProgramFailed);
   EXPECT_EQ(user.TakeTexts().size(), 1u);
 
   CommutaStampaSoluzioni();

@@ -174,7 +174,7 @@ TEST_F(CrosswordFile, IsRefusedPastSixteenMegabytesAndMissingEndsTheProgram) {
   EXPECT_EQ(user.TakeTexts(), ReadError);
   EXPECT_EQ(Definizione(1, 1, Orizzontale), "resta");
 
-  EXPECT_THROW(LeggiCruciverba("perché.tlrm"), ProgramEnded);
+  EXPECT_THROW(LeggiCruciverba("perché.tlrm"), ProgramFailed);
   const Messaggio message = user.TakeMessages().at(0);
   EXPECT_EQ(message.testo,
             "Errore: Cruciverba  perché.tlrm  Non trovato! Esecuzione terminata."_cp);

@@ -14,8 +14,11 @@
 
 namespace telarium {
 
-/// Thrown by TerminaProgramma in tests, so that what comes behind it never runs.
+/// Thrown by TerminaProgramma in tests, so that what comes behind it never runs: when the user is
+/// done, and after a message of what cannot go on.
 class ProgramEnded : public std::exception {};
+class ProgramDone : public ProgramEnded {};
+class ProgramFailed : public ProgramEnded {};
 
 /// A user that is scripted beforehand. Every message is recorded. A question that nobody expected
 /// is a failure of the test, and so are, when the test ends, an answer that nobody used and a
@@ -156,7 +159,10 @@ class ScriptedPlatform : public Piattaforma {
   Macchina& Sistema() override { return machine; }
   Superficie* FinestraPrincipale() override { return hasWindow ? surface : nullptr; }
   Stampante* LaStampante() override { return hasPrinter ? printerInUse : nullptr; }
-  void Termina() override { throw ProgramEnded(); }
+  void Termina(Fine fine) override {
+    if (fine == Fine::Regolare) throw ProgramDone();
+    throw ProgramFailed();
+  }
 };
 
 }  // namespace telarium

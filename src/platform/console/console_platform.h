@@ -68,7 +68,7 @@ class PiattaformaConsole : public Piattaforma {
   UtenteConsole& ChiUsa() override { return utente_; }
   Macchina& Sistema() override { return macchina_; }
   Superficie* FinestraPrincipale() override { return nullptr; }
-  void Termina() override { throw ProgrammaTerminato(); }
+  void Termina(Fine) override { throw ProgrammaTerminato(); }
 
  private:
   UtenteConsole utente_;

@@ -19,8 +19,9 @@ class PiattaformaQt : public Piattaforma {
   /// The surface of the main window; the caller keeps it alive.
   void FinestraPrincipale(Superficie* finestra) { finestra_ = finestra; }
 
-  /// Ends the process at once, with status 0: nothing of the windows runs any more.
-  void Termina() override;
+  /// Ends the process at once, with status 0 or, when it cannot go on, 1: what must not outlive it
+  /// goes, and nothing of the windows runs any more.
+  void Termina(Fine fine) override;
 
  private:
   UtenteQt utente_;

@@ -321,7 +321,7 @@ TEST_F(TelarBroTest, TheSmallestAndTheWidestGridShow) {
 
 TEST_F(TelarBroTest, ABadCellEndsTheProgramBeforeTheWindowShows) {
   Draw({"CA\xC8"});
-  EXPECT_THROW(TelarBro(nullptr), ProgramEnded);
+  EXPECT_THROW(TelarBro(nullptr), ProgramFailed);
   EXPECT_EQ(user.TakeTexts(), Texts{"Tipo di file non valido: Esecuzione terminata!"});
 }
 

@@ -128,7 +128,7 @@ TEST_F(Form1Test, SavesByItsKeyAndEndsByMenuEsci) {
   SchemaModificato = Vero;
   user.Answer(Risposta::Annulla);
   // Not through the menu: the end, an exception in tests, must not cross the window library.
-  EXPECT_THROW(form->Esegui([this] { ComandoDellaVoce("MenuEsci")(*form); }), ProgramEnded);
+  EXPECT_THROW(form->Esegui([this] { ComandoDellaVoce("MenuEsci")(*form); }), ProgramDone);
   EXPECT_EQ(user.TakeMessages().front().titolo, "Modifica del file corrente");
 }
 
