@@ -61,11 +61,12 @@ void CopiaMancanti(const Percorso& da, const Percorso& a, const Percorso& relati
 }
 
 // One line for all of them: they have the same cause as a rule.
-void DiciFalliti(const std::vector<CopiaFallita>& falliti, const Percorso& cartella) {
+void DiciFalliti(const std::vector<CopiaFallita>& falliti, const Percorso& cartella,
+                 std::string_view opera, std::string_view mancato) {
   if (falliti.empty()) return;
   std::string testo =
-      Unisci("Impossibile preparare la cartella programma ", TestoPercorso(cartella), ": ",
-             DescrizioneErrore(falliti.front().errore), ". Non copiati: ");
+      Unisci("Impossibile ", opera, " la cartella programma ", TestoPercorso(cartella), ": ",
+             DescrizioneErrore(falliti.front().errore), ". ", mancato, ": ");
   for (const CopiaFallita& fallito : falliti)
     testo += (&fallito == &falliti.front() ? "" : ", ") + TestoPercorso(fallito.nome);
   Avvisa(testo, {}, Icona::Avviso);
@@ -104,9 +105,15 @@ SceltaCartella PreparaCartellaProgramma() {
   if (scelta.cartella.empty()) {
     Avvisa("Impossibile stabilire la cartella programma: manca la cartella dell'utente (HOME).");
   } else if (scelta.daRiempire) {
-    DiciFalliti(RiempiCartella(CartellaDatiInstallati(), scelta.cartella), scelta.cartella);
+    DiciFalliti(RiempiCartella(CartellaDatiInstallati(), scelta.cartella), scelta.cartella,
+                "preparare", "Non copiati");
   }
   return scelta;
+}
+
+void AggiornaCartellaProgramma(const Percorso& cartella, FileModificati modificati) {
+  DiciFalliti(AggiornaCartella(CartellaDatiInstallati(), cartella, modificati), cartella,
+              "aggiornare", "Non sostituiti");
 }
 
 }  // namespace telarium

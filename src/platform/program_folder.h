@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "platform/installed_data.h"
 
 // Which folder is the program folder, and how a new user's one gets its contents.
 namespace telarium {
@@ -26,16 +27,6 @@ Percorso CartellaEseguibile();
 /// Where the installed data lie, seen from the executable.
 Percorso CartellaDatiInstallati();
 
-/// The folder of the installed data that holds the clue lists. It stays there: the encyclopedia of
-/// the program folder is made from it.
-inline constexpr const char* CartellaListeInstallate = "clues";
-
-/// A file, or a folder with all in it, that could not be copied: its name below the installed data.
-struct CopiaFallita {
-  Percorso nome;
-  std::error_code errore;
-};
-
 /// Copies into `cartella` each file below `installati` that is missing there, and makes folders as
 /// needed, the case of all names aside; the clue lists and hidden files stay behind. Nothing that
 /// exists is written over. Gives what could not be copied.
@@ -44,5 +35,13 @@ std::vector<CopiaFallita> RiempiCartella(const Percorso& installati, const Perco
 /// Chooses the program folder and, when it is the user's own, brings it what is missing there of
 /// the installed data. What cannot be copied is told. No folder, told, when there is none.
 SceltaCartella PreparaCartellaProgramma();
+
+/// Brings the user's own program folder in step with the installed data, as AggiornaCartella, and
+/// tells what could not be replaced. For the one desktop that works in the folder, or when none
+/// does: an open dictionary must not change.
+void AggiornaCartellaProgramma(const Percorso& cartella, FileModificati modificati);
+
+/// The lock file of the desktop that works in a program folder.
+inline constexpr const char* NomeBlocco = ".telarium.lock";
 
 }  // namespace telarium

@@ -136,6 +136,8 @@ Stato Esegui(const Comando& comando, const Argomenti& argomenti, PiattaformaCons
   }
   const SceltaCartella scelta = ScegliCartella(argomenti);
   if (scelta.cartella.empty()) return Stato::Fallito;
+  if (scelta.daRiempire && !FileOrdinario(scelta.cartella / NomeBlocco))
+    AggiornaCartellaProgramma(scelta.cartella, FileModificati::Lascia);
   if (scelta.daRiempire && comando.usaEnciclopedia && !PreparaEnciclopediaMancante())
     return Stato::Fallito;
   return comando.esegui(argomenti, piattaforma);

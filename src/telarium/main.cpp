@@ -80,6 +80,7 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
     return EXIT_FAILURE;
   }
 
+  if (daRiempire) AggiornaCartellaProgramma(cartella, FileModificati::Chiedi);
   if (daRiempire && MancaEnciclopedia(CartellaDatiInstallati(), cartella))
     PreparaEnciclopedia(CartellaDatiInstallati(), cartella);
   RigaDiComando = file;

@@ -7,6 +7,7 @@
 #include <QThread>
 #include <QTimer>
 
+#include "platform/program_folder.h"
 #include "platform/qt/qt_text.h"
 
 namespace telarium {
@@ -15,7 +16,6 @@ namespace {
 constexpr int TempoDiAttesa = 5000;  // milliseconds: the first one may just be busy
 constexpr qint64 MaxByteMessaggio = 1 << 16;
 constexpr char FineMessaggio = '\0';  // no file name holds it
-constexpr const char* NomeBlocco = ".telarium.lock";
 
 // A name in the user's own folder for running programs that only this program folder has. A socket
 // in the program folder itself could have too long a name.

@@ -72,7 +72,7 @@ class Package(unittest.TestCase):
         return results
 
     def names_in_own(self):
-        return {path.name for path in self.own.iterdir() if path.name != ".telarium.lock"}
+        return {path.name for path in self.own.iterdir() if not path.name.startswith(".")}
 
     def expected_names(self):
         return {path.name for path in self.data.iterdir()} - {"clues"}
@@ -130,6 +130,20 @@ class Package(unittest.TestCase):
         self.assertEqual(self.telar("definizioni", "casa"), (clues, ""))
         self.assertEqual(self.names_in_own(), self.expected_names() | {"telarium1.mdb"})
         self.assertGreater(len(self.telar("parole", sample)[0].splitlines()), 10)
+
+    def test_a_newer_package_reaches_who_changed_nothing(self):
+        self.telar("griglia", self.samples[0])
+        tips = self.data / "TLRMTIPS.TXT"
+        before = tips.read_bytes()
+        self.addCleanup(tips.write_bytes, before)
+        tips.write_bytes(b"Un altro consiglio.\r\n")
+        lock = self.own / ".telarium.lock"
+        lock.touch()
+        self.telar("griglia", self.samples[0])
+        self.assertEqual((self.own / tips.name).read_bytes(), before, "under a running desktop")
+        lock.unlink()
+        self.telar("griglia", self.samples[0])
+        self.assertEqual((self.own / tips.name).read_bytes(), tips.read_bytes())
 
     def show_no_tips(self):
         settings = self.home / ".config" / "Telarium" / "telarium.ini"
