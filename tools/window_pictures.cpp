@@ -53,9 +53,8 @@ class FixedMachine : public MacchinaQt {
  public:
   std::chrono::year_month_day Oggi() override { return Today; }
   double Casuale() override { return random_.Prossimo(); }
-  std::optional<std::string> Preleva(const std::string&, const LimitiDiPrelievo&,
-                                     const ProseguePrelievo&) override {
-    return std::nullopt;
+  Prelevato Preleva(const std::string&, const LimitiDiPrelievo&, const ProseguePrelievo&) override {
+    return {};
   }
 
  private:

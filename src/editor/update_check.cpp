@@ -45,8 +45,9 @@ bool Offri(std::string_view testo) {
 void ControllaAggiornamento() {
   const std::string& server = ValoreIndirizzo(Indirizzo::ServerAggiornamenti);
   if (server.empty()) return;
-  auto testo =
-      Sistema().Preleva(AUtf8(ConSchema(server) + "/telarium/telarium_update.txt"), Limiti, {});
+  auto testo = Sistema()
+                   .Preleva(AUtf8(ConSchema(server) + "/telarium/telarium_update.txt"), Limiti, {})
+                   .byte;
   if (!testo || testo->empty()) return;
   testo->pop_back();  // the last byte only ends the file
   if (ValoreDecimale(*testo) <= NostroNumero() || !Offri(*testo)) return;

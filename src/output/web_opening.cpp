@@ -33,11 +33,12 @@ bool HaSchema(const std::string& indirizzo) {
 }
 
 // The wait ends with the fetch, before any message.
-std::optional<std::string> PrelevaPagina(const std::string& indirizzo) {
+Prelevato PrelevaPagina(const std::string& indirizzo) {
   const auto attesa = ChiUsa().IniziaAttesa("Prelievo della pagina in corso ...");
   const auto prosegue = [&](std::size_t byte) { return attesa->Prosegue(byte); };
-  auto pagina = Sistema().Preleva(indirizzo, Limiti, prosegue);
-  if (!pagina && !HaSchema(indirizzo))
+  Prelevato pagina = Sistema().Preleva(indirizzo, Limiti, prosegue);
+  const bool fallita = !pagina.byte && !pagina.causa.empty();
+  if (fallita && !HaSchema(indirizzo))
     pagina = Sistema().Preleva(Unisci(SchemaFile, indirizzo), Limiti, prosegue);
   return pagina;
 }
@@ -76,8 +77,9 @@ std::optional<std::string_view> BloccoDiSalvataggio(std::string_view pagina) {
 }
 
 std::optional<std::string> PrelevaBlocco(const std::string& indirizzo) {
-  const auto pagina = PrelevaPagina(indirizzo);
-  if (!pagina) Avvisa("Errore apertura file HTML");
+  const auto [pagina, causa] = PrelevaPagina(indirizzo);
+  if (!pagina && causa.empty()) return std::nullopt;  // the user knows
+  if (!pagina) Avvisa(Unisci("Errore apertura file HTML. ", causa));
   const auto blocco = BloccoDiSalvataggio(pagina ? *pagina : std::string_view());
   if (!blocco) {
     Avvisa(

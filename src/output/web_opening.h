@@ -18,8 +18,8 @@ extern std::string IndirizzoWeb;
 std::optional<std::string_view> BloccoDiSalvataggio(std::string_view pagina);
 
 /// Fetches the page behind an address in UTF-8 and gives the bytes of its save block. An address
-/// without a scheme is the name of a file. None when there is no such page or no block in it, or
-/// the user broke the fetch off, which has been told.
+/// without a scheme is the name of a file. None when there is no such page or no block in it, which
+/// has been told with its cause, and when the user broke the fetch off, which has not.
 std::optional<std::string> PrelevaBlocco(const std::string& indirizzo);
 
 /// menurl: asks for an address and makes the crossword of that page the current one, under the name

@@ -25,6 +25,12 @@ struct LimitiDiPrelievo {
   std::size_t byte;
 };
 
+/// What a fetch brings.
+struct Prelevato {
+  std::optional<std::string> byte;
+  std::string causa = {};  // why there are none, as a sentence; empty when it was broken off
+};
+
 /// Asked again and again during a fetch, with the bytes that have come: false breaks it off.
 using ProseguePrelievo = std::function<bool(std::size_t byte)>;
 
@@ -65,9 +71,8 @@ class Macchina {
 
   /// The bytes behind an http, https or file address, which is in UTF-8 like a file name; none when
   /// it cannot be fetched whole within the limits, or was broken off.
-  virtual std::optional<std::string> Preleva(const std::string& indirizzo,
-                                             const LimitiDiPrelievo& limiti,
-                                             const ProseguePrelievo& prosegue) = 0;
+  virtual Prelevato Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
+                            const ProseguePrelievo& prosegue) = 0;
 
   /// The settings of this user, kept from one run to the next.
   virtual std::optional<std::string> LeggiImpostazione(const std::string& chiave) = 0;

@@ -65,9 +65,11 @@ Stato Testo(const Argomenti& argomenti, PiattaformaConsole&) {
   return ScriviTestiNonome(cartella) ? Stato::Fatto : Stato::Fallito;
 }
 
-Stato ApriPagina(const Argomenti& argomenti, PiattaformaConsole&) {
+Stato ApriPagina(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   AscoltaInterruzione();  // breaks the fetch off
   const auto blocco = PrelevaBlocco(argomenti.liberi[0]);
+  if (!blocco && piattaforma.ChiUsa().Interrotto())
+    Avvisa("Prelievo interrotto: nessun file scritto.");
   if (!blocco || ApriTestoDiCruciverba(*blocco) != Apertura::Intera) return Stato::Fallito;
   RicalcolaCaselle();  // the writer wants the words of the grid
   return Scrivi(argomenti.liberi[1]);

@@ -13,7 +13,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr const char* FetchError = "Errore apertura file HTML";
+constexpr const char* FetchError = "Errore apertura file HTML. Il sito tace.";
 constexpr const char* NotFound =
     "File HTML su Internet non trovato/non valido (Solo versione Telarium 7 o superiore) oppure "
     "connessione a Internet non attiva.";
@@ -141,6 +141,17 @@ TEST_F(WebOpening, FetchesABareNameAsAFileAtTheSecondTry) {
   EXPECT_EQ(user.waits, Texts(std::size(cases), "Prelievo della pagina in corso ..."));
   EXPECT_EQ(machine.limits.tempo, std::chrono::seconds(60));
   EXPECT_EQ(machine.limits.byte, 64u << 20);
+}
+
+TEST_F(WebOpening, AFetchThatTheUserBreaksOffIsNoFault) {
+  user.patient = false;
+  for (const char* typed : {Somewhere, "page.html"}) {
+    machine.pages[typed] = SomePage();
+    Open(typed);
+    EXPECT_EQ(user.TakeTexts(), Texts());
+    EXPECT_EQ(Drawing(), Older);
+  }
+  EXPECT_EQ(machine.fetched, (Texts{Somewhere, "page.html"}));
 }
 
 TEST_F(WebOpening, MakesTheCrosswordOfThePageTheCurrentOneUnderTheOldName) {

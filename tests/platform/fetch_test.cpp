@@ -3,6 +3,7 @@
 #include <chrono>
 #include <sys/stat.h>
 
+#include "platform/text.h"
 #include "support/loopback_server.h"
 #include "support/telarium_test.h"
 
@@ -24,7 +25,7 @@ class Fetch : public TelariumTest {
 
   static Bytes From(const std::string& address, LimitiDiPrelievo limits = Ample,
                     const ProseguePrelievo& goesOn = {}) {
-    return PrelevaIndirizzo(address, limits, goesOn);
+    return PrelevaIndirizzo(address, limits, goesOn).byte;
   }
 
  private:
@@ -77,6 +78,43 @@ TEST_F(Fetch, KeepsItsLimitsOfTimeAndSize) {
   const Server exact(Server::Reply("200 OK", "", "12345"));
   EXPECT_EQ(From(exact.Address(), {.tempo = 60s, .byte = 5}), "12345");
   EXPECT_EQ(From(exact.Address(), {.tempo = 60s, .byte = 4}), std::nullopt);
+}
+
+TEST_F(Fetch, TellsWhyItBringsNothing) {
+  const auto reply = [](const char* status, const std::string& headers, const char* body) {
+    return Server::Reply(status, headers, body);
+  };
+  const Server missing(reply("404 Not Found", "", "")), broken(reply("500 Oh", "", ""));
+  const Server cut(reply("200 OK", "Content-Length: 100\r\n", "too short")), mute("");
+  const Server loop(reply("302 Found", "Location: /\r\n", ""));
+  const Server elsewhere(reply("302 Found", "Location: file:///etc/passwd\r\n", ""));
+  const Server large(reply("200 OK", "", "123456"));
+  const Server silent("", Server::Then::Hold);
+  const std::string file = WriteFile("page.html", "123456");
+  const LimitiDiPrelievo brief{.tempo = 100ms, .byte = 5};
+  const struct {
+    std::string address, cause;
+    LimitiDiPrelievo limits = Ample;
+  } cases[] = {
+      {missing.Address(), "Il sito non ha questa pagina."},
+      {broken.Address(), "Il sito ha risposto con l'errore 500."},
+      {cut.Address(), "La pagina \xE8 arrivata solo in parte."},
+      {mute.Address(), "Il sito non ha risposto nulla."},
+      {"http://127.0.0.1:1/", "Il sito non accetta collegamenti."},
+      {loop.Address(), "Il sito rinvia troppe volte a un altro indirizzo."},
+      {elsewhere.Address(), "Il sito rinvia a un indirizzo che non \xE8 di una pagina."},
+      {silent.Address(), "La pagina non \xE8 arrivata in tempo.", brief},
+      {large.Address(), "La pagina \xE8 pi\xF9 grande di 5 byte.", {.tempo = 60s, .byte = 5}},
+      {"http://", "L'indirizzo non \xE8 valido."},
+      {"ftp://127.0.0.1/", "L'indirizzo non \xE8 valido."},
+      {"file:///non c'\xC3\xA8", "Il file \"/non c'\xE8\" non esiste."},
+      {"file:///dev", "Il nome \"/dev\" non \xE8 quello di un file."},
+      {"file://" + file, Unisci("Il file \"", file, "\" \xE8 pi\xF9 grande di 5 byte."), brief},
+  };
+  for (const auto& [address, cause, limits] : cases)
+    EXPECT_EQ(PrelevaIndirizzo(address, limits, {}).causa, cause) << address;
+  EXPECT_EQ(PrelevaIndirizzo(large.Address(), Ample, {}).causa, "");
+  EXPECT_EQ(PrelevaIndirizzo(silent.Address(), Ample, [](std::size_t) { return false; }).causa, "");
 }
 
 TEST_F(Fetch, IsBrokenOffByItsUser) {

@@ -142,14 +142,14 @@ std::optional<std::string> ScriptedMachine::LeggiImpostazione(const std::string&
   return setting == settings.end() ? std::nullopt : std::optional(setting->second);
 }
 
-std::optional<std::string> ScriptedMachine::Preleva(const std::string& indirizzo,
-                                                    const LimitiDiPrelievo& limiti,
-                                                    const ProseguePrelievo& prosegue) {
+Prelevato ScriptedMachine::Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
+                                   const ProseguePrelievo& prosegue) {
   fetched.push_back(indirizzo);
   limits = limiti;
-  if (prosegue && !prosegue(0)) return std::nullopt;
+  if (prosegue && !prosegue(0)) return {};
   const auto page = pages.find(indirizzo);
-  return page == pages.end() ? fetches : page->second;
+  const auto found = page == pages.end() ? fetches : page->second;
+  return {.byte = found, .causa = found ? "" : failure};
 }
 
 }  // namespace telarium

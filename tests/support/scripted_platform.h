@@ -101,7 +101,8 @@ class ScriptedMachine : public MacchinaIsolata {
   std::string unshown;  // the ending of files that nothing opens
   bool hasWord = true;
   std::error_code startError;
-  std::optional<std::string> fetches;        // what is behind an address
+  std::string failure = "Il sito tace.";     // why nothing is behind an address
+  std::optional<std::string> fetches;        // what is behind it
   std::map<std::string, std::string> pages;  // before that: what is behind this one
   /// This user wants no tips: a modal window at each start would hold the tests up.
   std::map<std::string, std::string> settings{{"Options/Show Tips at Startup", "0"}};
@@ -116,8 +117,8 @@ class ScriptedMachine : public MacchinaIsolata {
   bool ApriInWord(const Percorso& documento) override;
   bool ScriviInWord(const std::string& testo) override;
   bool PreparaMail(const Mail& mail) override;
-  std::optional<std::string> Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
-                                     const ProseguePrelievo& prosegue) override;
+  Prelevato Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
+                    const ProseguePrelievo& prosegue) override;
   std::optional<std::string> LeggiImpostazione(const std::string& chiave) override;
   void ScriviImpostazione(const std::string& chiave, const std::string& valore) override {
     settings[chiave] = valore;

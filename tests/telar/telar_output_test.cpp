@@ -5,9 +5,11 @@
 namespace telarium {
 namespace {
 
-constexpr const char* NotFetched =
-    "Errore apertura file HTML\nFile HTML su Internet non trovato/non valido (Solo versione "
-    "Telarium 7 o superiore) oppure connessione a Internet non attiva.\n";
+std::string NotFetched(std::string_view cause) {
+  return Unisci("Errore apertura file HTML. ", cause,
+                "\nFile HTML su Internet non trovato/non valido (Solo versione Telarium 7 o "
+                "superiore) oppure connessione a Internet non attiva.\n");
+}
 
 TEST_F(Telar, OpensAPageOfTheWebOrAFileToTheByte) {
   Draw({"CAFF", "A#..", "...."});
@@ -27,8 +29,9 @@ TEST_F(Telar, OpensAPageOfTheWebOrAFileToTheByte) {
 
 TEST_F(Telar, WritesNothingForAPageThatIsNoneOrBreaksOff) {
   const LoopbackServer missing(LoopbackServer::Reply("404 Not Found", "", CrosswordPage()));
-  EXPECT_EQ(Told("apri " + missing.Address() + " old", 1), NotFetched);
-  EXPECT_EQ(Told("apri nowhere.html old", 1), NotFetched);
+  EXPECT_EQ(Told("apri " + missing.Address() + " old", 1),
+            NotFetched("Il sito non ha questa pagina."));
+  EXPECT_EQ(Told("apri nowhere.html old", 1), NotFetched("Il file \"nowhere.html\" non esiste."));
   Write("cut.html", Unisci(MarkerLine, Head, "04x03\r\n].[*D.H.\r\n"));
   EXPECT_EQ(Told("apri cut.html old", 1), "Errore di lettura del file!\n");
   Told("apri cut.html", 2);
@@ -42,7 +45,7 @@ TEST_F(Telar, AnInterruptBreaksTheFetchOff) {
   process.Interrupt();
   const TelarResult result = process.WaitForEnd();
   EXPECT_EQ(result.status, 1);
-  EXPECT_EQ(result.err, NotFetched);
+  EXPECT_EQ(result.err, "Prelievo interrotto: nessun file scritto.\n");
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "platform/machine.h"
@@ -11,8 +10,7 @@ namespace telarium {
 /// the file that a "file://" one names, with "%" escapes or as its name stands. None when it cannot
 /// be fetched whole within the limits, when `prosegue` (which may be empty) breaks it off, and for
 /// any other address.
-std::optional<std::string> PrelevaIndirizzo(const std::string& indirizzo,
-                                            const LimitiDiPrelievo& limiti,
-                                            const ProseguePrelievo& prosegue);
+Prelevato PrelevaIndirizzo(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
+                           const ProseguePrelievo& prosegue);
 
 }  // namespace telarium

@@ -19,9 +19,8 @@ class MacchinaIsolata : public Macchina {
   bool ApriInWord(const Percorso&) override { return false; }
   bool ScriviInWord(const std::string&) override { return false; }
   bool PreparaMail(const Mail&) override { return false; }
-  std::optional<std::string> Preleva(const std::string&, const LimitiDiPrelievo&,
-                                     const ProseguePrelievo&) override {
-    return std::nullopt;
+  Prelevato Preleva(const std::string&, const LimitiDiPrelievo&, const ProseguePrelievo&) override {
+    return {.byte = {}, .causa = "Manca il collegamento alla rete."};
   }
   std::optional<std::string> LeggiImpostazione(const std::string&) override { return std::nullopt; }
   void ScriviImpostazione(const std::string&, const std::string&) override {}

@@ -57,8 +57,8 @@ void AscoltaInterruzione();
 class MacchinaConsole : public MacchinaIsolata {
  public:
   std::chrono::year_month_day Oggi() override { return OggiLocale(); }
-  std::optional<std::string> Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
-                                     const ProseguePrelievo& prosegue) override {
+  Prelevato Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
+                    const ProseguePrelievo& prosegue) override {
     return PrelevaIndirizzo(indirizzo, limiti, prosegue);
   }
 };

@@ -221,9 +221,8 @@ bool MacchinaQt::PreparaMail(const Mail& mail) {
   return PostaPresente() && Consegna({"xdg-email", IndirizzoDellaMail(mail)}, AttesaDellaPosta);
 }
 
-std::optional<std::string> MacchinaQt::Preleva(const std::string& indirizzo,
-                                               const LimitiDiPrelievo& limiti,
-                                               const ProseguePrelievo& prosegue) {
+Prelevato MacchinaQt::Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
+                              const ProseguePrelievo& prosegue) {
   return PrelevaIndirizzo(indirizzo, limiti, prosegue);
 }
 

@@ -19,8 +19,8 @@ class MacchinaQt : public Macchina {
   bool ApriInWord(const Percorso& documento) override;
   bool ScriviInWord(const std::string& testo) override;
   bool PreparaMail(const Mail& mail) override;
-  std::optional<std::string> Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
-                                     const ProseguePrelievo& prosegue) override;
+  Prelevato Preleva(const std::string& indirizzo, const LimitiDiPrelievo& limiti,
+                    const ProseguePrelievo& prosegue) override;
   std::optional<std::string> LeggiImpostazione(const std::string& chiave) override;
   void ScriviImpostazione(const std::string& chiave, const std::string& valore) override;
 
