@@ -1,11 +1,15 @@
 #include "platform/qt/qt_machine.h"
 
+#include <QDeadlineTimer>
 #include <QDesktopServices>
+#include <QEventLoop>
 #include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QUrl>
 #include <algorithm>
+#include <functional>
 
 #include "platform/codepage.h"
 #include "platform/common/fetch.h"
@@ -16,11 +20,26 @@
 namespace telarium {
 namespace {
 
-// How long a program that hands its file on to another one is waited for, the window standing
-// still: what takes longer is busy showing it.
+// How long a program that hands its file on to another one is waited for: what takes longer is busy
+// showing it.
 constexpr std::chrono::milliseconds AttesaDiConsegna{500};
 // A mail program is looked for by a long script, which tells only at its end that there is none.
 constexpr std::chrono::milliseconds AttesaDellaPosta{2000};
+
+// Waits for something that comes from another process. The windows go on meanwhile, and what the
+// user does in them has its effect at once. False when it does not come in time.
+bool Aspetta(const std::function<bool()>& fatto, std::chrono::milliseconds attesa) {
+  constexpr std::chrono::milliseconds sguardo{10};
+  const QDeadlineTimer termine(attesa);
+  QEventLoop ciclo;
+  QTimer orologio;
+  QObject::connect(&orologio, &QTimer::timeout, &ciclo, [&] {
+    if (fatto() || termine.hasExpired()) ciclo.quit();
+  });
+  orologio.start(sguardo);
+  if (!fatto()) ciclo.exec();
+  return fatto();
+}
 
 bool Presente(const char* programma) {
   return !QStandardPaths::findExecutable(QLatin1StringView(programma)).isEmpty();
@@ -31,8 +50,10 @@ bool Consegna(const std::vector<std::string>& parole,
               std::chrono::milliseconds attesa = AttesaDiConsegna) {
   const ProcessoAvviato processo = Avvia(parole);
   if (processo.errore) return false;
-  const bool finito = processo.esito.wait_for(attesa) == std::future_status::ready;
-  return !finito || processo.esito.get() == 0;
+  const auto finito = [&processo] {
+    return processo.esito.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+  };
+  return !Aspetta(finito, attesa) || processo.esito.get() == 0;
 }
 
 // The word processor of an office suite; none without one.
@@ -89,20 +110,21 @@ bool ConsegnaCopiaDellaPagina(const std::string& programma, const Percorso& pagi
 // The program that the system has for a type of files or addresses; empty for none. Nothing when it
 // does not tell, or not soon.
 std::optional<QByteArray> ProgrammaPer(const char* tipo) {
-  constexpr int pazienza = 2000;  // milliseconds, the window standing still
+  constexpr std::chrono::milliseconds pazienza{2000};
   QProcess domanda;
   domanda.setStandardInputFile(QProcess::nullDevice());
   domanda.start(QStringLiteral("xdg-mime"),
                 {QStringLiteral("query"), QStringLiteral("default"), QLatin1StringView(tipo)},
                 QIODevice::ReadOnly);
-  if (domanda.waitForFinished(pazienza)) {
-    if (domanda.exitStatus() != QProcess::NormalExit || domanda.exitCode() != 0)
-      return std::nullopt;
-    return domanda.readAllStandardOutput().trimmed().toLower();
+  if (!Aspetta([&domanda] { return domanda.state() == QProcess::NotRunning; }, pazienza)) {
+    domanda.kill();
+    domanda.waitForFinished();  // killed, it is only to be buried
+    return std::nullopt;
   }
-  domanda.kill();
-  domanda.waitForFinished(pazienza);  // killed, it is only to be buried
-  return std::nullopt;
+  const bool risposto = domanda.error() != QProcess::FailedToStart &&
+                        domanda.exitStatus() == QProcess::NormalExit && domanda.exitCode() == 0;
+  if (!risposto) return std::nullopt;
+  return domanda.readAllStandardOutput().trimmed().toLower();
 }
 
 // Whether opening a web archive would show it: other browsers would save it again, or show its

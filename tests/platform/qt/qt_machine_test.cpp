@@ -1,8 +1,10 @@
 #include "platform/qt/qt_machine.h"
 
 #include <QTest>
+#include <QTimer>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -138,6 +140,33 @@ TEST_F(MachineTest, HandsAMailOverAsOneAddressOrSaysThatItIsNotTaken) {
   EXPECT_TRUE(machine.PreparaMail(mail));
   Program("xdg-email", "exit 4");  // its program did not take the mail
   EXPECT_FALSE(machine.PreparaMail(mail));
+}
+
+// The programs here end only once the window has done something.
+TEST_F(MachineTest, TheWindowsGoOnWhileAProgramIsWaitedFor) {
+  const std::string script = "while [ ! -e \"$TO\" ]; do :; done";
+  Program("xdg-open", script);
+  Program("xdg-mime", script + "; echo thunderbird.desktop");
+  Program("xdg-email", "exit 0");
+  const std::function<bool()> ways[] = {
+      [this] { return machine.ApriIndirizzo("https://www.telarium.example"); },
+      [this] {
+        return machine.PreparaMail({"autore@telarium.example", "", "", {}});
+      },
+  };
+  for (const auto& way : ways) {
+    SCOPED_TRACE(&way - ways);
+    bool wentOn = false;
+    QObject context;
+    QTimer::singleShot(0, &context, [&] {
+      wentOn = true;
+      std::ofstream(folder.Nome() / "told") << "x";
+    });
+    EXPECT_TRUE(way());
+    EXPECT_TRUE(wentOn);
+    std::ofstream(folder.Nome() / "told") << "x";  // however it went, they end
+    EXPECT_EQ(Told(), "x");
+  }
 }
 
 TEST_F(MachineTest, OpensAProgramOfTheSystemThatDoesNotFailAtOnce) {
