@@ -220,9 +220,14 @@ std::unique_ptr<Attesa> UtenteQt::IniziaAttesa(const std::string& testo) {
   return std::make_unique<AttesaQt>(TestoQt(testo), genitore, primaDiMostrarsi);
 }
 
-// The shape is the main window's: over other windows, menus and boxes the pointer is ordinary.
+// The shape is the main window's: over other windows, menus and boxes the pointer is ordinary, but
+// that a window which works shows it.
 void UtenteQt::FormaPuntatore(int forma) {
   if (finestra_) finestra_->setCursor(PuntatorePer(forma));
+  if (occupata_) occupata_->unsetCursor();
+  const bool lavora = forma == PuntatoreClessidra || forma == PuntatoreMano;
+  occupata_ = lavora ? QApplication::activeModalWidget() : nullptr;
+  if (occupata_) occupata_->setCursor(PuntatorePer(forma));
 }
 
 void PortaInPrimoPiano(QWidget& finestra) {

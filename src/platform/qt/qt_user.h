@@ -44,6 +44,7 @@ class UtenteQt : public Utente {
   QCursor PuntatorePer(int forma) const;
 
   QPointer<QWidget> finestra_;
+  QPointer<QWidget> occupata_;  // the modal window that has the pointer's shape too
   std::map<int, QCursor> immagini_;
   std::function<bool(const AvanzamentoEstrazione&)> segue_;
 };

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -239,6 +240,29 @@ TEST_F(UserTest, ThePointerFollowsItsStateOverTheMainWindowAlone) {
     EXPECT_EQ(window.cursor().shape(), shape) << value;
     EXPECT_FALSE(QGuiApplication::overrideCursor());
   }
+}
+
+TEST_F(UserTest, AModalWindowThatWorksHasThePointerToo) {
+  QWidget window;
+  user.Finestra(&window);
+  user.Immagine(99, QCursor(Qt::PointingHandCursor));
+  QDialog dialog(&window);
+  QPushButton button(&dialog);
+  WhenOpen<QDialog>([&](QDialog& open) {
+    for (const auto& [value, shape] : {std::pair(11, Qt::WaitCursor),
+                                       {1, Qt::ArrowCursor},
+                                       {99, Qt::PointingHandCursor},
+                                       {9, Qt::ArrowCursor},
+                                       {11, Qt::WaitCursor}}) {
+      user.FormaPuntatore(value);
+      EXPECT_EQ(button.cursor().shape(), shape) << value;
+    }
+    EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
+    open.accept();
+  });
+  dialog.exec();
+  user.FormaPuntatore(99);
+  EXPECT_EQ(dialog.cursor().shape(), Qt::ArrowCursor) << "closed, it does not work";
 }
 
 TEST_F(UserTest, TheColourChooserStaysOnTheMainWindowAndGivesAColourOrNone) {
