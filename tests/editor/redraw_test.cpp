@@ -108,12 +108,43 @@ TEST_F(RedrawTest, TakesTheInsetOfBlackSquaresFromThePercentage) {
     int percent;
     const char* square;
   };
-  for (const Case& one : {Case{100, "9 456 107 554 0"}, Case{99, "9 456 107 554 0"},
-                          Case{95, "10.5 457.5 105.5 552.5 0"}, Case{50, "33 480 83 530 0"},
-                          Case{-5, "58 505 58 505 0"}, Case{30000, "9 456 107 554 0"}}) {
+  for (const Case& one :
+       {Case{100, "9 456 107 554 0"}, Case{99, "9 456 107 554 0"},
+        Case{97, "9.5 456.5 106.5 553.5 0"}, Case{95, "10.5 457.5 105.5 552.5 0"},
+        Case{50, "33 480 83 530 0"}, Case{-5, "58 505 58 505 0"}, Case{30000, "9 456 107 554 0"}}) {
     PercentualeRiquadro = static_cast<std::int16_t>(one.percent);
     EXPECT_EQ(CallsOf("RiquadroPieno").back(), one.square) << one.percent;
   }
+}
+
+TEST_F(RedrawTest, LettersHaveSixPointsAtLeastAndNumbersTheirOwn) {
+  Draw({"A"});
+  surface.height = 1000;
+  struct Case {
+    int side, percent;
+    const char* types;
+  };
+  for (const Case& one : {Case{13, 50, "6.5 3.25"}, Case{12, 50, "6 3"}, Case{11, 50, "6 2.75"},
+                          Case{3, 90, "6 0.75"}, Case{8, 75, "6 2"}, Case{9, 75, "6.75 2.25"}}) {
+    surface.width = one.side + 16;
+    AltezzaCaratteri = static_cast<std::int16_t>(one.percent);
+    const auto types = CallsOf("CorpoCarattere");
+    EXPECT_EQ(types.front() + ' ' + types.back(), one.types) << one.side;
+  }
+}
+
+TEST_F(RedrawTest, DrawsWithoutABorderAboveTheMiddleAndWhateverStandsInACell) {
+  surface.width = 216;  // sides 100 at (8, 455)
+  surface.height = 1000;
+  Draw({"?a"});
+  SpessoreBordo = 0;
+  DistanzaDaCentro = -10;
+  NomeCruciverba = InFolder("mio.tlrm");
+  EXPECT_EQ(CallsOf("Riquadro"), (std::vector<std::string>{"8 455 108 555 0", "108 455 208 555 0"}))
+      << "no line of a border";
+  EXPECT_EQ(CallsOf("Scrivi"), (std::vector<std::string>{"?", "a", "1"}));
+  EXPECT_EQ(CallsOf("Posizione").front(), "46 470") << "12 and 25 from the middle, and 10 up";
+  EXPECT_EQ(window.title, "Telarium - 2x1  " + InFolder("mio.tlrm").string());
 }
 
 TEST_F(RedrawTest, HidesLettersOnlyWhenToldTo) {

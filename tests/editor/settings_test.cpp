@@ -36,6 +36,21 @@ TEST_F(SettingsTest, AFileReadsAndWritesBackToTheByteUnderItsOwnName) {
   EXPECT_FALSE(std::filesystem::exists(InFolder("telarium.INI"))) << "a second file was made";
 }
 
+TEST_F(SettingsTest, TheOrderOfTheLinesAndUnknownOnesMeanNothing) {
+  std::string backwards = "; impostazioni\r\nColore= 7 \r\n";
+  const std::string sample = Sample;
+  for (std::size_t end = sample.size(); end > 0;) {
+    const std::size_t line = end > 2 ? sample.rfind('\n', end - 2) : std::string::npos;
+    const std::size_t begin = line == std::string::npos ? 0 : line + 1;
+    backwards += sample.substr(begin, end - begin) + "[Altro]\r\n";
+    end = begin;
+  }
+  WriteFile("telarium.INI", backwards);
+  EXPECT_EQ(LeggiImpostazioni(), EsitoImpostazioni::Lette);
+  ScriviImpostazioni();
+  EXPECT_EQ(FirstDifference(ReadFile(InFolder("telarium.INI")), Sample), "");
+}
+
 TEST_F(SettingsTest, TakesTheFirstKeyOfALineAndWhatItsNumberIs) {
   struct Case {
     const char* text;

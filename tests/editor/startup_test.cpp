@@ -295,14 +295,23 @@ TEST_F(StartupTest, TheGuideOpensAsAPageWhereNothingShowsWebArchives) {
 TEST_F(StartupTest, LanguagesSettingsAndCompanionsDoAsTheirEntriesSay) {
   StartWith({"CASA"});
   WriteFile("lessicolatino.DAT", ReadFile(InFolder("LessicoItaliano.dat")));
+  Definizione(1, 1, Orizzontale) = "Si abita";
   CambiaLingua(3);
   EXPECT_EQ(NomeDizionario, "LessicoLatino.dat");
+  EXPECT_EQ(Drawing(), std::vector<std::string>{"CASA"}) << "the crossword stays";
+  EXPECT_EQ(Definizione(1, 1, Orizzontale), "Si abita");
+  EXPECT_EQ(SchemaModificato, Falso);
   EXPECT_TRUE(window.checked["MenuL3"]);
   EXPECT_FALSE(window.checked["MenuL1"]);
   fs::remove(InFolder("lessicolatino.DAT"));
   CambiaLingua(3);  // the current one: nothing is opened
   EXPECT_THROW(CambiaLingua(4), ProgramFailed);
   EXPECT_EQ(user.TakeTexts().size(), 1u);
+
+  platform.window.calls.clear();
+  RegolaSchema();
+  EXPECT_EQ(window.shown.back(), Modale::Settaggi);
+  EXPECT_FALSE(platform.window.calls.empty()) << "the grid is drawn anew, however it was closed";
 
   CommutaStampaSoluzioni();
   CommutaRettangoloParola();

@@ -164,6 +164,42 @@ TEST_F(SheetTest, ATypeBetweenTwoPointsIsTheEvenOne) {
   EXPECT_EQ(Of(Preview(), "CorpoCarattere")[0], "10") << "10.5: three quarters of 14";
 }
 
+TEST_F(SheetTest, LettersOnPaperHaveFivePointsAtLeastAndNumbersAndSquaresWhatComesOfTheCell) {
+  DrawEmpty(MaxColonne, MaxRighe);
+  ScriviInSchema({2, 1}, CellaNera);
+  AltezzaCaratteri = 25;
+  PercentualeRiquadro = 98;
+  const Calls& calls = Print();
+  EXPECT_EQ(LatoCasella, 17);
+  const Calls types = Of(calls, "CorpoCarattere");
+  EXPECT_EQ(types[0] + ' ' + types[1], "5 2.26666666667") << "2.83 and 2.27";
+  EXPECT_EQ(Of(calls, "RiquadroPieno"), Calls{"67.17 108.17 83.83 124.83 0"});
+}
+
+TEST_F(SheetTest, TheSheetIsAsWideAsTheWindowAndItsCluesHaveOneType) {
+  DrawEmpty(15, 13);
+  platform.window.width = 700;
+  const Calls& calls = Print();
+  EXPECT_EQ(calls.front(), "ScalaSuperficie 700 1422.02898551");
+  EXPECT_EQ(LatoCasella, 40) << "47 in a window of 1000";
+  EXPECT_EQ(Of(calls, "CorpoCarattere").back(), "8.25");
+}
+
+TEST_F(SheetTest, APageWiderThanTheWindowStillHasAMarginAndItsTextMayPassTheEnd) {
+  DrawEmpty(MaxColonne, MaxRighe);
+  platform.window.width = 400;
+  const Calls& calls = Preview();
+  EXPECT_EQ(Of(calls, "RiquadroPieno").front(), "-30 30 430 679 16777215");
+  EXPECT_EQ(Of(calls, "CorpoCarattere").back().substr(0, 6), "0.1443") << "of a band of 6";
+  EXPECT_EQ(PlaceOfClues(calls).substr(0, 12), "Posizione 44");
+  platform.window.width = 1000;
+  for (int c = 1; c <= NumColonne; ++c)
+    Definizione(c, 1, Verticale) = std::string(300, 'x');
+  const std::string last = Of(Preview(), "Posizione").back();
+  EXPECT_GT(std::stod(last.substr(last.find(' '))), 700) << "nothing is left out";
+  EXPECT_NE(Text(platform.window.calls).find("Creazione e stampa"), std::string::npos);
+}
+
 TEST_F(SheetTest, LeavesOutTheSolutionsOnPaperAndInThePreview) {
   Draw({"AB#"});
   StampaSoluzioni = Vero;
@@ -177,20 +213,23 @@ TEST_F(SheetTest, LeavesOutTheSolutionsOnPaperAndInThePreview) {
 TEST_F(SheetTest, AnEntryThatComesTooCloseToTheRightEdgeBeginsALine) {
   RecordingSurface surface;
   surface.CorpoCarattere(10);  // 5 units to a character
-  // Lines end at 1000 - 200, and at 1000 - 83.
+  // Lines end at 1000 - 200, and at 1000 less the margin.
   const struct {
     void (*write)(Superficie&, std::string_view, int);
     double x;  // where the entry of 20 characters begins
     bool fits;
-  } cases[] = {{StampaDefinizione, 700, true},    {StampaDefinizione, 700.5, true},
-               {StampaDefinizione, 700.6, false}, {StampaDefinizione, 900, false},
-               {AnteprimaDefinizione, 817, true}, {AnteprimaDefinizione, 818, false}};
+    int margin = 83;
+  } cases[] = {{StampaDefinizione, 700, true},         {StampaDefinizione, 700.5, true},
+               {StampaDefinizione, 700.6, false},      {StampaDefinizione, 900, false},
+               {AnteprimaDefinizione, 817, true},      {AnteprimaDefinizione, 818, false},
+               {AnteprimaDefinizione, 592, true, 308}, {AnteprimaDefinizione, 593, false, 308}};
   for (const auto& one : cases) {
     surface.Posizione(one.x, 50);
     surface.calls.clear();
-    one.write(surface, "12 la fine del mondo", 83);
-    Calls all{"Posizione 0 60", "Posizione 83 60", "Grassetto si",
-              "Scrivi 12",      "Grassetto no",    "Scrivi  la fine del mondo"};
+    one.write(surface, "12 la fine del mondo", one.margin);
+    Calls all{"Posizione 0 60", Unisci("Posizione ", one.margin, " 60"),
+              "Grassetto si",   "Scrivi 12",
+              "Grassetto no",   "Scrivi  la fine del mondo"};
     if (one.fits) all.erase(all.begin(), all.begin() + 2);
     EXPECT_EQ(surface.calls, all) << one.x;
   }

@@ -68,6 +68,17 @@ TEST_F(FontenTest, ShowsAndTakesTheChosenTypeface) {
   EXPECT_TRUE(platform.window.Corsivo() && !platform.window.Grassetto());
 }
 
+TEST_F(FontenTest, OkWithoutATickTurnsItalicAndBoldOff) {
+  platform.window.Corsivo(true);
+  platform.window.Grassetto(true);
+  Open([](fONTEN& window) {
+    EXPECT_FALSE(window.Check3d1->isChecked() || window.Check3d2->isChecked());
+    Pick(window, Serif);
+    Click(window.cmdOK);
+  });
+  EXPECT_FALSE(platform.window.Corsivo() || platform.window.Grassetto());
+}
+
 TEST_F(FontenTest, EnterAndADoubleClickInTheListAreOk) {
   Open([](fONTEN& window) {
     Pick(window, Serif);
