@@ -46,27 +46,11 @@ const std::string& Sorteggia(std::string testo) {
   return ElencoDefinizioni(estratta + 1);
 }
 
-void Riferisci(const std::optional<std::string>& rapporto) {
-  if (rapporto) Avvisa(*rapporto);
+void Riferisci(const std::optional<RapportoDefinizioni>& rapporto) {
+  if (rapporto) Avvisa(rapporto->Intero());
 }
 
-}  // namespace
-
-std::optional<std::string> PrelevaTutte(std::int16_t modo) {
-  EnciclopediaAperta enciclopedia;
-  if (!ConEnciclopedia([&] { enciclopedia = ApriEnciclopedia(); })) return std::nullopt;
-  const Clessidra clessidra;
-  int orizzontali = 0, verticali = 0;
-  PerOgniParolaCompleta([&](const std::string& parola, std::string& definizione, int direzione) {
-    try {
-      if (!enciclopedia->CercaParola(parola)) return;
-      definizione = Sorteggia(TestoDelModo(*enciclopedia, modo));
-      ++(direzione == Orizzontale ? orizzontali : verticali);
-    } catch (const ErroreEnciclopedia&) {
-      // A bad row costs its word alone, and who holds the file keeps the run waiting once.
-      enciclopedia->NonAttendere();
-    }
-  });
+std::string TestoPrelievo(int orizzontali, int verticali) {
   return Unisci(
       "L'operazione di recupero delle definizioni è terminata con successo.\r\n"
       "Dall'enciclopedia sono state trovate e compilate N. "_cp,
@@ -75,24 +59,50 @@ std::optional<std::string> PrelevaTutte(std::int16_t modo) {
       "vedere le parole inserite.");
 }
 
+}  // namespace
+
+std::optional<RapportoDefinizioni> PrelevaTutte(std::int16_t modo) {
+  EnciclopediaAperta enciclopedia;
+  if (!ConEnciclopedia([&] { enciclopedia = ApriEnciclopedia(); })) return std::nullopt;
+  const Clessidra clessidra;
+  int orizzontali = 0, verticali = 0;
+  ContoErrori errori;
+  PerOgniParolaCompleta([&](const std::string& parola, std::string& definizione, int direzione) {
+    try {
+      if (!enciclopedia->CercaParola(parola)) return;
+      definizione = Sorteggia(TestoDelModo(*enciclopedia, modo));
+      ++(direzione == Orizzontale ? orizzontali : verticali);
+    } catch (const ErroreEnciclopedia& errore) {
+      errori.Aggiungi(errore);
+      // A bad row costs its word alone, and who holds the file keeps the run waiting once.
+      enciclopedia->NonAttendere();
+    }
+  });
+  return RapportoDefinizioni{.testo = TestoPrelievo(orizzontali, verticali),
+                             .nonFatto = errori.Testo("parola non si è potuta cercare"_cp,
+                                                      "parole non si sono potute cercare")};
+}
+
 void Prelevadefinizioni(std::int16_t modo) {
   Riferisci(PrelevaTutte(modo));
 }
 
-std::optional<std::string> SalvaTutte() {
+std::optional<RapportoDefinizioni> SalvaTutte() {
   ContoFusioni conto;
   const bool riuscita = ConEnciclopedia([&] {
     const EnciclopediaAperta enciclopedia = ApriEnciclopedia();
     const Clessidra clessidra;
+    enciclopedia->IniziaSerie();
     PerOgniParolaCompleta([&](const std::string& parola, const std::string& definizione, int) {
       if (!definizione.empty()) UnisciDefinizione(*enciclopedia, parola, definizione, conto);
     });
   });
   if (!riuscita) return std::nullopt;
-  return RapportoFusioni(
-      "Tutte le definizioni presenti in questo sdhema sono state salvate sull'enciclopedia con "
-      "successo.",
-      conto);
+  return RapportoDefinizioni{
+      .testo = TestoFusioni("Tutte le definizioni presenti in questo sdhema sono state salvate "
+                            "sull'enciclopedia con successo.",
+                            conto),
+      .nonFatto = {}};
 }
 
 void SalvaDefinizioni() {

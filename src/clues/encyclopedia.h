@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -23,6 +24,7 @@ class ErroreEnciclopedia : public std::exception {
  public:
   enum class Specie {
     Occupata,   // another program holds the file
+    Rovinata,   // the file is damaged, or no store
     RigaPersa,  // the row is gone, or not as it was read: another program was there
     Altra,
   };
@@ -64,7 +66,8 @@ struct ModificheRiga {
 };
 
 /// The open store. Rows are sorted by word, by character code, equal ones in the order of storing;
-/// one row is the current one, at first the first. Each write is stored at once.
+/// one row is the current one, at first the first; it is left when another program gives its number
+/// to another word. Each write is stored at once.
 class Enciclopedia {
  public:
   virtual ~Enciclopedia() = default;
@@ -88,6 +91,14 @@ class Enciclopedia {
   /// letters being the same: RE is in IL PRETE.
   bool ContieneDefinizione(std::string_view definizione);
 
+  /// Runs reads and writes as one, while no other program writes: all is stored at its end, or
+  /// nothing when it throws. Within it no other one is begun.
+  virtual void Insieme(const std::function<void()>& operazioni) = 0;
+
+  /// To be called before a run of many reads and writes: if the store lets itself be written to, no
+  /// other program makes it anew from here to the end of the connection.
+  virtual void IniziaSerie() = 0;
+
   /// An operation waits up to a second for another program that holds the file; after this call it
   /// no longer does. For runs that go on after an error.
   virtual void NonAttendere() = 0;
@@ -101,8 +112,9 @@ class Enciclopedia {
   virtual RigaParole LeggiRiga(NumeroRiga numero) = 0;
   /// A clue that stays as LeggiRiga gave it keeps the characters that the code page lacks.
   virtual void ScriviRiga(NumeroRiga numero, const ModificheRiga& modifiche) = 0;
-  /// Deletes a row if it is still there.
-  virtual void EliminaRiga(NumeroRiga numero) = 0;
+  /// Deletes a row if it is still there. One that is of another word by now, since the whole store
+  /// was made anew, is an error of the kind RigaPersa.
+  virtual void EliminaRiga(const ChiaveRiga& riga) = 0;
 
   /// Adds a row and gives its number.
   virtual NumeroRiga InserisciRiga(const ModificheRiga& modifiche) = 0;

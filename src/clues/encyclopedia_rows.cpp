@@ -119,20 +119,23 @@ void RigheEnciclopedia::Registra() {
     nuova_ = false;
     posizione_ = NumeroRighe();
   } else if (cambiate.parola || cambiate.facili || cambiate.difficili) {
-    VerificaInvariata(cambiate);
     ChiaveRiga& riga = righe_[static_cast<std::size_t>(posizione_) - 1];
-    Archivio().ScriviRiga(riga.numero, cambiate);
+    Archivio().Insieme([&] {
+      VerificaInvariata(cambiate);
+      Archivio().ScriviRiga(riga.numero, cambiate);
+    });
     lette_.erase(riga.numero);
     if (cambiate.parola) riga.parola = *cambiate.parola;
   }
   impostate_ = {};
 }
 
-// What was read some time ago must not be written over what another program has stored since.
+// What was read some time ago must not be written over what another program has stored since; the
+// word always counts, as a row of that number is another one once the store was made anew.
 void RigheEnciclopedia::VerificaInvariata(const ModificheRiga& cambiate) {
   const RigaParole adesso = Archivio().LeggiRiga(Segnalibro());
   const bool invariata =
-      (!cambiate.parola || adesso.parola == Letto(posizione_, CampoParole::Parola)) &&
+      adesso.parola == Letto(posizione_, CampoParole::Parola) &&
       (!cambiate.facili || adesso.facili.value_or("") == Letto(posizione_, CampoParole::Facili)) &&
       (!cambiate.difficili ||
        adesso.difficili.value_or("") == Letto(posizione_, CampoParole::Difficili));
@@ -158,7 +161,7 @@ void RigheEnciclopedia::Elimina() {
   if (nuova_) return Annulla();
   if (!HaRiga()) throw ErroreEnciclopedia("non c'è nessuna riga da eliminare"_cp);
   const auto riga = righe_.begin() + posizione_ - 1;
-  Archivio().EliminaRiga(riga->numero);
+  Archivio().EliminaRiga(*riga);
   impostate_ = {};
   lette_.erase(riga->numero);
   righe_.erase(riga);

@@ -8,6 +8,7 @@
 #include "clues/sqlite_database.h"
 #include "model/state.h"
 #include "platform/codepage.h"
+#include "platform/folder_lock.h"
 #include "platform/text.h"
 
 namespace telarium {
@@ -66,56 +67,60 @@ bool InserisciParole(BaseDati& base, const std::vector<VoceDiLista>& voci,
   return true;
 }
 
-// The database as a file has it. The rows go in sorted, so that neighbours lie side by side.
-std::string ImmagineEnciclopedia(std::vector<VoceDiLista> voci, const ProsegueOpera& prosegue,
-                                 EsitoEnciclopedia& esito) {
+// Fills an empty database; false when it was broken off. The rows go in sorted, so that neighbours
+// lie side by side.
+bool Componi(BaseDati& base, std::vector<VoceDiLista> voci, const ProsegueOpera& prosegue,
+             EsitoEnciclopedia& esito) {
   OrdinaPerParola(voci);
-  BaseDati base;
   base.Esegui(
       "CREATE TABLE Parole (PAROLA TEXT NOT NULL, DEFINIZ_FACILE TEXT, DEFINIZ_DIFFIC TEXT);"
       "BEGIN");
-  esito.interrotta = !InserisciParole(base, voci, prosegue, esito);
-  if (esito.interrotta) return {};
+  if (!InserisciParole(base, voci, prosegue, esito)) return false;
   base.Esegui("COMMIT; CREATE INDEX ParolePerParola ON Parole (PAROLA)");
-  return base.Immagine();
+  return true;
 }
 
-constexpr const char* CodaRegistro = "-wal";
-
-// Opened and closed, the old store takes its log in, so that nothing of it is lost if the new one
-// fails. A log that is there behind that is another program's, which is writing.
-void RaccogliRegistro(const Percorso& file) {
-  try {
-    ApriEnciclopedia();
-  } catch (const ErroreEnciclopedia& errore) {
-    if (errore.DiSpecie() == ErroreEnciclopedia::Specie::Occupata) throw;
-    return;  // there is none, or none that could be kept
-  }
-  std::error_code ignorato;
-  if (!std::filesystem::exists(Percorso(file) += CodaRegistro, ignorato)) return;
-  throw ErroreEnciclopedia("il file è occupato da un altro programma"_cp,
-                           ErroreEnciclopedia::Specie::Occupata);
-}
-
-// A log beside the old file would be played back over the new one.
-void TogliRegistro(const Percorso& file) {
-  for (const char* coda : {CodaRegistro, "-shm", "-journal"}) {
+// What of a store that is gone would be played back over a new one.
+void TogliRegistri(const Percorso& file) {
+  for (const char* coda : {"-wal", "-shm", "-journal"}) {
     std::error_code ignorato;
     std::filesystem::remove(Percorso(file) += coda, ignorato);
   }
 }
 
-// Puts the bytes of a complete database in their place.
-using ScriviImmagine = std::function<std::error_code(const std::string& immagine)>;
+// Makes the file where there is none. False when another program has made one meanwhile: it stays,
+// and so do its logs, since no other of our programs makes one while this one looks.
+bool CreaFile(const Percorso& file, const BaseDati& nuova) {
+  const BloccoCartella blocco(file.parent_path());
+  if (!blocco.Preso()) throw ErroreEnciclopedia("un altro programma la sta facendo");
+  if (TrovaFile(file.parent_path(), file.filename())) return false;
+  TogliRegistri(file);
+  const std::error_code errore = ScriviFileNuovo(file, nuova.Immagine());
+  if (!errore) return true;
+  if (TrovaFile(file.parent_path(), file.filename())) return false;
+  throw ErroreEnciclopedia(Unisci("impossibile scriverla: ", DescrizioneErrore(errore)));
+}
 
-EsitoEnciclopedia Componi(std::vector<VoceDiLista> voci, const ProsegueOpera& prosegue,
-                          const ScriviImmagine& scrivi) {
+// Puts new contents into the file that is there. Never another file in its place: whoever has the
+// old one open would go on with it, and leave a log that is then played back over the new one.
+// False when it was broken off.
+bool SostituisciContenuto(const Percorso& file, const BaseDati& nuova,
+                          const ProsegueOpera& prosegue) {
+  BaseDati vecchia(file);
+  vecchia.TieniPerSe();
+  return vecchia.Ricevi(nuova, [&] { return !prosegue || prosegue(1); });
+}
+
+// Puts a complete database in its place; false when it was broken off.
+using MettiAlSuoPosto = std::function<bool(const BaseDati& nuova)>;
+
+EsitoEnciclopedia Fai(std::vector<VoceDiLista> voci, const ProsegueOpera& prosegue,
+                      const MettiAlSuoPosto& metti) {
   EsitoEnciclopedia esito;
   try {
-    const std::string immagine = ImmagineEnciclopedia(std::move(voci), prosegue, esito);
-    if (esito.interrotta) return {.errore = {}, .interrotta = true};
-    if (const auto errore = scrivi(immagine))
-      throw ErroreEnciclopedia(Unisci("impossibile scriverla: ", DescrizioneErrore(errore)));
+    BaseDati nuova;
+    const bool fatta = Componi(nuova, std::move(voci), prosegue, esito) && metti(nuova);
+    if (!fatta) return {.errore = {}, .interrotta = true};
   } catch (const ErroreEnciclopedia& errore) {
     return {.errore = errore.Descrizione()};
   }
@@ -125,21 +130,17 @@ EsitoEnciclopedia Componi(std::vector<VoceDiLista> voci, const ProsegueOpera& pr
 }  // namespace
 
 EsitoEnciclopedia ScriviEnciclopedia(std::vector<VoceDiLista> voci, const ProsegueOpera& prosegue) {
-  return Componi(std::move(voci), prosegue, [](const std::string& immagine) {
-    const Percorso nome = PercorsoNellaCartella(CartellaProgramma, NomeEnciclopedia);
-    RaccogliRegistro(nome);
-    TogliRegistro(nome);
-    return ScriviFile(nome, immagine);
+  return Fai(std::move(voci), prosegue, [&](const BaseDati& nuova) {
+    const Percorso file = PercorsoNellaCartella(CartellaProgramma, NomeEnciclopedia);
+    return CreaFile(file, nuova) || SostituisciContenuto(file, nuova, prosegue);
   });
 }
 
 EsitoEnciclopedia CreaEnciclopedia(const Percorso& cartella, std::vector<VoceDiLista> voci,
                                    const ProsegueOpera& prosegue) {
-  if (!TrovaFile(cartella, NomeEnciclopedia)) TogliRegistro(cartella / NomeEnciclopedia);
-  return Componi(std::move(voci), prosegue, [&](const std::string& immagine) {
-    const std::error_code errore = ScriviFileNuovo(cartella / NomeEnciclopedia, immagine);
-    const bool fattaDaAltri = errore && TrovaFile(cartella, NomeEnciclopedia);
-    return fattaDaAltri ? std::error_code() : errore;
+  return Fai(std::move(voci), prosegue, [&](const BaseDati& nuova) {
+    CreaFile(cartella / NomeEnciclopedia, nuova);
+    return true;
   });
 }
 

@@ -24,8 +24,8 @@ struct EsitoEnciclopedia {
 };
 
 /// Makes telarium1.mdb of the program folder anew: a row for each word, its clues in the order of
-/// the entries, one that is there already left out. The old file is replaced when the new one is
-/// complete, and not while another program is writing to it.
+/// the entries, one that is there already left out. The old contents are replaced in one step when
+/// the new ones are complete, and not while another program is writing to it.
 EsitoEnciclopedia ScriviEnciclopedia(std::vector<VoceDiLista> voci,
                                      const ProsegueOpera& prosegue = {});
 

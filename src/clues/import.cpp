@@ -53,21 +53,31 @@ std::optional<std::string> LeggiFileDefinizioni() {
   return std::nullopt;
 }
 
+struct EsitoImportazione {
+  ContoFusioni conto;
+  ContoErrori errori;
+};
+
 // A word that cannot be added counts all the same, and the run goes on.
 void UnisciCoppia(Enciclopedia& enciclopedia, std::string_view parola, std::string_view definizione,
-                  ContoFusioni& conto, Avanzamento& avanzamento) {
-  if (enciclopedia.CercaParola(parola)) return UnisciAllaRiga(enciclopedia, definizione, conto);
+                  EsitoImportazione& esito, Avanzamento& avanzamento) {
+  const Presenza presenza = PresenzaDi(enciclopedia, parola, definizione);
+  if (presenza == Presenza::ConDefinizione) return;
+  const int prima = esito.conto.parole;
   try {
-    enciclopedia.AggiungiParola(parola, definizione);
-  } catch (const ErroreEnciclopedia&) {
+    UnisciDefinizione(enciclopedia, parola, definizione, esito.conto);
+  } catch (const ErroreEnciclopedia& errore) {
+    if (presenza != Presenza::Assente) throw;
+    esito.errori.Aggiungi(errore);
+    ++esito.conto.parole;
     // The next word may fare better; who holds the file keeps the run waiting once.
     enciclopedia.NonAttendere();
   }
-  avanzamento.Aggiunta(++conto.parole, parola);
+  if (esito.conto.parole != prima) avanzamento.Aggiunta(esito.conto.parole, parola);
 }
 
-ContoFusioni UnisciCoppie(Enciclopedia& enciclopedia, std::string_view testo) {
-  ContoFusioni conto;
+EsitoImportazione UnisciCoppie(Enciclopedia& enciclopedia, std::string_view testo) {
+  EsitoImportazione esito;
   Avanzamento avanzamento;
   LettoreDiRighe righe(testo);
   // A last word without a line behind it is no pair.
@@ -76,31 +86,35 @@ ContoFusioni UnisciCoppie(Enciclopedia& enciclopedia, std::string_view testo) {
     parola = SenzaSpazi(parola);
     definizione = SenzaSpazi(definizione);
     if (CoppiaAmmessa(parola, definizione))
-      UnisciCoppia(enciclopedia, parola, definizione, conto, avanzamento);
+      UnisciCoppia(enciclopedia, parola, definizione, esito, avanzamento);
     avanzamento.Avanza();
   }
-  return conto;
+  return esito;
 }
 
 }  // namespace
 
-std::optional<std::string> ImportaDefinizioni() {
-  std::optional<std::string> rapporto;
+std::optional<RapportoDefinizioni> ImportaDefinizioni() {
+  std::optional<RapportoDefinizioni> rapporto;
   ConEnciclopedia([&] {
     const EnciclopediaAperta enciclopedia = ApriEnciclopedia();
     const Clessidra clessidra;
     const auto testo = LeggiFileDefinizioni();
     if (!testo) return;
-    rapporto = RapportoFusioni(
-        "Le definizioni prelevate dal file di Internet sono state salvate sull'enciclopedia con "
-        "successo.",
-        UnisciCoppie(*enciclopedia, *testo));
+    enciclopedia->IniziaSerie();
+    const auto [conto, errori] = UnisciCoppie(*enciclopedia, *testo);
+    rapporto = RapportoDefinizioni{
+        .testo = TestoFusioni("Le definizioni prelevate dal file di Internet sono state salvate "
+                              "sull'enciclopedia con successo.",
+                              conto),
+        .nonFatto =
+            errori.Testo("parola non è stata aggiunta"_cp, "parole non sono state aggiunte")};
   });
   return rapporto;
 }
 
 void Recupera_Definizioni() {
-  if (const auto rapporto = ImportaDefinizioni()) Avvisa(*rapporto);
+  if (const auto rapporto = ImportaDefinizioni()) Avvisa(rapporto->Intero());
 }
 
 }  // namespace telarium

@@ -19,14 +19,40 @@ struct ContoFusioni {
   int definizioni = 0;  // clues appended to rows that were there
 };
 
-/// Appends a clue to the easy family of the current row unless it occurs there, and counts it.
-void UnisciAllaRiga(Enciclopedia& enciclopedia, std::string_view definizione, ContoFusioni& conto);
+/// What the store has of a word and a clue.
+enum class Presenza { Assente, SenzaDefinizione, ConDefinizione };
+Presenza PresenzaDi(Enciclopedia& enciclopedia, std::string_view parola,
+                    std::string_view definizione);
 
-/// Adds a row for a word that has none, and counts it; else as UnisciAllaRiga.
+/// Adds a row for a word that has none; else appends the clue to the easy family of its first row,
+/// unless it occurs there. What was stored is counted. One step: two programs that merge at once
+/// double nothing.
 void UnisciDefinizione(Enciclopedia& enciclopedia, std::string_view parola,
                        std::string_view definizione, ContoFusioni& conto);
 
 /// The closing report of a run of merges: its first line, then the counts.
-std::string RapportoFusioni(std::string_view inizio, const ContoFusioni& conto);
+std::string TestoFusioni(std::string_view inizio, const ContoFusioni& conto);
+
+/// What a command on many clues has to say at its end.
+struct RapportoDefinizioni {
+  std::string testo;     // the report as it is told in any case
+  std::string nonFatto;  // what was not read or stored, and the cause; empty when all was
+
+  /// Both, for a message.
+  std::string Intero() const;
+};
+
+/// What failed in a run that goes on after an error: how often, and the first cause.
+class ContoErrori {
+ public:
+  void Aggiungi(const ErroreEnciclopedia& errore);
+
+  /// The number, `uno` or `molti` behind it, and the cause; empty without errors.
+  std::string Testo(std::string_view uno, std::string_view molti) const;
+
+ private:
+  int quanti_ = 0;
+  std::string causa_;
+};
 
 }  // namespace telarium

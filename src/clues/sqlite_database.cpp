@@ -14,6 +14,7 @@ namespace telarium {
 namespace {
 
 constexpr int AttesaDiAltri = 1000;  // milliseconds for which another program may hold the file
+constexpr int PaginePerVolta = 256;  // a megabyte: some milliseconds
 
 struct Scelta {
   int quale, valore;
@@ -43,6 +44,18 @@ constexpr Spiegazione spiegazioni[] = {
     {SQLITE_NOMEM, "memoria esaurita"},
     {SQLITE_CONSTRAINT, "il file non ammette questi dati"},
 };
+
+ErroreEnciclopedia::Specie SpecieDi(int codice) {
+  switch (codice & 0xFF) {
+    case SQLITE_BUSY:
+      return ErroreEnciclopedia::Specie::Occupata;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+      return ErroreEnciclopedia::Specie::Rovinata;
+    default:
+      return ErroreEnciclopedia::Specie::Altra;
+  }
+}
 
 // What an error of SQLite means; for the others in its own words, which are English.
 std::string Spiegata(int codice, const char* parole) {
@@ -81,14 +94,40 @@ BaseDati::~BaseDati() {
 }
 
 void BaseDati::Attesa(int millisecondi) {
+  attesa_ = millisecondi;
   sqlite3_busy_timeout(connessione_, millisecondi);
+}
+
+void BaseDati::TieniPerSe() {
+  Esegui("PRAGMA locking_mode = EXCLUSIVE");
+  try {
+    Esegui("BEGIN EXCLUSIVE; COMMIT");
+  } catch (const ErroreEnciclopedia& errore) {
+    if (errore.DiSpecie() != ErroreEnciclopedia::Specie::Rovinata) throw;
+    sqlite3_db_config(connessione_, SQLITE_DBCONFIG_RESET_DATABASE, 1, nullptr);
+    Esegui("BEGIN EXCLUSIVE; COMMIT");
+  }
+  Esegui("PRAGMA journal_mode = DELETE");
+}
+
+bool BaseDati::Ricevi(const BaseDati& altra, const std::function<bool()>& prosegue) {
+  sqlite3_backup* const copia =
+      sqlite3_backup_init(connessione_, "main", altra.connessione_, "main");
+  if (!copia) Fallisci();
+  int esito = SQLITE_OK;
+  bool interrotta = false;
+  while (esito == SQLITE_OK && !interrotta) {
+    interrotta = !prosegue();
+    if (!interrotta) esito = sqlite3_backup_step(copia, PaginePerVolta);
+  }
+  // The end takes back what is not complete, and is where a failed step is known to the connection.
+  if (sqlite3_backup_finish(copia) != SQLITE_OK) Fallisci();
+  return !interrotta;
 }
 
 void BaseDati::Fallisci() const {
   const int codice = sqlite3_extended_errcode(connessione_);
-  throw ErroreEnciclopedia(Spiegata(codice, sqlite3_errmsg(connessione_)),
-                           (codice & 0xFF) == SQLITE_BUSY ? ErroreEnciclopedia::Specie::Occupata
-                                                          : ErroreEnciclopedia::Specie::Altra);
+  throw ErroreEnciclopedia(Spiegata(codice, sqlite3_errmsg(connessione_)), SpecieDi(codice));
 }
 
 void BaseDati::Esegui(const char* sql) {

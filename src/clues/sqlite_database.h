@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,6 +31,16 @@ class BaseDati {
 
   /// How long an operation waits for another program that holds the file; at first a second.
   void Attesa(int millisecondi);
+  int Attesa() const { return attesa_; }
+
+  /// Takes the file for this connection alone, for as long as it lives: no other one may be within
+  /// a statement or keep a log open. What cannot be read as a database then counts as an empty one.
+  void TieniPerSe();
+
+  /// Takes over all that another database holds, in place of what is here, in one transaction: what
+  /// fails or ends in the middle of it leaves the old contents. False when `prosegue`, which is
+  /// asked now and then, has broken it off.
+  bool Ricevi(const BaseDati& altra, const std::function<bool()>& prosegue);
 
   /// Runs statements that give no rows.
   void Esegui(const char* sql);
@@ -49,6 +60,7 @@ class BaseDati {
   [[noreturn]] void Fallisci() const;
 
   sqlite3* connessione_ = nullptr;
+  int attesa_ = 0;
 };
 
 /// A prepared statement, which must not outlive its connection. Places of values count from 1,

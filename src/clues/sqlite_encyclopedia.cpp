@@ -1,4 +1,6 @@
+#include <chrono>
 #include <map>
+#include <thread>
 
 #include "clues/clue_family.h"
 #include "clues/encyclopedia.h"
@@ -39,18 +41,24 @@ class EnciclopediaSqlite : public Enciclopedia {
   explicit EnciclopediaSqlite(const Percorso& file)
       : base_(file),
         cerca_(base_,
-               "SELECT rowid FROM Parole WHERE PAROLA = ?1 COLLATE BINARY ORDER BY rowid LIMIT 1"),
+               "SELECT rowid, PAROLA FROM Parole WHERE PAROLA = ?1 COLLATE BINARY"
+               " ORDER BY rowid LIMIT 1"),
+        leggiCorrente_(base_,
+                       "SELECT DEFINIZ_FACILE, DEFINIZ_DIFFIC FROM Parole"
+                       " WHERE rowid = ?1 AND PAROLA IS ?2 COLLATE BINARY"),
         leggi_(base_, "SELECT PAROLA, DEFINIZ_FACILE, DEFINIZ_DIFFIC FROM Parole WHERE rowid = ?1"),
         inserisci_(base_,
                    "INSERT INTO Parole (PAROLA, DEFINIZ_FACILE, DEFINIZ_DIFFIC)"
                    " VALUES (?1, ?2, ?3)"),
         aggiungi_(base_,
                   "UPDATE Parole SET DEFINIZ_FACILE ="
-                  " coalesce(DEFINIZ_FACILE, '') || char(13, 10) || ?2 WHERE rowid = ?1") {
+                  " coalesce(DEFINIZ_FACILE, '') || char(13, 10) || ?3"
+                  " WHERE rowid = ?1 AND PAROLA IS ?2 COLLATE BINARY") {
     // With a log, this lets a commit return before the disk has it; the file stays sound.
     base_.Esegui("PRAGMA synchronous = NORMAL");
     Istruzione prima(base_,
-                     "SELECT rowid FROM Parole ORDER BY PAROLA COLLATE BINARY, rowid LIMIT 1");
+                     "SELECT rowid, PAROLA FROM Parole"
+                     " ORDER BY PAROLA COLLATE BINARY, rowid LIMIT 1");
     corrente_ = PrimaRiga(prima);
   }
 
@@ -70,22 +78,42 @@ class EnciclopediaSqlite : public Enciclopedia {
     return corrente_.has_value();
   }
 
-  std::optional<std::string> LeggiFacili() override { return LeggiRiga(RigaCorrente()).facili; }
-  std::optional<std::string> LeggiDifficili() override {
-    return LeggiRiga(RigaCorrente()).difficili;
-  }
+  std::optional<std::string> LeggiFacili() override { return LeggiCorrente(0); }
+  std::optional<std::string> LeggiDifficili() override { return LeggiCorrente(1); }
 
   void AggiungiParola(std::string_view parola, std::string_view definizione) override {
-    corrente_ = InserisciRiga({.parola = std::string(parola),
-                               .facili = std::string(definizione),
-                               .difficili = std::nullopt});
+    const NumeroRiga numero = InserisciRiga({.parola = std::string(parola),
+                                             .facili = std::string(definizione),
+                                             .difficili = std::nullopt});
+    corrente_ = {numero, AUtf8(parola)};
   }
 
   void ScriviFacili(std::string_view definizione) override {
     PreparaScrittura();
     // In the database itself, where no character is lost on the way through the code page.
-    aggiungi_.Lega(1, RigaCorrente()).Lega(2, definizione).Esegui();
+    LegaCorrente(aggiungi_).Lega(3, definizione).Esegui();
     VerificaTrovata();
+  }
+
+  void Insieme(const std::function<void()>& operazioni) override {
+    PreparaScrittura();
+    base_.Esegui("BEGIN IMMEDIATE");
+    try {
+      operazioni();
+      base_.Esegui("COMMIT");
+    } catch (...) {
+      RinunciaATutto();
+      throw;
+    }
+  }
+
+  void IniziaSerie() override {
+    try {
+      PreparaScrittura();
+    } catch (const ErroreEnciclopedia&) {
+      // The first write tells why; it may be that none is needed.
+      NonAttendere();
+    }
   }
 
   void NonAttendere() override { base_.Attesa(0); }
@@ -125,10 +153,15 @@ class EnciclopediaSqlite : public Enciclopedia {
     VerificaTrovata();
   }
 
-  void EliminaRiga(NumeroRiga numero) override {
-    PreparaScrittura();
-    Istruzione(base_, "DELETE FROM Parole WHERE rowid = ?1").Lega(1, numero).Esegui();
-    if (corrente_ == numero) corrente_.reset();
+  void EliminaRiga(const ChiaveRiga& riga) override {
+    Insieme([&] {
+      if (!leggi_.Lega(1, riga.numero).Passo()) return;
+      const std::string parola = leggi_.Testo(0).value_or("");
+      leggi_.Ricomincia();
+      if (parola != riga.parola) Mancante();
+      Istruzione(base_, "DELETE FROM Parole WHERE rowid = ?1").Lega(1, riga.numero).Esegui();
+    });
+    if (corrente_ && corrente_->numero == riga.numero) corrente_.reset();
   }
 
   NumeroRiga InserisciRiga(const ModificheRiga& modifiche) override {
@@ -140,11 +173,17 @@ class EnciclopediaSqlite : public Enciclopedia {
   }
 
  private:
-  static std::optional<NumeroRiga> PrimaRiga(Istruzione& ricerca) {
+  // The current row, with its word in UTF-8 as it is stored.
+  struct Corrente {
+    NumeroRiga numero;
+    std::optional<std::string> parola;
+  };
+
+  static std::optional<Corrente> PrimaRiga(Istruzione& ricerca) {
     if (!ricerca.Passo()) return std::nullopt;
-    const NumeroRiga numero = ricerca.Intero(0);
+    Corrente prima{ricerca.Intero(0), ricerca.TestoUtf8(1)};
     ricerca.Ricomincia();
-    return numero;
+    return prima;
   }
 
   static std::optional<std::string> Famiglia(const std::optional<std::string>& testo) {
@@ -159,9 +198,24 @@ class EnciclopediaSqlite : public Enciclopedia {
     if (base_.RigheCambiate() == 0) Mancante();
   }
 
-  NumeroRiga RigaCorrente() const {
+  Istruzione& LegaCorrente(Istruzione& istruzione) const {
     if (!corrente_) Mancante();
-    return *corrente_;
+    return istruzione.Lega(1, corrente_->numero).LegaUtf8(2, corrente_->parola);
+  }
+
+  std::optional<std::string> LeggiCorrente(int colonna) {
+    if (!LegaCorrente(leggiCorrente_).Passo()) Mancante();
+    auto testo = leggiCorrente_.Testo(colonna);
+    leggiCorrente_.Ricomincia();
+    return testo;
+  }
+
+  void RinunciaATutto() {
+    try {
+      base_.Esegui("ROLLBACK");
+    } catch (const ErroreEnciclopedia&) {
+      // Some errors have ended the transaction by themselves.
+    }
   }
 
   bool ConRegistro() {
@@ -170,15 +224,26 @@ class EnciclopediaSqlite : public Enciclopedia {
   }
 
   void PreparaScrittura() {
-    if (preparata_) return;
-    base_.Esegui("BEGIN IMMEDIATE; COMMIT");  // waits for another program, which the next does not
-    base_.Esegui("PRAGMA journal_mode = WAL");
-    preparata_ = true;
+    const auto inizio = std::chrono::steady_clock::now();
+    while (!preparata_) {
+      try {
+        base_.Esegui("BEGIN IMMEDIATE; COMMIT");  // waits for another program
+        base_.Esegui("PRAGMA journal_mode = WAL");
+        preparata_ = true;
+      } catch (const ErroreEnciclopedia& errore) {
+        // The second one does not wait, even for one that is only reading.
+        const auto passato = std::chrono::steady_clock::now() - inizio;
+        if (errore.DiSpecie() != ErroreEnciclopedia::Specie::Occupata ||
+            passato >= std::chrono::milliseconds(base_.Attesa()))
+          throw;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+      }
+    }
   }
 
   BaseDati base_;
-  Istruzione cerca_, leggi_, inserisci_, aggiungi_;
-  std::optional<NumeroRiga> corrente_;
+  Istruzione cerca_, leggiCorrente_, leggi_, inserisci_, aggiungi_;
+  std::optional<Corrente> corrente_;
   bool preparata_ = false;  // for writing
 };
 

@@ -1,13 +1,9 @@
 #include "dictionary/dictionary_writer.h"
 
 #include <algorithm>
-#include <chrono>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <thread>
 
 #include "platform/codepage.h"
-#include "platform/descriptor.h"
+#include "platform/folder_lock.h"
 
 namespace telarium {
 namespace {
@@ -86,21 +82,6 @@ std::string Immagine(const ListeDiParole& liste, const EsitoDizionario& esito,
   return immagine;
 }
 
-// Every writer of a folder uses the one name LESSICO.new, so only one of them writes at a time: the
-// others wait for it, within reason. False when it takes too long.
-bool BloccaCartella(const Percorso& cartella, Descrittore& aperta) {
-  constexpr std::chrono::milliseconds pausa{20};
-  constexpr int tentativi = 150;
-  aperta = Descrittore(::open(cartella.empty() ? "." : cartella.c_str(), O_RDONLY | O_CLOEXEC));
-  if (!aperta) return true;  // the writing will tell why
-  for (int i = 0; ::flock(aperta.Numero(), LOCK_EX | LOCK_NB) != 0; ++i) {
-    if (errno == ENOLCK || errno == ENOTSUP) return true;  // a file system without locks
-    if (i == tentativi) return false;
-    std::this_thread::sleep_for(pausa);
-  }
-  return true;
-}
-
 }  // namespace
 
 EsitoDizionario ScriviDizionario(
@@ -115,9 +96,9 @@ EsitoDizionario ScriviDizionario(
   ContaParole(liste, esito);
   if (const std::string eccesso = Eccesso(esito); !eccesso.empty()) return nonScritto(eccesso);
   const std::string immagine = Immagine(liste, esito, avanzamento);
-  Descrittore blocco;
-  if (!BloccaCartella(nome.parent_path(), blocco))
-    return nonScritto("un altro programma sta scrivendo nella stessa cartella");
+  // Every writer of a folder uses the one name LESSICO.new.
+  const BloccoCartella blocco(nome.parent_path());
+  if (!blocco.Preso()) return nonScritto("un altro programma sta scrivendo nella stessa cartella");
   const auto errore = ScriviFile(nome, immagine, Permanenza::SulDisco, "LESSICO.new");
   if (errore) return nonScritto(DescrizioneErrore(errore));
   return esito;

@@ -15,17 +15,25 @@
 namespace telarium::telar {
 namespace {
 
+// Whether all was done. What was not is told, and then there is no result.
+bool Riuscito(const std::optional<RapportoDefinizioni>& rapporto) {
+  if (rapporto && !rapporto->nonFatto.empty()) Avvisa(rapporto->nonFatto);
+  return rapporto && rapporto->nonFatto.empty();
+}
+
 // A report is a result, on one line: its last line break ends it.
-Stato StampaRapporto(const std::optional<std::string>& rapporto) {
-  if (!rapporto) return Stato::Fallito;
-  const std::string_view testo = *rapporto;
+Stato StampaRapporto(const std::optional<RapportoDefinizioni>& rapporto) {
+  if (!Riuscito(rapporto)) return Stato::Fallito;
+  const std::string_view testo = rapporto->testo;
   StampaCampi({SenzaInterruzioni(testo.substr(0, testo.find_last_not_of("\r\n") + 1))});
   return Stato::Fatto;
 }
 
+constexpr Opzione OpzioneVuoto = {"--vuoto", "",
+                                  "ammette liste senza definizioni: l'enciclopedia sarà vuota"};
+
 Stato EncCrea(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   std::vector<VoceDiLista> voci;
-  bool tutteTralasciate = false;
   for (const std::string& file : argomenti.liberi) {
     const auto lista = LeggiLista("lista di definizioni", file, MaxByteLista);
     if (!lista) return Stato::Fallito;
@@ -34,9 +42,8 @@ Stato EncCrea(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
       Avvisa(Unisci(TestoPercorso(file), ": righe tralasciate ", tralasciate, ", la prima è la "_cp,
                     prima, '.'));
     }
-    tutteTralasciate = voci.empty() && (tutteTralasciate || tralasciate > 0);
   }
-  if (tutteTralasciate) {  // files of another kind, by mistake
+  if (voci.empty() && !argomenti.Ha(OpzioneVuoto.nome)) {
     Avvisa("Nessuna definizione nelle liste: l'enciclopedia resta com'era.");
     return Stato::Fallito;
   }
@@ -60,7 +67,7 @@ Stato Preleva(const Argomenti& argomenti, PiattaformaConsole&) {
   const std::int16_t modo = ModoDa(argomenti.Valore("--modo", "1"));
   if (!Apri(argomenti.liberi[0])) return Stato::Fallito;
   const auto rapporto = PrelevaTutte(modo);
-  if (!rapporto || Scrivi(argomenti.liberi[1]) != Stato::Fatto) return Stato::Fallito;
+  if (!Riuscito(rapporto) || Scrivi(argomenti.liberi[1]) != Stato::Fatto) return Stato::Fallito;
   return StampaRapporto(rapporto);
 }
 
@@ -98,7 +105,7 @@ Stato Definizioni(const Argomenti& argomenti, PiattaformaConsole&) {
 std::vector<Comando> ComandiDefinizioni() {
   // clang-format off
   return {
-      {"enc-crea", "LISTA...", "", 1, QuantiSiVuole, {},
+      {"enc-crea", "LISTA...", "", 1, QuantiSiVuole, {OpzioneVuoto},
        "Fa l'enciclopedia da liste in UTF-8: parola, F o D, definizione, separate da TAB.",
        EncCrea},
       {"definizioni", "PAROLA", "", 1, 1, {},

@@ -46,8 +46,19 @@ Stato Cerca(const Argomenti& argomenti, PiattaformaConsole&) {
   return esito.dizionarioLetto ? Stato::Fatto : Stato::Fallito;
 }
 
+// A file that ends before its first word is cut off, unless it is the empty one of a private
+// dictionary that was just made. The scans take it for empty all the same.
+bool DizionarioTronco() {
+  std::error_code errore;
+  const auto byte = std::filesystem::file_size(PercorsoDizionario(), errore);
+  if (errore || byte == 0 || byte >= PrimaPosizione) return false;
+  Avvisa(Unisci("Il dizionario ", TestoPercorso(NomeDizionario), " è troncato: ha "_cp, byte,
+                " byte e ne richiede almeno ", PrimaPosizione, '.'));
+  return true;
+}
+
 Stato DizInfo(const Argomenti& argomenti, PiattaformaConsole&) {
-  if (!ApriDizionario(argomenti.liberi[0])) return Stato::Fallito;
+  if (!ApriDizionario(argomenti.liberi[0]) || DizionarioTronco()) return Stato::Fallito;
   for (int lunghezza = MinLunghezza; lunghezza <= MaxLunghezza; ++lunghezza) {
     StampaCampi({std::to_string(lunghezza),
                  std::to_string(OffsetLunghezza(lunghezza - MinLunghezza)),
@@ -73,6 +84,9 @@ Stato DizElenca(const Argomenti& argomenti, PiattaformaConsole&) {
   return Stato::Fatto;
 }
 
+constexpr Opzione OpzioneVuoto = {"--vuoto", "",
+                                  "ammette liste senza parole: il dizionario sarà vuoto"};
+
 Stato DizCrea(const Argomenti& argomenti, PiattaformaConsole&) {
   if (Percorso(argomenti.liberi[0]).filename().empty()) {
     throw ArgomentiErrati("NOME deve essere il nome di un file");
@@ -82,6 +96,12 @@ Stato DizCrea(const Argomenti& argomenti, PiattaformaConsole&) {
     const auto contenuto = LeggiLista("lista di parole", argomenti.liberi[i], MaxByteListaDiParole);
     if (!contenuto) return Stato::Fallito;
     AggiungiLista(*contenuto, liste);
+  }
+  const bool vuote = std::all_of(liste.begin(), liste.end(),
+                                 [](const std::vector<std::string>& una) { return una.empty(); });
+  if (vuote && !argomenti.Ha(OpzioneVuoto.nome)) {
+    Avvisa("Nessuna parola da 3 a 15 lettere nelle liste: il dizionario non è stato scritto."_cp);
+    return Stato::Fallito;
   }
   OrdinaListe(liste);
   AscoltaInterruzione();  // a file beside the dictionary must not be left
@@ -113,7 +133,7 @@ std::vector<Comando> ComandiDizionario() {
       {"diz-elenca", "NOME [LUNGHEZZA]", "", 1, 2, {},
        "Elenca le parole del dizionario.",
        DizElenca},
-      {"diz-crea", "NOME LISTA...", "", 2, QuantiSiVuole, {},
+      {"diz-crea", "NOME LISTA...", "", 2, QuantiSiVuole, {OpzioneVuoto},
        "Scrive il dizionario NOME da liste in UTF-8, una parola per riga.",
        DizCrea},
   };

@@ -175,7 +175,7 @@ TEST_F(BulkTest, ImportTakesStrangeFilesAsTheyAre) {
   EXPECT_EQ(Stored("C").size(), 10'000'000u);
 }
 
-TEST_F(BulkTest, ImportCountsAWordThatCannotBeAdded) {
+TEST_F(BulkTest, ImportCountsAWordThatCannotBeAddedAndTellsIt) {
   MakeStore("");
   {
     BaseDati other(InFolder("telarium1.mdb"));
@@ -183,7 +183,9 @@ TEST_F(BulkTest, ImportCountsAWordThatCannotBeAdded) {
     WriteFile("definizIONI.txt", "A\nx\nB\ny\n");
     Recupera_Definizioni();
   }
-  EXPECT_EQ(user.TakeTexts(), Texts{ImportReport(2, 0)});
+  EXPECT_EQ(user.TakeTexts(), Texts{ImportReport(2, 0) +
+                                    "2 parole non sono state aggiunte. Enciclopedia "
+                                    "telarium1.mdb: il file \xE8 occupato da un altro programma."});
   EXPECT_EQ(Stored("A"), "?");
 }
 

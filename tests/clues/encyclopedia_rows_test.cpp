@@ -181,5 +181,20 @@ TEST_F(EncyclopediaRows, AnErrorLeavesTheRowAndWhatWasSet) {
   EXPECT_EQ(Walk(), "[SOLE] ");
 }
 
+TEST_F(EncyclopediaRows, NothingIsWrittenToRowsOfAStoreThatWasMadeAnew) {
+  const EnciclopediaAperta open = ApriEnciclopedia();
+  ASSERT_TRUE(open->CercaParola("ARIA"));
+  MakeStore("ALTRA\tF\tx\nBOA\tF\ty\nCASA\tF\tz\n");
+  EXPECT_THROW(open->LeggiFacili(), ErroreEnciclopedia);
+  EXPECT_THROW(open->ScriviFacili("w"), ErroreEnciclopedia);
+  EXPECT_THROW(rows.Elimina(), ErroreEnciclopedia) << "it would be another word's row";
+  Set(CampoParole::Difficili, "w");
+  EXPECT_THROW(rows.Registra(), ErroreEnciclopedia);
+  rows.Annulla();
+  rows.Rileggi();
+  EXPECT_EQ(Walk(), "[ALTRA] BOA CASA ");
+  EXPECT_EQ(Stored("ALTRA") + Stored("ALTRA", true), "x-");
+}
+
 }  // namespace
 }  // namespace telarium

@@ -111,7 +111,7 @@ TEST_F(EncyclopediaTest, RowsComeAndGoByTheirNumbers) {
   const EnciclopediaAperta open = ApriEnciclopedia();
   const NumeroRiga row = open->InserisciRiga({});
   EXPECT_EQ(open->LeggiRiga(row).parola, "");
-  open->EliminaRiga(row);
+  open->EliminaRiga({row, ""});
   EXPECT_THROW(open->LeggiRiga(row), ErroreEnciclopedia);
   EXPECT_THROW(open->ScriviRiga(row, {.parola = "B", .facili = {}, .difficili = {}}),
                ErroreEnciclopedia);

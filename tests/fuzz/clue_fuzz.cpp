@@ -34,8 +34,8 @@ void TryStore(std::string_view input) {
   if (ScriviFile(CartellaProgramma / NomeFileDefinizioni, input, Permanenza::Provvisoria)) return;
   Verifica(ImportaDefinizioni().has_value(), "the import failed");
   const auto again = ImportaDefinizioni();
-  Verifica(again && again->find(" aggiunte 0 ") != std::string::npos &&
-               again->find(" aggiornate 0 ") != std::string::npos,
+  Verifica(again && again->testo.find(" aggiunte 0 ") != std::string::npos &&
+               again->testo.find(" aggiornate 0 ") != std::string::npos,
            "a second import changed the store");
   const auto keys = ApriEnciclopedia()->Chiavi();
   for (std::size_t i = 1; i < keys.size(); ++i)

@@ -13,7 +13,7 @@ class TelarClues : public Telar {
 
   void MakeStore(std::string_view list) {
     Write("list", list);
-    EXPECT_NE(Out("enc-crea list"), "");
+    EXPECT_NE(Out("enc-crea --vuoto list"), "");
   }
 };
 
@@ -38,7 +38,12 @@ TEST_F(TelarClues, EncyclopediaIsMadeAndShown) {
   EXPECT_EQ(Told("enc-crea other", 1),
             "other: righe tralasciate 2, la prima è la 1.\n"
             "Nessuna definizione nelle liste: l'enciclopedia resta com'era.\n");
+  Write("nothing", "");
+  EXPECT_EQ(Told("enc-crea nothing", 1),
+            "Nessuna definizione nelle liste: l'enciclopedia resta com'era.\n");
   EXPECT_EQ(Out("definizioni ORO"), "D\t\"Au\"\n") << "the old one stays";
+  EXPECT_EQ(Out("enc-crea nothing --vuoto"), "0\t0\n");
+  EXPECT_EQ(Told("definizioni ORO", 1), "");
   EXPECT_EQ(Names("program"), Words{"telarium1.mdb"});
 }
 

@@ -11,6 +11,8 @@ namespace {
 constexpr const char* ReadError = "Errore di lettura del file!\n";
 constexpr const char* WriteError = "Errore di scrittura del file!\n";
 constexpr const char* SizeError = "Formato del file non valido! Esecuzione terminata\n";
+constexpr const char* NoWords =
+    "Nessuna parola da 3 a 15 lettere nelle liste: il dizionario non è stato scritto.\n";
 constexpr const char* NoDictionary = "Errore fatale! non trovato file di vocabolario: ";
 
 TEST_F(Telar, CrosswordIsPrintedFieldByFieldAndCopiedToTheByte) {
@@ -192,8 +194,10 @@ TEST_F(Telar, OtherFailuresAreToldOnOneLineAndCostNothing) {
   MakeDictionary("AAAA\n");
   ASSERT_EQ(::mkfifo(InFolder("work/pipe").c_str(), 0600), 0);  // nobody at its other end
   Write("bad.dfc", "AB\r\nCDE\r\n-\r\n");
+  Write("unfit", "re\nn0\n");
   Write("huge", "");
   fs::resize_file(InFolder("work/huge"), 100'000'000);
+  WriteFile("program/short.dat", ReadFile(InFolder("program/LessicoItaliano.dat")).substr(0, 439));
   const std::string noCrossword = "Errore: Cruciverba  ";
   const std::pair<const char*, std::string> rows[] = {
       {"parole none", noCrossword + "none  Non trovato! Esecuzione terminata.\n"},
@@ -219,12 +223,18 @@ TEST_F(Telar, OtherFailuresAreToldOnOneLineAndCostNothing) {
       {"diz-crea LessicoItaliano.dat list none", "Non trovata la lista di parole: none\n"},
       {"diz-crea LessicoItaliano.dat folder", "Non trovata la lista di parole: folder\n"},
       {"diz-crea LessicoItaliano.dat huge", "Troppo grande la lista di parole: huge\n"},
+      {"diz-crea LessicoItaliano.dat unfit unfit", NoWords},
+      {"diz-crea New.dat unfit", NoWords},
+      {"diz-info short.dat",
+       "Il dizionario short.dat è troncato: ha 439 byte e ne richiede almeno 440.\n"},
   };
   for (const auto& [line, told] : rows) {
     SCOPED_TRACE(line);
     EXPECT_EQ(Told(line, 1), told);
   }
   EXPECT_EQ(Out("diz-elenca LessicoItaliano.dat"), "AAAA\n");
+  EXPECT_TRUE(Out("diz-crea --vuoto LessicoItaliano.dat unfit").starts_with("3\t0\n"));
+  EXPECT_EQ(Out("diz-elenca LessicoItaliano.dat"), "");
 }
 
 // With this one word every choice of the fill is forced, up to the last cell.
