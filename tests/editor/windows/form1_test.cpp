@@ -64,7 +64,7 @@ TEST_F(Form1Test, OpensACrosswordFromAPage) {
   user.AnswerText("nowhere");
   user.patient = false;
   QTest::keyClick(form.get(), Qt::Key_I, Qt::ControlModifier);
-  EXPECT_EQ(user.TakeTexts().size(), 2u);
+  EXPECT_EQ(user.TakeTexts().size(), 0u) << "broken off, which is no fault";
   EXPECT_TRUE(form->Voce("menurl").isEnabled() && form->Picture1->isVisible());
   EXPECT_EQ(EnabledButtons(), "Nuovo Apri ");
 
