@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -45,6 +46,45 @@ void Riempi(QListWidget& elenco, const std::string& famiglia) {
     voce->setData(Qt::UserRole, QByteArray(definizione.data(), qsizetype(definizione.size())));
   }
 }
+
+// A list that shows by its frame that it has the focus, also while it is empty. By the keyboard its
+// first entry can be taken at once.
+class ElencoTrovate : public QListWidget {
+ public:
+  explicit ElencoTrovate(QWidget* genitore) : QListWidget(genitore) {
+    const int altro = Spessore - frameWidth();
+    setViewportMargins(altro, altro, altro, altro);  // no entry lies below the frame
+  }
+
+ protected:
+  void focusInEvent(QFocusEvent* evento) override {
+    QListWidget::focusInEvent(evento);
+    const Qt::FocusReason motivo = evento->reason();
+    const bool daTastiera = motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason;
+    if (daTastiera && selectedItems().isEmpty())
+      setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
+    update();
+  }
+
+  void focusOutEvent(QFocusEvent* evento) override {
+    QListWidget::focusOutEvent(evento);
+    update();
+  }
+
+  bool event(QEvent* evento) override {
+    const bool accolto = QListWidget::event(evento);
+    if (evento->type() == QEvent::Paint && hasFocus()) {
+      QPainter pittore(this);
+      pittore.setPen(
+          QPen(palette().highlight(), Spessore, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+      pittore.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+    return accolto;
+  }
+
+ private:
+  static constexpr int Spessore = 2;  // of the frame, logical pixels
+};
 
 }  // namespace
 
@@ -93,7 +133,7 @@ void TelarDef::CreaDefinizione() {
 }
 
 QListWidget* TelarDef::CreaElenco(const QString& nome) {
-  auto* elenco = Chiamato(nome, new QListWidget(Frame4));
+  auto* elenco = Chiamato<QListWidget>(nome, new ElencoTrovate(Frame4));
   elenco->setUniformItemSizes(true);  // families may have thousands of clues
   elenco->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   elenco->setTextElideMode(Qt::ElideRight);  // the tip has the whole clue

@@ -1,6 +1,8 @@
 #include "clues/windows/rows_table.h"
 
+#include <QApplication>
 #include <QKeyEvent>
+#include <QTextLayout>
 #include <QTimer>
 
 #include "platform/codepage.h"
@@ -21,6 +23,27 @@ void AvvisaCaratteriSostituiti() {
 
 CampoParole CampoDellaColonna(int colonna) {
   return CampiParole.at(static_cast<std::size_t>(colonna));
+}
+
+// As much of a text as so many lines of a width take, wrapped at its words. The mark that more
+// follows is ours: Qt leaves lines out without one where the rest would fit beside the last line.
+QString InRighe(const QString& testo, const QFont& carattere, int larghezza, int righe) {
+  QTextLayout disposizione(testo, carattere);
+  disposizione.setTextOption(QTextOption(Qt::AlignLeft));
+  disposizione.beginLayout();
+  QTextLine ultima;
+  for (int riga = 0; riga < righe; ++riga) {
+    const QTextLine altra = disposizione.createLine();
+    if (!altra.isValid()) return testo;
+    ultima = altra;
+    ultima.setLineWidth(larghezza);
+  }
+  const bool altre = ultima.isValid() && disposizione.createLine().isValid();
+  disposizione.endLayout();
+  if (!altre) return testo;
+  const QString fine = testo.mid(ultima.textStart(), ultima.textLength()).trimmed();
+  return testo.left(ultima.textStart()) +
+         QFontMetrics(carattere).elidedText(fine + u'\u2026', Qt::ElideRight, larghezza);
 }
 
 QString InRigheQt(const std::string& testo) {
@@ -112,12 +135,17 @@ QWidget* EditorDiCelle::createEditor(QWidget* genitore, const QStyleOptionViewIt
   return aperto_;
 }
 
-// The text stands behind the pointer and is not selected: the first key must not cost the family.
+// A family stands before the pointer and is not selected: the first key must not cost it. A word
+// does not grow by what is typed, it is replaced.
 void EditorDiCelle::setEditorData(QWidget* editor, const QModelIndex& indice) const {
   auto& casella = static_cast<QPlainTextEdit&>(*editor);
   if (casella.document()->isModified()) return;  // the cell was only shown again
   Mostra(casella, indice.data(Qt::EditRole).toString());
-  casella.moveCursor(QTextCursor::End);
+  if (indice.column() == ColonnaParola) {
+    casella.selectAll();
+  } else {
+    casella.moveCursor(QTextCursor::End);
+  }
 }
 
 void EditorDiCelle::setModelData(QWidget* editor, QAbstractItemModel* modello,
@@ -175,6 +203,10 @@ void EditorDiCelle::initStyleOption(QStyleOptionViewItem* opzioni,
                                     const QModelIndex& indice) const {
   QStyledItemDelegate::initStyleOption(opzioni, indice);
   opzioni->displayAlignment = Qt::AlignLeft | Qt::AlignTop;
+  const QStyle& stile = *(opzioni->widget ? opzioni->widget->style() : QApplication::style());
+  const int margine = stile.pixelMetric(QStyle::PM_FocusFrameHMargin, opzioni, opzioni->widget) + 1;
+  opzioni->text = InRighe(opzioni->text, opzioni->font, opzioni->rect.width() - 2 * margine,
+                          opzioni->rect.height() / opzioni->fontMetrics.lineSpacing());
 }
 
 }  // namespace telarium

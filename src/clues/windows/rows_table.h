@@ -30,8 +30,9 @@ class ModelloRighe : public QAbstractTableModel {
   int mostrate_ = 0;  // rows of the table
 };
 
-/// Edits a cell in its place, in a box of several lines: Ctrl+Enter begins a new line, Enter
-/// confirms, Esc gives up. What was not touched is not set.
+/// Shows as many lines of a cell as its row has room for, the last one with an ellipsis where more
+/// follow. Edits a cell in its place, in a box of several lines: Ctrl+Enter begins a new line,
+/// Enter confirms, Esc gives up. What was not touched is not set.
 class EditorDiCelle : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;

@@ -31,6 +31,21 @@ QString Nota() {
       "essere personalizzato a piacere, separare le definizioni con un <Invio>.");
 }
 
+// The table over the browser of one word. That one goes first when the table is closed: were it to
+// go behind it, the keyboard could come to a window that is just going, and so to none.
+class TabellaSopra : public frmParole {
+ public:
+  explicit TabellaSopra(QWidget& sotto) : frmParole(sotto.parentWidget()), sotto_(sotto) {}
+
+  void done(int esito) override {
+    sotto_.hide();
+    frmParole::done(esito);
+  }
+
+ private:
+  QWidget& sotto_;
+};
+
 }  // namespace
 
 telariummdb::telariummdb(QWidget* genitore)
@@ -187,7 +202,7 @@ void telariummdb::MostraTabella() {
   });
   if (!lasciata) return;
   adoPrimaryRS.Chiudi();
-  frmParole(this).exec();
+  TabellaSopra(*this).exec();
   reject();
 }
 

@@ -61,6 +61,19 @@ class Browsers : public TelariumTest {
   RecordingWindow main;
 };
 
+// Does this when what it watches gets hidden.
+class AtHiding : public QObject {
+ public:
+  explicit AtHiding(std::function<void()> act) : act_(std::move(act)) {}
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Hide) act_();
+    return false;
+  }
+
+ private:
+  std::function<void()> act_;
+};
+
 const Texts Busy = {"Enciclopedia telarium1.mdb: il file \xE8 occupato da un altro programma."};
 
 template <class Window>
@@ -394,17 +407,31 @@ TEST_F(OneWord, OpensWithoutRowsWhenTheStoreIsMissing) {
 TEST_F(OneWord, GivesWayToTheTable) {
   Start();
   Append(1, u" sempre");
-  WhenOpen<frmParole>(*window, [](frmParole& table) {
+  bool wentFirst = false;
+  WhenOpen<frmParole>(*window, [&](frmParole& table) {
+    EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(table.grdDataGrid->model()->index(0, 1).data().toString(),
               QStringLiteral("Si respira sempre"));
+    AtHiding watch([&] { wentFirst = !window->isVisible(); });
+    table.installEventFilter(&watch);
     Click(table.cmdClose);
   });
   Click(window->Command1);
+  EXPECT_TRUE(wentFirst) << "else the keyboard comes to a window that is going";
   EXPECT_FALSE(window->isVisible());
   EXPECT_FALSE(fs::exists(InFolder("telarium1.mdb-wal")));
 }
 
 // --- The browser of all words ---
+
+// What the delegate of a table draws of a cell.
+class DrawnTexts : public EditorDiCelle {
+ public:
+  std::string Of(QStyleOptionViewItem option, const QModelIndex& cell) const {
+    initStyleOption(&option, cell);
+    return option.text.replace(QChar::LineSeparator, u'/').toStdString();
+  }
+};
 
 class AllWords : public Browser<frmParole> {
  protected:
@@ -516,9 +543,34 @@ TEST_F(AllWords, AddsInItsLastRow) {
   EXPECT_EQ(Shown(3), "bar|Ci si beve|");
   EXPECT_EQ(Grid().model()->rowCount(), 5);
   ClickCell(4, 1);
+  Grid().setFocus();
+  Type(*window, u"BIRRA");
+  Click(window->cmdFirst);
+  EXPECT_EQ(Stored("BIRRA"), "Ci si beve") << "what is typed takes the place of a word";
+  ClickCell(4, 1);
   Click(window->cmdDelete);
   EXPECT_EQ(Current().first, 3) << "the new last row";
   EXPECT_EQ(Grid().model()->rowCount(), 4);
+}
+
+TEST_F(AllWords, ARowThatIsCutShowsThatMoreFollows) {
+  ApriEnciclopedia()->AggiungiParola("ZOO", "Uno\r\nDue\r\nTre\r\nQuattro");
+  ApriEnciclopedia()->AggiungiParola("ZUPPA", "Uno\r\nDue\r\nTre");
+  Start();
+  QStyleOptionViewItem option;
+  option.widget = &Grid();
+  option.font = Grid().font();
+  option.fontMetrics = Grid().fontMetrics();
+  const auto drawn = [&](int row) {
+    const QModelIndex cell = Grid().model()->index(row, 1);
+    option.rect = Grid().visualRect(cell);
+    return DrawnTexts().Of(option, cell);
+  };
+  EXPECT_EQ(drawn(3), "Uno/Due/Tre\u2026");
+  EXPECT_EQ(drawn(4), "Uno/Due/Tre");
+  Behind("UPDATE Parole SET DEFINIZ_FACILE = replace(hex(zeroblob(500)), '0', 'abc de ')");
+  Click(window->cmdRefresh);
+  EXPECT_TRUE(drawn(3).ends_with("\u2026"));
 }
 
 TEST_F(AllWords, CancelDropsWhatIsBeingTyped) {

@@ -154,6 +154,9 @@ TEST_F(TelarDefTest, FindsTheCluesOfAWord) {
   TelarDef window(nullptr);
   Open(window);
   Click(window.Command1);  // a word with an empty cell
+  const QImage withoutFocus = window.List2->grab().toImage();
+  window.List2->setFocus();
+  EXPECT_NE(window.List2->grab().toImage(), withoutFocus) << "an empty list shows it too";
   window.Text2->setText(QStringLiteral("mela"));
   Click(window.Command1);
   EXPECT_EQ(Items(window.List1->model()), "Frutto|Cos\u00EC rossa|");
@@ -175,6 +178,8 @@ TEST_F(TelarDefTest, FindsTheCluesOfAWord) {
           "anche modificato/aggiornato con Microsoft Access. \r\nInfine se hai installato Word "
           "oppure se hai una connessione ad Internet puoi provare i 2 bottoni sottostanti."}));
 
+  window.List1->setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(window.List1->selectedItems().size(), 1) << "where the keyboard is shows";
   DoubleClickItem(*window.List1, 1);
   EXPECT_EQ(window.Text1->toPlainText(), QStringLiteral("Cos\u00EC rossa"));
   window.Text2->setText(QStringLiteral("ALE"));
