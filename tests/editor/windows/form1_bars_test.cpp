@@ -1,3 +1,4 @@
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTest>
@@ -12,6 +13,32 @@ namespace {
 
 constexpr int WhiteCellButton = 16;
 constexpr int BlackCellButton = 17;
+
+// The entries of a menu bar or menu with their keys, one a line, those below each one indented.
+void Tell(const QWidget& menu, const QString& indent, QString& text) {
+  for (const QAction* entry : menu.actions()) {
+    QString line = entry->isSeparator() ? QStringLiteral("-") : entry->text();
+    if (!entry->shortcut().isEmpty())
+      line += QStringLiteral(" [%1]").arg(entry->shortcut().toString());
+    if (!entry->isVisible()) line += QStringLiteral(" (hidden)");
+    text += indent + line + u'\n';
+    if (entry->menu()) Tell(*entry->menu(), indent + QStringLiteral("  "), text);
+  }
+}
+
+TEST_F(Form1Test, MenusAndToolbarSayWhatTheyDo) {
+  Start();
+  QString text;
+  Tell(*form->menuBar(), {}, text);
+  for (int number = 1; number <= NumPulsanti; ++number) {
+    const QAction& button = form->Toolbar1->Pulsante(number);
+    text += QStringLiteral("%1 %2\n").arg(number).arg(button.isSeparator() ? QStringLiteral("-")
+                                                                           : button.toolTip());
+  }
+  EXPECT_EQ(FirstDifference(text.toStdString(),
+                            ReadFile(TELARIUM_SOURCE_DIR "/tests/editor/windows/bars.txt")),
+            "");
+}
 
 int EndOfButtons(const BarraStrumenti& bar) {
   int end = 0;
