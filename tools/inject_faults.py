@@ -48,6 +48,7 @@ class Fault:
     changed: str
     was: str
     shown: str
+    code: str  # its first line
 
     @property
     def folder(self):
@@ -55,8 +56,8 @@ class Fault:
 
     @property
     def judgement(self):
-        """How the file of judgements names this fault, wherever in its source it stands."""
-        return f"{self.path} {self.kind}: {self.was} -> {self.shown}"
+        """How the file of judgements names this fault, wherever in its source the line stands."""
+        return f"{self.path}: {self.code} | {self.kind}: {self.was} -> {self.shown}"
 
     def __str__(self):
         return f"{self.number:4} {self.path}:{self.line} {self.kind}: {self.was} -> {self.shown}"
@@ -76,8 +77,9 @@ def faults_of(path):
             continue
         # As many lines as before, so that the compiler's messages tell the place.
         changed = re.sub(r"\s*\n\s*", " ", place.changed) + "\n" * was.count("\n")
-        yield Fault(0, path, source.line_of(place.start), place.kind, place.start, place.end,
-                    changed, one_line(was), one_line(place.shown) or "(left out)")
+        line = source.line_of(place.start)
+        yield Fault(0, path, line, place.kind, place.start, place.end, changed, one_line(was),
+                    one_line(place.shown) or "(left out)", source.line_text(line))
 
 
 def candidates(folders):
@@ -126,7 +128,7 @@ def choose(found, count, chance):
 
 
 def judgements():
-    """What is no fault, and why: two lines each, the fault and indented its reason."""
+    """What is no fault, and why."""
     lines = [line for line in JUDGED.read_text(encoding="utf-8").splitlines()
              if line and not line.startswith("#")]
     return {fault: reason.strip() for fault, reason in zip(lines[::2], lines[1::2])}
@@ -229,7 +231,10 @@ def report(outcomes):
     harmless = [fault for fault in survivors if fault.judgement in judged]
     missed = [fault for fault in survivors if fault.judgement not in judged]
     real = [(fault, outcome) for fault, outcome in outcomes if fault not in harmless]
-    print("\n" + table(real), "\nNot caught:", *missed, "\nNo faults:", sep="\n")
+    print("\n" + table(real), "\nNot caught:", sep="\n")
+    for fault in missed:
+        print(f"{fault}\n       in {fault.code}")
+    print("\nNo faults:")
     for fault in harmless:
         print(f"{fault}\n       {judged[fault.judgement]}")
     caught = len(real) - len(missed)

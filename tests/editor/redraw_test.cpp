@@ -148,12 +148,12 @@ TEST_F(RedrawTest, DrawsWithoutABorderAboveTheMiddleAndWhateverStandsInACell) {
 }
 
 TEST_F(RedrawTest, HidesLettersOnlyWhenToldTo) {
-  Draw({"AB#", "..."});
+  Draw({"AB#C", "...."});
   NascondiSoluzioni = Vero;
-  EXPECT_EQ(CallsOf("Scrivi"), (std::vector<std::string>{"1", "2", "3"}));
+  EXPECT_EQ(CallsOf("Scrivi"), (std::vector<std::string>{"1", "2", "3", "4"}));
   EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "AB") << "the tables are complete all the same";
   NascondiSoluzioni = Falso;
-  EXPECT_EQ(CallsOf("Scrivi"), (std::vector<std::string>{"A", "B", "1", "2", "3"}));
+  EXPECT_EQ(CallsOf("Scrivi"), (std::vector<std::string>{"A", "B", "C", "1", "2", "3", "4"}));
 }
 
 TEST_F(RedrawTest, StaysSafeWithAnySettingsAndAnyWindow) {

@@ -108,6 +108,17 @@ TEST_F(ExtractionTest, LettersAndCluesOfWordsGoAndTheSnapshotHoldsTheNewOnes) {
   EXPECT_NE(ReadFile(PercorsoIstantanea()).find(rows), std::string::npos);
 }
 
+TEST_F(ExtractionTest, ReachesTheLastRowAndColumnOfTheLargestGrid) {
+  std::vector<std::string> rows(MaxRighe, std::string(MaxColonne, '#'));
+  for (int i = 0; i < 4; ++i)
+    rows[MaxRighe - 1][MaxColonne - 1 - i] = rows[MaxRighe - 1 - i][MaxColonne - 1] = 'X';
+  Draw(rows);
+  OpenDictionary({"ROSA"});
+  Run();
+  EXPECT_EQ(Drawing().back().substr(MaxColonne - 5), "#ROSA");
+  EXPECT_EQ(ParolaCasella(MaxColonne, MaxRighe - 3, Verticale), "ROSA");
+}
+
 TEST_F(ExtractionTest, DeadEndsAreTold) {
   struct Row {
     const char* drawing;

@@ -25,12 +25,29 @@ void CheckNames(const QWidget& widget, std::set<QString>& names) {
   }
 }
 
+void CheckPlaces(const QWidget& widget) {
+  if (qobject_cast<const QAbstractScrollArea*>(&widget)) return;
+  std::vector<const QWidget*> shown;
+  for (const QObject* child : widget.children()) {
+    const auto* control = qobject_cast<const QWidget*>(child);
+    if (!control || !control->isVisible() || control->isWindow()) continue;
+    EXPECT_TRUE(widget.rect().contains(control->geometry()))
+        << control->objectName().toStdString() << " is cut off";
+    for (const QWidget* other : shown)
+      EXPECT_FALSE(control->geometry().intersects(other->geometry()))
+          << control->objectName().toStdString() << " and " << other->objectName().toStdString();
+    shown.push_back(control);
+    if (widget.layout() && control->layout()) CheckPlaces(*control);
+  }
+}
+
 }  // namespace
 
 void ExpectNamedControls(const QWidget& window) {
   std::set<QString> names;
   CheckNames(window, names);
   EXPECT_FALSE(names.empty());
+  if (window.isVisible() && window.layout()) CheckPlaces(window);
 }
 
 std::string TabOrder(QWidget& window) {

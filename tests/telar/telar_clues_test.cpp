@@ -71,6 +71,14 @@ TEST_F(TelarClues, CluesGoFromTheEncyclopediaAndIntoIt) {
   }
 }
 
+TEST_F(TelarClues, TheStoreOfTheUsersOwnFolderIsUsedAsItIs) {
+  MakeStore("ORA\tF\tmia\n");
+  fs::create_directory(InFolder("home/telarium"));
+  fs::rename(InFolder("program/telarium1.mdb"), InFolder("home/telarium/telarium1.mdb"));
+  call.environment.back() = "XDG_DATA_HOME=" + InFolder("home").string();
+  EXPECT_EQ(Out("definizioni ora"), "F\tmia\n");
+}
+
 TEST_F(TelarClues, ImportThatIsKilledLeavesAStoreWithWhatItHadAdded) {
   MakeStore("");
   EXPECT_EQ(Told("importa-definizioni", 1),

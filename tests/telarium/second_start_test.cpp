@@ -77,6 +77,7 @@ TEST_F(DesktopTest, HandsTheFileOfASecondStartToTheFirst) {
       [&] { return first->readAllStandardError().contains("fino alla prima immagine"); },
       Patience));
   EXPECT_TRUE(fs::exists(InFolder(".telarium.lock")));
+  EXPECT_FALSE(fs::exists(InFolder("telarium1.mdb"))) << "made in the user's own folder alone";
 
   const auto second = Start({QStringLiteral("due.tlrm")});
   End(*second);

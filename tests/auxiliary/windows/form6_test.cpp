@@ -20,6 +20,9 @@ TEST_F(Form6Test, LeadsToTheConfiguredPage) {
   EXPECT_FALSE(window.Label2->cursor().pixmap().isNull()) << "the hand is a picture";
   EXPECT_TRUE(window.Label1->text().endsWith(QStringLiteral("ai dati di Microsoft.")));
   EXPECT_EQ(TabOrder(window), "Command1 Label2 ");
+  QTest::mouseClick(window.Label2, Qt::RightButton);
+  QTest::mousePress(window.Label2, Qt::LeftButton);  // and let go beside it
+  QTest::mouseRelease(window.Label2, Qt::LeftButton, {}, QPoint(-5, -5));
   QTest::mouseClick(window.Label2, Qt::LeftButton);
   window.Label2->setFocus();
   QTest::keyClick(window.Label2, Qt::Key_Return);

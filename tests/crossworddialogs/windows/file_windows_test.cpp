@@ -122,12 +122,12 @@ TEST_F(FileWindows, TheListsMoveTogether) {
 
   const int drive = window.Drive1->currentIndex();
   EXPECT_GE(drive, 0);
-  window.Drive1->addItem(QStringLiteral("X"), QByteArray("/nowhere"));
-  window.Drive1->setCurrentIndex(window.Drive1->count() - 1);
-  emit window.Drive1->activated(window.Drive1->count() - 1);
+  window.Drive1->insertItem(0, QStringLiteral("X"), QByteArray("/nowhere"));
+  window.Drive1->setCurrentIndex(0);
+  emit window.Drive1->activated(0);
   EXPECT_EQ(user.TakeTexts(), Texts{"Errore di lettura dal drive specificato"});
   EXPECT_EQ(window.Dir1->Cartella(), archive);
-  EXPECT_EQ(window.Drive1->currentIndex(), drive);
+  EXPECT_EQ(window.Drive1->currentIndex(), drive + 1) << "the folder's own, whatever comes before";
   EXPECT_EQ(window.File1->count(), 2);
 }
 

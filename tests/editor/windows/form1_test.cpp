@@ -45,6 +45,16 @@ TEST_F(Form1Test, OffersOnlyWhatCanBeDoneWithoutACrossword) {
   EXPECT_TRUE(form->Picture1->isVisible());
 }
 
+TEST_F(Form1Test, ShowsTheSplashThatFitsTheScreen) {
+  for (const int width : {30, 40}) {
+    const Percorso name = width == 30 ? "TELARIUMA.jpg" : "telariumb.JPG";
+    ASSERT_TRUE(QImage(width, 20, QImage::Format_RGB32)
+                    .save(QString::fromStdString(InFolder(name).string()), "JPG"));
+  }
+  Start();
+  EXPECT_EQ(form->Picture1->width(), form->screen()->size().width() < 700 ? 30 : 40);
+}
+
 TEST_F(Form1Test, OffersTheCommandsOfThisProgramOnceThereIsACrossword) {
   StartWith({"CASA", "....", "#..#"});
   EXPECT_EQ(EnabledButtons(),
@@ -166,6 +176,16 @@ TEST_F(Form1Test, KeepsTheEditButtonPressedBehindEachButtonOfTheToolbar) {
   form->Voce("menuRidisegna").trigger();
   EXPECT_TRUE(form->Command3d15->isHidden());
   EXPECT_EQ(ModoGriglia, 1);
+}
+
+TEST_F(Form1Test, TheButtonsWithAMenuOpenIt) {
+  StartWith({"CASA"});
+  for (const auto& [button, menu] : {std::pair(8, "Menuhtml"), std::pair(22, "menuCompila")}) {
+    ClickButton(button);
+    QWidget* open = QApplication::activePopupWidget();
+    EXPECT_EQ(open, form->Voce(menu).menu());
+    if (open) open->close();
+  }
 }
 
 TEST_F(Form1Test, DrawsWhatItsModalWindowsSet) {
