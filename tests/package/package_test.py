@@ -90,8 +90,8 @@ class Package(unittest.TestCase):
         self.assertEqual(releases[0], version)
         needed = re.split(r"[ ,]+", field("Depends"))
         for name in ("libqt6widgets6", "libqt6svg6", "libqt6printsupport6", "libqt6network6",
-                     "libcurl4", "libsqlite3-0", "fonts-liberation", "qt6-translations-l10n",
-                     "ca-certificates", "xdg-utils"):
+                     "libcurl4", "libsqlite3-0", "fonts-liberation", "fonts-dejavu-core",
+                     "qt6-translations-l10n", "ca-certificates", "xdg-utils"):
             self.assertIn(name, needed)
 
     def test_hands_the_lists_on_and_never_the_store(self):
@@ -180,6 +180,13 @@ class Package(unittest.TestCase):
             self.assertTrue((icons / "scalable" / (name + ".svg")).exists(), name)
             self.assertEqual(len(list(icons.glob(f"*x*/{name}.png"))), 7, name)
         self.assertEqual(run("desktop-file-validate", entry), "")
+
+    def test_a_software_centre_can_show_it(self):
+        described = self.usr / "share/metainfo/telarium.metainfo.xml"
+        run("appstreamcli", "validate", "--no-net", described)
+        run("appstreamcli", "validate-tree", "--no-net", self.folder / "root")
+        release = xml.etree.ElementTree.parse(described).find("releases/release")
+        self.assertEqual(release.get("version"), run("dpkg-deb", "-f", self.package, "Version").strip())
 
     def test_man_pages_name_every_command_and_option(self):
         pages = {name: self.usr / f"share/man/man1/{name}.1.gz" for name in ("telar", "telarium")}
