@@ -44,7 +44,7 @@ bool ParolaAccettata(std::string_view testo, int lunghezza) {
 }
 
 void AvvisaDefinizioneNonScrivibile() {
-  Avvisa("La definizione contiene caratteri che il file del cruciverba non può tenere."_cp);
+  Avvisa("La definizione contiene caratteri che il file del cruciverba non può contenere."_cp);
 }
 
 std::string ParolaDaCercare(std::string_view testo) {

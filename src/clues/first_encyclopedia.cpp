@@ -84,7 +84,7 @@ bool MancaEnciclopedia(const Percorso& installati, const Percorso& cartella) {
 bool PreparaEnciclopedia(const Percorso& installati, const Percorso& cartella) {
   std::unique_ptr<Attesa> attesa = ChiUsa().IniziaAttesa(
       "Preparazione dell'enciclopedia delle definizioni: succede solo al primo avvio.\n"
-      "Se la interrompi, Telarium va avanti senza e riprova al prossimo avvio.");
+      "Se viene interrotta, Telarium va avanti senza e riprova al prossimo avvio.");
   Cadenza cadenza;
   const EsitoEnciclopedia esito = FaiDalleListe(installati, cartella, [&](double parte) {
     return !cadenza.Scaduta() || attesa->ProsegueFino(parte);

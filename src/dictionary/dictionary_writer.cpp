@@ -48,8 +48,8 @@ std::string Eccesso(const EsitoDizionario& esito) {
   for (std::size_t l = 0; l < esito.parole.size(); ++l) {
     const int lunghezza = MinLunghezza + static_cast<int>(l);
     if (esito.parole[l] > MaxParole) {
-      return Unisci(esito.parole[l], " parole di ", lunghezza,
-                    " lettere, e ne sono ammesse al massimo ", MaxParole);
+      return Unisci(ConMigliaia(esito.parole[l]), " parole di ", lunghezza,
+                    " lettere, e ne sono ammesse al massimo ", ConMigliaia(MaxParole));
     }
     posizione += std::int64_t{esito.parole[l]} * lunghezza;
   }

@@ -252,6 +252,11 @@ class Aggiornamento {
   std::vector<CopiaFallita> falliti_;
 };
 
+// The encyclopedia of a build tree's data, and its log: never exchanged below one that has grown.
+bool DellEnciclopedia(const Percorso& nome) {
+  return nome.string().starts_with("telarium1.mdb");
+}
+
 // An unreadable folder has been told when it was to be copied from.
 std::vector<Percorso> NomiInstallati(const Percorso& installati) {
   std::vector<Percorso> nomi;
@@ -261,7 +266,7 @@ std::vector<Percorso> NomiInstallati(const Percorso& installati) {
     const Percorso nome = voce->path().lexically_relative(installati);
     if (FileNascosto(nome.filename()) || nome == CartellaListeInstallate) {
       voce.disable_recursion_pending();
-    } else if (FileOrdinario(voce->path())) {
+    } else if (FileOrdinario(voce->path()) && !DellEnciclopedia(nome)) {
       nomi.push_back(nome);
     }
   }

@@ -27,7 +27,7 @@ std::int64_t Argomenti::Numero(std::string_view opzione, std::int64_t minimo,
   if (!Ha(opzione)) return altrimenti;
   const auto numero = NumeroIntero(Valore(opzione));
   if (!numero || *numero < minimo) {
-    throw ArgomentiErrati(std::string(opzione) + " vuole un numero intero da " +
+    throw ArgomentiErrati(std::string(opzione) + " richiede un numero intero da " +
                           std::to_string(minimo) + " in su");
   }
   return *numero;

@@ -60,7 +60,7 @@ std::int16_t ModoDa(const std::string& valore) {
   if (valore == "1") return ModoTutte;
   if (valore == "2") return ModoFacili;
   if (valore == "3") return ModoDifficili;
-  throw ArgomentiErrati("--modo vuole 1, 2 o 3");
+  throw ArgomentiErrati("--modo richiede 1, 2 o 3");
 }
 
 Stato Preleva(const Argomenti& argomenti, PiattaformaConsole&) {
@@ -106,7 +106,7 @@ std::vector<Comando> ComandiDefinizioni() {
   // clang-format off
   return {
       {"enc-crea", "LISTA...", "", 1, QuantiSiVuole, {OpzioneVuoto},
-       "Fa l'enciclopedia da liste in UTF-8: parola, F o D, definizione, separate da TAB.",
+       "Crea l'enciclopedia da liste in UTF-8: parola, F o D, definizione, separate da TAB.",
        EncCrea},
       {"definizioni", "PAROLA", "", 1, 1, {},
        "Mostra le definizioni facili (F) e difficili (D) di una parola.",

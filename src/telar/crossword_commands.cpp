@@ -64,7 +64,7 @@ EsitoNuovo NuovoConDimensioni(const std::string& dimensioni) {
   const auto righe =
       NumeroIntero(per == std::string::npos ? std::string() : dimensioni.substr(per + 1));
   if (!colonne || !righe) {
-    throw ArgomentiErrati("--dimensioni vuole colonne e righe, per esempio 15x13");
+    throw ArgomentiErrati("--dimensioni richiede colonne e righe, per esempio 15x13");
   }
   // The dialog's field takes numbers of any size; what matters of a large one is that it is too
   // large.
@@ -111,7 +111,7 @@ Risposta RispostaAlVicoloCieco(const std::string& valore) {
   if (valore == "si") return Risposta::Si;
   if (valore == "no") return Risposta::No;
   if (valore == "annulla") return Risposta::Annulla;
-  throw ArgomentiErrati("--vicolo-cieco vuole si, no o annulla");
+  throw ArgomentiErrati("--vicolo-cieco richiede si, no o annulla");
 }
 
 Stato Estrai(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
@@ -158,7 +158,7 @@ std::vector<Comando> ComandiCruciverba() {
        Copia},
       {"nuovo", "USCITA", " --dimensioni CxR | --modello N", 1, 1,
        {{"--dimensioni", "CxR", "colonne per righe, da 3x3 a 53x30"},
-        {"--modello", "N", "il modello numero N, da 1, in luogo delle dimensioni"},
+        {"--modello", "N", "il modello numero N, da 1, al posto delle dimensioni"},
         {"--modelli", "FILE.dfc", "il file dei modelli (STANDARD.dfc della cartella programma)"}},
        "Scrive un cruciverba nuovo, vuoto o da un modello.",
        Nuovo},

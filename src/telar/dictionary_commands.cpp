@@ -33,7 +33,7 @@ void StampaParola(std::string_view parola) {
 Stato Cerca(const Argomenti& argomenti, PiattaformaConsole&) {
   const std::string maschera = MascheraDa(argomenti.liberi[0]);
   if (!LunghezzaAmmessa(static_cast<int>(maschera.size()))) {
-    throw ArgomentiErrati("la maschera vuole da 3 a 15 caratteri");
+    throw ArgomentiErrati("la maschera richiede da 3 a 15 caratteri");
   }
   if (argomenti.liberi[0].find(' ') != std::string::npos) {
     throw ArgomentiErrati("la maschera non ammette spazi: i posti liberi sono \".\" o \"_\"");

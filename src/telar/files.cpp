@@ -2,6 +2,7 @@
 
 #include "editor/redraw.h"
 #include "model/crossword_file.h"
+#include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
 
@@ -12,11 +13,11 @@ namespace {
 std::string_view Motivo(EsitoLettura esito) {
   switch (esito) {
     case EsitoLettura::Assente:
-      return "Non trovata la ";
+      return " non è stata trovata: "_cp;
     case EsitoLettura::TroppoGrande:
-      return "Troppo grande la ";
+      return " è troppo grande: "_cp;
     default:
-      return "Impossibile leggere la ";
+      return " non si può leggere: "_cp;
   }
 }
 
@@ -41,7 +42,7 @@ std::optional<std::string> LeggiLista(std::string_view nomeDellaLista, const Per
   std::string contenuto;
   const EsitoLettura esito = LeggiFile(file, massimo, contenuto);
   if (esito == EsitoLettura::Letto) return contenuto;
-  Avvisa(Unisci(Motivo(esito), nomeDellaLista, ": ", TestoPercorso(file)));
+  Avvisa(Unisci("La ", nomeDellaLista, Motivo(esito), TestoPercorso(file)));
   return std::nullopt;
 }
 

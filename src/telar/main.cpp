@@ -19,7 +19,7 @@ constexpr Opzione OpzioneCartella = {"--cartella", "CARTELLA", "la cartella prog
 constexpr Opzione OpzioneAiuto = {"--help", "", "mostra questo aiuto"};
 constexpr Opzione OpzioneVersione = {"--version", "", "mostra la versione"};
 constexpr const char* NotaEnciclopedia =
-    "\nSe nella cartella dell'utente manca l'enciclopedia, la fa prima dalle liste installate.\n";
+    "\nSe nella cartella dell'utente manca l'enciclopedia, la crea prima dalle liste installate.\n";
 
 void Aggiungi(std::string& testo, std::initializer_list<std::string_view> parti) {
   for (const std::string_view parte : parti)
@@ -107,7 +107,7 @@ SceltaCartella ScegliCartella(const Argomenti& argomenti) {
   SceltaCartella scelta;
   if (argomenti.Ha(OpzioneCartella.nome)) {
     const Percorso nominata = argomenti.Valore(OpzioneCartella.nome);
-    if (nominata.empty()) throw ArgomentiErrati("--cartella vuole il nome di una cartella");
+    if (nominata.empty()) throw ArgomentiErrati("--cartella richiede il nome di una cartella");
     std::error_code errore;
     scelta.cartella = std::filesystem::absolute(nominata, errore);
   } else {
@@ -123,7 +123,7 @@ bool PreparaEnciclopediaMancante() {
   if (!MancaEnciclopedia(installati, CartellaProgramma)) return true;
   AscoltaInterruzione();
   Avvisa(
-      "L'enciclopedia delle definizioni non c'è ancora: viene fatta dalle liste installate, una "
+      "L'enciclopedia delle definizioni non c'è ancora: viene creata dalle liste installate, una "
       "volta sola."_cp);
   return PreparaEnciclopedia(installati, CartellaProgramma);
 }

@@ -42,7 +42,7 @@ Stato ScriviPagina(const Argomenti& argomenti, const char* nomeIniziale, const s
 std::int16_t ModoDa(const std::string& valore) {
   if (valore == "1") return PaginaPerIlBrowser;
   if (valore == "2") return PaginaPerWord;
-  throw ArgomentiErrati("--modo vuole 1 o 2");
+  throw ArgomentiErrati("--modo richiede 1 o 2");
 }
 
 Stato Html(const Argomenti& argomenti, PiattaformaConsole&) {

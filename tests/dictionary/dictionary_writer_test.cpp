@@ -106,7 +106,7 @@ TEST_F(DictionaryWriterTest, FailuresAreToldAndLeaveTheOldFile) {
   };
   WriteFile(file, "the old file");
   EXPECT_EQ(Write({Words{}, NumberedWords(32768, 4)}),
-            refused("32768 parole di 4 lettere, e ne sono ammesse al massimo 32767"));
+            refused("32.768 parole di 4 lettere, e ne sono ammesse al massimo 32.767"));
   {
     const FileSizeLimit limit(450);
     EXPECT_EQ(Write({Words{}, {"CASA"}}), refused(std::string("il file è troppo grande"_cp)));

@@ -55,11 +55,14 @@ TEST_F(InstalledData, UnchangedFilesFollowEachPackageAndWhatTheUserOwnsDoesNot) 
   }
   for (const char* name : {"telarium.INI", "indirizzi.txt", "Archivio/uno.tlrm"})
     WriteFile(Percorso("mia") / name, "mio");
+  WriteFile("dati/telarium1.mdb", "di un albero di compilazione");
+  WriteFile("mia/telarium1.mdb", "mio");
   std::filesystem::remove(InFolder("mia/TIPS.txt"));
   Install("nuova edizione");
   EXPECT_TRUE(Start().empty());
   EXPECT_EQ(OwnOf("nuova edizione"), (std::vector<Percorso>{"A.dat", "TIPS.txt"}));
   EXPECT_EQ(Own("Archivio/uno.tlrm"), "mio");
+  EXPECT_EQ(Own("telarium1.mdb"), "mio");
   EXPECT_FALSE(std::filesystem::exists(InFolder("mia/clues")));
 }
 

@@ -33,7 +33,7 @@ TEST_F(TelarClues, EncyclopediaIsMadeAndShown) {
   EXPECT_EQ(Out("definizioni zia"), "F\tSorella di papà\nF\tParente\nD\tHa nipoti\n");
   EXPECT_EQ(Out("definizioni ORO"), "D\t\"Au\"\n");
   EXPECT_EQ(Told("definizioni argento", 1), "");
-  EXPECT_EQ(Told("enc-crea manca a", 1), "Non trovata la lista di definizioni: manca\n");
+  EXPECT_EQ(Told("enc-crea manca a", 1), "La lista di definizioni non è stata trovata: manca\n");
   Write("other", "no list\nat all\n");
   EXPECT_EQ(Told("enc-crea other", 1),
             "other: righe tralasciate 2, la prima è la 1.\n"

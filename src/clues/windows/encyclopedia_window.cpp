@@ -259,8 +259,7 @@ bool FinestraEnciclopedia::LasciaModo() {
   if (!InBottone([&] { scritto = adoPrimaryRS.Sospesa(); })) return false;
   if (!scritto) return true;
   switch (ChiUsa().MostraMessaggio(
-      {.testo = std::string("La riga non è stata aggiornata. Vuoi salvarla?"_cp),
-       .pulsanti = Pulsanti::SiNoAnnulla})) {
+      {.testo = "Ci sono modifiche non salvate: salvarle?", .pulsanti = Pulsanti::SiNoAnnulla})) {
     case Risposta::Si:
       return InBottone([this] { adoPrimaryRS.Registra(); });
     case Risposta::No:

@@ -18,7 +18,7 @@ constexpr int RigheEditor = 5;                    // lines of text, at least
 constexpr int ColonnaParola = 0;
 
 void AvvisaCaratteriSostituiti() {
-  Avvisa("I caratteri che l'enciclopedia non può tenere sono diventati \"?\"."_cp);
+  Avvisa("I caratteri che l'enciclopedia non può contenere sono diventati \"?\"."_cp);
 }
 
 CampoParole CampoDellaColonna(int colonna) {

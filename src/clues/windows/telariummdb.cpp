@@ -156,7 +156,7 @@ void telariummdb::PrendiDatiScritti() {
     const auto esatto = DaQtEsatto(scritto);
     if (!esatto) {
       txtFields[i]->setFocus();
-      throw ErroreEnciclopedia("ci sono caratteri che non può tenere"_cp);
+      throw ErroreEnciclopedia("ci sono caratteri che non può contenere"_cp);
     }
     adoPrimaryRS.Imposta(campi[i], *esatto);
   }

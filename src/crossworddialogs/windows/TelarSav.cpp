@@ -78,7 +78,7 @@ void TelarSav::CambiataCartella() {
 void TelarSav::Conferma() {
   const auto autore = DaQtEsatto(Text2->text());
   if (!autore) {
-    Avvisa("I dati autore contengono caratteri che il file del cruciverba non può tenere."_cp);
+    Avvisa("I dati autore contengono caratteri che il file del cruciverba non può contenere."_cp);
     return Text2->setFocus();
   }
   if (SalvaNellArchivio(Dir1->Cartella(), Text1->Nome(), *autore)) accept();

@@ -317,8 +317,8 @@ TEST_F(Form4Test, RefusedAndFailedRebuildsLeaveTheOldFile) {
   List(8).Aggiungi(NumberedWords(33'000, 8));  // of which the import brought all but 800
   Rebuild();
   EXPECT_EQ(user.TakeTexts().at(1),
-            "Impossibile scrivere il dizionario LessicoItaliano.dat: 33000 parole di 8 lettere, e "
-            "ne sono ammesse al massimo 32767.");
+            "Impossibile scrivere il dizionario LessicoItaliano.dat: 33.000 parole di 8 lettere, e "
+            "ne sono ammesse al massimo 32.767.");
   EXPECT_EQ(ReadFile(PercorsoDizionario()), before);
   EXPECT_EQ(Enabled(), "13548672");
 }
