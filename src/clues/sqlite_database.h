@@ -87,16 +87,34 @@ class Istruzione {
   Istruzione& LegaUtf8(int posto, const std::optional<std::string>& utf8);
   std::optional<std::string> TestoUtf8(int colonna) const;
 
-  /// Lets go of a row before the end; the statement is ready to run again.
-  void Ricomincia();
-
   /// Columns of the row.
   std::optional<std::string> Testo(int colonna) const;
   std::int64_t Intero(int colonna) const;
 
  private:
+  friend class PrimaRiga;
+  void Ricomincia();  // lets go of a row before the end
+
   BaseDati& base_;
   sqlite3_stmt* istruzione_ = nullptr;
+};
+
+/// The first row of a statement, if it gives one. Whatever ends its use, an error too, the
+/// statement is ready to run again then, and holds nothing of the file.
+class PrimaRiga {
+ public:
+  explicit PrimaRiga(Istruzione& istruzione)
+      : istruzione_(istruzione), presente_(istruzione.Passo()) {}
+  ~PrimaRiga() { istruzione_.Ricomincia(); }
+  PrimaRiga(const PrimaRiga&) = delete;
+  PrimaRiga& operator=(const PrimaRiga&) = delete;
+
+  explicit operator bool() const { return presente_; }
+  const Istruzione* operator->() const { return &istruzione_; }
+
+ private:
+  Istruzione& istruzione_;
+  bool presente_;
 };
 
 }  // namespace telarium

@@ -59,7 +59,7 @@ class EnciclopediaSqlite : public Enciclopedia {
     Istruzione prima(base_,
                      "SELECT rowid, PAROLA FROM Parole"
                      " ORDER BY PAROLA COLLATE BINARY, rowid LIMIT 1");
-    corrente_ = PrimaRiga(prima);
+    corrente_ = Trovata(prima);
   }
 
   ~EnciclopediaSqlite() override {
@@ -74,7 +74,7 @@ class EnciclopediaSqlite : public Enciclopedia {
   bool CercaParola(std::string_view parola) override {
     VerificaCercabile(parola);
     cerca_.Lega(1, parola);
-    corrente_ = PrimaRiga(cerca_);
+    corrente_ = Trovata(cerca_);
     return corrente_.has_value();
   }
 
@@ -128,10 +128,9 @@ class EnciclopediaSqlite : public Enciclopedia {
   }
 
   RigaParole LeggiRiga(NumeroRiga numero) override {
-    if (!leggi_.Lega(1, numero).Passo()) Mancante();
-    RigaParole riga{leggi_.Testo(0).value_or(""), leggi_.Testo(1), leggi_.Testo(2)};
-    leggi_.Ricomincia();
-    return riga;
+    const PrimaRiga riga(leggi_.Lega(1, numero));
+    if (!riga) Mancante();
+    return {riga->Testo(0).value_or(""), riga->Testo(1), riga->Testo(2)};
   }
 
   void ScriviRiga(NumeroRiga numero, const ModificheRiga& modifiche) override {
@@ -143,22 +142,25 @@ class EnciclopediaSqlite : public Enciclopedia {
                       " DEFINIZ_DIFFIC = iif(?6, ?7, DEFINIZ_DIFFIC) WHERE rowid = ?1");
     scrivi.Lega(1, numero);
     scrivi.Lega(2, modifiche.parola.has_value()).Lega(3, modifiche.parola);
-    if (!leggi_.Lega(1, numero).Passo()) Mancante();
-    scrivi.Lega(4, modifiche.facili.has_value());
-    scrivi.LegaUtf8(5, ConOriginali(Famiglia(modifiche.facili), leggi_.TestoUtf8(1)));
-    scrivi.Lega(6, modifiche.difficili.has_value());
-    scrivi.LegaUtf8(7, ConOriginali(Famiglia(modifiche.difficili), leggi_.TestoUtf8(2)));
-    leggi_.Ricomincia();
+    {
+      const PrimaRiga riga(leggi_.Lega(1, numero));
+      if (!riga) Mancante();
+      scrivi.Lega(4, modifiche.facili.has_value());
+      scrivi.LegaUtf8(5, ConOriginali(Famiglia(modifiche.facili), riga->TestoUtf8(1)));
+      scrivi.Lega(6, modifiche.difficili.has_value());
+      scrivi.LegaUtf8(7, ConOriginali(Famiglia(modifiche.difficili), riga->TestoUtf8(2)));
+    }
     scrivi.Esegui();
     VerificaTrovata();
   }
 
   void EliminaRiga(const ChiaveRiga& riga) override {
     Insieme([&] {
-      if (!leggi_.Lega(1, riga.numero).Passo()) return;
-      const std::string parola = leggi_.Testo(0).value_or("");
-      leggi_.Ricomincia();
-      if (parola != riga.parola) Mancante();
+      {
+        const PrimaRiga adesso(leggi_.Lega(1, riga.numero));
+        if (!adesso) return;
+        if (adesso->Testo(0).value_or("") != riga.parola) Mancante();
+      }
       Istruzione(base_, "DELETE FROM Parole WHERE rowid = ?1").Lega(1, riga.numero).Esegui();
     });
     if (corrente_ && corrente_->numero == riga.numero) corrente_.reset();
@@ -179,11 +181,10 @@ class EnciclopediaSqlite : public Enciclopedia {
     std::optional<std::string> parola;
   };
 
-  static std::optional<Corrente> PrimaRiga(Istruzione& ricerca) {
-    if (!ricerca.Passo()) return std::nullopt;
-    Corrente prima{ricerca.Intero(0), ricerca.TestoUtf8(1)};
-    ricerca.Ricomincia();
-    return prima;
+  static std::optional<Corrente> Trovata(Istruzione& ricerca) {
+    const PrimaRiga prima(ricerca);
+    if (!prima) return std::nullopt;
+    return Corrente{prima->Intero(0), prima->TestoUtf8(1)};
   }
 
   static std::optional<std::string> Famiglia(const std::optional<std::string>& testo) {
@@ -204,10 +205,9 @@ class EnciclopediaSqlite : public Enciclopedia {
   }
 
   std::optional<std::string> LeggiCorrente(int colonna) {
-    if (!LegaCorrente(leggiCorrente_).Passo()) Mancante();
-    auto testo = leggiCorrente_.Testo(colonna);
-    leggiCorrente_.Ricomincia();
-    return testo;
+    const PrimaRiga riga(LegaCorrente(leggiCorrente_));
+    if (!riga) Mancante();
+    return riga->Testo(colonna);
   }
 
   void RinunciaATutto() {

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <new>
 #include <thread>
 
 #include "clues/clue_family.h"
@@ -230,6 +231,21 @@ TEST(ClueFamily, SpezzatestoKeepsAThousand) {
   spezzatesto(text);
   EXPECT_EQ(text, "0");
   EXPECT_EQ(ElencoDefinizioni(1) + ElencoDefinizioni(1000), "");
+}
+
+TEST(Statement, LetsGoOfItsRowWhateverEndsItsUse) {
+  BaseDati base;
+  base.Esegui("CREATE TABLE T (N); INSERT INTO T VALUES (1), (2), (3)");
+  Istruzione from(base, "SELECT N FROM T WHERE N >= ?1 ORDER BY N");
+  try {
+    const PrimaRiga row(from.Lega(1, 1));
+    throw std::bad_alloc();
+  } catch (const std::bad_alloc&) {
+  }
+  base.Esegui("DROP TABLE T; CREATE TABLE T (N); INSERT INTO T VALUES (4)");
+  const PrimaRiga row(from.Lega(1, 2));
+  ASSERT_TRUE(row);
+  EXPECT_EQ(row->Intero(0), 4);
 }
 
 TEST(ClueList, AnswerIsFoundAsAWordOfItsOwn) {
