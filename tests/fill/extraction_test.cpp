@@ -266,6 +266,14 @@ TEST_F(ExtractionTest, ShortLinesOfSchemaAreFilledToo) {
   EXPECT_EQ(user.TakeTexts().size(), 2u);
 }
 
+TEST_F(ExtractionTest, AnEmptyDictionaryAnsweredYesThroughoutGivesRandomLetters) {
+  OpenDictionary({});
+  DrawJoined("..... .#.#. .....");
+  user.AnswerAllDeadEnds(Risposta::Si);
+  EXPECT_EQ(LettersHidden(Run(), "????? ?#?#? ?????"), "????? ?#?#? ?????");
+  EXPECT_EQ(user.TakeTexts().size(), 2u) << "for five letters, not for three";
+}
+
 TEST_F(ExtractionTest, WordsOfNoLettersLeaveACrosswordThatCanBeSaved) {
   DrawJoined(".... ####");
   std::string image(455, '\0');

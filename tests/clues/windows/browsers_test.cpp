@@ -159,6 +159,7 @@ TEST_F(OneWord, TakesItsKeysFromEveryControlWhileItBrowses) {
   window->txtFields[1]->setFocus();
   for (const int key : {Qt::Key_Down, Qt::Key_Escape, Qt::Key_End})
     Key(*window, key);
+  Key(*window, Qt::Key_Down, Qt::ControlModifier);
   EXPECT_EQ(Status(*window), "Modifica il record");
   EXPECT_TRUE(window->isVisible());
   Type(*window, u"!");
@@ -582,6 +583,9 @@ TEST_F(AllWords, CancelDropsWhatIsBeingTyped) {
   Click(window->cmdCancel);
   EXPECT_EQ(Current(), (std::pair{1, 2})) << "always the first row";
   EXPECT_EQ(Shown(1), "CASA|Abitazione/Dimora|");
+  Click(window->cmdAdd, window->cmdEdit, window->cmdCancel);
+  EXPECT_EQ(Current(), (std::pair{1, 1})) << "also from the row for new entries";
+  EXPECT_EQ(Status(*window), "Record: 1");
   Key(*window, Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(Stored("CASA"), "Abitazione\r\nDimora");

@@ -103,6 +103,12 @@ TEST_F(TelarBroTest, ListsTheWordsOverTheWholeScreen) {
   EXPECT_EQ(TabOrder(*window), "Text1 Text2 Command1 Command2 Command3d1 Command3d2 Gitter1 ");
 }
 
+TEST_F(TelarBroTest, TheFirstWordMayBeAVerticalOne) {
+  Draw({"C#SI#", "A####", "SOLE#"});
+  Show();
+  EXPECT_EQ(Rows(), (Texts{"1-V CAS ", "2-O SI ", "3-O SOLE "}));
+}
+
 TEST_F(TelarBroTest, EveryWayOpensTheRowInBoxesOverIt) {
   Show();
   const std::function<void()> ways[] = {
@@ -203,6 +209,10 @@ TEST_F(TelarBroTest, EachSearchShowsItsOwnClues) {
     const EnciclopediaAperta store = ApriEnciclopedia();
     store->InserisciRiga({.parola = "SOLE", .facili = "Astro\tdel d\xEC", .difficili = "\r\n"});
     store->InserisciRiga({.parola = "CAS", .facili = {}, .difficili = {}});
+    std::string hundred;
+    for (int n = 1; n <= 100; ++n)
+      hundred += std::to_string(n) + "\r\n";
+    store->InserisciRiga({.parola = "LE", .facili = hundred, .difficili = "Articolo"});
   }
   Show();
   DoubleClick(5, 1);
@@ -215,6 +225,11 @@ TEST_F(TelarBroTest, EachSearchShowsItsOwnClues) {
   window->Menud1.at(1)->trigger();
   EXPECT_EQ(window->Text2->text(), QStringLiteral("Ha (forse) un tetto & muri"));
   EXPECT_EQ(Definizione(1, 1, Orizzontale), "Ci si abita") << "not before the row is confirmed";
+  DoubleClick(4, 1);
+  Click(window->Command2);
+  EXPECT_TRUE(Popup().ends_with("99-(Facile) 99|100-(Facile) 100|101-(Diffic) Articolo|"));
+  window->Menud1.back()->trigger();
+  EXPECT_EQ(window->Text2->text(), QStringLiteral("Articolo"));
   DoubleClick(1, 1);
   QTest::keyClick(window.get(), Qt::Key_C, Qt::AltModifier);
   EXPECT_EQ(Popup(), "Nessuna definizione (greyed)|");

@@ -103,6 +103,16 @@ TEST_F(TelarDefTest, AcceptsWordAndClueAndLeavesTheGridAlone) {
   EXPECT_EQ(NumVociDizionari, 0);
 }
 
+TEST_F(TelarDefTest, AnEmptyClueAndAnEmptyCellAreAccepted) {
+  TelarDef window(nullptr);
+  Open(window);
+  window.Text2->setText(QStringLiteral(".ELA"));
+  window.Text1->clear();
+  QTest::keyClick(window.Text1, Qt::Key_Enter);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale) + '|' + Definizione(1, 1, Orizzontale), ".ELA|");
+}
+
 TEST_F(TelarDefTest, RefusedWordsAndCluesStayInTheWindow) {
   TelarDef window(nullptr);
   Open(window);
@@ -182,6 +192,9 @@ TEST_F(TelarDefTest, FindsTheCluesOfAWord) {
   EXPECT_EQ(window.List1->selectedItems().size(), 1) << "where the keyboard is shows";
   DoubleClickItem(*window.List1, 1);
   EXPECT_EQ(window.Text1->toPlainText(), QStringLiteral("Cos\u00EC rossa"));
+  window.Text2->setText(QStringLiteral("AS"));
+  Click(window.Command1);
+  EXPECT_EQ(Items(window.List1->model()), "Carta|") << "two letters are enough";
   window.Text2->setText(QStringLiteral("ALE"));
   Click(window.Command1);
   EXPECT_EQ(Items(window.List1->model()), "|") << "a family without clues is one empty entry";
@@ -244,6 +257,9 @@ TEST_F(TelarDefTest, OtherDictionariesAreSearchedFromAPopup) {
   EXPECT_EQ(NomeDizionario, "LessicoItaliano.dat");
   EXPECT_EQ(ContaLunghezza(1), 2);
   window.menudizionari->close();
+  Click(window.Command3D4);
+  EXPECT_EQ(Items(window.Combo1->model()), "MELA|MOLA|") << "and then the open one as before";
+  EXPECT_EQ(LeggiParola(1, 4), "MELA");
 }
 
 TEST_F(TelarDefTest, AsksWordTheDictionariesOnlineAndItsOwnHelp) {

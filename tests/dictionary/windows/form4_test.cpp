@@ -4,6 +4,7 @@
 #include <QLayout>
 
 #include "dictionary/dictionary.h"
+#include "editor/commands.h"
 #include "platform/codepage.h"
 #include "support/numbered_words.h"
 #include "support/telarium_test.h"
@@ -139,6 +140,8 @@ TEST_F(Form4Test, TheOpenDictionaryIsSelectedAtTheStartAndCanBeRead) {
   window = std::make_unique<Form4>(nullptr);
   Open(*window);
   EXPECT_EQ(window->File2->Scelto(), "mio.priv");
+  CambiaLingua(4);  // which a private one counts as
+  EXPECT_EQ(NomeDizionario, "mio.priv");
   EXPECT_TRUE(window->File2->hasFocus());
   EXPECT_FALSE(window->Command4->isEnabled()) << "a rebuild would empty it";
   OpenFile(*window->File2, QStringLiteral("mio.priv"));
@@ -359,6 +362,10 @@ TEST_F(Form4Test, PrivateDictionariesAreMadeOpenedAndDeleted) {
   EXPECT_EQ(std::filesystem::file_size(InFolder("nuovo.priv")), 0u);
   EXPECT_EQ(Shown(4) + Count(4), "");
   EXPECT_EQ(window->File2->count(), 2);
+  Rebuild();  // of no words at all
+  EXPECT_EQ(window->Label3->text(), QStringLiteral("Dizionario riscritto correttamente"));
+  EXPECT_EQ(std::filesystem::file_size(InFolder("nuovo.priv")), 455u);
+  EXPECT_EQ(OnDisk(3), Words{});
   Add(QStringLiteral("uva"));
   EXPECT_EQ(Count(3), "(1) Parole");
   Rebuild();
