@@ -68,9 +68,17 @@ def one_line(text, most=90):
     return text if len(text) <= most else text[:most - 3] + "..."
 
 
-def faults_of(path):
+def read_tree():
+    """All files that a build needs, as they are now: they may change while this works."""
+    listed = subprocess.run(["git", "ls-files", "-z", "-co", "--exclude-standard", *COPIED],
+                            cwd=ROOT, check=True, capture_output=True).stdout
+    return {path: (ROOT / path).read_bytes() for path in listed.decode().split("\0")
+            if path and (ROOT / path).is_file()}
+
+
+def faults_of(path, content):
     """Every fault that a source could have."""
-    source = Source((ROOT / path).read_text(encoding="utf-8"))
+    source = Source(content.decode("utf-8"))
     for place in all_places(source):
         was = source.text[place.start:place.end]
         if any(m.group()[:2] in ("//", "/*", 'R"') for m in NO_CODE.finditer(was)):
@@ -82,13 +90,13 @@ def faults_of(path):
                     one_line(place.shown) or "(left out)", source.line_text(line))
 
 
-def candidates(folders):
+def candidates(files, folders):
     """The possible faults by folder and kind."""
+    wanted = tuple(f"src/{folder.strip('/')}/" for folder in folders) or ("src/",)
     found = collections.defaultdict(lambda: collections.defaultdict(list))
-    for file in sorted((ROOT / "src").rglob("*.cpp")):
-        path = str(file.relative_to(ROOT))
-        for fault in faults_of(path):
-            if not folders or any(fault.path.startswith(f"src/{f.strip('/')}/") for f in folders):
+    for path in sorted(files):
+        if path.endswith(".cpp") and path.startswith(wanted):
+            for fault in faults_of(path, files[path]):
                 found[fault.folder][fault.kind].append(fault)
     return found
 
@@ -137,22 +145,18 @@ def judgements():
 class Tree:
     """The copy of the sources that the faults are written into, and its build."""
 
-    def __init__(self, scratch, jobs):
+    def __init__(self, files, scratch, jobs):
+        self.files = files
         self.sources = scratch / "tree"
         self.build_folder = scratch / "tree" / "build"
         self.jobs = jobs
 
     def write(self, faults):
-        """Copies what differs, with the faults in it."""
+        """Writes what differs, with the faults in it."""
         by_path = collections.defaultdict(list)
         for fault in faults:
             by_path[fault.path].append(fault)
-        listed = subprocess.run(["git", "ls-files", "-z", "-co", "--exclude-standard", *COPIED],
-                                cwd=ROOT, check=True, capture_output=True).stdout
-        for path in filter(None, listed.decode().split("\0")):
-            if not (ROOT / path).is_file():
-                continue
-            content = (ROOT / path).read_bytes()
+        for path, content in self.files.items():
             if path in by_path:
                 content = with_faults(content.decode("utf-8"), by_path[path]).encode("utf-8")
             target = self.sources / path
@@ -261,11 +265,12 @@ def arguments():
 
 def main():
     args = arguments()
-    faults = choose(candidates(args.folder), args.count * SPARE, random.Random(args.seed))
+    files = read_tree()
+    faults = choose(candidates(files, args.folder), args.count * SPARE, random.Random(args.seed))
     if args.list:
         print(*faults, sep="\n")
         return
-    tree = Tree(args.scratch.resolve(), args.jobs)
+    tree = Tree(files, args.scratch.resolve(), args.jobs)
     faults = build_with(tree, faults)[:args.count]
     (args.scratch / "faults.json").write_text(
         json.dumps([dataclasses.asdict(f) for f in faults], indent=1), encoding="utf-8")
