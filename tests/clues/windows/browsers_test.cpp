@@ -191,7 +191,7 @@ TEST_F(OneWord, StoresWhatWasTypedWhenTheRowIsLeft) {
   Append(1, u"\n\u00C8 nell'aria \u03B1");
   Click(window->cmdNext);
   EXPECT_EQ(user.TakeTexts(),
-            Texts{"Enciclopedia telarium1.mdb: ci sono caratteri che non pu\xF2 tenere."});
+            Texts{"Enciclopedia telarium1.mdb: ci sono caratteri che non pu\xF2 contenere."});
   EXPECT_EQ(Status(*window), "Record: 1") << "the row is not left";
   QTest::keyClick(&Family(1), Qt::Key_Backspace);
   Click(window->cmdNext);

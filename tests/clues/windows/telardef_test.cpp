@@ -125,7 +125,8 @@ TEST_F(TelarDefTest, RefusedWordsAndCluesStayInTheWindow) {
              "gli spazi."},
         Case{u"M3LA", u"x", letters}, Case{u"M\u00C8LA", u"x", letters},
         Case{u"MELA", u"x \u2192 y",
-             "La definizione contiene caratteri che il file del cruciverba non pu\xF2 tenere."}}) {
+             "La definizione contiene caratteri che il file del cruciverba non pu\xF2 "
+             "contenere."}}) {
     window.Text2->setText(QString::fromUtf16(word));
     window.Text1->setPlainText(QString::fromUtf16(clue));
     Click(window.Command3d1);
