@@ -52,8 +52,8 @@ bool ApriDizionario() {
     OffsetLunghezza(lunghezza - MinLunghezza) = inizio;
     ContaLunghezza(lunghezza - MinLunghezza) = (fine - inizio) / lunghezza;
   }
-  if (!file.Aperto()) AvvisaDizionarioIlleggibile();
-  return file.Aperto();
+  if (!file.Leggibile()) AvvisaDizionarioIlleggibile();
+  return file.Leggibile();
 }
 
 std::string LeggiParola(std::int16_t numero, int lunghezza) {
@@ -61,7 +61,7 @@ std::string LeggiParola(std::int16_t numero, int lunghezza) {
   std::string parola(static_cast<std::size_t>(lunghezza), ' ');
   const std::int64_t inizio = OffsetLunghezza(lunghezza - MinLunghezza);
   file.Leggi(inizio + (std::int64_t{numero} - 1) * lunghezza, parola.data(), parola.size());
-  return parola;
+  return file.Leggibile() ? parola : std::string();
 }
 
 bool DizionarioLeggibile() {

@@ -60,8 +60,8 @@ Percorso PercorsoDizionario();
 /// one that cannot be read shows a message, counts as empty and gives false.
 bool ApriDizionario();
 
-/// Word number n, from 1, of a length: always that many characters. What the file does not hold
-/// comes as blanks.
+/// Word number n, from 1, of a length: that many characters, of which those that the file does not
+/// hold are blanks. Empty when the file cannot be read.
 std::string LeggiParola(std::int16_t numero, int lunghezza);
 
 /// Whether the open dictionary's file is there and can be read.

@@ -16,6 +16,7 @@ std::size_t FileDizionario::Leggi(std::int64_t posizione, char* destinazione,
     const ssize_t n = ::pread(descrittore_.Numero(), destinazione + letti, byte - letti,
                               posizione - 1 + static_cast<std::int64_t>(letti));
     if (n < 0 && errno == EINTR) continue;
+    if (n < 0) guasto_ = true;
     if (n <= 0) break;
     letti += static_cast<std::size_t>(n);
   }

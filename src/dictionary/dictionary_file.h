@@ -15,6 +15,8 @@ class FileDizionario {
   explicit FileDizionario(const Percorso& nome);
 
   bool Aperto() const { return static_cast<bool>(descrittore_); }
+  /// Whether it could be opened and no read has failed, which is not the same as its end.
+  bool Leggibile() const { return Aperto() && !guasto_; }
 
   /// Reads up to `byte` bytes from a 1-based position on and gives how many there were: fewer at
   /// the end of the file, none for a position before its first byte.
@@ -22,6 +24,7 @@ class FileDizionario {
 
  private:
   Descrittore descrittore_;
+  mutable bool guasto_ = false;
 };
 
 }  // namespace telarium

@@ -11,7 +11,7 @@ EsitoRicerca CercaParole(std::string_view maschera,
   const ModelloParola modello(maschera);
   const int conto = UltimoNumero(modello.Lunghezza());
   ScansioneSezione scansione(modello.Lunghezza());
-  EsitoRicerca esito{.dizionarioLetto = scansione.Aperta()};
+  EsitoRicerca esito;
   BloccoDiParole blocco;
   while (scansione.Prossimo(blocco)) {
     modello.PerOgniAdatta(blocco, [&](int i) {
@@ -21,6 +21,7 @@ EsitoRicerca CercaParole(std::string_view maschera,
     });
     if (avanzamento) avanzamento(blocco.primoNumero + blocco.quante - 1, conto);
   }
+  esito.dizionarioLetto = scansione.Leggibile();
   return esito;
 }
 

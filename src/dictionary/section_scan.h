@@ -28,10 +28,11 @@ int UltimoNumero(int lunghezza);
 /// a few thousand words to a read. Ends early where the file ends.
 class ScansioneSezione {
  public:
-  /// `lunghezza` is one of 3 to 15. Opens the file; Aperta tells whether it could be.
+  /// `lunghezza` is one of 3 to 15. Opens the file.
   explicit ScansioneSezione(int lunghezza);
 
-  bool Aperta() const { return file_.Aperto(); }
+  /// Whether it could be opened and, as far as the scan has come, read.
+  bool Leggibile() const { return file_.Leggibile(); }
 
   /// The next words; they are valid until the next call. False when there are none any more.
   bool Prossimo(BloccoDiParole& blocco);

@@ -155,6 +155,7 @@ class Estrazione {
     const std::string modello = LettereDi(slot);
     if (!CercaCandidati(modello)) return Basta(EsitoEstrazione::SenzaParole);
     const std::string parola = NumCandidati > 0 ? EstraiParola(slot.lunghezza) : std::string();
+    if (NumCandidati > 0 && parola.empty()) return DizionarioIlleggibile();
     // A word with anything but letters, from a damaged dictionary, would make or undo black cells
     // or a crossword that no file can hold: it counts as none.
     const bool utile = std::all_of(parola.begin(), parola.end(), LetteraScrivibile);
@@ -163,12 +164,18 @@ class Estrazione {
       return slot.lunghezza > 3 ? VicoloCieco(TestoSenzaCandidati(slot, modello)) : Seguito::Avanti;
     }
     const EsitoIncroci incroci = ProvaIncroci(slot);
+    if (!incroci.letti) return DizionarioIlleggibile();
     if (!incroci.passati && incroci.incrocio.size() > 3) {
       const Seguito seguito = VicoloCieco(TestoIncrocioFallito(slot, incroci.incrocio));
       if (seguito != Seguito::Avanti) return seguito;
     }
     Colloca(slot, parola);
     return Seguito::Avanti;
+  }
+
+  Seguito DizionarioIlleggibile() {
+    AvvisaDizionarioIlleggibile();
+    return Basta(EsitoEstrazione::SenzaParole);
   }
 
   Seguito VicoloCieco(const std::string& testo) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 #include "dictionary/word_pattern.h"
 #include "platform/platform.h"
@@ -95,6 +96,22 @@ std::int16_t DistanzaDallInizio(Casella casella, int direzione) {
   return d;
 }
 
+// Whether the open dictionary has a word that fits; none when it cannot be read.
+std::optional<bool> Esiste(std::string_view modello) {
+  const int lunghezza = static_cast<int>(modello.size());
+  if (!LunghezzaAmmessa(lunghezza)) return false;
+  std::string conSpazi(modello);
+  std::replace(conSpazi.begin(), conSpazi.end(), CellaVuota, PostoLibero);
+  const ModelloParola cercato(conSpazi);
+  ScansioneSezione scansione(lunghezza);
+  BloccoDiParole blocco;
+  while (scansione.Prossimo(blocco)) {
+    const bool nessuna = cercato.PerOgniAdatta(blocco, [](int) { return false; });
+    if (!nessuna) return true;
+  }
+  return scansione.Leggibile() ? std::optional(false) : std::nullopt;
+}
+
 bool VaProvato(std::string_view incrocio) {
   return incrocio.size() >= MinLunghezza && incrocio.find(PostoLibero) == std::string_view::npos;
 }
@@ -114,8 +131,8 @@ bool CercaCandidati(std::string_view modello) {
   while (scansione.Prossimo(blocco)) {
     adatto.TuttoLibero() ? PrendiSenzaQH(blocco) : PrendiAdatte(blocco, adatto);
   }
-  if (!scansione.Aperta()) AvvisaDizionarioIlleggibile();
-  return scansione.Aperta();
+  if (!scansione.Leggibile()) AvvisaDizionarioIlleggibile();
+  return scansione.Leggibile();
 }
 
 std::string EstraiParola(int lunghezza) {
@@ -137,25 +154,16 @@ EsitoIncroci ProvaIncroci(const Slot& slot) {
     // A cell without a word through it has an empty one.
     const std::string incrocio = LettereDi(SlotDa(inizio, traversa));
     if (!VaProvato(incrocio)) continue;
-    esito.passati = ParolaEsiste(incrocio) != Falso;
+    const std::optional<bool> esiste = Esiste(incrocio);
+    esito.letti = esiste.has_value();
+    esito.passati = esiste.value_or(false);
     esito.incrocio = incrocio;
   }
   return esito;
 }
 
 Booleano16 ParolaEsiste(std::string_view modello) {
-  const int lunghezza = static_cast<int>(modello.size());
-  if (!LunghezzaAmmessa(lunghezza)) return Falso;
-  std::string conSpazi(modello);
-  std::replace(conSpazi.begin(), conSpazi.end(), CellaVuota, PostoLibero);
-  const ModelloParola cercato(conSpazi);
-  ScansioneSezione scansione(lunghezza);
-  BloccoDiParole blocco;
-  while (scansione.Prossimo(blocco)) {
-    const bool nessuna = cercato.PerOgniAdatta(blocco, [](int) { return false; });
-    if (!nessuna) return Vero;
-  }
-  return Falso;
+  return Esiste(modello).value_or(false) ? Vero : Falso;
 }
 
 std::string MascheraPunti(std::string_view modello) {

@@ -27,12 +27,14 @@ extern Tabella<std::int16_t, Indici<0, MaxColonne>> DistanzaSinistra;
 /// message; gives false then, and when the dictionary cannot be read.
 [[nodiscard]] bool CercaCandidati(std::string_view modello);
 
-/// Draws one of the candidates, of which there must be at least one, and reads it.
+/// Draws one of the candidates, of which there must be at least one, and reads it. Empty when the
+/// dictionary cannot be read.
 std::string EstraiParola(int lunghezza);
 
 /// What ProvaIncroci found.
 struct EsitoIncroci {
   bool passati = true;
+  bool letti = true;     // false: the dictionary could not be read
   std::string incrocio;  // the crossing word that was tested last, or that failed
 };
 

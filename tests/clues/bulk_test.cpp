@@ -82,6 +82,21 @@ TEST_F(BulkTest, FetchDrawsFromTheFamiliesOfItsMode) {
   EXPECT_TRUE(window.shown.empty());
 }
 
+TEST_F(BulkTest, ARowThatCannotBeReadCostsItsWordAloneAndIsTold) {
+  MakeStore(Unisci("MAR\tF\t", std::string(9000, 'x'), "\nMELA\tF\tf\n"));
+  std::string bytes = ReadFile(InFolder("telarium1.mdb"));
+  // Behind the first page of the long clue there is none: its first bytes name it.
+  const std::size_t page = bytes.find(std::string(4092, 'x')) / 4096 * 4096;
+  bytes.replace(page, 4, "\x7F\xFF\xFF\xFF");
+  WriteFile("telarium1.mdb", bytes);
+  MAR = "resta";
+  Prelevadefinizioni(ModoFacili);
+  EXPECT_EQ(MELA + MAR, "fresta");
+  EXPECT_EQ(user.TakeTexts(),
+            Texts{FetchReport(1, 0) + "\r\n1 parola non si \xE8 potuta cercare. Enciclopedia "
+                                      "telarium1.mdb: il file \xE8 danneggiato."});
+}
+
 TEST_F(BulkTest, EveryClueHasTheSameChance) {
   MakeStore("MELA\tF\t0\nMELA\tF\t1\nMELA\tD\t2\nMELA\tD\t3\n");
   int drawn[4] = {};
