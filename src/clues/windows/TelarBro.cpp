@@ -46,10 +46,10 @@ constexpr int NoniDelleColonne[Colonne] = {1, 3, 5};
 // Of a clue, which can have any length.
 constexpr std::size_t MaxCaratteriInUnaRiga = 500;
 
-// A key that only leads to another control, or to the guide, or that is held for another key.
+// A key that only leads to another control, or that is held for another key.
 bool SoloDiPassaggio(const QKeyEvent& evento) {
-  constexpr int tasti[] = {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Shift, Qt::Key_Control,
-                           Qt::Key_Alt, Qt::Key_AltGr,   Qt::Key_F1};
+  constexpr int tasti[] = {Qt::Key_Tab,     Qt::Key_Backtab, Qt::Key_Shift,
+                           Qt::Key_Control, Qt::Key_Alt,     Qt::Key_AltGr};
   return std::find(std::begin(tasti), std::end(tasti), evento.key()) != std::end(tasti);
 }
 

@@ -70,6 +70,7 @@ void Form4::CreaDizionari() {
   grassetto.setBold(true);
   Label9->setFont(grassetto);
   Label9->setTextFormat(Qt::PlainText);
+  Label9->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // names can be long
   Label6 =
       Chiamato(QStringLiteral("Label6"), new QLabel(QStringLiteral("Dizionari di sistema"), this));
   File1 = Chiamato(QStringLiteral("File1"), new ListaFile("Lessico*.dat", this));

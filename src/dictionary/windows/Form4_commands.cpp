@@ -387,6 +387,7 @@ void Form4::SvuotaConteggi() {
 void Form4::MostraNome() {
   const std::string nome = TestoPercorso(NomeDizionario);
   Label9->setText(AQt(nome.substr(0, nome.find('.'))));
+  Label9->setToolTip(ComeSuggerimento(Label9->text()));
 }
 
 void Form4::MostraTotale() {

@@ -153,7 +153,9 @@ TEST_F(Form4Test, TheOpenDictionaryIsSelectedAtTheStartAndCanBeRead) {
 }
 
 TEST_F(Form4Test, FitsASmallScreenWhateverItTells) {
-  OpenItalian();
+  OpenDictionary({"CASA"}, std::string(80, 'x') + ".priv");
+  window->File2->Vai(InFolder(""));
+  OpenFile(*window->File2, QString(80, u'x') + QStringLiteral(".priv"));
   Click(window->Command1);
   for (const QSize size : {QSize(790, 560), QSize(960, 680)}) {  // of 800 x 600, of 1366 x 768
     SCOPED_TRACE(size.width());
