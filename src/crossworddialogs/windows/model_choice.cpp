@@ -15,7 +15,7 @@ namespace {
 
 constexpr int FigurePerRiga = 4;
 constexpr QSize MisuraFigura(164, 148);  // logical pixels
-constexpr QSize MisuraMinimaFigura(96, 84);
+constexpr QSize MisuraMinimaFigura(96, 64);
 constexpr QPoint SpostamentoPremuta(6, 6);
 constexpr int LarghezzaElenco = 150;
 constexpr const char* ModelloDiFile = "*.dfc";
@@ -96,13 +96,14 @@ SceltaModello::SceltaModello(const QString& nome, const QString& istruzione, QWi
 
 QVBoxLayout* SceltaModello::PostoDi(int numero) {
   auto* posto = new QVBoxLayout;
-  posto->setSpacing(2);
+  posto->setSpacing(0);
   posto->addWidget(Picture1[static_cast<std::size_t>(numero)], 1);
   return posto;
 }
 
 void SceltaModello::Disponi(QLayout* extra) {
   auto* figure = new QGridLayout;
+  figure->setVerticalSpacing(3);  // every pixel of a low screen is the pictures'
   for (int n = 0; n < MaxModelli; ++n)
     figure->addLayout(PostoDi(n), n / FigurePerRiga, n % FigurePerRiga);
   auto* pulsanti = new QHBoxLayout;
