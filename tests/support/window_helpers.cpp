@@ -2,6 +2,7 @@
 
 #include <QAbstractScrollArea>
 #include <QComboBox>
+#include <QLayout>
 #include <QMenuBar>
 #include <QTest>
 #include <set>
@@ -47,7 +48,10 @@ void ExpectNamedControls(const QWidget& window) {
   std::set<QString> names;
   CheckNames(window, names);
   EXPECT_FALSE(names.empty());
-  if (window.isVisible() && window.layout()) CheckPlaces(window);
+  if (!window.isVisible() || !window.layout()) return;
+  // At scale factor 2 the screen is smaller than any real one, and than some window needs.
+  const QSize least = window.layout()->minimumSize();
+  if (least.boundedTo(window.size()) == least) CheckPlaces(window);
 }
 
 std::string TabOrder(QWidget& window) {
