@@ -73,12 +73,15 @@ class Registro {
     for (const auto& [nome, impronta] : PrimoPacchetto)
       versioni_[nome].push_back({impronta, {}});
     std::string righe;
-    // A lost or damaged record costs one question too many.
-    if (LeggiFile(file, MaxByteRegistro, righe) != EsitoLettura::Letto) return;
+    leggibile_ = LeggiFile(file, MaxByteRegistro, righe) != EsitoLettura::Illeggibile;
     std::string_view riga;
     for (LettoreDiRighe lettore(righe); lettore.Prossima(riga);)
       PrendiRiga(riga);
   }
+
+  /// A lost or damaged record costs one question too many; one that is there and cannot be read
+  /// now must not be made anew.
+  bool Leggibile() const { return leggibile_; }
 
   bool Conosce(const std::string& nome, std::uint64_t impronta) const {
     const auto voce = versioni_.find(nome);
@@ -132,6 +135,7 @@ class Registro {
   Percorso file_;
   std::map<std::string, std::vector<Versione>> versioni_;  // by name, the version met last behind
   bool cambiato_ = false;
+  bool leggibile_ = true;
 };
 
 // Such a file is the user's work, or the program itself writes it.
@@ -145,6 +149,8 @@ class Aggiornamento {
       : installati_(installati),
         cartella_(cartella),
         registro_(cartella / NomeRegistroInstallati) {}
+
+  bool Possibile() const { return registro_.Leggibile(); }
 
   void Esamina(const Percorso& nome) {
     const std::string timbro = Timbro(installati_ / nome);
@@ -279,6 +285,7 @@ std::vector<Percorso> NomiInstallati(const Percorso& installati) {
 std::vector<CopiaFallita> AggiornaCartella(const Percorso& installati, const Percorso& cartella,
                                            FileModificati modificati) {
   Aggiornamento lavoro(installati, cartella);
+  if (!lavoro.Possibile()) return {};
   for (const Percorso& nome : NomiInstallati(installati))
     lavoro.Esamina(nome);
   if (modificati == FileModificati::Chiedi) lavoro.ChiediDeiModificati();

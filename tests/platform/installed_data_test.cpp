@@ -118,6 +118,20 @@ TEST_F(InstalledData, WithoutARecordAFileOfTheInstalledVersionIsUnchanged) {
   }
 }
 
+TEST_F(InstalledData, ARecordThatCannotBeReadIsNotMadeAnew) {
+  Start();
+  Install("seconda");
+  const Percorso record = InFolder(Percorso("mia") / NomeRegistroInstallati);
+  const Percorso aside = InFolder("record");
+  std::filesystem::rename(record, aside);
+  std::filesystem::create_symlink(record, record);  // reading it fails
+  EXPECT_TRUE(Start().empty());
+  EXPECT_EQ(OwnOf("prima"), Names());
+  std::filesystem::rename(aside, record);
+  Start();
+  EXPECT_EQ(OwnOf("seconda"), Names());
+}
+
 // The first package kept no record; these are the bytes of one of its files.
 TEST_F(InstalledData, AFileOfTheFirstPackageIsKnownWithoutOne) {
   const std::string settings =
