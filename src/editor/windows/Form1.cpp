@@ -49,13 +49,6 @@ constexpr int InPixel(int twip) {
   return (twip + TwipPerPixel - 1) / TwipPerPixel;
 }
 
-// The entries that carry a check mark.
-bool ConSpunta(std::string_view nome) {
-  constexpr std::string_view voci[] = {"MenuInf", "MenuL1",  "MenuL2",  "MenuL3",
-                                       "MenuL4",  "MenuVis", "Menurett"};
-  return std::find(std::begin(voci), std::end(voci), nome) != std::end(voci);
-}
-
 // The caption of an entry that has none in the table: it is configured.
 QString TestoConfigurato(std::string_view nome) {
   struct Testo {

@@ -1,5 +1,8 @@
 #include "editor/windows/menu_table.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/codepage.h"
 
 namespace telarium {
@@ -99,6 +102,9 @@ constexpr VoceDiMenu voci[] = {
 
 constexpr std::string_view nascoste[] = {"menuvbhtml", "Menuschemi"};
 
+constexpr std::string_view conSpunta[] = {"MenuInf", "MenuL1",  "MenuL2",  "MenuL3",
+                                          "MenuL4",  "MenuVis", "Menurett"};
+
 constexpr GraficaDiVoce grafica[] = {
     {"menuSalva", "save"},       {"MenuAnteprima", "preview"},  {"Menuhtml", "html"},
     {"MenuStampa", "print"},     {"MenuAC", "add_column"},      {"MenuAR", "add_row"},
@@ -118,6 +124,10 @@ std::span<const VoceDiMenu> VociDelMenu() {
 
 std::span<const std::string_view> VociNascoste() {
   return nascoste;
+}
+
+bool ConSpunta(std::string_view nome) {
+  return std::find(std::begin(conSpunta), std::end(conSpunta), nome) != std::end(conSpunta);
 }
 
 std::span<const GraficaDiVoce> GraficaDeiMenu() {

@@ -22,6 +22,9 @@ std::span<const VoceDiMenu> VociDelMenu();
 /// Entries that nothing ever shows.
 std::span<const std::string_view> VociNascoste();
 
+/// Whether an entry carries a check mark.
+bool ConSpunta(std::string_view nome);
+
 /// The picture that a menu entry carries once the crossword's commands are there, or from the first
 /// activation on.
 struct GraficaDiVoce {
