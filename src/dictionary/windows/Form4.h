@@ -75,7 +75,8 @@ class Form4 : public FinestraModale {
   void Inizia(Lavoro lavoro);
   void Finisci();
   bool Cedi();
-  bool LeggiSezione(std::size_t lista);
+  bool LeggiSezione(std::size_t lista, bool& intero);
+  void NullaDaMostrare();
   void ApriDiSistema();
   void ApriPrivato();
   bool ApriEMostra();

@@ -90,16 +90,22 @@ void Form4::LeggiDizio() {
   Label3->setText(
       AQt(Unisci("In corso la lettura del dizionario ", TestoPercorso(NomeDizionario), " ...")));
   TotaleParole = 0;
+  bool intero = true;
   for (std::size_t lista = 0; lista < parole_.size(); ++lista) {
-    if (!LeggiSezione(lista)) return;
+    if (!LeggiSezione(lista, intero)) return;
   }
-  letto_ = true;
+  letto_ = intero;
+  if (!intero) {  // a rebuild over a part would cost the rest
+    AvvisaDizionarioIlleggibile();
+    SvuotaListe();
+    NullaDaMostrare();
+  }
   Finisci();
   Label3->clear();
 }
 
 // False when the user has had enough; the window is closing then.
-bool Form4::LeggiSezione(std::size_t lista) {
+bool Form4::LeggiSezione(std::size_t lista, bool& intero) {
   DipingiBarra(1, ColoreGiallo);
   if (!Cedi()) return false;
   const int conto = UltimoNumero(LunghezzaDi(lista));
@@ -116,6 +122,7 @@ bool Form4::LeggiSezione(std::size_t lista) {
     DipingiBarra(double(lette) / conto, ColoreBlu);
     if (!Cedi()) return false;
   }
+  intero = intero && scansione.Leggibile();
   if (!parole_[lista].empty()) Combo1[lista]->Scrivi(parole_[lista].front());
   Label2[lista]->setText(TestoConto(lette, ParoleLette));
   MostraTotale();
@@ -163,11 +170,15 @@ bool Form4::ApriEMostra() {
     LeggiDizio();
     return true;
   }
+  NullaDaMostrare();
+  Finisci();
+  return false;
+}
+
+void Form4::NullaDaMostrare() {
   TotaleParole = 0;
   AzzeraDidascalie();
   MostraTotale();
-  Finisci();
-  return false;
 }
 
 void Form4::RiaprePronto() {
