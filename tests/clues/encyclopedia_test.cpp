@@ -24,6 +24,20 @@ class EncyclopediaTest : public TelariumTest {
   // Statements on the store past the program, as another one would run them.
   void Sql(const char* statements) const { BaseDati(store).Esegui(statements); }
 
+  // Leaves the store as a program does that was killed: with a row that is in the log alone.
+  void KillAWriter() const {
+    const Percorso log = InFolder("telarium1.mdb-wal");
+    {
+      BaseDati writer(store);
+      writer.Esegui("PRAGMA journal_mode = WAL");
+      writer.Esegui("INSERT INTO Parole VALUES ('REGISTRO', 'x', NULL)");
+      fs::copy_file(store, InFolder("file"));
+      fs::copy_file(log, InFolder("log"));
+    }
+    fs::rename(InFolder("file"), store);
+    fs::rename(InFolder("log"), log);
+  }
+
   // What an operation on the open store fails with; empty when it does not.
   static std::string ErrorOf(const std::function<void(Enciclopedia&)>& operation = {}) {
     try {
@@ -143,6 +157,8 @@ TEST_F(EncyclopediaTest, FilesThatAreNoStoreAreToldAndNeverWritten) {
     });
     EXPECT_TRUE(told.ends_with(error)) << told;
     EXPECT_EQ(FirstDifference(ReadFile(store), bytes), "");
+    MakeStore("D\tF\tw\n");
+    EXPECT_EQ(Keys(), "D ") << "made anew";
   }
   fs::remove(store);
   EXPECT_EQ(ErrorOf(), "il file manca o non si pu\xF2 aprire.");
@@ -193,7 +209,7 @@ TEST_F(EncyclopediaTest, TheFileIsWholeAndAloneAfterEachConnection) {
 
 TEST_F(EncyclopediaTest, WriterReplacesTheOldStoreWhenTheNewOneIsComplete) {
   MakeStore("VECCHIA\tF\tx\n");
-  WriteFile("telarium1.mdb-wal", "the log of a killed program");
+  KillAWriter();
   std::vector<VoceDiLista> entries;
   const EsitoLista list = AggiungiVoci(
       "\xEF\xBB\xBFzia\tF\tSorella di mamma\r\nZIA\tD\t \xE2\x82\xAC \n\nZIA\tF\tSorella di mamma\n"
@@ -211,6 +227,19 @@ TEST_F(EncyclopediaTest, WriterReplacesTheOldStoreWhenTheNewOneIsComplete) {
 
   CartellaProgramma = InFolder("manca");
   EXPECT_NE(ScriviEnciclopedia(entries).errore, "");
+}
+
+TEST_F(EncyclopediaTest, ALogOfAnotherStoreIsNeverPlayedBackOverANewOne) {
+  MakeStore("VECCHIA\tF\tx\n");
+  KillAWriter();
+  EXPECT_EQ(Stored("REGISTRO"), "x") << "with its own file it is kept";
+  for (const bool gone : {true, false}) {
+    KillAWriter();
+    if (gone) fs::remove(store);
+    MakeStore("NUOVA\tF\ty\n");
+    EXPECT_EQ(Keys(), "NUOVA ") << gone;
+    EXPECT_EQ(ElencaFile(InFolder(""), "telarium1*").size(), 1u) << gone;
+  }
 }
 
 TEST(ClueFamily, SplitsAtLineBreaksAlone) {

@@ -185,8 +185,8 @@ class Sweep:
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("telar")
-    parser.add_argument("shim")
+    parser.add_argument("telar", type=os.path.abspath)
+    parser.add_argument("shim", type=os.path.abspath)
     parser.add_argument("--every", type=int, default=1)
     parser.add_argument("--command")
     arguments = parser.parse_args()

@@ -244,9 +244,9 @@ def keep_if_faulty(folder, faults):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("telar")
-    parser.add_argument("store_user")
-    parser.add_argument("shim")
+    parser.add_argument("telar", type=os.path.abspath)
+    parser.add_argument("store_user", type=os.path.abspath)
+    parser.add_argument("shim", type=os.path.abspath)
     parser.add_argument("--rounds", type=int, default=200)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--every", type=int, default=1, help="of the calls at which the maker stops")
