@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3 -B
 """Every writing command of telar with an error, or a kill, at each of its system calls in turn.
 
     fault_sweep.py TELAR SHIM [--every K] [--command NAME]
@@ -17,18 +17,20 @@ import sys
 import tempfile
 from pathlib import Path
 
+import fault
+
 LIMIT = 60  # seconds for a run
 
 # What happens at a call, and to which calls: see fault_shim.cpp.
 FAULTS = [
-    ("write", "ENOSPC", False),
-    ("write", "ENOSPC", True),
-    ("write", "EIO", False),
-    ("write", "SHORT", False),
-    ("write", "KILL", False),
-    ("read", "EIO", False),
-    ("read", "EMFILE", True),
-    ("lock", "EIO", False),
+    ("write", "ENOSPC", ""),
+    ("write", "ENOSPC", "onward"),
+    ("write", "EIO", ""),
+    ("write", "SHORT", ""),
+    ("write", "KILL", ""),
+    ("read", "EIO", ""),
+    ("read", "EMFILE", "onward"),
+    ("lock", "EIO", ""),
 ]
 
 HEAD = "Autore\r\nData\r\nTipo\r\nDimensioni : "
@@ -128,29 +130,24 @@ class Sweep:
         self.telar, self.shim, self.every = telar, shim, every
         self.injected = self.false = self.damaged = self.untold = 0
 
-    def environment(self, folder, fault, at, report):
-        calls, what, onward = fault
-        return {"LD_PRELOAD": self.shim, "ASAN_OPTIONS": "verify_asan_link_order=0:detect_leaks=0",
-                "FAULT_CALLS": calls, "FAULT_DO": what, "FAULT_ONWARD": "1" if onward else "",
-                "FAULT_AT": str(at), "FAULT_UNDER": str(folder), "FAULT_REPORT": str(report)}
-
-    def attempt(self, command, template, fault, at):
+    def attempt(self, command, template, tried, at):
         """The result of one run, what it has left, and the call that was hit."""
         with tempfile.TemporaryDirectory() as name:
             folder, report = Path(name) / "run", Path(name) / "report"
             shutil.copytree(template, folder)
-            result = run(self.telar, folder, command.words,
-                         self.environment(folder, fault, at, report))
+            calls, do, onward = tried
+            result = run(self.telar, folder, command.words, fault.environment(
+                self.shim, at=at, do=do, calls=calls, onward=onward, under=folder, report=report))
             calls, _, hit = report.read_text().strip().partition(" ")
             return result, State(command, folder), int(calls), hit
 
-    def judge(self, command, fault, at, old, clean, attempt):
+    def judge(self, command, tried, at, old, clean, attempt):
         result, state, _, hit = attempt
         expected, new = clean
         if not hit:
             return  # the run had fewer calls this time
         self.injected += 1
-        name = f"{' '.join(command.words)}, {fault} at call {at}, {hit}"
+        name = f"{' '.join(command.words)}, {tried} at call {at}, {hit}"
         said = f"{result.returncode} {result.stdout!r} {result.stderr!r}"
         if result.returncode == 0 and (state != new or result.stdout != expected.stdout):
             self.false += 1
@@ -163,7 +160,7 @@ class Sweep:
         if not whole:
             self.damaged += 1
             print(f"damaged: {name}: {said}")
-        killed = fault[1] == "KILL" and result.returncode == -9
+        killed = tried[1] == "KILL" and result.returncode == -9
         told = result.returncode == 1 and not result.stdout and result.stderr
         if result.returncode != 0 and not killed and not told:
             self.untold += 1
@@ -171,16 +168,15 @@ class Sweep:
 
     def try_command(self, command, template, pool):
         old = State(command, template)
-        fault = ("write,read,lock", "", False)
-        expected, new, *_ = self.attempt(command, template, fault, 0)
+        expected, new, *_ = self.attempt(command, template, ("write", "", ""), 0)
         assert expected.returncode == 0 and expected.stderr == b"" and new != old, expected
         tries = []
-        for fault in FAULTS:
-            calls = self.attempt(command, template, (fault[0], "", False), 0)[2]
-            tries += [(fault, at) for at in range(1 + len(tries) % self.every, calls + 1, self.every)]
+        for tried in FAULTS:
+            calls = self.attempt(command, template, (tried[0], "", ""), 0)[2]
+            tries += [(tried, at) for at in range(1 + len(tries) % self.every, calls + 1, self.every)]
         attempts = pool.map(lambda one: self.attempt(command, template, *one), tries)
-        for (fault, at), attempt in zip(tries, attempts):
-            self.judge(command, fault, at, old, (expected, new), attempt)
+        for (tried, at), attempt in zip(tries, attempts):
+            self.judge(command, tried, at, old, (expected, new), attempt)
 
 
 def main():

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3 -B
 """Several programs at once on one encyclopedia: makers, importers, readers and a stand-in for the
 desktop, in every second round with kills. Afterwards the store must be sound, with every row that was
 told as stored and none twice.
@@ -18,6 +18,8 @@ import sys
 import tempfile
 import time
 from pathlib import Path
+
+import fault
 
 LIMIT = 60  # seconds for any one program
 
@@ -210,10 +212,8 @@ class Races:
         with tempfile.TemporaryDirectory() as name:
             folder = Path(name)
             self.prepare(folder)
-            maker = self.telar(folder, "enc-crea", str(folder / "new"), environment={
-                "LD_PRELOAD": self.arguments.shim, "FAULT_AT": str(at), "FAULT_DO": "STOP",
-                "FAULT_UNDER": str(folder),
-                "ASAN_OPTIONS": "verify_asan_link_order=0:detect_leaks=0"})
+            maker = self.telar(folder, "enc-crea", str(folder / "new"), environment=fault.environment(
+                self.arguments.shim, at=at, do="STOP", under=folder))
             _, status = os.waitpid(maker.process.pid, os.WUNTRACED)
             if not os.WIFSTOPPED(status):
                 return None
@@ -257,8 +257,8 @@ def main():
     def judge(name, faults):
         nonlocal failed
         failed += bool(faults)
-        for fault in faults:
-            print(f"{name}: {fault}")
+        for one in faults:
+            print(f"{name}: {one}")
 
     for ends in (signal.SIGCONT, signal.SIGKILL):
         at = 1

@@ -1,6 +1,6 @@
 // A library to be loaded before all others (LD_PRELOAD) into a program under test. It makes the
 // n-th system call of a kind fail, or kills or stops the process there, so that a test can try
-// every one of them in turn. No right to trace is needed. support/faults.h sets it up:
+// every one of them in turn. No right to trace is needed. faults/fault.py sets it up:
 //
 //   FAULT_AT=n       which call, from 1; without it calls are only counted
 //   FAULT_DO=what    the error it gets, by name or number (ENOSPC); or SHORT: half the bytes are
