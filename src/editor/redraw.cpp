@@ -76,6 +76,15 @@ void CalcolaGeometria(const Superficie& superficie, double cima, double fondo) {
       static_cast<std::int16_t>(ArrotondaPari((cima + h - 2 - fondo - LatoCasella * NumRighe) / 2));
 }
 
+Zona ZonaDelloSchema() {
+  const int intorno = DistanzaCornice + std::max<int>(SpessoreBordo, 0);
+  // Both edges of the frame belong to it.
+  return {.sinistra = static_cast<double>(OrigineX - intorno),
+          .cima = static_cast<double>(OrigineY - intorno),
+          .larghezza = LatoCasella * NumColonne + 2.0 * intorno + 1,
+          .altezza = LatoCasella * NumRighe + 2.0 * intorno + 1};
+}
+
 void CediGeometria() {
   geometriaCeduta = true;
 }

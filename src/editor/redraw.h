@@ -20,6 +20,9 @@ void RidisegnaSchema();
 /// the surface's top and one at its bottom, centred there. Wants a grid.
 void CalcolaGeometria(const Superficie& superficie, double cima, double fondo);
 
+/// The part of the window's surface that the grid takes as last drawn, its frame included.
+Zona ZonaDelloSchema();
+
 /// Tells that LatoCasella, OrigineX and OrigineY are those of another surface or of a sheet, and
 /// not of the grid on the window, until the next redraw.
 void CediGeometria();

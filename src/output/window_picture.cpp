@@ -14,12 +14,17 @@
 namespace telarium {
 namespace {
 
-std::string NomeImmagine;  // what the next question proposes
+// What the next question proposes.
+std::string NomeImmagine;
+bool soloLoSchema = false;
 
-const AzzeramentoDiSottosistema azzeramento([] { NomeImmagine.clear(); });
+const AzzeramentoDiSottosistema azzeramento([] {
+  NomeImmagine.clear();
+  soloLoSchema = false;
+});
 
 // The name that the user gives; empty when there is none.
-std::string ChiediNome() {
+std::string ChiediNome(Spunta& soloSchema) {
   if (NomeImmagine.empty()) NomeImmagine = "NONOME.BMP";
   const auto nome = ChiUsa().ChiediTesto(
       {.richiesta =
@@ -28,7 +33,8 @@ std::string ChiediNome() {
                   "salvare nella directory "_cp,
                   TestoPercorso(CartellaProgramma)),
        .predefinito = NomeImmagine,
-       .titolo = "Salvataggio picture .BMP"});
+       .titolo = "Salvataggio picture .BMP",
+       .spunta = &soloSchema});
   return nome.value_or("");
 }
 
@@ -73,10 +79,12 @@ class SchemaSuBianco {
 
 }  // namespace
 
-std::string BitmapSuBianco(bool senzaSoluzioni) {
+std::string BitmapSuBianco(bool senzaSoluzioni, Inquadratura inquadratura) {
   const SchemaSuBianco suBianco(senzaSoluzioni);
   Superficie* finestra = FinestraPrincipale();
-  return finestra ? finestra->Bitmap() : std::string();
+  if (!finestra) return {};
+  return finestra->Bitmap(inquadratura == Inquadratura::Schema ? std::optional(ZonaDelloSchema())
+                                                               : std::nullopt);
 }
 
 bool ScriviPicture(const Percorso& file, const std::string& bitmap) {
@@ -88,13 +96,16 @@ bool ScriviPicture(const Percorso& file, const std::string& bitmap) {
 void SalvaPicture() {
   if (NumColonne == 0) return;
   LaFinestra().TogliLabel1();
-  const std::string nome = ChiediNome();
+  Spunta soloSchema{.testo = "Solo lo &schema, senza la finestra intorno", .scelta = soloLoSchema};
+  const std::string nome = ChiediNome(soloSchema);
   if (SenzaSpazi(nome).empty()) return;
   const Percorso file = FileDiUscita(PercorsoDigitato(nome));
   if (!AccettaSovrascrittura(file, nome)) return;
   ChiUsa().CediAiMessaggi();
-  if (!ScriviPicture(file, BitmapSuBianco(false))) return;
+  const auto inquadratura = soloSchema.scelta ? Inquadratura::Schema : Inquadratura::Finestra;
+  if (!ScriviPicture(file, BitmapSuBianco(false, inquadratura))) return;
   NomeImmagine = nome;
+  soloLoSchema = soloSchema.scelta;
   ApriUscita(file);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,11 @@ inline constexpr Colore NessunColore = -1;
 
 /// The typeface until another one is chosen; every machine has one of its metrics.
 inline constexpr std::string_view CarattereIniziale = "Arial";
+
+/// A part of a surface, in its units.
+struct Zona {
+  double sinistra, cima, larghezza, altezza;
+};
 
 /// What the core draws on: the main window, the printer, a picture, a recorder in tests.
 /// Coordinates and text measures are in the surface's own units, pixels on a window; type sizes are
@@ -69,9 +75,9 @@ class Superficie {
   /// Begins another page of the same size, blank. False on a surface that is all there is.
   virtual bool NuovaPagina() { return false; }
 
-  /// All of the picture, in its real size, as the bytes of a Windows bitmap file; empty on a
-  /// surface that keeps none.
-  virtual std::string Bitmap() { return {}; }
+  /// The picture, or a part of it as far as it lies on the surface, in its real size, as the bytes
+  /// of a Windows bitmap file; empty on a surface that keeps none.
+  virtual std::string Bitmap([[maybe_unused]] const std::optional<Zona>& parte) { return {}; }
 
   /// Whether what is drawn stays on the surface, or is put on the screen alone, at once. Only a
   /// window tells the two apart.

@@ -22,11 +22,18 @@ struct Messaggio {
   Icona icona = Icona::Nessuna;
 };
 
+/// A check box of an input box: how it stands, and behind an answer how the user left it.
+struct Spunta {
+  std::string testo;
+  bool scelta = false;
+};
+
 /// An input box for one line of text. Without a title of its own it has the application's.
 struct RichiestaDiTesto {
   std::string richiesta;
   std::string predefinito = {};
   std::string titolo = {};
+  Spunta* spunta = nullptr;  // none
 };
 
 /// How far an automatic fill has come.

@@ -28,7 +28,10 @@ class Photographed : public RecordingSurface {
   Colore pictureGround = 0;
   Texts pictured;
 
-  std::string Bitmap() override {
+  std::optional<Zona> part;
+
+  std::string Bitmap(const std::optional<Zona>& parte) override {
+    part = parte;
     pictureGround = ground;
     pictured = Drawn();
     return bitmap;
@@ -302,6 +305,27 @@ TEST_F(Exports, ThePictureIsSavedWhereTheUserSaysAndItsNameProposedAgain) {
   Save("sotto\\x.bmp");
   EXPECT_EQ(user.requests.back().predefinito, "gita perch\xE9.bmp");
   EXPECT_EQ(Made("sotto/x.bmp"), "bitmap");
+}
+
+TEST_F(Exports, ThePictureOfTheGridAloneIsToBeHadInTheSameQuestion) {
+  SpessoreBordo = 3;
+  DrawOnScreen();
+  Save("window.bmp");
+  EXPECT_FALSE(surface.part);
+  user.tick = true;
+  Save("grid.bmp");
+  ASSERT_TRUE(surface.part);
+  // Cells of 311 pixels at (189, 44), 2 pixels of ground and 3 of frame round them.
+  EXPECT_EQ(surface.part->sinistra, 184);
+  EXPECT_EQ(surface.part->cima, 39);
+  EXPECT_EQ(surface.part->larghezza, 633);
+  EXPECT_EQ(surface.part->altezza, 633);
+  user.tick.reset();
+  Save(std::nullopt);
+  EXPECT_EQ(user.offeredTick, true) << "proposed again, like the name";
+  EsportaInWordConPicture();
+  StampaHTML();
+  EXPECT_FALSE(surface.part) << "the other pictures are of the window";
 }
 
 TEST_F(Exports, TheSavedPictureNeedsANameAndLeaveToOverwrite) {

@@ -25,7 +25,7 @@ class Recording : public Surface {
   void Pulisci() override;
   void Sfondo(Colore colore) override { ground = colore; }
   Colore Sfondo() const override { return ground; }
-  std::string Bitmap() override { return bitmap; }
+  std::string Bitmap(const std::optional<Zona>&) override { return bitmap; }
   void Riquadro(double x1, double y1, double x2, double y2, Colore colore) override;
   void RiquadroPieno(double x1, double y1, double x2, double y2, Colore colore) override;
   void Carattere(std::string_view nome) override;

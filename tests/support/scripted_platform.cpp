@@ -50,6 +50,8 @@ Risposta ScriptedUser::MostraMessaggio(const Messaggio& messaggio) {
 
 std::optional<std::string> ScriptedUser::ChiediTesto(const RichiestaDiTesto& richiesta) {
   requests.push_back(richiesta);
+  offeredTick = richiesta.spunta ? std::optional(richiesta.spunta->scelta) : std::nullopt;
+  if (richiesta.spunta && tick) richiesta.spunta->scelta = *tick;
   const auto answer = TakeFirst(textAnswers_);
   if (!answer) ADD_FAILURE() << "an input box nobody expected: " << AUtf8(richiesta.richiesta);
   return answer.value_or(std::nullopt);

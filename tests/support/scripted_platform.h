@@ -47,6 +47,8 @@ class ScriptedUser : public Utente {
   std::deque<Colore> colours;
 
   std::vector<RichiestaDiTesto> requests;  // the input boxes so far
+  std::optional<bool> offeredTick;         // how the last one's check box stood
+  std::optional<bool> tick;                // how the user leaves such a box; none: as it stands
   std::vector<std::string> waits;          // the waits so far
   bool patient = true;                     // false: breaks a wait off at once
   std::function<void()> whileYielding;     // what the user does at each look at the message loop

@@ -137,10 +137,16 @@ Colore SuperficieQt::Sfondo() const {
   return ColoreDaQt(sfondo_);
 }
 
-std::string SuperficieQt::Bitmap() {
+std::string SuperficieQt::Bitmap(const std::optional<Zona>& parte) {
+  QImage immagine = Immagine();  // shares the pixels
+  if (parte) {
+    const QRectF zona(parte->sinistra * rapporto_, parte->cima * rapporto_,
+                      parte->larghezza * rapporto_, parte->altezza * rapporto_);
+    immagine = immagine.copy(zona.toAlignedRect() & immagine.rect());
+  }
   QBuffer file;
   file.open(QIODevice::WriteOnly);
-  Immagine().save(&file, "BMP");
+  immagine.save(&file, "BMP");
   return file.data().toStdString();
 }
 

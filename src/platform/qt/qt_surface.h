@@ -57,7 +57,7 @@ class SuperficieQt : public Superficie {
   double PosizioneY() const override { return y_; }
   void Scrivi(std::string_view testo) override;
   /// In device pixels, 24 bits each.
-  std::string Bitmap() override;
+  std::string Bitmap(const std::optional<Zona>& parte) override;
   void DisegnoPersistente(bool persistente) override;
 
  private:

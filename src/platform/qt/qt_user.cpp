@@ -1,13 +1,15 @@
 #include "platform/qt/qt_user.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
-#include <QLayout>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <span>
 
@@ -113,6 +115,19 @@ void TogliPostoDellIcona(QMessageBox& scatola) {
   testo->setContentsMargins(0, 0, 0, 0);
 }
 
+// The check box that a request wants, below the line of its box; none otherwise.
+QCheckBox* AggiungiSpunta(QInputDialog& scatola, const Spunta* spunta) {
+  if (!spunta) return nullptr;
+  auto* casella = new QCheckBox(AQt(spunta->testo), &scatola);
+  casella->setObjectName(u"Spunta");
+  casella->setChecked(spunta->scelta);
+  static_cast<void>(scatola.sizeHint());  // makes the layout
+  auto* posti = static_cast<QVBoxLayout*>(scatola.layout());
+  posti->insertWidget(posti->count() - 1, casella);
+  QWidget::setTabOrder(scatola.findChild<QLineEdit*>(), casella);
+  return casella;
+}
+
 }  // namespace
 
 // A box belongs to the window that brought it up.
@@ -153,8 +168,10 @@ std::optional<std::string> UtenteQt::ChiediTesto(const RichiestaDiTesto& richies
   scatola.setTextValue(AQt(richiesta.predefinito));
   scatola.setOkButtonText(QString::fromUtf16(Ok.testo));
   scatola.setCancelButtonText(QString::fromUtf16(Annulla.testo));
+  const QCheckBox* spunta = AggiungiSpunta(scatola, richiesta.spunta);
   TogliFigure(scatola);
   if (scatola.exec() != QDialog::Accepted) return std::nullopt;
+  if (spunta) richiesta.spunta->scelta = spunta->isChecked();
   return DaQt(scatola.textValue());
 }
 

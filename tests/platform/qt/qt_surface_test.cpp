@@ -34,6 +34,28 @@ class SurfaceTest : public ::testing::Test {
 
 constexpr Colore Red = 0x0000FF;
 
+TEST_F(SurfaceTest, TheBitmapHasAllOfItOrAPartInDevicePixels) {
+  for (const int ratio : {1, 2}) {
+    surface.Ridimensiona({60, 40}, ratio);
+    surface.Pulisci();
+    surface.RiquadroPieno(10, 20, 19, 29, Red);
+    const auto picture = [&](const std::optional<Zona>& part) {
+      const std::string bytes = surface.Bitmap(part);
+      EXPECT_TRUE(bytes.starts_with("BM"));
+      return QImage::fromData(QByteArray::fromStdString(bytes), "BMP");
+    };
+    const QImage all = picture(std::nullopt);
+    EXPECT_EQ(all.size(), QSize(60, 40) * ratio);
+    EXPECT_EQ(all.pixelColor(10 * ratio, 20 * ratio), QColor(Qt::red));
+    EXPECT_EQ(all.pixelColor(10 * ratio - 1, 20 * ratio), QColor(Qt::green));
+    const QImage part = picture(Zona{10, 20, 10, 10});
+    EXPECT_EQ(part.size(), QSize(10, 10) * ratio);
+    for (const QPoint corner : {QPoint(0, 0), QPoint(10 * ratio - 1, 10 * ratio - 1)})
+      EXPECT_EQ(part.pixelColor(corner), QColor(Qt::red));
+    EXPECT_EQ(picture(Zona{-5, 30, 1000, 1000}).size(), QSize(60, 10) * ratio) << "what there is";
+  }
+}
+
 TEST_F(SurfaceTest, BoxesTakeBothTheirCornersAtEveryScale) {
   struct Case {
     double ratio, x1, y1, x2, y2;

@@ -1,8 +1,10 @@
 #include "platform/qt/qt_user.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -114,6 +116,22 @@ TEST_F(UserTest, AnInputBoxGivesItsTextOrNone) {
             std::string("Nicolò"_cp));
   WhenOpen<QDialog>([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
   EXPECT_EQ(user.ChiediTesto({.richiesta = "x"}), std::nullopt);
+}
+
+TEST_F(UserTest, TheCheckBoxOfAnInputBoxCountsWithItsAnswer) {
+  Spunta tick{.testo = "Solo lo &schema", .scelta = true};
+  for (const auto& [key, ticked] : {std::pair(Qt::Key_Escape, true), {Qt::Key_Return, false}}) {
+    WhenOpen<QInputDialog>([key = key](QInputDialog& box) {
+      auto* check = box.findChild<QCheckBox*>(QStringLiteral("Spunta"));
+      ASSERT_TRUE(check && check->isVisible() && check->isChecked());
+      EXPECT_GT(check->y(), box.findChild<QLineEdit*>()->y());
+      EXPECT_LT(check->y(), box.findChild<QDialogButtonBox*>()->y());
+      QTest::keyClick(check, Qt::Key_Space);
+      QTest::keyClick(&box, key);
+    });
+    user.ChiediTesto({.richiesta = "x", .spunta = &tick});
+    EXPECT_EQ(tick.scelta, ticked);
+  }
 }
 
 TEST_F(UserTest, ALongPromptIsWrappedAndIsNoMarkup) {
