@@ -168,6 +168,21 @@ TEST_F(Editing, AWordGoesToTheClueEditorAndComesBackIntoTheGrid) {
   EXPECT_EQ(SchemaModificato, Vero);
   EXPECT_EQ(ParolaCasella(1, 2, Orizzontale), "COTE");
 
+  using Change = std::pair<const char*, const char*>;  // the clue alone, the word alone
+  for (const auto& [word, clue] : {Change{"COTE", "Altra"}, Change{"CITE", "Altra"}}) {
+    SchemaModificato = Falso;
+    MoveTo(1, 2);
+    window.whenShown = [word = word, clue = clue] {
+      ParolaCasella(1, 2, Orizzontale) = word;
+      Definizione(1, 2, Orizzontale) = clue;
+    };
+    Press(Left, 1, 2);
+    EXPECT_EQ(SchemaModificato, Vero) << word;
+    EXPECT_NE(ReadFile(PercorsoIstantanea()).find("  1  21-Altra\r\n"), std::string::npos) << word;
+  }
+  window.whenShown = nullptr;
+  Draw({"....", "COTE", "A#..", "NE.."});
+
   MoveTo(3, 2);  // along the word: nothing changes but the cell, one behind
   window.whenShown = [] { ParolaCasella(MouseCol, MouseRiga, Direzione) = "RTE*XXXX"; };
   Press(Left, 3, 2);
@@ -235,6 +250,32 @@ TEST_F(Editing, TheGridGrowsAndShrinksByOne) {
   EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "CAS.");
 }
 
+TEST_F(Editing, NumbersFollowTheGridAndCluesStayWithTheirCells) {
+  Open({"CASA", "....", "NEL#"});
+  Definizione(1, 1, Verticale) = "first";
+  Definizione(4, 1, Verticale) = "last column";
+  Definizione(1, 3, Orizzontale) = "NEL";
+  const auto numberAt = [](int c, int r) { return int{NumeroCasella(c, r)}; };
+  const auto saved = [](const char* clue) {
+    return TestoDelCruciverba().value().find(clue) != std::string::npos;
+  };
+  EXPECT_EQ(numberAt(1, 3), 6);
+  AttivaCasellaNera();
+  Press(Left, 2, 1);
+  EXPECT_EQ(numberAt(3, 1), 2) << "a word begins behind the black cell";
+  EXPECT_EQ(numberAt(2, 2), 5) << "and below it";
+  TogliColonna();
+  EXPECT_FALSE(saved("last column"));
+  EXPECT_EQ(numberAt(3, 1), 2) << "one letter, and the word below it";
+  EXPECT_EQ(ParolaCasella(3, 1, Orizzontale), "");
+  AggiungiColonna();
+  EXPECT_TRUE(saved("  4  12-last column\r\n"));
+  EXPECT_EQ(ParolaCasella(3, 1, Orizzontale), "S.") << "the stretch of one letter is a word";
+  EXPECT_EQ(ParolaCasella(1, 3, Orizzontale), "NEL.");
+  EXPECT_EQ(Definizione(1, 1, Verticale) + Definizione(1, 3, Orizzontale), "firstNEL");
+  EXPECT_EQ(numberAt(1, 3), 6);
+}
+
 TEST_F(Editing, SizesHaveTheirLimits) {
   const std::tuple<Rows, void (*)(), const char*> cases[] = {
       {{std::string(53, '.')}, AggiungiColonna, "Numero massimo consentito di colonne: 53"},
@@ -252,6 +293,10 @@ TEST_F(Editing, SizesHaveTheirLimits) {
     EXPECT_EQ(PuntatoreMouse, 4);
     EXPECT_EQ(ModoGriglia, 1);
   }
+  Open(Rows(29, std::string(52, '.')));
+  AggiungiColonna();
+  AggiungiRiga();
+  EXPECT_EQ(Drawing(), Rows(30, std::string(53, '.')));
   Open({"....", "....", "....", "...."});
   TogliColonna();
   TogliRiga();

@@ -143,6 +143,10 @@ TEST_F(ExtractionTest, DeadEndsAreTold) {
        "Sulla parola verticale alla posizione 3,1 c'è un incrocio orizzontale non trovato nel "
        "vocabolario: 'CARTA'",
        TeeWithCarta},
+      {"#... #.## #.## #.##", {"SOLE"}, {"SIA", "CURVA"},
+       "Sulla parola orizzontale alla posizione 2,1 c'è un incrocio verticale non trovato nel "
+       "vocabolario: 'SOLE'",
+       "#SIA #O## #L## #E##"},
       // Nothing is told of three letters, and slots of other lengths are not looked at.
       {"... #.# #.#", {"LIBRO"}, {}, "", "??? #?# #?#"},
       {"... #.# #.#", {"APE"}, {"PUO"}, "", "APE #U# #O#"},

@@ -97,6 +97,37 @@ TEST_F(CrosswordFile, FaultIsToldAndEndsTheReading) {
   EXPECT_EQ(Definizione(1, 1, Orizzontale) + Definizione(1, 1, Verticale), "letta");
 }
 
+TEST_F(CrosswordFile, TheFirstAndTheLastOfAllThatIsCountedAreTaken) {
+  const std::string grid = Header("02x01") + "H.\x1A.\r\n";  // the least byte of a cell
+  ASSERT_TRUE(InterpretaCruciverba(grid + "  1  11-a\r\n 53 302-z\r\n"));
+  EXPECT_EQ(Definizione(1, 1, Orizzontale) + Definizione(53, 30, Verticale), "az");
+  EXPECT_EQ(Schema(5), std::string("..\0.", 4));
+  for (const char* size : {"01x01", "53x01", "01x30"})
+    EXPECT_TRUE(DimensioniDichiarate(Unisci("Dimensioni : ", size))) << size;
+}
+
+TEST_F(CrosswordFile, AClueWhereNoWordStartsIsReadAndLeftOutOfTheNextFile) {
+  const std::string clue = "  2  11-in mezzo\r\n";
+  const std::string rest = "  1  11-inizio\r\n[Colori caselle]\r\n 0 \r\n 0 \r\n 0 \r\n";
+  const std::string grid = Header("03x01") + "].[.t.\r\n";
+  ASSERT_EQ(ApriCruciverba(WriteFile("uno.tlrm", grid + clue + rest)), Apertura::Intera);
+  EXPECT_EQ(Definizione(2, 1, Orizzontale), "in mezzo");
+  RicalcolaCaselle();
+  EXPECT_EQ(FirstDifference(TestoDelCruciverba().value(), grid + rest), "");
+}
+
+TEST_F(CrosswordFile, ARefusedFileLeavesHeaderAndSizeOfTheOpenCrossword) {
+  Draw({"AB", "CD"});
+  const auto before = TestoDelCruciverba();
+  for (const std::string& bytes :
+       {std::string("a\r\nb\r\n"), Header("54x30"), Header("00x03"), std::string("\0\0", 2)}) {
+    EXPECT_EQ(ApriCruciverba(WriteFile("no.tlrm", bytes)), Apertura::Rifiutata);
+    EXPECT_EQ(user.TakeTexts().size(), 1u);
+    EXPECT_EQ(TestoDelCruciverba(), before) << bytes;
+    EXPECT_EQ(NumColonne * 10 + NumRighe, 22);
+  }
+}
+
 TEST_F(CrosswordFile, CutAnywhereItIsReadOrRefused) {
   std::string before;
   for (const auto& [piece, accepted] : Small) {

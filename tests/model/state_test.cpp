@@ -1,10 +1,21 @@
 #include "model/state.h"
 
+#include <tuple>
+
+#include "auxiliary/addresses.h"
+#include "auxiliary/tips.h"
+#include "clues/clue_family.h"
 #include "dictionary/dictionary.h"
+#include "dictionary/dictionary_choice.h"
+#include "editor/cell_editing.h"
 #include "editor/settings.h"
 #include "editor/startup.h"
+#include "editor/word_pointing.h"
 #include "fill/extraction.h"
 #include "fill/word_choice.h"
+#include "model/crossword_file.h"
+#include "output/picture_page.h"
+#include "output/web_opening.h"
 #include "support/telarium_test.h"
 
 namespace telarium {
@@ -20,33 +31,83 @@ TEST(StateDeathTest, IndexOutOfItsTableIsNamed) {
 
 using State = TelariumTest;
 
+// Every variable of the state as text; of a table its last entry.
+std::vector<std::string> Everything() {
+  std::vector<std::string> all;
+  const auto add = [&](const auto&... values) { (all.push_back(Unisci(values)), ...); };
+  add(Schema(350), Definizione(53, 30, 2), ParolaCasella(53, 30, 2), LetteraCasella(53, 30));
+  add(NumColonne, NumRighe, SchemaModificato, ColoreCasella(53, 30), TipoCasella(53, 30));
+  add(NumeroCasella(53, 30), LatoCasella, OrigineX, OrigineY, ModoGriglia, PuntatoreMouse);
+  add(MouseCol, MouseRiga, CursoreX, CursoreY, Direzione, ColoreScelto, IstantaneaSuperata());
+  add(NomeFont, AltezzaCaratteri, AltezzaNumeri, PercentualeRiquadro, DistanzaDaSpigolo);
+  add(DistanzaDaCentro, SpessoreBordo, RettangoloParola, StampaSoluzioni, TastoSin);
+  add(NascondiSoluzioni, GiaAttivata, MostraSuggerimenti, ProvaInfinita, LinguaDizionario);
+  add(OffsetLunghezza(12), ContaLunghezza(12), NumVociDizionari, Candidati(MaxParole));
+  add(NumCandidati, DistanzaSu(53), DistanzaSinistra(0), ElencoDefinizioni(1));
+  add(LarghezzaPicture, IndirizzoWeb, ValoreIndirizzo(Indirizzo::PaginaEsempio));
+  for (const Percorso& path : {NomeCruciverba, CartellaProgramma, CartellaIstantanea, RigaDiComando,
+                               FileComando, NomeDizionario})
+    all.push_back(path.string());
+  return all;
+}
+
 TEST_F(State, ResetPutsEveryVariableAsAtProgramStart) {
-  Schema(350) = Definizione(53, 30, 2) = ParolaCasella(53, 30, 2) = NomeFont = "x";
-  NomeCruciverba = CartellaProgramma = CartellaIstantanea = NomeDizionario = "x";
-  NumColonne = NumRighe = SchemaModificato = LatoCasella = OrigineX = OrigineY = 1;
-  ModoGriglia = PuntatoreMouse = AltezzaCaratteri = DistanzaDaCentro = TipoCasella(53, 30) = 1;
-  NumeroCasella(53, 30) = LetteraCasella(53, 30) = LinguaDizionario = 9;
-  ColoreCasella(53, 30) = OffsetLunghezza(12) = ContaLunghezza(12) = 1;
-  ProvaInfinita = Candidati(MaxParole) = NumCandidati = DistanzaSu(53) = DistanzaSinistra(0) = 1;
-  AltezzaNumeri = PercentualeRiquadro = DistanzaDaSpigolo = SpessoreBordo = 1;
-  TastoSin = StampaSoluzioni = NascondiSoluzioni = GiaAttivata = 1;
-  RettangoloParola = Falso;
-  RigaDiComando = FileComando = "x";
   AzzeraStato();
-  EXPECT_EQ(AltezzaNumeri + PercentualeRiquadro + DistanzaDaSpigolo + SpessoreBordo, 0);
-  EXPECT_EQ(TastoSin + StampaSoluzioni + NascondiSoluzioni + GiaAttivata, 0);
-  EXPECT_EQ(RettangoloParola, Vero);
-  EXPECT_EQ(RigaDiComando.string() + FileComando.string(), "");
-  EXPECT_EQ(Schema(350) + Definizione(53, 30, 2) + ParolaCasella(53, 30, 2) + NomeFont, "");
-  EXPECT_EQ(NomeCruciverba.string() + CartellaProgramma.string() + CartellaIstantanea.string(), "");
+  const auto atStart = Everything();
+  CartellaProgramma = InFolder("");
+  WriteFile("indirizzi.txt", "PaginaEsempio=x\r\n");
+  LeggiIndirizzi();
+  CartellaIstantanea = InFolder("manca");
+  AggiornaIstantanea();  // fails
+  Schema(350) = Definizione(53, 30, 2) = ParolaCasella(53, 30, 2) = NomeFont = "x";
+  ElencoDefinizioni(1) = IndirizzoWeb = "x";
+  NomeCruciverba = NomeDizionario = RigaDiComando = FileComando = "x";
+  for (std::int16_t* one : {&NumColonne,
+                            &NumRighe,
+                            &SchemaModificato,
+                            &TipoCasella(53, 30),
+                            &NumeroCasella(53, 30),
+                            &LatoCasella,
+                            &OrigineX,
+                            &OrigineY,
+                            &ModoGriglia,
+                            &PuntatoreMouse,
+                            &CursoreX,
+                            &CursoreY,
+                            &Direzione,
+                            &AltezzaCaratteri,
+                            &AltezzaNumeri,
+                            &PercentualeRiquadro,
+                            &DistanzaDaSpigolo,
+                            &DistanzaDaCentro,
+                            &SpessoreBordo,
+                            &RettangoloParola,
+                            &StampaSoluzioni,
+                            &TastoSin,
+                            &NascondiSoluzioni,
+                            &GiaAttivata,
+                            &ProvaInfinita,
+                            &LinguaDizionario,
+                            &NumVociDizionari,
+                            &Candidati(MaxParole),
+                            &NumCandidati,
+                            &DistanzaSu(53),
+                            &DistanzaSinistra(0),
+                            &LarghezzaPicture})
+    *one = 7;
+  MouseCol = MouseRiga = ColoreScelto = ColoreCasella(53, 30) = MostraSuggerimenti = 7;
+  OffsetLunghezza(12) = ContaLunghezza(12) = LetteraCasella(53, 30) = 7;
+  const auto changed = Everything();
+  for (std::size_t i = 0; i < changed.size(); ++i)
+    EXPECT_NE(changed[i], atStart[i]) << "variable " << i << " was left out";
+  AzzeraStato();
+  EXPECT_EQ(Everything(), atStart);
   EXPECT_EQ(NomeDizionario, "LessicoItaliano.dat");
-  EXPECT_EQ(LinguaDizionario, 1);
   EXPECT_EQ(LetteraCasella(53, 30), '.');
-  EXPECT_EQ(NumColonne + NumRighe + SchemaModificato + LatoCasella + OrigineX + OrigineY, 0);
-  EXPECT_EQ(ModoGriglia + PuntatoreMouse + AltezzaCaratteri + DistanzaDaCentro, 0);
-  EXPECT_EQ(TipoCasella(53, 30) + NumeroCasella(53, 30) + ColoreCasella(53, 30), 0);
-  EXPECT_EQ(OffsetLunghezza(12) + ContaLunghezza(12) + ProvaInfinita, 0);
-  EXPECT_EQ(Candidati(MaxParole) + NumCandidati + DistanzaSu(53) + DistanzaSinistra(0), 0);
+  EXPECT_EQ(std::tuple(RettangoloParola, LinguaDizionario, MostraSuggerimenti),
+            std::tuple(Vero, 1, 1));
+  EXPECT_EQ(NumColonne + NumRighe + LatoCasella + ModoGriglia + ColoreCasella(53, 30), 0);
+  EXPECT_EQ(Schema(350) + Definizione(53, 30, 2) + NomeFont + CartellaProgramma.string(), "");
 }
 
 TEST_F(State, EmptyingTheCrosswordKeepsItsHeaderAndSize) {

@@ -32,13 +32,23 @@ TEST_F(Words, KindsNumbersAndWordsFollowFromTheDrawing) {
       {{"AB#C"}, {"2101"}, {"1 AB"}},
       {{"A", "B", "#", "C"}, {"3", "1", "0", "1"}, {"1 AB"}},
       {{"###", "#A#", "###"}, {"000", "010", "000"}, {}},
+      {{"##", "##"}, {"00", "00"}, {}},
       {{"1 ?"}, {"211"}, {"1 1 ?"}},
   };
   for (const auto& row : cases) {
+    NumeroCasella.Riempi(9);  // of the grid before
+    ParolaCasella.Riempi("XY");
     Draw(row.drawing);
     EXPECT_EQ(KindsAndWords(), std::pair(row.kinds, row.words)) << row.drawing.front();
+    for (int c = 1; c <= NumColonne; ++c) {
+      for (int r = 1; r <= NumRighe; ++r) {
+        EXPECT_EQ(NumeroCasella(c, r) > 0, TipoCasella(c, r) > 1) << c << ' ' << r;
+        const std::string both = ParolaCasella(c, r, Orizzontale) + ParolaCasella(c, r, Verticale);
+        EXPECT_TRUE(both.empty() || LetteraCasella(c, r) != CellaNera) << c << ' ' << r;
+        EXPECT_NE(both, "XYXY") << "an isolated cell begins nothing";
+      }
+    }
   }
-  EXPECT_EQ(NumeroCasella(2, 1), 0);
 }
 
 TEST_F(Words, EachCellHoldsTheRestOfItsRun) {
