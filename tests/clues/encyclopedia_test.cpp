@@ -10,6 +10,7 @@
 #include "clues/encyclopedia_writer.h"
 #include "clues/sqlite_database.h"
 #include "support/clue_store.h"
+#include "support/ordinary_user.h"
 #include "support/telarium_test.h"
 
 namespace telarium {
@@ -187,6 +188,29 @@ TEST_F(EncyclopediaTest, StoreHeldByAnotherProgramIsToldAfterAWhile) {
   EXPECT_GE(std::chrono::steady_clock::now() - begun, std::chrono::milliseconds(100));
   release.join();
   EXPECT_EQ(ErrorOf(), "");
+}
+
+TEST_F(EncyclopediaTest, AWordWithAnApostropheIsRefusedAndTheNextSearchGoesOn) {
+  MakeStore("A\tF\tx\n");
+  const EnciclopediaAperta open = ApriEnciclopedia();
+  try {
+    open->CercaParola("L'ORO");
+    ADD_FAILURE() << "it was searched";
+  } catch (const ErroreEnciclopedia& error) {
+    EXPECT_TRUE(error.Descrizione().ends_with(
+        "la parola \"L'ORO\" contiene un apostrofo e non si pu\xF2 cercare."));
+  }
+  EXPECT_TRUE(open->CercaParola("A"));
+}
+
+TEST_F(EncyclopediaTest, AProtectedStoreIsReadAndWrittenNothing) {
+  MakeStore("A\tF\tx\n");
+  fs::permissions(InFolder(""), fs::perms(0777));
+  fs::permissions(store, fs::perms(0444));
+  EXPECT_TRUE(AsOrdinaryUser([] { return ErrorOf() == "" && Stored("A") == "x"; }));
+  EXPECT_TRUE(AsOrdinaryUser(
+      [] { return ErrorOf([](Enciclopedia& open) { open.AggiungiParola("B", "y"); }) != ""; }));
+  EXPECT_EQ(Stored("A") + Stored("B"), "x?");
 }
 
 TEST_F(EncyclopediaTest, TheFileIsWholeAndAloneAfterEachConnection) {

@@ -1,9 +1,12 @@
 #include "crossworddialogs/crossword_archive.h"
 
 #include <filesystem>
+#include <unistd.h>
 
+#include "crossworddialogs/new_crossword.h"
 #include "model/crossword_file.h"
 #include "platform/codepage.h"
+#include "support/ordinary_user.h"
 #include "support/telarium_test.h"
 
 namespace telarium {
@@ -118,6 +121,25 @@ TEST_F(Archive, TheFolderIsMadeWhereItCanBe) {
   fs::remove(InFolder("ARCHIVIO Cruciverba"));
   WriteFile("Archivio cruciverba", "a file");
   EXPECT_EQ(CartellaArchivio(), CartellaProgramma);
+  fs::remove(InFolder("Archivio cruciverba"));
+  fs::permissions(CartellaProgramma, fs::perms(0755));
+  EXPECT_TRUE(AsOrdinaryUser([this] {
+    if (::access(CartellaProgramma.c_str(), W_OK) == 0) return true;  // the folder's own user
+    return CartellaArchivio() == CartellaProgramma && !fs::exists(InFolder("Archivio cruciverba"));
+  }));
+}
+
+TEST_F(Archive, TheAuthorGoesFromTheCrosswordToTheFileAndBack) {
+  ASSERT_EQ(NuovoVuoto(4, 3), EsitoNuovo::Fatto);
+  ASSERT_TRUE(LeggiIstantanea());
+  EXPECT_EQ(AutoreDelCruciverba(), "Zanotti Graziella");
+  ASSERT_TRUE(Save("uno", "Ada"));
+  EXPECT_EQ(AutoreDelCruciverba(), "Ada");
+  ASSERT_EQ(NuovoVuoto(4, 3), EsitoNuovo::Fatto);
+  ASSERT_TRUE(LeggiIstantanea());
+  EXPECT_EQ(AutoreDelCruciverba(), "Zanotti Graziella");
+  ASSERT_EQ(ApriCruciverba(InFolder("uno.tlrm")), Apertura::Intera);
+  EXPECT_EQ(AutoreDelCruciverba(), "Ada");
 }
 
 TEST_F(Archive, GivingUpWithoutACrosswordShowsNoGrid) {

@@ -2,6 +2,7 @@
 
 #include "dictionary/sorted_words.h"
 #include "platform/codepage.h"
+#include "support/ordinary_user.h"
 #include "support/telarium_test.h"
 
 namespace telarium {
@@ -49,6 +50,16 @@ TEST_F(MaintenanceTest, PrivateNamesGetOneExtensionAndStayInTheFolder) {
   };
   for (const auto& [typed, name] : names)
     EXPECT_EQ(NomeDizionarioPrivato(typed).value_or(""), name) << typed;
+}
+
+TEST_F(MaintenanceTest, AProtectedDictionaryIsNotDeleted) {
+  std::filesystem::permissions(CartellaProgramma, std::filesystem::perms::all);
+  for (const auto& [rights, deleted] : {std::pair(0444u, false), {0666u, true}}) {
+    const Percorso file = WriteFile("mio.priv", "x");
+    std::filesystem::permissions(file, std::filesystem::perms(rights));
+    EXPECT_TRUE(AsOrdinaryUser([d = deleted] { return CancellaDizionario("mio.priv") == d; }));
+    EXPECT_EQ(std::filesystem::exists(file), !deleted);
+  }
 }
 
 TEST_F(MaintenanceTest, ImportTakesTheFirstLinesBlankOnesCounted) {

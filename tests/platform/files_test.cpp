@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include "platform/codepage.h"
+#include "support/ordinary_user.h"
 #include "support/telarium_test.h"
 
 namespace telarium {
@@ -78,6 +79,31 @@ TEST_F(Files, ReadTellsMissingUnreadableAndTooLargeApart) {
   EXPECT_EQ(LeggiFile(InFolder("anello"), 5, contents), EsitoLettura::Illeggibile);
   EXPECT_EQ(LeggiFile(file / "dentro", 5, contents), EsitoLettura::Assente);
   EXPECT_EQ(LeggiFile(CartellaProgramma, 5, contents), EsitoLettura::Assente);
+}
+
+TEST_F(Files, RightsThatAreMissingCostNothingAndAreTold) {
+  const Percorso file = WriteFile("protetto", "vecchio"), secret = WriteFile("segreto", "x");
+  const Percorso closed = InFolder("chiusa");
+  fs::create_directory(closed);
+  fs::permissions(CartellaProgramma, fs::perms::all);
+  fs::permissions(file, fs::perms(0444));
+  fs::permissions(secret, fs::perms::none);
+  fs::permissions(closed, fs::perms(0555));
+  constexpr auto denied = std::errc::permission_denied;
+  EXPECT_TRUE(AsOrdinaryUser([&] { return ScriviFile(file, "nuovo") == denied; }))
+      << "though its folder would allow it";
+  EXPECT_TRUE(AsOrdinaryUser([&] { return ScriviFile(closed / "x", "nuovo") == denied; }));
+  EXPECT_TRUE(AsOrdinaryUser([&] { return ScriviFileNuovo(closed / "x", "nuovo") == denied; }));
+  EXPECT_TRUE(AsOrdinaryUser([&] { return !CartellaScrivibile(closed); }));
+  EXPECT_TRUE(AsOrdinaryUser([&] { return CartellaScrivibile(CartellaProgramma); }));
+  EXPECT_TRUE(AsOrdinaryUser([&] {
+    std::string contents;
+    return LeggiFile(secret, 5, contents) == EsitoLettura::Illeggibile;
+  }));
+  EXPECT_EQ(ReadFile(file), "vecchio");
+  EXPECT_EQ(ElencaFile(CartellaProgramma, "*"), (Names{"protetto", "segreto"}));
+  EXPECT_TRUE(ElencaFile(closed, "*").empty());
+  fs::permissions(closed, fs::perms::all);
 }
 
 TEST_F(Files, NamesAreFoundWhateverTheirCase) {
