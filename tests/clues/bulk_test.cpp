@@ -1,5 +1,8 @@
 #include "clues/bulk.h"
 
+#include <chrono>
+#include <iterator>
+
 #include "clues/import.h"
 #include "clues/sqlite_database.h"
 #include "model/words.h"
@@ -125,6 +128,67 @@ TEST_F(BulkTest, EmptyGridFetchesNothingFromAStoreThatIsOpenedAllTheSame) {
   EXPECT_EQ(user.TakeTexts(), Texts{FetchReport(0, 0)});
 }
 
+TEST_F(BulkTest, AnEmptyGridWithoutAStoreIsToldOfIt) {
+  Draw({"##", "##"});
+  Prelevadefinizioni(ModoTutte);
+  EXPECT_EQ(user.TakeTexts(),
+            Texts{"Enciclopedia telarium1.mdb: il file manca o non si pu\xF2 aprire."});
+}
+
+TEST_F(BulkTest, WordsGoByColumnsAndAtACellTheHorizontalOneFirst) {
+  Draw({"AB", "CD"});
+  MakeStore("");
+  const std::pair<Slot, const char*> words[] = {{{{1, 1}, Orizzontale, 2}, "AB"},
+                                                {{{1, 1}, Verticale, 2}, "AC"},
+                                                {{{1, 2}, Orizzontale, 2}, "CD"},
+                                                {{{2, 1}, Verticale, 2}, "BD"}};
+  for (const auto& [slot, word] : words)
+    Definizione(slot.inizio.colonna, slot.inizio.riga, slot.direzione) = "uno";
+  SalvaDefinizioni();
+  Texts stored;
+  {
+    BaseDati store(InFolder("telarium1.mdb"));
+    Istruzione rows(store, "SELECT PAROLA FROM Parole ORDER BY rowid");
+    while (rows.Passo())
+      stored.push_back(rows.Testo(0).value_or("-"));
+    EXPECT_EQ(stored, (Texts{"AB", "AC", "CD", "BD"}));
+    store.Esegui("UPDATE Parole SET DEFINIZ_FACILE = 'uno' || char(13, 10) || 'due'");
+  }
+  for (std::size_t second = 0; second < std::size(words); ++second) {
+    machine.draws.assign(std::size(words), 0);
+    machine.draws[second] = 0.9;
+    ASSERT_TRUE(PrelevaTutte(ModoFacili));
+    for (std::size_t n = 0; n < std::size(words); ++n) {
+      const auto& [cell, direction, length] = words[n].first;
+      EXPECT_EQ(Definizione(cell.colonna, cell.riga, direction), n == second ? "due" : "uno");
+    }
+  }
+  user.TakeTexts();
+}
+
+TEST_F(BulkTest, AStoreThatSomebodyTakesMeanwhileHoldsTheFetchUpOnce) {
+  constexpr int rows = 5, wordsInARow = 10;
+  std::vector<std::string> grid;
+  for (int r = 0; r < rows; ++r) {
+    grid.emplace_back();
+    for (int n = 0; n < wordsInARow; ++n)
+      grid.back() += n == 0 ? "MELA" : "#MELA";
+    grid.push_back(std::string(grid.back().size(), '#'));
+  }
+  Draw(grid);
+  MakeStore("MELA\tF\tf\n");
+  BaseDati other(InFolder("telarium1.mdb"));
+  machine.whenDrawing = [&] { other.Esegui("BEGIN EXCLUSIVE"); };
+  const auto begun = std::chrono::steady_clock::now();
+  Prelevadefinizioni(ModoFacili);
+  // A second for each of the 49 other words would be far more.
+  EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(25));
+  const Texts told = user.TakeTexts();
+  ASSERT_EQ(told.size(), 1u);
+  EXPECT_TRUE(told[0].starts_with(FetchReport(1, 0))) << told[0];
+  EXPECT_NE(told[0].find("49 parole"), std::string::npos) << told[0];
+}
+
 TEST_F(BulkTest, SavingTwiceAddsNothingTheSecondTime) {
   MakeStore("MELA\tF\tLa pi\xC3\xB9 vecchia fra tutte\nRE\tD\tsovrano\n");
   MAR = "nuova";
@@ -188,6 +252,21 @@ TEST_F(BulkTest, ImportTakesStrangeFilesAsTheyAre) {
                    ImportReport(0, 0), ImportReport(1, 0), ImportReport(2, 0)}));
   EXPECT_EQ(Stored("CAFF\xC8"), "Nero e caffè");
   EXPECT_EQ(Stored("C").size(), 10'000'000u);
+}
+
+TEST_F(BulkTest, AnImportThatCannotChangeAWordEndsThere) {
+  MakeStore("");
+  BaseDati(InFolder("telarium1.mdb"))
+      .Esegui(
+          "DROP TABLE Parole; CREATE TABLE Parole (PAROLA TEXT,"
+          " DEFINIZ_FACILE TEXT CHECK (length(DEFINIZ_FACILE) < 8), DEFINIZ_DIFFIC TEXT);"
+          " INSERT INTO Parole VALUES ('RE', 'corto', NULL)");
+  WriteFile("definizIONI.txt", "ALA\nx\nRE\nmolto lungo\nORA\ny\n");
+  Recupera_Definizioni();
+  EXPECT_EQ(user.TakeTexts(),
+            Texts{"Enciclopedia telarium1.mdb: il file non ammette questi dati."});
+  EXPECT_EQ(window.shown, std::vector{Modale::Form6});
+  EXPECT_EQ(Stored("ALA") + Stored("RE") + Stored("ORA"), "xcorto?");
 }
 
 TEST_F(BulkTest, ImportCountsAWordThatCannotBeAddedAndTellsIt) {

@@ -156,6 +156,38 @@ constexpr Case Cases[] = {
 INSTANTIATE_TEST_SUITE_P(, Pages, ::testing::ValuesIn(Cases),
                          [](const auto& info) { return std::string(info.param.folder); });
 
+TEST_F(Exports, PagesOfOddGrids) {
+  const auto count = [](const std::string& page, std::string_view part) {
+    int times = 0;
+    for (std::size_t at = page.find(part); at != page.npos; at = page.find(part, at + 1))
+      ++times;
+    return times;
+  };
+  const auto white = [](int columns, int rows) {
+    return Texts(static_cast<std::size_t>(rows),
+                 std::string(static_cast<std::size_t>(columns), 'a'));
+  };
+  const struct {
+    Texts drawing;
+    const char* part;
+    int inPageToRead, inPageToSolve;
+  } cases[] = {
+      {white(33, 1), "<td width=\"3%\" height=", 33, 33},
+      {white(34, 1), "<td width=\"2%\" height=", 34, 34},
+      {white(53, 30), "   finite++;\r\n\r\n", 0, 1590},
+      {white(53, 30), "theForm.num1590.value", 0, 1},
+      {white(53, 30), " if(finite == 1590) {\r\n", 0, 1},
+      // A letter that is no capital stands as it is, and no visitor can match it.
+      {{"aB"}, ".value.toUpperCase( ) == \"a\")", 0, 1},
+      {{"aB"}, "<font size=\"3\">a</td>", 1, 0},
+  };
+  for (const auto& [drawing, part, toRead, toSolve] : cases) {
+    Draw(drawing);
+    EXPECT_EQ(count(PaginaStatica(PaginaPerIlBrowser), part), toRead) << part;
+    EXPECT_EQ(count(PaginaInterattiva().value(), part), toSolve) << part;
+  }
+}
+
 TEST_F(Exports, ACharacterThatNoFileHoldsMakesNoPage) {
   Draw({"\xFF\xFF"});
   PubblicaCruciverba();

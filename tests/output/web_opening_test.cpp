@@ -38,6 +38,7 @@ TEST(SaveBlock, BeginsBehindTheLastMarkerThatIsNotTheEnd) {
       {"two at the end", "a" + marker + marker, marker},
       {"LF alone", "sottostanti ####\nx", std::nullopt},
       {"a blank between", "sottostanti #### \r\nx", std::nullopt},
+      {"of a later writer", "<!-- ALTRO Versione 9 qui sottostanti ####\r\nx", "x"},
       {"begins twice", "sottostanti sottostanti ####\r\nx", "x"},
   };
   for (const auto& [name, page, block] : cases) {

@@ -100,6 +100,7 @@ std::unique_ptr<LavoroDiStampa> ScriptedPrinter::IniziaLavoro(const std::string&
 }
 
 double ScriptedMachine::Casuale() {
+  if (whenDrawing) whenDrawing();
   return TakeFirst(draws).value_or(random.Prossimo());
 }
 

@@ -86,6 +86,7 @@ class ScriptedMachine : public MacchinaIsolata {
  public:
   /// The next draws, before the seeded ones go on.
   std::deque<double> draws;
+  std::function<void()> whenDrawing;  // what happens meanwhile
   std::chrono::year_month_day today{std::chrono::year(2024), std::chrono::month(3),
                                     std::chrono::day(5)};
   SorgenteCasuale random{20240305};

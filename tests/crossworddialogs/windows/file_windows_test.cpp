@@ -131,6 +131,48 @@ TEST_F(FileWindows, TheListsMoveTogether) {
   EXPECT_EQ(window.File1->count(), 2);
 }
 
+TEST_F(FileWindows, AnotherDriveTakesAllListsAlong) {
+  fs::create_directories(InFolder("disco/dentro"));
+  fs::copy(archive / "Beta.tlrm", InFolder("disco/altro.tlrm"));
+  Form2 open(nullptr);
+  TelarSav save(nullptr);
+  for (FinestraArchivio* window :
+       {static_cast<FinestraArchivio*>(&open), static_cast<FinestraArchivio*>(&save)}) {
+    Open(*window);
+    window->Drive1->addItem(QStringLiteral("X"),
+                            QByteArray::fromStdString(InFolder("disco").string()));
+    window->Drive1->setCurrentIndex(window->Drive1->count() - 1);
+    emit window->Drive1->activated(window->Drive1->count() - 1);
+    EXPECT_EQ(window->Dir1->Cartella(), InFolder("disco"));
+    EXPECT_EQ(window->File1->Cartella(), InFolder("disco"));
+    EXPECT_EQ(window->File1->count(), 1);
+    window->File1->setCurrentRow(0);
+    EXPECT_EQ(window->Text1->text(), QStringLiteral("altro.tlrm"));
+    window->reject();
+  }
+}
+
+TEST_F(FileWindows, TitlesAndCaptionsAreThose) {
+  Form2 open(nullptr);
+  TelarSav save(nullptr);
+  const std::pair<QString, const char*> texts[] = {
+      {open.windowTitle(), "Telarium  - Apertura layout parole crociate"},
+      {open.Frame2->title(), "Cartella"},
+      {open.Label4->text(), "Files di cruciverba "},
+      {open.Frame3->title(), "Nome file"},
+      {open.Frame1->title(), "Anteprima"},
+      {open.Command3d2->text(), "&Annulla"},
+      {save.windowTitle(), "Telarium  - Salvataggio"},
+      {save.Label3->text(), "Cartelle"},
+      {save.Label1->text(), "Nome File"},
+      {save.Frame1->title(), "Dati per il salvataggio : "},
+      {save.Label2->text(), "Dati autore:"},
+      {save.Frame2->toolTip(), "Inserire autore/indirizzo/e-mail ecc."},
+      {save.Command3d2->text(), "&Annulla"}};
+  for (const auto& [shown, expected] : texts)
+    EXPECT_EQ(shown.toStdString(), expected);
+}
+
 TEST_F(FileWindows, AFolderThatGoesAwayCostsAMessageAndAnEmptyOneNothing) {
   Form2 window(nullptr);
   Open(window);
