@@ -174,5 +174,18 @@ TEST_F(WordChoiceTest, LengthWithoutASectionAndMissingDictionaryAreTold) {
   EXPECT_EQ(ParolaEsiste("APE"), Falso);
 }
 
+TEST_F(WordChoiceTest, ADictionaryThatFailsToBeReadIsNotOneWithoutWords) {
+  OpenDictionary({"APE", "ORA"});
+  std::filesystem::remove(InFolder(NomeDizionario));
+  std::filesystem::create_symlink("/proc/self/mem", InFolder(NomeDizionario));  // EIO at its start
+  Draw({"APE", "#R#", "#A#"});
+  EXPECT_FALSE(CercaCandidati("A  "));
+  EXPECT_EQ(LeggiParola(1, 3), "");
+  EXPECT_FALSE(ProvaIncroci({{1, 1}, Orizzontale, 3}).letti);
+  EXPECT_FALSE(ApriDizionario());
+  const char* const told = "Impossibile leggere il dizionario: LessicoItaliano.dat";
+  EXPECT_EQ(user.TakeTexts(), (Words{told, told}));
+}
+
 }  // namespace
 }  // namespace telarium
