@@ -11,6 +11,7 @@
 #include "editor/settings.h"
 #include "editor/update_check.h"
 #include "model/crossword_file.h"
+#include "support/ordinary_user.h"
 #include "support/recording_window.h"
 #include "support/telarium_test.h"
 
@@ -140,6 +141,26 @@ TEST_F(StartupTest, ACommandLineThatCannotBeTakenToTheSnapshotIsOpenAllTheSame) 
   AttivaForm1();
   EXPECT_EQ(user.TakeTexts(), std::vector<std::string>{"Errore di scrittura del file!"});
   EXPECT_EQ(Drawing(), (std::vector<std::string>{"CASA"}));
+}
+
+TEST_F(StartupTest, AProtectedProgramFolderStaysAsItIsAndTheSnapshotLiesElsewhere) {
+  const Percorso file = CrosswordFile("mio.tlrm", {"CASA"});
+  const auto before = ElencaFile(InFolder(""), "*");
+  fs::permissions(InFolder("telarium.INI"), fs::perms(0444));
+  fs::permissions(InFolder(""), fs::perms(0555));
+  EXPECT_TRUE(AsOrdinaryUser([&] {
+    RigaDiComando = file;
+    Start();
+    const bool started = user.TakeTexts().empty() && FileOrdinario(PercorsoIstantanea()) &&
+                         PercorsoIstantanea().parent_path() != InFolder("");
+    CommutaStampaSoluzioni();
+    const bool told = user.TakeTexts().size() == 1;
+    AzzeraStato();  // removes the temporary folder
+    return started && told;
+  }));
+  fs::permissions(InFolder(""), fs::perms(0755));
+  EXPECT_EQ(ElencaFile(InFolder(""), "*"), before);
+  EXPECT_NE(ReadFile(InFolder("telarium.INI")).find("StampaSoluzioni=-1"), std::string::npos);
 }
 
 TEST_F(StartupTest, AMissingSettingsFileOrDictionaryEndsTheProgram) {
