@@ -42,7 +42,7 @@ std::string FormaDiStampa(std::int64_t numero) {
   return Unisci(numero < 0 ? "" : " ", numero, ' ');
 }
 
-std::string ConMigliaia(int numero) {
+std::string ConMigliaia(std::int64_t numero) {
   if (numero == 0) return {};
   std::string testo = std::to_string(numero);
   const std::size_t primaCifra = numero < 0 ? 1 : 0;

@@ -21,7 +21,7 @@ double ValoreDecimale(std::string_view testo);
 std::string FormaDiStampa(std::int64_t numero);
 
 /// A number with a point behind its thousands, as "274.092"; 0 gives an empty text.
-std::string ConMigliaia(int numero);
+std::string ConMigliaia(std::int64_t numero);
 
 /// A number from 0 on in two digits at least.
 std::string DueCifre(int numero);

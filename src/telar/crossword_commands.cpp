@@ -9,6 +9,7 @@
 #include "model/crossword_file.h"
 #include "model/words.h"
 #include "platform/platform.h"
+#include "platform/text.h"
 #include "telar/command.h"
 #include "telar/files.h"
 #include "telar/output.h"
@@ -133,7 +134,7 @@ Stato Estrai(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
     case EsitoEstrazione::Interrotta:
       Avvisa(Unisci(piattaforma.ChiUsa().Interrotto()
                         ? "Estrazione interrotta"
-                        : Unisci("Rinuncia dopo ", risposte.tentativi,
+                        : Unisci("Rinuncia dopo ", ConMigliaia(risposte.tentativi),
                                  risposte.tentativi == 1 ? " tentativo" : " tentativi"),
                     ": nessun file scritto."));
       return Stato::Fallito;

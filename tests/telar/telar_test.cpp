@@ -260,7 +260,7 @@ TEST_F(Telar, DeadEndsGetTheAnswerOfTheCommandLine) {
   EXPECT_EQ(Told("estrai square old --tentativi=2 --vicolo-cieco=no", 1),
             first + first + "Rinuncia dopo 2 tentativi: nessun file scritto.\n");
   EXPECT_EQ(Told("estrai square never --infinito", 1),
-            "Rinuncia dopo 1000 tentativi: nessun file scritto.\n");
+            "Rinuncia dopo 1.000 tentativi: nessun file scritto.\n");
   EXPECT_FALSE(fs::exists(InFolder("work/never")));
 }
 

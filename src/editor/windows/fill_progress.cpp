@@ -56,7 +56,7 @@ QString PannelloEstrazione::Testo() const {
                              .arg(avanzamento_.slotTotali);
   if (!infinita_) return parole;
   const qint64 trascorsi = std::max<qint64>(daInizio_.elapsed(), 1);
-  return QStringLiteral("Tentativo %1 (%2 al secondo)   %3")
+  return QStringLiteral("Tentativo %L1 (%L2 al secondo)   %3")
       .arg(avanzamento_.tentativo)
       .arg(avanzamento_.tentativo * 1000 / trascorsi)
       .arg(parole);
