@@ -92,7 +92,7 @@ void TogliRegistri(const Percorso& file) {
 // and so do its logs, since no other of our programs makes one while this one looks.
 bool CreaFile(const Percorso& file, const BaseDati& nuova) {
   const BloccoCartella blocco(file.parent_path());
-  if (!blocco.Preso()) throw ErroreEnciclopedia("un altro programma la sta facendo");
+  if (!blocco.Preso()) throw ErroreEnciclopedia("un altro programma la sta creando");
   if (TrovaFile(file.parent_path(), file.filename())) return false;
   TogliRegistri(file);
   const std::error_code errore = ScriviFileNuovo(file, nuova.Immagine());
