@@ -5,7 +5,8 @@
 #include <utility>
 
 #include "model/state.h"
-#include "platform/files.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
 #include "platform/text.h"
 
 namespace telarium {
@@ -74,10 +75,14 @@ void InterpretaRiga(std::string_view riga) {
 
 void LeggiIndirizzi() {
   valori = ValoriIniziali();
+  const Percorso file = PercorsoNellaCartella(CartellaProgramma, NomeFile);
   std::string testo;
-  if (LeggiFile(PercorsoNellaCartella(CartellaProgramma, NomeFile), MaxByteIndirizzi, testo) !=
-      EsitoLettura::Letto) {
-    return;
+  std::error_code errore;
+  const EsitoLettura esito = LeggiFile(file, MaxByteIndirizzi, testo, errore);
+  if (esito != EsitoLettura::Letto && esito != EsitoLettura::Assente) {
+    Avvisa(ConCausa("Il file degli indirizzi non si può leggere: valgono quelli iniziali."_cp, file,
+                    errore),
+           {}, Icona::Avviso);
   }
   LettoreDiRighe righe(testo);
   for (std::string_view riga; righe.Prossima(riga);)

@@ -39,20 +39,22 @@ void ScriviMostraSuggerimenti(bool voluti) {
 }
 
 void Suggerimenti::Carica() {
-  switch (LoadTips(PercorsoNellaCartella(CartellaProgramma, NomeFile))) {
+  std::error_code errore;
+  switch (LoadTips(PercorsoNellaCartella(CartellaProgramma, NomeFile), errore)) {
     case EsitoLettura::Letto:
       return;
     case EsitoLettura::Assente:
       testo_ = SenzaFile();
       return;
     default:
-      testo_ = Unisci("Il file ", NomeFile, " non si può leggere o è troppo grande."_cp);
+      testo_ =
+          Unisci("Il file ", NomeFile, " non si può leggere: "_cp, DescrizioneErrore(errore), '.');
   }
 }
 
-EsitoLettura Suggerimenti::LoadTips(const Percorso& file) {
+EsitoLettura Suggerimenti::LoadTips(const Percorso& file, std::error_code& errore) {
   std::string contenuto;
-  const EsitoLettura esito = LeggiFile(file, MaxByteSuggerimenti, contenuto);
+  const EsitoLettura esito = LeggiFile(file, MaxByteSuggerimenti, contenuto, errore);
   if (esito != EsitoLettura::Letto) return esito;
   contenuto = NellaCodePage(std::move(contenuto));
   LettoreDiRighe righe(contenuto);

@@ -26,7 +26,7 @@ class Suggerimenti {
   void Carica();
 
   /// Adds each line of a file as a tip and draws one. Anything but Letto leaves all as it was.
-  [[nodiscard]] EsitoLettura LoadTips(const Percorso& file);
+  [[nodiscard]] EsitoLettura LoadTips(const Percorso& file, std::error_code& errore);
 
   /// Draws a tip, each with the same chance whatever came before. Nothing happens without tips.
   void Estrai();

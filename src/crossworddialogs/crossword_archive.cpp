@@ -17,11 +17,6 @@ constexpr const char* NomeArchivio = "Archivio cruciverba";
 constexpr const char* NomeSenzaCruciverba = "Telar000.tlrm";
 constexpr const char* Estensione = ".tlrm";
 
-bool Leggibile(const Percorso& cartella) {
-  std::vector<Percorso> ignorate;
-  return !ElencaCartelle(cartella, ignorate);
-}
-
 // Whether a name begins with the letter of a drive, as "C:" or "C:\\uno".
 bool ConUnita(const std::string& nome) {
   const bool lettera =
@@ -37,12 +32,24 @@ Percorso NomeIntero(const Percorso& cartella, const Percorso& nome) {
   return intero;
 }
 
-// Whether a file can have that name: the folder is there, and nothing else has the name.
-bool NomePossibile(const Percorso& nome) {
+// Why no file can have that name: the folder is not there, or something else has the name.
+std::error_code ErroreDelNome(const Percorso& nome) {
   std::error_code errore;
   const fs::file_status stato = fs::status(nome, errore);
-  const bool libero = stato.type() == fs::file_type::not_found;
-  return (libero || fs::is_regular_file(stato)) && fs::is_directory(nome.parent_path(), errore);
+  if (fs::is_regular_file(stato)) return {};
+  if (fs::is_directory(stato)) return std::make_error_code(std::errc::is_a_directory);
+  if (fs::exists(stato)) return ErroreNonUnFile();
+  if (stato.type() != fs::file_type::not_found) return errore;
+  if (fs::is_directory(nome.parent_path(), errore)) return {};
+  return errore ? errore : std::make_error_code(std::errc::not_a_directory);
+}
+
+// What speaks against a full name, made of a name that the user gave; empty when nothing does.
+std::string DifettoDelNome(const Percorso& nome, const Percorso& intero) {
+  if (nome.filename().empty()) return "manca il nome del file";
+  if (ConUnita(nome.native())) return "nessun disco ha una lettera";
+  const std::error_code errore = ErroreDelNome(intero);
+  return errore ? DescrizioneErrore(errore) : std::string();
 }
 
 bool RiscrivereFile(const Percorso& nome) {
@@ -68,7 +75,7 @@ Percorso CartellaArchivio() {
   const Percorso archivio = PercorsoDellaCartella(CartellaProgramma, NomeArchivio);
   std::error_code errore;
   fs::create_directory(archivio, errore);
-  return Leggibile(archivio) ? archivio : CartellaProgramma;
+  return ErroreDellaCartella(archivio) ? CartellaProgramma : archivio;
 }
 
 void RinunciaAdAprire() {
@@ -89,9 +96,8 @@ bool SalvaNellArchivio(const Percorso& cartella, const Percorso& nome, const std
     return false;
   }
   const Percorso intero = NomeIntero(cartella, nome);
-  // No drive has a letter here.
-  if (nome.filename().empty() || ConUnita(nome.native()) || !NomePossibile(intero)) {
-    Avvisa("Errore di nome file o accesso al disco!");
+  if (const std::string difetto = DifettoDelNome(nome, intero); !difetto.empty()) {
+    Avvisa(ConCausa("Errore di nome file o accesso al disco!", intero, difetto));
     return false;
   }
   std::error_code ignorato;

@@ -11,8 +11,8 @@
 namespace telarium {
 namespace {
 
-constexpr double Margine = 10;  // both sides together
 constexpr std::string_view NonLeggibile = "Errore di lettura del file!";
+constexpr double Margine = 10;             // both sides together
 constexpr std::size_t MaxCaratteri = 200;  // of a text beside the picture
 constexpr std::size_t MaxDimensioni = 20;
 
@@ -58,19 +58,34 @@ std::string_view Interpreta(std::string_view contenuto, AnteprimaCruciverba& ant
   return {};
 }
 
-std::string_view Leggi(const Percorso& nome, AnteprimaCruciverba& anteprima) {
+// As Interpreta, with the file's name and the cause behind a message that has none.
+std::string Difetto(const Percorso& nome, std::string_view contenuto,
+                    AnteprimaCruciverba& anteprima) {
+  const std::string_view difetto = Interpreta(contenuto, anteprima);
+  return ConCausa(difetto, nome,
+                  difetto == NonLeggibile ? "il file finisce prima dello schema" : "");
+}
+
+// Reads a file into a preview; the message about what is wrong otherwise.
+std::string Leggi(const Percorso& nome, AnteprimaCruciverba& anteprima) {
   std::string contenuto;
-  const EsitoLettura esito =
-      FileOrdinario(nome) ? LeggiFile(nome, MaxByteCruciverba, contenuto) : EsitoLettura::Assente;
-  if (esito == EsitoLettura::Assente) return "Nessun file di cruciverba trovato!";
-  return esito == EsitoLettura::Letto ? Interpreta(contenuto, anteprima) : NonLeggibile;
+  std::error_code errore;
+  switch (LeggiFile(nome, MaxByteCruciverba, contenuto, errore)) {
+    case EsitoLettura::Letto:
+      return Difetto(nome, contenuto, anteprima);
+    case EsitoLettura::Assente:
+      return ConCausa("Nessun file di cruciverba trovato!", nome,
+                      nome.filename().empty() ? std::error_code() : errore);
+    default:
+      return ConCausa(NonLeggibile, nome, errore);
+  }
 }
 
 }  // namespace
 
 std::optional<AnteprimaCruciverba> LeggiAnteprima(const Percorso& file) {
   AnteprimaCruciverba anteprima;
-  const std::string_view difetto = Leggi(file, anteprima);
+  const std::string difetto = Leggi(file, anteprima);
   if (difetto.empty()) return anteprima;
   Avvisa(difetto);
   return std::nullopt;

@@ -15,28 +15,18 @@ constexpr std::size_t MaxByteModelli = 4u << 20;
 
 }  // namespace
 
-EsitoModelli LeggiModelli(const Percorso& nome, std::vector<Modello>& modelli) {
+bool CaricaModelli(const Percorso& nome, std::vector<Modello>& modelli) {
   std::string contenuto;
-  switch (LeggiFile(nome, MaxByteModelli, contenuto)) {
+  std::error_code errore;
+  switch (LeggiFile(nome, MaxByteModelli, contenuto, errore)) {
     case EsitoLettura::Letto:
       modelli = InterpretaModelli(contenuto);
-      return EsitoModelli::Letti;
-    case EsitoLettura::Assente:
-      return EsitoModelli::Assente;
-    default:
-      return EsitoModelli::NonLeggibile;
-  }
-}
-
-bool CaricaModelli(const Percorso& nome, std::vector<Modello>& modelli) {
-  switch (LeggiModelli(nome, modelli)) {
-    case EsitoModelli::Letti:
       return true;
-    case EsitoModelli::Assente:
-      Avvisa("Errore: Non trovato file di definizione modelli standard!");
+    case EsitoLettura::Assente:
+      Avvisa(ConCausa("Errore: Non trovato file di definizione modelli standard!", nome, errore));
       return false;
     default:
-      Avvisa("Impossibile leggere il file modelli: " + TestoPercorso(nome));
+      Avvisa(ConCausa("Impossibile leggere il file modelli.", nome, errore));
       return false;
   }
 }

@@ -15,16 +15,7 @@ namespace telarium {
 /// The rows of a model, top row first. As read: their lengths and characters are not checked.
 using Modello = std::vector<std::string>;
 
-enum class EsitoModelli {
-  Letti,
-  Assente,       // no such file
-  NonLeggibile,  // it cannot be read, or it is none of ours by its size
-};
-
-/// Reads all models of a file.
-[[nodiscard]] EsitoModelli LeggiModelli(const Percorso& nome, std::vector<Modello>& modelli);
-
-/// LeggiModelli for a window: false when there are none to have, which has been told.
+/// Reads all models of a file. False when there are none to have, which has been told.
 [[nodiscard]] bool CaricaModelli(const Percorso& nome, std::vector<Modello>& modelli);
 
 /// The models in the contents of a file.

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "dictionary/dictionary_file.h"
+#include "platform/codepage.h"
 #include "platform/platform.h"
 
 namespace telarium {
@@ -69,7 +70,11 @@ bool DizionarioLeggibile() {
 }
 
 void AvvisaDizionarioIlleggibile() {
-  Avvisa(Unisci("Impossibile leggere il dizionario: ", TestoPercorso(NomeDizionario)));
+  const Percorso nome = PercorsoDizionario();
+  const FileDizionario file(nome);
+  Avvisa(
+      ConCausa("Impossibile leggere il dizionario.", nome,
+               file.Aperto() ? "la lettura non è riuscita"_cp : DescrizioneErrore(file.Errore())));
 }
 
 }  // namespace telarium

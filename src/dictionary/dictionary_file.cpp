@@ -6,7 +6,12 @@ namespace telarium {
 
 FileDizionario::FileDizionario(const Percorso& nome)
     // A pipe in the place of a dictionary must not make the program wait for it.
-    : descrittore_(::open(nome.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {}
+    : descrittore_(::open(nome.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)) {
+  if (!Aperto()) errore_ = {errno, std::generic_category()};
+  if (!Aperto() || FileOrdinario(nome)) return;
+  errore_ = ErroreNonUnFile();
+  descrittore_ = {};
+}
 
 std::size_t FileDizionario::Leggi(std::int64_t posizione, char* destinazione,
                                   std::size_t byte) const {

@@ -24,12 +24,13 @@ bool AmmessoInUnNome(char carattere) {
 }
 
 // What a file begins with, which holds more lines than are taken; none when it cannot be read.
-std::optional<std::string> LeggiInizio(const Percorso& nome) {
+std::optional<std::string> LeggiInizio(const Percorso& nome, std::error_code& errore) {
   const FileDizionario file(nome);
-  if (!file.Aperto() || !FileOrdinario(nome)) return std::nullopt;
-  std::error_code errore;
-  const auto misura = std::filesystem::file_size(nome, errore);
-  std::string testo(std::min<std::uintmax_t>(errore ? 0 : misura, MaxByteListaDiParole), '\0');
+  errore = file.Errore();
+  if (!file.Aperto()) return std::nullopt;
+  std::error_code ignorato;
+  const auto misura = std::filesystem::file_size(nome, ignorato);
+  std::string testo(std::min<std::uintmax_t>(ignorato ? 0 : misura, MaxByteListaDiParole), '\0');
   testo.resize(file.Leggi(1, testo.data(), testo.size()));
   return testo;
 }
@@ -67,8 +68,12 @@ bool CancellaDizionario(const Percorso& nome) {
   return std::filesystem::remove(intero, errore);
 }
 
-std::optional<ListaImportata> LeggiListaDaImportare(int lunghezza) {
-  auto inizio = LeggiInizio(PercorsoNellaCartella(CartellaProgramma, Unisci(lunghezza, ".txt")));
+Percorso ListaDaImportare(int lunghezza) {
+  return PercorsoNellaCartella(CartellaProgramma, Unisci(lunghezza, ".txt"));
+}
+
+std::optional<ListaImportata> LeggiListaDaImportare(int lunghezza, std::error_code& errore) {
+  auto inizio = LeggiInizio(ListaDaImportare(lunghezza), errore);
   if (!inizio) return std::nullopt;
   const std::string testo = NellaCodePage(std::move(*inizio));
   ListaImportata lista;

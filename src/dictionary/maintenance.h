@@ -34,8 +34,10 @@ struct ListaImportata {
   int righe = 0;
 };
 
-/// The words of the plain list of a length in the program folder, "3.txt" to "15.txt": its first
-/// 32,200 lines. None when it cannot be read.
-std::optional<ListaImportata> LeggiListaDaImportare(int lunghezza);
+/// The plain list of the words of a length in the program folder, "3.txt" to "15.txt".
+Percorso ListaDaImportare(int lunghezza);
+
+/// Its first 32,200 lines. None when it cannot be read, for which `errore` says why.
+std::optional<ListaImportata> LeggiListaDaImportare(int lunghezza, std::error_code& errore);
 
 }  // namespace telarium

@@ -45,6 +45,14 @@ void PrendiAltroCruciverba(Modale finestra) {
   }
 }
 
+// Nothing has that name, or a folder.
+void AvvisaInesistente(const Percorso& nome) {
+  std::string nulla;
+  std::error_code errore;
+  static_cast<void>(LeggiFile(nome, 0, nulla, errore));
+  Avvisa(ConCausa("Errore: file inesistente!", nome, errore));
+}
+
 bool MaiSalvato() {
   return NumColonne == 0 || NomeCruciverba.empty() || NomeCruciverba == NomeMaiSalvato;
 }
@@ -94,8 +102,8 @@ void EsciDalProgramma() {
 }
 
 bool ApriFileDiCruciverba(const Percorso& nome) {
-  const Apertura esito = FileOrdinario(nome) ? ApriCruciverba(nome) : Apertura::Assente;
-  if (esito == Apertura::Assente) Avvisa("Errore: file inesistente!");
+  const Apertura esito = ApriCruciverba(nome);
+  if (esito == Apertura::Assente) AvvisaInesistente(nome);
   if (!AccogliCruciverba(esito)) return false;
   NomeCruciverba = nome;
   SchemaModificato = Falso;

@@ -86,10 +86,13 @@ void InterpretaImpostazioni(std::string_view testo) {
     InterpretaRiga(riga);
 }
 
-EsitoImpostazioni LeggiImpostazioni() {
+Percorso FileImpostazioni() {
+  return PercorsoNellaCartella(CartellaProgramma, NomeFile);
+}
+
+EsitoImpostazioni LeggiImpostazioni(std::error_code& errore) {
   std::string testo;
-  switch (
-      LeggiFile(PercorsoNellaCartella(CartellaProgramma, NomeFile), MaxByteImpostazioni, testo)) {
+  switch (LeggiFile(FileImpostazioni(), MaxByteImpostazioni, testo, errore)) {
     case EsitoLettura::Letto:
       InterpretaImpostazioni(testo);
       return EsitoImpostazioni::Lette;
@@ -98,6 +101,11 @@ EsitoImpostazioni LeggiImpostazioni() {
     default:
       return EsitoImpostazioni::Illeggibili;
   }
+}
+
+EsitoImpostazioni LeggiImpostazioni() {
+  std::error_code ignorato;
+  return LeggiImpostazioni(ignorato);
 }
 
 void ImpostazioniIniziali() {
@@ -113,11 +121,13 @@ void ScriviImpostazioni() {
   std::string testo;
   for (const Voce& voce : voci)
     testo += Unisci(voce.chiave, FormaDiStampa(voce.valore), "\r\n");
-  if (ScriviFile(PercorsoNellaCartella(CartellaProgramma, NomeFile), testo)) {
-    Avvisa(
+  const Percorso file = FileImpostazioni();
+  if (const auto errore = ScriviFile(file, testo)) {
+    Avvisa(ConCausa(
         "Attenzione, si è verificato un errore di scrittura del file di inizializzazione "
         "telarium.ini, controllare che il drive/percorso abbia i diritti di scrittura o non sia un "
-        "CD-ROM"_cp);
+        "CD-ROM"_cp,
+        file, errore));
   }
 }
 

@@ -30,8 +30,14 @@ enum class EsitoImpostazioni { Lette, Assenti, Illeggibili };
 
 /// Takes the settings from telarium.INI in the program folder. A key that is missing leaves its
 /// setting as it was; what is no number counts as 0, and what is too big for 16 bits as the nearest
-/// number that fits.
+/// number that fits. `errore` says why the file could not be read.
+EsitoImpostazioni LeggiImpostazioni(std::error_code& errore);
+
+/// The same for a caller who tells no cause.
 EsitoImpostazioni LeggiImpostazioni();
+
+/// The settings file of the program folder.
+Percorso FileImpostazioni();
 
 /// LeggiImpostazioni for a text of the file's form.
 void InterpretaImpostazioni(std::string_view testo);

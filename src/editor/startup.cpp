@@ -40,7 +40,8 @@ void ScegliCartellaIstantanea() {
 }
 
 void LeggiImpostazioniOTermina() {
-  switch (LeggiImpostazioni()) {
+  std::error_code errore;
+  switch (LeggiImpostazioni(errore)) {
     case EsitoImpostazioni::Lette:
       return;
     case EsitoImpostazioni::Assenti:
@@ -51,18 +52,17 @@ void LeggiImpostazioniOTermina() {
       TerminaProgramma();
     case EsitoImpostazioni::Illeggibili:
       ImpostazioniIniziali();
-      Avvisa(
-          "Il file di inizializzazione telarium.ini non si può leggere: valgono le "
-          "impostazioni iniziali."_cp,
-          {}, Icona::Avviso);
+      Avvisa(ConCausa("Il file di inizializzazione telarium.ini non si può leggere: valgono le "
+                      "impostazioni iniziali."_cp,
+                      FileImpostazioni(), errore),
+             {}, Icona::Avviso);
   }
 }
 
 // Whatever could not be opened leaves the program as it is without a crossword.
 void ApriRigaDiComando() {
   FileComando = NomeCruciverba = RigaDiComando;
-  const Apertura esito =
-      FileOrdinario(NomeCruciverba) ? ApriCruciverba(NomeCruciverba) : Apertura::Assente;
+  const Apertura esito = ApriCruciverba(NomeCruciverba);
   if (esito == Apertura::Assente) TerminaSenzaCruciverba(NomeCruciverba);
   if (esito == Apertura::Rifiutata) {
     NomeCruciverba.clear();

@@ -15,6 +15,8 @@ constexpr int Spostamento = 26;  // of the cell characters of a grid line
 constexpr std::string_view SegnoColori = "[Colori caselle]";
 constexpr std::string_view MessaggioLettura = "Errore di lettura del file!";
 constexpr std::string_view MessaggioScrittura = "Errore di scrittura del file!";
+constexpr std::string_view NonUnCruciverba =
+    "il contenuto non è quello di un cruciverba, o è incompleto"_cp;
 
 // --- Reading. Each step gives false for a read error, whose message is the caller's. ---
 
@@ -152,16 +154,15 @@ void AggiungiColori(std::string& testo) {
   }
 }
 
-// Whether a file could be read, other than a missing one; what could not is told.
-bool LettoOAvvisato(EsitoLettura esito) {
-  if (esito != EsitoLettura::Letto) Avvisa(MessaggioLettura);
-  return esito == EsitoLettura::Letto;
+// Tells that the contents are no crossword. `nome` is empty when they are not those of a file.
+void AvvisaContenuto(const Percorso& nome) {
+  Avvisa(ConCausa(MessaggioLettura, nome, nome.empty() ? std::string_view() : NonUnCruciverba));
 }
 
 // Takes the header and the size; a failure has been told.
-bool PrendiIntestazione(LettoreDiRighe& righe) {
+bool PrendiIntestazione(LettoreDiRighe& righe, const Percorso& nome) {
   if (!LeggiIntestazione(righe)) {
-    Avvisa(MessaggioLettura);
+    AvvisaContenuto(nome);
     return false;
   }
   if (!PrendiDimensioni()) {
@@ -172,9 +173,9 @@ bool PrendiIntestazione(LettoreDiRighe& righe) {
 }
 
 // Takes what follows the header; a failure has been told.
-bool PrendiCorpo(LettoreDiRighe& righe) {
+bool PrendiCorpo(LettoreDiRighe& righe, const Percorso& nome) {
   if (!LeggiGriglia(righe) || !LeggiDefinizioni(righe)) {
-    Avvisa(MessaggioLettura);
+    AvvisaContenuto(nome);
     return false;
   }
   LeggiColori(righe.Resto());
@@ -197,24 +198,44 @@ class CopiaIntestazione {
   std::int16_t numRighe_ = NumRighe;
 };
 
+// Reads a file; what fails is told, but for a missing one.
+EsitoLettura LeggiOAvvisa(const Percorso& nome, std::string& contenuto) {
+  std::error_code errore;
+  const EsitoLettura esito = LeggiFile(nome, MaxByteCruciverba, contenuto, errore);
+  if (esito != EsitoLettura::Letto && esito != EsitoLettura::Assente)
+    Avvisa(ConCausa(MessaggioLettura, nome, errore));
+  return esito;
+}
+
 bool LeggiDa(const Percorso& percorso, const Percorso& nomeMostrato) {
   std::string contenuto;
-  const EsitoLettura esito = LeggiFile(percorso, MaxByteCruciverba, contenuto);
+  const EsitoLettura esito = LeggiOAvvisa(percorso, contenuto);
   if (esito == EsitoLettura::Assente) TerminaSenzaCruciverba(nomeMostrato);
-  return LettoOAvvisato(esito) && InterpretaCruciverba(contenuto);
+  return esito == EsitoLettura::Letto && InterpretaCruciverba(contenuto, percorso);
 }
 
-bool ScriviInSilenzio(const Percorso& percorso, Permanenza permanenza) {
+// Writes the crossword; why that was not possible, empty when it was.
+std::string Scrivi(const Percorso& percorso, Permanenza permanenza) {
   const auto testo = TestoDelCruciverba();
-  return testo && !ScriviFile(percorso, *testo, permanenza);
+  if (!testo) return std::string(CruciverbaNonScrivibile);
+  const auto errore = ScriviFile(percorso, *testo, permanenza);
+  return errore ? DescrizioneErrore(errore) : std::string();
 }
 
-bool Riferisci(bool scritto) {
-  if (!scritto) Avvisa(MessaggioScrittura);
-  return scritto;
+// True when nothing has failed, else it has been told.
+bool Riferisci(const Percorso& percorso, const std::string& causa) {
+  if (!causa.empty()) Avvisa(ConCausa(MessaggioScrittura, percorso, causa));
+  return causa.empty();
 }
 
 bool istantaneaSuperata = false;
+
+// Writes the snapshot; why that was not possible, empty when it was.
+std::string FallimentoDellIstantanea() {
+  std::string causa = Scrivi(PercorsoIstantanea(), Permanenza::Provvisoria);
+  istantaneaSuperata = !causa.empty();
+  return causa;
+}
 
 const AzzeramentoDiSottosistema azzeramento([] { istantaneaSuperata = false; });
 
@@ -253,9 +274,9 @@ std::optional<std::string> TestoDelCruciverba() {
   return testo;
 }
 
-bool InterpretaCruciverba(std::string_view contenuto) {
+bool InterpretaCruciverba(std::string_view contenuto, const Percorso& nome) {
   LettoreDiRighe righe(contenuto);
-  return PrendiIntestazione(righe) && PrendiCorpo(righe);
+  return PrendiIntestazione(righe, nome) && PrendiCorpo(righe, nome);
 }
 
 bool LeggiCruciverba(const Percorso& nome) {
@@ -271,24 +292,25 @@ void TerminaSenzaCruciverba(const Percorso& nome) {
 
 Apertura ApriCruciverba(const Percorso& nome) {
   std::string contenuto;
-  const EsitoLettura esito = LeggiFile(nome, MaxByteCruciverba, contenuto);
+  const EsitoLettura esito = LeggiOAvvisa(nome, contenuto);
   if (esito == EsitoLettura::Assente) return Apertura::Assente;
-  return LettoOAvvisato(esito) ? ApriTestoDiCruciverba(contenuto) : Apertura::Rifiutata;
+  if (esito != EsitoLettura::Letto) return Apertura::Rifiutata;
+  return ApriTestoDiCruciverba(contenuto, nome);
 }
 
-Apertura ApriTestoDiCruciverba(std::string_view contenuto) {
+Apertura ApriTestoDiCruciverba(std::string_view contenuto, const Percorso& nome) {
   LettoreDiRighe righe(contenuto);
   const CopiaIntestazione prima;
-  if (!PrendiIntestazione(righe)) {
+  if (!PrendiIntestazione(righe, nome)) {
     prima.Ripristina();
     return Apertura::Rifiutata;
   }
   SvuotaCruciverba();
-  return PrendiCorpo(righe) ? Apertura::Intera : Apertura::Parziale;
+  return PrendiCorpo(righe, nome) ? Apertura::Intera : Apertura::Parziale;
 }
 
 bool ScriviCruciverba(const Percorso& nome) {
-  return Riferisci(ScriviInSilenzio(nome, Permanenza::SulDisco));
+  return Riferisci(nome, Scrivi(nome, Permanenza::SulDisco));
 }
 
 bool LetteraScrivibile(char carattere) {
@@ -302,7 +324,7 @@ bool LeggiIstantanea() {
 }
 
 bool ScriviIstantanea() {
-  return Riferisci(AggiornaIstantanea());
+  return Riferisci(PercorsoIstantanea(), FallimentoDellIstantanea());
 }
 
 bool IstantaneaSuperata() {
@@ -315,8 +337,7 @@ void EliminaIstantanea() {
 }
 
 bool AggiornaIstantanea() {
-  istantaneaSuperata = !ScriviInSilenzio(PercorsoIstantanea(), Permanenza::Provvisoria);
-  return !istantaneaSuperata;
+  return FallimentoDellIstantanea().empty();
 }
 
 void ScriviDimensioni(int colonne, int righe) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "model/state.h"
+#include "platform/codepage.h"
 
 // The crossword file (.tlrm) and the snapshot: 8-bit text, each line ended by CR LF, no signature.
 //
@@ -42,18 +43,23 @@ enum class Apertura {
 /// there before its grid is taken.
 [[nodiscard]] Apertura ApriCruciverba(const Percorso& nome);
 
-/// ApriCruciverba for the contents of a file, which may have a tail that is no crossword.
-[[nodiscard]] Apertura ApriTestoDiCruciverba(std::string_view contenuto);
+/// ApriCruciverba for the contents of a file, which may have a tail that is no crossword. `nome` is
+/// that of the file, for a message; contents from elsewhere have none.
+[[nodiscard]] Apertura ApriTestoDiCruciverba(std::string_view contenuto, const Percorso& nome = {});
 
 /// Ends the program with the message that a crossword file is missing.
 [[noreturn]] void TerminaSenzaCruciverba(const Percorso& nome);
 
-/// What LeggiCruciverba does with the contents of a file.
-bool InterpretaCruciverba(std::string_view contenuto);
+/// What LeggiCruciverba does with the contents of a file, and its name for a message.
+bool InterpretaCruciverba(std::string_view contenuto, const Percorso& nome = {});
 
 /// Writes the crossword to a path as given; the clues follow TipoCasella as the last redraw left
 /// it. The state stays as it is. A failure shows its message, gives false and leaves the old file.
 [[nodiscard]] bool ScriviCruciverba(const Percorso& nome);
+
+/// The cause when there is nothing that it could write.
+inline constexpr std::string_view CruciverbaNonScrivibile =
+    "il cruciverba ha caratteri che il file non ammette, o è troppo grande"_cp;
 
 /// What ScriviCruciverba writes. None when a cell has a character that the file cannot hold, or
 /// when it would be too large to be read again.

@@ -187,8 +187,8 @@ std::optional<std::string> PaginaInterattiva() {
 void PubblicaCruciverba() {
   if (NumColonne == 0) return;
   const auto pagina = PaginaInterattiva();
-  if (!pagina) return AvvisaErroreDiUscita();
   const Percorso file = FileDiUscita(NomePaginaInterattiva);
+  if (!pagina) return AvvisaErroreDiUscita(file, CruciverbaNonScrivibile);
   if (ScriviUscita(file, *pagina)) ApriUscita(file);
 }
 

@@ -13,15 +13,20 @@ Percorso FileDiUscita(const Percorso& nome) {
 
 bool ScriviUscita(const Percorso& file, std::string_view contenuto) {
   // Each run makes the file anew: it need not survive a power cut.
-  if (!ScriviFile(file, contenuto, Permanenza::Provvisoria)) return true;
-  AvvisaErroreDiUscita();
-  return false;
+  const std::error_code errore = ScriviFile(file, contenuto, Permanenza::Provvisoria);
+  if (errore) AvvisaErroreDiUscita(file, errore);
+  return !errore;
 }
 
-void AvvisaErroreDiUscita() {
+void AvvisaErroreDiUscita(const Percorso& file, std::string_view causa) {
   Avvisa(
-      "Si è verificato un errore di scrittura/accesso al file o drive!, controlla che "
-      "eventualmente i files non siano impostati a sola lettura."_cp);
+      ConCausa("Si è verificato un errore di scrittura/accesso al file o drive!, controlla che "
+               "eventualmente i files non siano impostati a sola lettura."_cp,
+               file, causa));
+}
+
+void AvvisaErroreDiUscita(const Percorso& file, const std::error_code& errore) {
+  AvvisaErroreDiUscita(file, DescrizioneErrore(errore));
 }
 
 void ApriUscita(const Percorso& file) {

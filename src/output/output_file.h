@@ -15,8 +15,9 @@ Percorso FileDiUscita(const Percorso& nome);
 /// gives false.
 [[nodiscard]] bool ScriviUscita(const Percorso& file, std::string_view contenuto);
 
-/// Tells that something could not be written.
-void AvvisaErroreDiUscita();
+/// Tells that a file could not be read or written, and why.
+void AvvisaErroreDiUscita(const Percorso& file, std::string_view causa);
+void AvvisaErroreDiUscita(const Percorso& file, const std::error_code& errore);
 
 /// Opens a file with the program that the user has for it, or says that it cannot be opened.
 void ApriUscita(const Percorso& file);

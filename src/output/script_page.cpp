@@ -48,8 +48,9 @@ void EsportaDaModello() {
   if (NumColonne == 0) return;
   std::string modello;
   const Percorso file = PercorsoNellaCartella(CartellaProgramma, "template.txt");
-  if (LeggiFile(file, MaxByteModello, modello) != EsitoLettura::Letto)
-    return AvvisaErroreDiUscita();
+  std::error_code errore;
+  if (LeggiFile(file, MaxByteModello, modello, errore) != EsitoLettura::Letto)
+    return AvvisaErroreDiUscita(file, errore);
   static_cast<void>(ScriviUscita(FileDiUscita("prova.html"), PaginaDaModello(modello)));
 }
 

@@ -89,7 +89,7 @@ std::string BitmapSuBianco(bool senzaSoluzioni, Inquadratura inquadratura) {
 
 bool ScriviPicture(const Percorso& file, const std::string& bitmap) {
   if (!bitmap.empty()) return ScriviUscita(file, bitmap);
-  AvvisaErroreDiUscita();
+  AvvisaErroreDiUscita(file, std::make_error_code(std::errc::not_enough_memory));
   return false;
 }
 

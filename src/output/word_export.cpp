@@ -94,7 +94,8 @@ bool ScriviFileNonome() {
   ChiUsa().CediAiMessaggi();
   std::string bitmap = BitmapSuBianco(false);
   if (bitmap.empty()) {
-    AvvisaErroreDiUscita();
+    AvvisaErroreDiUscita(FileDiUscita("NONOME.BMP"),
+                         std::make_error_code(std::errc::not_enough_memory));
     return false;
   }
   std::vector<FileDaScrivere> tutti = TestiNonome(CartellaProgramma);

@@ -212,27 +212,42 @@ std::optional<Percorso> TrovaVoce(const Percorso& esatto, bool unaCartella) {
   return esatto.parent_path() / trovati.front();
 }
 
+// How many bytes an open file has, and the error when it is none that can be read.
+std::error_code MisuraDaLeggere(const Descrittore& file, std::uintmax_t& misura) {
+  struct stat stato {};
+  if (!file || ::fstat(file.Numero(), &stato) != 0)
+    return errno == ENXIO ? ErroreNonUnFile() : UltimoErrore();
+  if (S_ISDIR(stato.st_mode)) return std::make_error_code(std::errc::is_a_directory);
+  if (!S_ISREG(stato.st_mode)) return ErroreNonUnFile();
+  misura = static_cast<std::uintmax_t>(stato.st_size);
+  return {};
+}
+
+EsitoLettura EsitoDi(const std::error_code& errore) {
+  for (const int assente : {ENOENT, ENOTDIR, ENAMETOOLONG, EISDIR})
+    if (errore.value() == assente) return EsitoLettura::Assente;
+  return EsitoLettura::Illeggibile;
+}
+
 }  // namespace
 
-EsitoLettura LeggiFile(const Percorso& nome, std::size_t massimo, std::string& contenuto) {
+EsitoLettura LeggiFile(const Percorso& nome, std::size_t massimo, std::string& contenuto,
+                       std::error_code& errore) {
   contenuto.clear();
   const Descrittore file = ApriSenzaAttesa(nome, O_RDONLY);
-  struct stat stato {};
-  if (!file) {
-    const bool assente = errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG;
-    return assente ? EsitoLettura::Assente : EsitoLettura::Illeggibile;
-  }
-  if (::fstat(file.Numero(), &stato) != 0) return EsitoLettura::Illeggibile;
-  if (S_ISDIR(stato.st_mode)) return EsitoLettura::Assente;
-  if (S_ISREG(stato.st_mode) && static_cast<std::size_t>(stato.st_size) > massimo) {
+  std::uintmax_t misura = 0;
+  if ((errore = MisuraDaLeggere(file, misura))) return EsitoDi(errore);
+  if (misura > massimo) {
+    errore = std::make_error_code(std::errc::file_too_large);
     return EsitoLettura::TroppoGrande;
   }
   // One byte more than the file should have, so that a file of the told size ends in one read.
   std::size_t letti = 0;
-  contenuto.resize(S_ISREG(stato.st_mode) ? static_cast<std::size_t>(stato.st_size) + 1 : 65536);
+  contenuto.resize(static_cast<std::size_t>(misura) + 1);
   for (;;) {
     const ssize_t n = ::read(file.Numero(), contenuto.data() + letti, contenuto.size() - letti);
     if (n < 0 && errno == EINTR) continue;
+    if (n < 0) errore = UltimoErrore();
     if (n <= 0) {
       contenuto.resize(n == 0 ? letti : 0);
       return n == 0 ? EsitoLettura::Letto : EsitoLettura::Illeggibile;
@@ -240,10 +255,20 @@ EsitoLettura LeggiFile(const Percorso& nome, std::size_t massimo, std::string& c
     letti += static_cast<std::size_t>(n);
     if (letti > massimo) {
       contenuto.clear();
+      errore = std::make_error_code(std::errc::file_too_large);
       return EsitoLettura::TroppoGrande;
     }
     if (letti == contenuto.size()) contenuto.resize(std::min(2 * letti, massimo + 1));
   }
+}
+
+EsitoLettura LeggiFile(const Percorso& nome, std::size_t massimo, std::string& contenuto) {
+  std::error_code ignorato;
+  return LeggiFile(nome, massimo, contenuto, ignorato);
+}
+
+std::error_code ErroreNonUnFile() {
+  return std::make_error_code(std::errc::invalid_seek);  // what has no beginning to go to
 }
 
 std::error_code ScriviFile(const Percorso& nome, std::string_view contenuto, Permanenza permanenza,
@@ -282,25 +307,44 @@ std::error_code ScriviFileNuovo(const Percorso& nome, std::string_view contenuto
 
 std::string DescrizioneErrore(const std::error_code& errore) {
   struct Voce {
-    std::errc codice;
+    int codice;
     std::string_view testo;
   };
   constexpr Voce voci[] = {
-      {std::errc::no_space_on_device, "il disco è pieno"_cp},
-      {std::errc::permission_denied, "manca il permesso"_cp},
-      {std::errc::operation_not_permitted, "manca il permesso"_cp},
-      {std::errc::read_only_file_system, "il disco è di sola lettura"_cp},
-      {std::errc::no_such_file_or_directory, "il file o la cartella non esiste"_cp},
-      {std::errc::not_a_directory, "il percorso non è una cartella"_cp},
-      {std::errc::is_a_directory, "il nome è quello di una cartella"_cp},
-      {std::errc::file_exists, "il nome è già occupato"_cp},
-      {std::errc::file_too_large, "il file è troppo grande"_cp},
-      {std::errc::filename_too_long, "il nome è troppo lungo"_cp},
+      {ENOSPC, "il disco è pieno"_cp},
+      {EDQUOT, "lo spazio concesso sul disco è esaurito"_cp},
+      {EACCES, "manca il permesso"_cp},
+      {EPERM, "manca il permesso"_cp},
+      {EROFS, "il disco è di sola lettura"_cp},
+      {ENOENT, "il file o la cartella non esiste"_cp},
+      {ENOTDIR, "il percorso non è una cartella"_cp},
+      {EISDIR, "il nome è quello di una cartella"_cp},
+      {EEXIST, "il nome è già occupato"_cp},
+      {EFBIG, "il file è troppo grande"_cp},
+      {ENAMETOOLONG, "il nome è troppo lungo"_cp},
+      {EIO, "il disco ha un difetto"_cp},
+      {ELOOP, "il collegamento porta a se stesso"_cp},
+      {EMFILE, "troppi file sono aperti"_cp},
+      {ESPIPE, "non è un file ma una pipe o un dispositivo"_cp},
+      {ENXIO, "nessuno legge all'altro capo"_cp},
+      {EPIPE, "nessuno legge all'altro capo"_cp},
+      {EINTR, "l'operazione è stata interrotta"_cp},
+      {ENOMEM, "la memoria è esaurita"_cp},
   };
   for (const auto& [codice, testo] : voci) {
-    if (errore == codice) return std::string(testo);
+    if (errore.value() == codice) return std::string(testo);
   }
   return "errore di sistema " + std::to_string(errore.value());
+}
+
+std::string ConCausa(std::string_view messaggio, const Percorso& nome, std::string_view causa) {
+  if (causa.empty()) return std::string(messaggio);
+  return Unisci(messaggio, '\n', TestoPercorso(nome), ": ", causa, '.');
+}
+
+std::string ConCausa(std::string_view messaggio, const Percorso& nome,
+                     const std::error_code& errore) {
+  return ConCausa(messaggio, nome, errore ? DescrizioneErrore(errore) : std::string());
 }
 
 std::optional<Percorso> TrovaFile(const Percorso& cartella, const Percorso& nome) {
@@ -338,6 +382,11 @@ std::error_code ElencaCartelle(const Percorso& cartella, std::vector<Percorso>& 
   });
   if (!errore) cartelle = std::move(nomi);
   return errore;
+}
+
+std::error_code ErroreDellaCartella(const Percorso& cartella) {
+  std::vector<Percorso> ignorate;
+  return ElencaCartelle(cartella, ignorate);
 }
 
 bool FileOrdinario(const Percorso& nome) {

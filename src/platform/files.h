@@ -18,13 +18,22 @@ using Percorso = std::filesystem::path;
 enum class EsitoLettura {
   Letto,
   Assente,       // there is no file of that name (a folder is none)
-  Illeggibile,   // there is one, but it cannot be read
+  Illeggibile,   // there is one, but it cannot be read, or it is a pipe or device
   TroppoGrande,  // more bytes than the caller takes
 };
 
-/// Reads a whole file of at most `massimo` bytes. `contenuto` is empty unless the outcome is Letto.
+/// Reads a whole file of at most `massimo` bytes. `contenuto` is empty unless the outcome is Letto;
+/// `errore` then says why, for a message. A pipe or device, which could keep a reader waiting for
+/// ever or never end, is refused.
+[[nodiscard]] EsitoLettura LeggiFile(const Percorso& nome, std::size_t massimo,
+                                     std::string& contenuto, std::error_code& errore);
+
+/// The same for a caller who tells no cause.
 [[nodiscard]] EsitoLettura LeggiFile(const Percorso& nome, std::size_t massimo,
                                      std::string& contenuto);
+
+/// The error of a pipe, a device or a socket in the place of a file that is to be read.
+std::error_code ErroreNonUnFile();
 
 /// Whether a written file must survive a power cut at once or may lag behind.
 enum class Permanenza { SulDisco, Provvisoria };
@@ -44,6 +53,12 @@ enum class Permanenza { SulDisco, Provvisoria };
 
 /// What an error of the file system means, in Italian, as the end of a sentence.
 std::string DescrizioneErrore(const std::error_code& errore);
+
+/// A message about a file that could not be read or written, and behind it, as a sentence on a line
+/// of its own, the file's name and the cause. The message alone when no cause is known.
+std::string ConCausa(std::string_view messaggio, const Percorso& nome, std::string_view causa);
+std::string ConCausa(std::string_view messaggio, const Percorso& nome,
+                     const std::error_code& errore);
 
 /// The file of that name in a folder, whatever the case of its letters: the exact name before all
 /// others, else the first in the order of the bytes. `nome` may hold folders, which are taken as
@@ -66,6 +81,9 @@ std::vector<Percorso> ElencaFile(const Percorso& cartella, std::string_view mode
 /// of reading it, 0 for none; then `cartelle` stays as it was.
 [[nodiscard]] std::error_code ElencaCartelle(const Percorso& cartella,
                                              std::vector<Percorso>& cartelle);
+
+/// Why a folder cannot be read.
+std::error_code ErroreDellaCartella(const Percorso& cartella);
 
 /// Whether a name is that of an ordinary file, or of a link to one. A pipe or a terminal could keep
 /// a reader waiting for ever.

@@ -9,15 +9,15 @@
 namespace telarium::telar {
 namespace {
 
-// Why a list cannot be taken.
-std::string_view Motivo(EsitoLettura esito) {
+std::string NonLetta(std::string_view nomeDellaLista, const Percorso& file, EsitoLettura esito,
+                     const std::error_code& errore) {
   switch (esito) {
     case EsitoLettura::Assente:
-      return " non è stata trovata: "_cp;
+      return Unisci("La ", nomeDellaLista, " non è stata trovata: "_cp, TestoPercorso(file));
     case EsitoLettura::TroppoGrande:
-      return " è troppo grande: "_cp;
+      return Unisci("La ", nomeDellaLista, " è troppo grande: "_cp, TestoPercorso(file));
     default:
-      return " non si può leggere: "_cp;
+      return ConCausa(Unisci("La ", nomeDellaLista, " non si può leggere."_cp), file, errore);
   }
 }
 
@@ -40,9 +40,10 @@ Stato Scrivi(const std::string& uscita) {
 std::optional<std::string> LeggiLista(std::string_view nomeDellaLista, const Percorso& file,
                                       std::size_t massimo) {
   std::string contenuto;
-  const EsitoLettura esito = LeggiFile(file, massimo, contenuto);
+  std::error_code errore;
+  const EsitoLettura esito = LeggiFile(file, massimo, contenuto, errore);
   if (esito == EsitoLettura::Letto) return contenuto;
-  Avvisa(Unisci("La ", nomeDellaLista, Motivo(esito), TestoPercorso(file)));
+  Avvisa(NonLetta(nomeDellaLista, file, esito, errore));
   return std::nullopt;
 }
 

@@ -55,7 +55,7 @@ Stato Form(const Argomenti& argomenti, PiattaformaConsole&) {
   if (!ApriPerUscita(argomenti)) return Stato::Fallito;
   const auto pagina = PaginaInterattiva();
   if (pagina) return ScriviPagina(argomenti, NomePaginaInterattiva, *pagina);
-  AvvisaErroreDiUscita();
+  AvvisaErroreDiUscita(argomenti.liberi[0], CruciverbaNonScrivibile);
   return Stato::Fallito;
 }
 

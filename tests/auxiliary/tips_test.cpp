@@ -2,6 +2,7 @@
 
 #include "editor/commands.h"
 #include "editor/startup.h"
+#include "platform/codepage.h"
 #include "support/recording_window.h"
 #include "support/telarium_test.h"
 
@@ -43,9 +44,10 @@ TEST_F(TipsTest, ToldWhatIsWrongWithTheFileAndNothingForAnEmptyOne) {
   const Percorso file = WriteFile("TLRMTIPS.TXT", "");
   EXPECT_EQ(shown(), "");
   std::filesystem::resize_file(file, 5u << 20);
-  EXPECT_EQ(shown(), "Il file TLRMTIPS.TXT non si pu\xF2 leggere o \xE8 troppo grande.");
+  EXPECT_EQ(shown(), "Il file TLRMTIPS.TXT non si può leggere: il file è troppo grande."_cp);
   Suggerimenti tips;
-  EXPECT_EQ(tips.LoadTips(""), EsitoLettura::Assente);
+  std::error_code error;
+  EXPECT_EQ(tips.LoadTips("", error), EsitoLettura::Assente);
 }
 
 TEST_F(TipsTest, AreShownUnlessTheSettingOfTheUserIsZero) {

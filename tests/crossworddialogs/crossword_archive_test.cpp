@@ -27,7 +27,7 @@ class Archive : public TelariumTest {
     return SalvaNellArchivio(InFolder(""), name, author);
   }
 
-  void ExpectNotSaved(const char* told) {
+  void ExpectNotSaved(const std::string& told) {
     EXPECT_EQ(user.TakeTexts(), Texts{told});
     EXPECT_EQ(NomeCruciverba, "prova.tlrm");
     EXPECT_EQ(SchemaModificato, Vero);
@@ -85,20 +85,28 @@ TEST_F(Archive, AFileIsWrittenOverOnlyWhenTheUserSaysSo) {
 TEST_F(Archive, ABadNameOrAFaultOfTheDiskCostsNothing) {
   fs::create_directory(InFolder("cartella.tlrm"));
   fs::create_directory(InFolder("con.punto"));
-  for (const Percorso& bad :
-       {Percorso(), Percorso("cartella.tlrm"), Percorso("manca/uno"), Percorso("C:\\uno"),
-        Percorso("c:"), Percorso("con.punto/"), Percorso(std::string(300, 'n'))}) {
-    EXPECT_FALSE(Save(bad)) << bad;
-    ExpectNotSaved("Errore di nome file o accesso al disco!");
+  const std::string longName(300, 'n');
+  const std::tuple<Percorso, Percorso, std::string_view> bad[] = {
+      {"", InFolder(".tlrm"), "manca il nome del file"},
+      {"cartella.tlrm", InFolder("cartella.tlrm"), "il nome è quello di una cartella"_cp},
+      {"manca/uno", InFolder("manca/uno.tlrm"), "il file o la cartella non esiste"},
+      {"C:\\uno", InFolder("C:\\uno.tlrm"), "nessun disco ha una lettera"},
+      {"c:", InFolder("c:.tlrm"), "nessun disco ha una lettera"},
+      {"con.punto/", InFolder("con.punto/.tlrm"), "manca il nome del file"},
+      {longName, InFolder(longName + ".tlrm"), "il nome è troppo lungo"_cp},
+      {"/dev/null/uno", "/dev/null/uno.tlrm", "il percorso non è una cartella"_cp},
+  };
+  for (const auto& [name, full, cause] : bad) {
+    EXPECT_FALSE(Save(name)) << name;
+    ExpectNotSaved(WithCause("Errore di nome file o accesso al disco!", full, cause));
   }
-  EXPECT_FALSE(Save("/dev/null/uno"));
-  ExpectNotSaved("Errore di nome file o accesso al disco!");
   // A cell that no file can hold stands for a disk that takes nothing more.
   const Percorso old = WriteFile("vecchio.tlrm", "old");
   Schema(5)[0] = '\xFF';
   user.Answer(Risposta::Ok);
   EXPECT_FALSE(Save("vecchio"));
-  EXPECT_EQ(user.TakeTexts().back(), "Errore di scrittura del file!");
+  EXPECT_EQ(user.TakeTexts().back(),
+            WithCause("Errore di scrittura del file!", old, CruciverbaNonScrivibile));
   EXPECT_EQ(ReadFile(old), "old");
   EXPECT_EQ(NomeCruciverba, "prova.tlrm");
   EXPECT_EQ(Schema(1), "Autore     : Prova");

@@ -1,5 +1,6 @@
 #include "crossworddialogs/new_crossword.h"
 
+#include "platform/codepage.h"
 #include "support/telarium_test.h"
 
 namespace telarium {
@@ -91,13 +92,16 @@ TEST_F(NewCrossword, WhatCannotBeMadeIsToldAndChangesNothing) {
     ExpectTold({"Tipo di file modelli non valido!"});
   }
   EXPECT_EQ(NuovoDaModello(InFolder("manca.dfc"), 0), EsitoNuovo::ModelloRifiutato);
-  ExpectTold({"Errore: Non trovato file di definizione modelli standard!"});
+  ExpectTold({WithCause("Errore: Non trovato file di definizione modelli standard!",
+                        InFolder("manca.dfc"), "il file o la cartella non esiste")});
   std::filesystem::resize_file(path, 4194305);
   EXPECT_EQ(NuovoDaModello(path, 0), EsitoNuovo::ModelloRifiutato);
-  ExpectTold({"Impossibile leggere il file modelli: " + path.string()});
+  ExpectTold(
+      {WithCause("Impossibile leggere il file modelli.", path, "il file è troppo grande"_cp)});
   CartellaIstantanea = InFolder("manca");
   EXPECT_EQ(NuovoVuoto(16, 13), EsitoNuovo::NonScritto);
-  ExpectTold({"Errore di scrittura del file!"});
+  ExpectTold({WithCause("Errore di scrittura del file!", InFolder("manca/_tlma_32.tmp"),
+                        "il file o la cartella non esiste")});
 }
 
 }  // namespace

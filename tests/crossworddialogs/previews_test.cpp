@@ -23,7 +23,7 @@ class Previews : public TelariumTest {
     return LeggiAnteprima(WriteFile("p.tlrm", bytes));
   }
 
-  void ExpectRefused(std::string_view bytes, const char* told) {
+  void ExpectRefused(std::string_view bytes, const std::string& told) {
     EXPECT_FALSE(Read(bytes));
     EXPECT_EQ(user.TakeTexts(), Texts{told});
   }
@@ -95,11 +95,15 @@ TEST_F(Previews, AFileThatIsNoCrosswordIsTold) {
   ExpectRefused("Autore\r\n", format);
   for (const char* row : {"H.{.", "H.\x1b.", "H.\x01.", "H. ."})
     ExpectRefused(Head("02x01") + row, "Tipo di file non valido!");
-  ExpectRefused(Head("02x02") + "H.H.\r\n", "Errore di lettura del file!");
-  for (const Percorso& none : {InFolder("manca.tlrm"), InFolder("")}) {
-    EXPECT_FALSE(LeggiAnteprima(none));
-    EXPECT_EQ(user.TakeTexts(), Texts{"Nessun file di cruciverba trovato!"});
-  }
+  ExpectRefused(Head("02x02") + "H.H.\r\n",
+                WithCause("Errore di lettura del file!", InFolder("p.tlrm"),
+                          "il file finisce prima dello schema"));
+  const char* none = "Nessun file di cruciverba trovato!";
+  EXPECT_FALSE(LeggiAnteprima(InFolder("manca.tlrm")));
+  EXPECT_FALSE(LeggiAnteprima(InFolder("")));
+  EXPECT_EQ(
+      user.TakeTexts(),
+      (Texts{WithCause(none, InFolder("manca.tlrm"), "il file o la cartella non esiste"), none}));
 }
 
 TEST_F(Previews, AModelIsDrawnWithItsLetters) {
@@ -133,7 +137,9 @@ TEST_F(Previews, ModelsPastTheTwelfthAndRowsPastTheTwentiethDoNotShow) {
 
 TEST_F(Previews, AModelFileThatCannotBeShownIsTold) {
   EXPECT_TRUE(ModelliDaMostrare(InFolder("manca.dfc")).empty());
-  EXPECT_EQ(user.TakeTexts(), Texts{"Errore: Non trovato file di definizione modelli standard!"});
+  EXPECT_EQ(user.TakeTexts(),
+            Texts{WithCause("Errore: Non trovato file di definizione modelli standard!",
+                            InFolder("manca.dfc"), "il file o la cartella non esiste")});
   for (const char* model : {"...\r\n..\r\n-", "..\r\n.x\r\n-", "MZ\x90\r\n-"}) {
     EXPECT_THROW(ModelliDaMostrare(WriteFile("m.dfc", model)), ProgramFailed);
     EXPECT_EQ(user.TakeTexts(), Texts{"Tipo di file modelli non valido!"});

@@ -119,7 +119,9 @@ TEST_F(DictionaryTest, UnreadableFileIsToldAndCountsAsEmpty) {
   NomeDizionario = "Anello.priv";
   std::filesystem::create_symlink(NomeDizionario, InFolder(NomeDizionario));
   EXPECT_FALSE(ApriDizionario());
-  EXPECT_EQ(user.TakeTexts(), Words{"Impossibile leggere il dizionario: Anello.priv"});
+  EXPECT_EQ(user.TakeTexts(),
+            Words{WithCause("Impossibile leggere il dizionario.", InFolder("Anello.priv"),
+                            "il collegamento porta a se stesso")});
   EXPECT_EQ(OffsetLunghezza(0), 0);
   EXPECT_EQ(ContaLunghezza(0), 0);
 }

@@ -65,15 +65,17 @@ TEST_F(MaintenanceTest, AProtectedDictionaryIsNotDeleted) {
 TEST_F(MaintenanceTest, ImportTakesTheFirstLinesBlankOnesCounted) {
   std::string text = "\xEF\xBB\xBFuno\r\n   \r\n due \nPER\xC3\x92\n\n \n";
   WriteFile("3.TXT", text);
-  const auto list = LeggiListaDaImportare(3);
+  std::error_code error;
+  const auto list = LeggiListaDaImportare(3, error);
   ASSERT_TRUE(list);
   EXPECT_EQ(list->parole, (Words{"uno", " due ", "PER\xD2"}));
   EXPECT_EQ(list->righe, 4);
-  EXPECT_FALSE(LeggiListaDaImportare(4));
+  EXPECT_FALSE(LeggiListaDaImportare(4, error));
+  EXPECT_EQ(error, std::errc::no_such_file_or_directory);
 
   text.assign(32'199, '\n');
   WriteFile("4.txt", text + "ULTI\nOLTRE\n");
-  const auto longer = LeggiListaDaImportare(4);
+  const auto longer = LeggiListaDaImportare(4, error);
   ASSERT_TRUE(longer);
   EXPECT_EQ(longer->righe, 32'200);
   EXPECT_EQ(longer->parole, Words{"ULTI"});

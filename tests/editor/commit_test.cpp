@@ -39,7 +39,9 @@ TEST_F(Commit, SnapshotThatCannotBeWrittenIsToldAndTheChangeStays) {
   CartellaIstantanea = InFolder("manca");
   Schema(5)[0] = 'X';
   ConsolidaSchema();
-  EXPECT_EQ(user.TakeTexts(), Texts{"Errore di scrittura del file!"});
+  EXPECT_EQ(user.TakeTexts(),
+            Texts{WithCause("Errore di scrittura del file!", InFolder("manca/_tlma_32.tmp"),
+                            "il file o la cartella non esiste")});
   EXPECT_EQ(Schema(5) + ParolaCasella(1, 1, Orizzontale), "X.B.XB");
 }
 

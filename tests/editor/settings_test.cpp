@@ -99,6 +99,8 @@ TEST_F(SettingsTest, AFailedWriteIsTold) {
   const auto texts = user.TakeTexts();
   ASSERT_EQ(texts.size(), 1u);
   EXPECT_TRUE(texts[0].starts_with("Attenzione, si \xE8 verificato un errore di scrittura"));
+  EXPECT_TRUE(texts[0].ends_with(WithCause("non sia un CD-ROM", InFolder("nowhere/telarium.INI"),
+                                           "il file o la cartella non esiste")));
 }
 
 }  // namespace

@@ -139,7 +139,9 @@ TEST_F(StartupTest, ACommandLineThatCannotBeTakenToTheSnapshotIsOpenAllTheSame) 
   CartellaIstantanea = InFolder("manca");
   MostraAvvio();
   AttivaForm1();
-  EXPECT_EQ(user.TakeTexts(), std::vector<std::string>{"Errore di scrittura del file!"});
+  EXPECT_EQ(user.TakeTexts(), std::vector<std::string>{WithCause(
+                                  "Errore di scrittura del file!", InFolder("manca/_tlma_32.tmp"),
+                                  "il file o la cartella non esiste")});
   EXPECT_EQ(Drawing(), (std::vector<std::string>{"CASA"}));
 }
 

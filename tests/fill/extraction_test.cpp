@@ -218,8 +218,12 @@ TEST_F(ExtractionTest, DictionaryOrSnapshotFolderThatGoesAwayEndsTheRunAtOnce) {
     return false;
   });
   EXPECT_EQ(Run(EsitoEstrazione::SenzaParole), TeeGrid);
-  EXPECT_EQ(user.TakeTexts(), (Words{"Errore di scrittura del file!",
-                                     "Impossibile leggere il dizionario: LessicoItaliano.dat"}));
+  const char* missing = "il file o la cartella non esiste";
+  EXPECT_EQ(
+      user.TakeTexts(),
+      (Words{WithCause("Errore di scrittura del file!", InFolder("manca/_tlma_32.tmp"), missing),
+             WithCause("Impossibile leggere il dizionario.", InFolder("LessicoItaliano.dat"),
+                       missing)}));
 }
 
 TEST_F(ExtractionTest, RunThatCannotBeginLeavesTheGridAsItIs) {

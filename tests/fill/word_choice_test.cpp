@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "dictionary/dictionary_writer.h"
+#include "platform/codepage.h"
 #include "support/numbered_words.h"
 #include "support/telarium_test.h"
 
@@ -168,9 +169,11 @@ TEST_F(WordChoiceTest, LengthWithoutASectionAndMissingDictionaryAreTold) {
     EXPECT_FALSE(CercaCandidati(pattern));
     EXPECT_EQ(NumCandidati, 0);
   }
-  EXPECT_EQ(user.TakeTexts(), (Words{"Errore: Parola con 2 caratteri non disponibile!.",
-                                     "Errore: Parola con 16 caratteri non disponibile!.",
-                                     "Impossibile leggere il dizionario: LessicoItaliano.dat"}));
+  EXPECT_EQ(user.TakeTexts(),
+            (Words{"Errore: Parola con 2 caratteri non disponibile!.",
+                   "Errore: Parola con 16 caratteri non disponibile!.",
+                   WithCause("Impossibile leggere il dizionario.", InFolder("LessicoItaliano.dat"),
+                             "il file o la cartella non esiste")}));
   EXPECT_EQ(ParolaEsiste("APE"), Falso);
 }
 
@@ -183,7 +186,8 @@ TEST_F(WordChoiceTest, ADictionaryThatFailsToBeReadIsNotOneWithoutWords) {
   EXPECT_EQ(LeggiParola(1, 3), "");
   EXPECT_FALSE(ProvaIncroci({{1, 1}, Orizzontale, 3}).letti);
   EXPECT_FALSE(ApriDizionario());
-  const char* const told = "Impossibile leggere il dizionario: LessicoItaliano.dat";
+  const std::string told = WithCause("Impossibile leggere il dizionario.", InFolder(NomeDizionario),
+                                     "la lettura non è riuscita"_cp);
   EXPECT_EQ(user.TakeTexts(), (Words{told, told}));
 }
 

@@ -36,7 +36,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ListeDiParole lists;
   AggiungiLista(input, lists);
   OrdinaListe(lists);
-  auto imported = LeggiListaDaImportare(length);
+  std::error_code error;
+  auto imported = LeggiListaDaImportare(length, error);
   Verifica(imported.has_value(), "not imported");
   auto& list = lists[static_cast<std::size_t>(length - MinLunghezza)];
   InserisciParole(list, std::move(imported->parole));

@@ -7,11 +7,21 @@
 namespace telarium {
 namespace {
 
-using CrosswordFile = TelariumTest;
 using Texts = std::vector<std::string>;
 
+class CrosswordFile : public TelariumTest {
+ protected:
+  void ExpectReadError(std::string_view cause) {
+    EXPECT_EQ(user.TakeTexts(),
+              Texts{WithCause("Errore di lettura del file!", InFolder("uno.tlrm"), cause)});
+  }
+
+  void ExpectWriteError(const Percorso& file, std::string_view cause) {
+    EXPECT_EQ(user.TakeTexts(), Texts{WithCause("Errore di scrittura del file!", file, cause)});
+  }
+};
+
 const Texts ReadError = {"Errore di lettura del file!"};
-const Texts WriteError = {"Errore di scrittura del file!"};
 const Texts FormatError = {"Formato del file non valido! Esecuzione terminata"};
 
 // A crossword of two columns and three rows in pieces. A file that ends within a piece can be read
@@ -186,7 +196,7 @@ TEST_F(CrosswordFile, ACutFileShowsNothingOfTheEarlierCrossword) {
   Draw({"PRI", "MAX", "QUI"});
   EXPECT_EQ(ApriCruciverba(WriteFile("uno.tlrm", Header("03x03") + "].[.t.\r\n")),
             Apertura::Parziale);
-  EXPECT_EQ(user.TakeTexts(), ReadError);
+  ExpectReadError("il contenuto non è quello di un cruciverba, o è incompleto"_cp);
   RicalcolaCaselle();
   EXPECT_EQ(Drawing(), (std::vector<std::string>{"CAZ", "...", "..."}));
   EXPECT_EQ(Schema(6) + Schema(7), "");
@@ -198,11 +208,11 @@ TEST_F(CrosswordFile, IsRefusedPastSixteenMegabytesAndMissingEndsTheProgram) {
   EXPECT_TRUE(LeggiCruciverba("uno.tlrm"));
   std::filesystem::resize_file(path, 16777217);
   EXPECT_FALSE(LeggiCruciverba("uno.tlrm"));
-  EXPECT_EQ(user.TakeTexts(), ReadError);
+  ExpectReadError("il file è troppo grande"_cp);
   // What cannot be read at all costs the open crossword nothing.
   Definizione(1, 1, Orizzontale) = "resta";
   EXPECT_EQ(ApriCruciverba(path), Apertura::Rifiutata);
-  EXPECT_EQ(user.TakeTexts(), ReadError);
+  ExpectReadError("il file è troppo grande"_cp);
   EXPECT_EQ(Definizione(1, 1, Orizzontale), "resta");
 
   EXPECT_THROW(LeggiCruciverba("perché.tlrm"), ProgramFailed);
@@ -220,11 +230,11 @@ TEST_F(CrosswordFile, WhatCannotBeWrittenIsToldAndTheOldFileStays) {
   EXPECT_NE(old.find("\r\n\xFF.\x9A.\r\n"), std::string::npos);
   Draw({"A\xE6"});  // past the last code that the shift leaves room for
   EXPECT_FALSE(ScriviCruciverba(InFolder("uno.tlrm")));
-  EXPECT_EQ(user.TakeTexts(), WriteError);
+  ExpectWriteError(InFolder("uno.tlrm"), CruciverbaNonScrivibile);
   EXPECT_EQ(ReadFile(InFolder("uno.tlrm")), old);
   Draw({"AB"});
   EXPECT_FALSE(ScriviCruciverba(InFolder("manca/uno.tlrm")));
-  EXPECT_EQ(user.TakeTexts(), WriteError);
+  ExpectWriteError(InFolder("manca/uno.tlrm"), "il file o la cartella non esiste");
 }
 
 TEST_F(CrosswordFile, WhatIsWrittenCanBeReadAgain) {
@@ -236,7 +246,7 @@ TEST_F(CrosswordFile, WhatIsWrittenCanBeReadAgain) {
   RicalcolaCaselle();
   Definizione(1, 1, Orizzontale) = std::string(MaxByteCruciverba, 'x');
   EXPECT_FALSE(ScriviCruciverba(InFolder("x.tlrm")));
-  EXPECT_EQ(user.TakeTexts(), std::vector<std::string>{"Errore di scrittura del file!"});
+  ExpectWriteError(InFolder("x.tlrm"), CruciverbaNonScrivibile);
   EXPECT_EQ(ApriCruciverba(InFolder("x.tlrm")), Apertura::Intera) << "the old file stays";
 }
 

@@ -20,6 +20,7 @@ using Texts = std::vector<std::string>;
 constexpr const char* OutputError =
     "Si \xE8 verificato un errore di scrittura/accesso al file o drive!, controlla che "
     "eventualmente i files non siano impostati a sola lettura.";
+constexpr const char* OnAFolder = "il nome \xE8 quello di una cartella";
 constexpr Colore Grey = 0xC0C0C0;
 
 // A surface that tells how it looked when a picture of it was taken.
@@ -191,7 +192,8 @@ TEST_F(Exports, PagesOfOddGrids) {
 TEST_F(Exports, ACharacterThatNoFileHoldsMakesNoPage) {
   Draw({"\xFF\xFF"});
   PubblicaCruciverba();
-  EXPECT_EQ(user.TakeTexts(), Texts{OutputError});
+  EXPECT_EQ(user.TakeTexts(),
+            Texts{WithCause(OutputError, InFolder("telarium_form.html"), CruciverbaNonScrivibile)});
   EXPECT_EQ(Files(), Texts());
 }
 
@@ -278,7 +280,7 @@ TEST_F(Exports, WhatCannotBeWrittenIsToldAndNotOpened) {
     std::filesystem::remove(InFolder(name));
     std::filesystem::create_directory(InFolder(name));
     command();
-    EXPECT_EQ(user.TakeTexts(), Texts{OutputError});
+    EXPECT_EQ(user.TakeTexts(), Texts{WithCause(OutputError, InFolder(name), OnAFolder)});
     ExpectWindowBack();
     std::filesystem::remove(InFolder(name));
   }
@@ -288,7 +290,11 @@ TEST_F(Exports, WhatCannotBeWrittenIsToldAndNotOpened) {
   StampaHTML();
   EsportaInWordConPicture();
   Save("y.bmp");
-  EXPECT_EQ(user.TakeTexts(), Texts(4, OutputError));
+  const Texts told = user.TakeTexts();
+  ASSERT_EQ(told.size(), 4u);
+  EXPECT_EQ(told[0], WithCause(OutputError, InFolder("no such folder/x.bmp"),
+                               "il file o la cartella non esiste"));
+  EXPECT_EQ(told[3], WithCause(OutputError, InFolder("y.bmp"), "la memoria è esaurita"_cp));
   EXPECT_EQ(Files(), before);
   EXPECT_TRUE(machine.opened.empty() && machine.inWord.empty());
 }
@@ -303,7 +309,7 @@ TEST_F(Exports, TheThreeHandOverFilesAreWrittenTogetherOrStay) {
     std::filesystem::remove(InFolder(blocked));
     std::filesystem::create_directory(InFolder(blocked));
     EsportaInWordConPicture();
-    EXPECT_EQ(user.TakeTexts(), Texts{OutputError});
+    EXPECT_EQ(user.TakeTexts(), Texts{WithCause(OutputError, InFolder(blocked), OnAFolder)});
     std::filesystem::remove(InFolder(blocked));
     for (const std::string& name : names)
       EXPECT_TRUE(name == blocked || Made(name) == "old " + name) << name;
@@ -312,7 +318,7 @@ TEST_F(Exports, TheThreeHandOverFilesAreWrittenTogetherOrStay) {
   std::filesystem::remove(InFolder("NONOME.TXT"));
   std::filesystem::remove(InFolder("NONOME.BMP"));
   EsportaInWordConPicture();
-  EXPECT_EQ(user.TakeTexts(), Texts{OutputError});
+  EXPECT_EQ(user.TakeTexts(), Texts{WithCause(OutputError, InFolder("NONOME.html"), OnAFolder)});
   EXPECT_EQ(Files(), Texts()) << "none was there before";
 }
 
@@ -396,7 +402,8 @@ TEST_F(Exports, ATemplateGetsTheWordsInPlaceOfItsMark) {
   std::filesystem::remove(InFolder("TEMPLATE.txt"));
   WriteFile("prova.html", "old");
   EsportaDaModello();
-  EXPECT_EQ(user.TakeTexts(), Texts{OutputError});
+  EXPECT_EQ(user.TakeTexts(), Texts{WithCause(OutputError, InFolder("template.txt"),
+                                              "il file o la cartella non esiste")});
   EXPECT_EQ(Made("prova.html"), "old");
 }
 

@@ -1,10 +1,12 @@
 #include "platform/files.h"
 
 #include <csignal>
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "platform/codepage.h"
+#include "platform/descriptor.h"
 #include "support/ordinary_user.h"
 #include "support/telarium_test.h"
 
@@ -75,7 +77,6 @@ TEST_F(Files, ReadTellsMissingUnreadableAndTooLargeApart) {
   EXPECT_EQ(contents, "12345");
   EXPECT_EQ(LeggiFile(file, 4, contents), EsitoLettura::TroppoGrande);
   EXPECT_EQ(contents, "");
-  EXPECT_EQ(LeggiFile("/dev/zero", 100000, contents), EsitoLettura::TroppoGrande);
   EXPECT_EQ(LeggiFile(InFolder("anello"), 5, contents), EsitoLettura::Illeggibile);
   EXPECT_EQ(LeggiFile(file / "dentro", 5, contents), EsitoLettura::Assente);
   EXPECT_EQ(LeggiFile(CartellaProgramma, 5, contents), EsitoLettura::Assente);
@@ -104,6 +105,21 @@ TEST_F(Files, RightsThatAreMissingCostNothingAndAreTold) {
   EXPECT_EQ(ElencaFile(CartellaProgramma, "*"), (Names{"protetto", "segreto"}));
   EXPECT_TRUE(ElencaFile(closed, "*").empty());
   fs::permissions(closed, fs::perms::all);
+}
+
+// One that somebody holds open for writing keeps its reader waiting.
+TEST_F(Files, WhatIsNoFileIsNotReadAndNotWaitedFor) {
+  ASSERT_EQ(::mkfifo(InFolder("pipe").c_str(), 0600), 0);
+  const Descrittore held(::open(InFolder("pipe").c_str(), O_RDWR | O_CLOEXEC));
+  std::string contents;
+  std::error_code error;
+  for (const Percorso& other : {InFolder("pipe"), Percorso("/dev/zero"), Percorso("/dev/null")}) {
+    EXPECT_EQ(LeggiFile(other, 100000, contents, error), EsitoLettura::Illeggibile) << other;
+    EXPECT_EQ(ConCausa("Peccato!", "x", error),
+              "Peccato!\nx: non \xE8 un file ma una pipe o un dispositivo.");
+  }
+  EXPECT_EQ(LeggiFile(WriteFile("vuoto", ""), 5, contents, error), EsitoLettura::Letto);
+  EXPECT_EQ(ConCausa("Peccato!", "x", error), "Peccato!");
 }
 
 TEST_F(Files, NamesAreFoundWhateverTheirCase) {

@@ -29,6 +29,12 @@ class TelariumTest : public ::testing::Test {
   Percorso WriteFile(const Percorso& name, std::string_view bytes) const;
   static std::string ReadFile(const Percorso& path);
 
+  /// A told message and, on a line of its own, the name of a file and why it failed.
+  static std::string WithCause(std::string_view told, const Percorso& path,
+                               std::string_view cause) {
+    return std::string(told) + '\n' + path.string() + ": " + std::string(cause) + '.';
+  }
+
   /// Writes a dictionary of these words (of 3 to 15 letters, in any order) into the program folder
   /// and opens it.
   void OpenDictionary(const std::vector<std::string>& words,

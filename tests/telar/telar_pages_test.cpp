@@ -5,7 +5,7 @@ namespace {
 
 constexpr const char* OutputError =
     "Si è verificato un errore di scrittura/accesso al file o drive!, controlla che eventualmente "
-    "i files non siano impostati a sola lettura.\n";
+    "i files non siano impostati a sola lettura. ";
 
 using TelarPages = Telar;
 
@@ -52,22 +52,31 @@ TEST_F(TelarPages, ShowTheConfiguredSite) {
 }
 
 TEST_F(TelarPages, AFailureAndWrongArgumentsAreToldAndLeaveWhatWasThere) {
-  for (const char* line :
-       {"html sample --uscita folder", "html sample --uscita none/p",
-        "html sample --uscita=", "form sample --uscita folder", "form sample --uscita none/p",
-        "testo sample --cartella-uscita none", "testo sample --cartella-uscita old"}) {
-    EXPECT_EQ(Told(line, 1), OutputError) << line;
-  }
+  const char *onAFolder = "il nome è quello di una cartella",
+             *missing = "il file o la cartella non esiste";
+  const std::tuple<const char*, const char*, const char*> failures[] = {
+      {"html sample --uscita folder", "folder", onAFolder},
+      {"html sample --uscita none/p", "none/p", missing},
+      {"html sample --uscita=", "", missing},
+      {"form sample --uscita folder", "folder", onAFolder},
+      {"form sample --uscita none/p", "none/p", missing},
+      {"testo sample --cartella-uscita none", "none/NONOME.TXT", missing},
+      {"testo sample --cartella-uscita old", "old/NONOME.TXT", "il percorso non è una cartella"}};
+  for (const auto& [line, file, cause] : failures)
+    EXPECT_EQ(Told(line, 1), Unisci(OutputError, file, ": ", cause, ".\n")) << line;
   for (const char* command : {"html", "form"}) {
     EXPECT_EQ(Told(Unisci(command, " missing --uscita old"), 1),
               Unisci("Errore: Cruciverba  missing  Non trovato! Esecuzione terminata.\n"));
-    EXPECT_EQ(Told(Unisci(command, " old --uscita old"), 1), "Errore di lettura del file!\n");
+    EXPECT_EQ(Told(Unisci(command, " old --uscita old"), 1),
+              "Errore di lettura del file! old: il contenuto non è quello di un cruciverba, o è "
+              "incompleto.\n");
     EXPECT_EQ(Told(Unisci(command, " sample --uscita ./sample"), 1),
               "L'uscita è il cruciverba stesso: nessun file scritto.\n");
   }
   fs::create_directory(InFolder("work/folder/NONOME.html"));
   Write("folder/NONOME.TXT", "old");
-  EXPECT_EQ(Told("testo sample --cartella-uscita folder", 1), OutputError);
+  EXPECT_EQ(Told("testo sample --cartella-uscita folder", 1),
+            Unisci(OutputError, "folder/NONOME.html: ", onAFolder, ".\n"));
   EXPECT_EQ(Read("folder/NONOME.TXT"), "old");
   for (const char* line :
        {"html", "html sample square", "html sample --modo 3", "html sample --modo",

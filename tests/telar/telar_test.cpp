@@ -8,8 +8,9 @@
 namespace telarium {
 namespace {
 
-constexpr const char* ReadError = "Errore di lettura del file!\n";
-constexpr const char* WriteError = "Errore di scrittura del file!\n";
+constexpr const char* ReadError =
+    "Errore di lettura del file! bad: il contenuto non è quello di un cruciverba, o è "
+    "incompleto.\n";
 constexpr const char* SizeError = "Formato del file non valido! Esecuzione terminata\n";
 constexpr const char* NoWords =
     "Nessuna parola da 3 a 15 lettere nelle liste: il dizionario non è stato scritto.\n";
@@ -178,7 +179,7 @@ TEST_F(Telar, BadCrosswordsAreToldOnOneLine) {
       {Unisci(Head, "05x31\r\nH.\r\n"), SizeError},
       {start + "  1  11-a" + '\0' + "b\r\n", ReadError},
       {start + " 54  11-a\r\n", ReadError},
-      {"made 100 MB long", ReadError},
+      {"made 100 MB long", "Errore di lettura del file! bad: il file è troppo grande.\n"},
   };
   MakeDictionary("AAAB\n");
   for (const auto& [bytes, told] : rows) {
@@ -199,24 +200,34 @@ TEST_F(Telar, OtherFailuresAreToldOnOneLineAndCostNothing) {
   fs::resize_file(InFolder("work/huge"), 100'000'000);
   WriteFile("program/short.dat", ReadFile(InFolder("program/LessicoItaliano.dat")).substr(0, 439));
   const std::string noCrossword = "Errore: Cruciverba  ";
+  const std::string readError = "Errore di lettura del file! ";
+  const std::string writeError = "Errore di scrittura del file! ";
+  const std::string missing = ": il file o la cartella non esiste.\n";
+  const std::string special = ": non è un file ma una pipe o un dispositivo.\n";
   const std::pair<const char*, std::string> rows[] = {
       {"parole none", noCrossword + "none  Non trovato! Esecuzione terminata.\n"},
       {"copia folder old", noCrossword + "folder  Non trovato! Esecuzione terminata.\n"},
-      {"copia sample folder", WriteError},
-      {"copia sample none/new", WriteError},
-      {"copia sample /proc/new", WriteError},
-      {"copia sample pipe", WriteError},
-      {"griglia pipe", ReadError},
-      {"copia sample /dev/full", WriteError},
-      {"nuovo none/new --dimensioni 5x5", WriteError},
-      {"estrai square none/new", WriteError},
+      {"copia sample folder", writeError + "folder: il nome è quello di una cartella.\n"},
+      {"copia sample none/new", writeError + "none/new" + missing},
+      {"copia sample /proc/new", writeError + "/proc/new" + missing},
+      {"copia sample pipe", writeError + "pipe: nessuno legge all'altro capo.\n"},
+      {"griglia pipe", readError + "pipe" + special},
+      {"griglia /dev/zero", readError + "/dev/zero" + special},
+      {"nuovo old --modelli pipe --modello 1",
+       "Impossibile leggere il file modelli. pipe" + special},
+      {"diz-crea LessicoItaliano.dat pipe",
+       "La lista di parole non si può leggere. pipe" + special},
+      {"copia sample /dev/full", writeError + "/dev/full: il disco è pieno.\n"},
+      {"nuovo none/new --dimensioni 5x5", writeError + "none/new" + missing},
+      {"estrai square none/new", writeError + "none/new" + missing},
       {"estrai square old --dizionario none", NoDictionary + std::string("none\n")},
       {"estrai square old --dizionario .", NoDictionary + std::string(".\n")},
       {"cerca ... --cartella none", NoDictionary + std::string("LessicoItaliano.dat\n")},
       {"diz-info è.dat", NoDictionary + std::string("è.dat\n")},
       {"nuovo old --dimensioni 2x5", "Numero caselle orizzontali consentito da 3 a 53.\n"},
       {"nuovo old --dimensioni 5x31", "Numero caselle verticali consentito da 3 a 30.\n"},
-      {"nuovo old --modello 1", "Errore: Non trovato file di definizione modelli standard!\n"},
+      {"nuovo old --modello 1", "Errore: Non trovato file di definizione modelli standard! " +
+                                    InFolder("program/STANDARD.dfc").string() + missing},
       {"nuovo old --modelli bad.dfc --modello 1", "Tipo di file modelli non valido!\n"},
       {"nuovo old --modelli bad.dfc --modello 2",
        "Il file modelli bad.dfc non ha righe per un modello numero 2.\n"},

@@ -40,7 +40,8 @@ QHBoxLayout* FinestraArchivio::Pulsanti() {
 // A folder that cannot be read leaves the lists as they are.
 void FinestraArchivio::Vai(const Percorso& cartella) {
   if (Dir1->Vai(cartella)) return MostraFile();
-  Avvisa("Errore di lettura dal drive specificato");
+  Avvisa(
+      ConCausa("Errore di lettura dal drive specificato", cartella, ErroreDellaCartella(cartella)));
   Drive1->Mostra(Dir1->Cartella());
 }
 

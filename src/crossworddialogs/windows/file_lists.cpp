@@ -137,7 +137,7 @@ bool AlberoCartelle::Vai(const Percorso& cartella) {
 void AlberoCartelle::ApriVoce(QTreeWidgetItem* voce) {
   const Percorso cartella = PercorsoDi(voce->data(0, RuoloPercorso));
   if (!Vai(cartella)) {
-    Avvisa("Impossibile leggere la cartella: " + TestoPercorso(cartella));
+    Avvisa(ConCausa("Impossibile leggere la cartella.", cartella, ErroreDellaCartella(cartella)));
   } else if (cambia_) {
     cambia_();
   }

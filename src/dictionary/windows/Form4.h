@@ -91,7 +91,7 @@ class Form4 : public FinestraModale {
   void ScriviSulDisco();
   void SegueScrittura(std::size_t lista, std::size_t fatte);
   void ImportaListe();
-  bool ImportaLista(std::size_t lista);
+  std::error_code ImportaLista(std::size_t lista);
   void CreaPrivato();
   void ApriEsistente(const Percorso& nome);
   void CancellaPrivato();

@@ -299,41 +299,54 @@ void Form4::SegueScrittura(std::size_t lista, std::size_t fatte) {
 
 void Form4::ImportaListe() {
   Inizia(Lavoro::Importazione);
-  bool riuscita = true;
-  for (std::size_t lista = 0; riuscita && lista < parole_.size(); ++lista) {
-    riuscita = ImportaLista(lista);
+  std::error_code errore;
+  std::size_t lista = 0;
+  for (; !errore && lista < parole_.size(); ++lista) {
+    errore = ImportaLista(lista);
     if (cadenza_.Scaduta()) ChiUsa().CediAiMessaggi();
     if (FermaLettura) return;
   }
   Finisci();
-  if (!riuscita) {
-    Avvisa(
+  if (errore) {
+    Avvisa(ConCausa(
         "Per usare questa utility bisogna prima preparare una serie di files di testo 3.txt, "
         "4.txt, "
-        "5.txt .... 15.txt contenenti le parole che si vogliono importare");
+        "5.txt .... 15.txt contenenti le parole che si vogliono importare",
+        ListaDaImportare(LunghezzaDi(lista - 1)), errore));
   }
 }
 
-bool Form4::ImportaLista(std::size_t lista) {
+// Gives why the list could not be read.
+std::error_code Form4::ImportaLista(std::size_t lista) {
   Combo1[lista]->Svuota();
-  auto importata = LeggiListaDaImportare(LunghezzaDi(lista));
-  if (!importata) return false;
+  std::error_code errore;
+  auto importata = LeggiListaDaImportare(LunghezzaDi(lista), errore);
+  if (!importata) return errore;
   Combo1[lista]->Aggiungi(std::move(importata->parole));
   Label2[lista]->setText(TestoConto(importata->righe, ParoleLette));
-  return true;
+  return {};
 }
 
 // --- Private dictionaries ---
+
+namespace {
+
+void AvvisaNomeNonValido(const Percorso& nome, std::string_view causa) {
+  Avvisa(
+      ConCausa("Nome del file specificato NON valido oppure disco di sola lettura.", nome, causa));
+}
+
+}  // namespace
 
 void Form4::CreaPrivato() {
   const auto risposta = ChiUsa().ChiediTesto(
       {.richiesta = "Inserire nome del dizionario privato che si vuole creare :"});
   if (!risposta || risposta->empty()) return;
   const auto nome = NomeDizionarioPrivato(*risposta);
-  const auto esistente = nome ? TrovaFile(CartellaProgramma, *nome) : std::nullopt;
-  if (!nome || (!esistente && CreaDizionarioVuoto(*nome))) {
-    return Avvisa("Nome del file specificato NON valido oppure disco di sola lettura.");
-  }
+  if (!nome) return AvvisaNomeNonValido(AUtf8(*risposta), "il nome ha segni non ammessi");
+  const auto esistente = TrovaFile(CartellaProgramma, *nome);
+  const std::error_code errore = esistente ? std::error_code() : CreaDizionarioVuoto(*nome);
+  if (errore) return AvvisaNomeNonValido(CartellaProgramma / *nome, DescrizioneErrore(errore));
   if (esistente) return ApriEsistente(esistente->filename());
   NomeDizionario = *nome;
   LinguaDizionario = LinguaDeiPrivati;

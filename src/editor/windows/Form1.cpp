@@ -320,7 +320,8 @@ void Form1::MostraPicture1(bool visibile) {
   if (visibile && Picture1->pixmap(Qt::ReturnByValue).isNull()) {
     const bool piccolo = screen()->size().width() < SchermoPiccolo;
     const Percorso nome = piccolo ? "TELARIUMa.jpg" : "TELARIUMb.jpg";
-    Picture1->setPixmap(QPixmap(PercorsoAQt(PercorsoNellaCartella(CartellaProgramma, nome))));
+    const Percorso file = PercorsoNellaCartella(CartellaProgramma, nome);
+    if (FileOrdinario(file)) Picture1->setPixmap(QPixmap(PercorsoAQt(file)));
     Picture1->adjustSize();
   }
   Picture1->setVisible(visibile);

@@ -15,6 +15,8 @@ namespace {
 namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
+constexpr const char* Missing = "il file o la cartella non esiste";
+
 class FileWindows : public TelariumTest {
  protected:
   void SetUp() override {
@@ -71,7 +73,10 @@ TEST_F(FileWindows, OpenTakesATypedNameADoubleClickAndRefusesWhatIsNotThere) {
   QTest::keyClick(window.Text1, Qt::Key_Return);
   window.Text1->clear();
   Click(window.Command3d1);
-  EXPECT_EQ(user.TakeTexts(), Texts(2, "Errore: file inesistente!"));
+  EXPECT_EQ(user.TakeTexts(),
+            (Texts{WithCause("Errore: file inesistente!", archive / "alfa.TLRMx", Missing),
+                   WithCause("Errore: file inesistente!", archive / "",
+                             "il nome \xE8 quello di una cartella")}));
   EXPECT_TRUE(window.isVisible());
   DoubleClickItem(*window.File1, 1);
   EXPECT_FALSE(window.isVisible());
@@ -91,7 +96,7 @@ TEST_F(FileWindows, WhatThePreviewRefusesCanBeOpenedAsFarAsTheReaderTakesIt) {
   EXPECT_EQ(window.StatusBar1->text(), QString());
   WriteFile("Archivio cruciverba/alfa.TLRM", "no crossword");
   Click(window.Command3d1);
-  EXPECT_EQ(user.TakeTexts(), Texts{"Errore di lettura del file!"});
+  EXPECT_EQ(user.TakeTexts().at(0).find("Errore di lettura del file!\n"), 0u);
   EXPECT_EQ(DrawingOfSchema(), Texts{"OGGI"});
   WriteFile("Archivio cruciverba/alfa.TLRM", bytes);
   Click(window.Command3d1);
@@ -125,7 +130,8 @@ TEST_F(FileWindows, TheListsMoveTogether) {
   window.Drive1->insertItem(0, QStringLiteral("X"), QByteArray("/nowhere"));
   window.Drive1->setCurrentIndex(0);
   emit window.Drive1->activated(0);
-  EXPECT_EQ(user.TakeTexts(), Texts{"Errore di lettura dal drive specificato"});
+  EXPECT_EQ(user.TakeTexts(),
+            Texts{WithCause("Errore di lettura dal drive specificato", "/nowhere", Missing)});
   EXPECT_EQ(window.Dir1->Cartella(), archive);
   EXPECT_EQ(window.Drive1->currentIndex(), drive + 1) << "the folder's own, whatever comes before";
   EXPECT_EQ(window.File1->count(), 2);
@@ -180,7 +186,8 @@ TEST_F(FileWindows, AFolderThatGoesAwayCostsAMessageAndAnEmptyOneNothing) {
   window.File1->setCurrentRow(1);
   Click(window.Command3d1);
   EXPECT_EQ(user.TakeTexts(),
-            (Texts{"Nessun file di cruciverba trovato!", "Errore: file inesistente!"}));
+            (Texts{WithCause("Nessun file di cruciverba trovato!", archive / "Beta.tlrm", Missing),
+                   WithCause("Errore: file inesistente!", archive / "Beta.tlrm", Missing)}));
   Form2 empty(nullptr);
   Open(empty);  // makes the folder again, which is no fault
   EXPECT_EQ(empty.File1->count(), 0);
@@ -191,7 +198,8 @@ TEST_F(FileWindows, AFolderThatGoesAwayCostsAMessageAndAnEmptyOneNothing) {
   fs::remove_all(archive);
   save.Text1->setText(QStringLiteral("nuovo"));
   QTest::keyClick(save.Text1, Qt::Key_Return);
-  EXPECT_EQ(user.TakeTexts(), Texts{"Errore di nome file o accesso al disco!"});
+  EXPECT_EQ(user.TakeTexts(), Texts{WithCause("Errore di nome file o accesso al disco!",
+                                              archive / "nuovo.tlrm", Missing)});
   EXPECT_TRUE(save.isVisible());
 }
 

@@ -85,7 +85,10 @@ TEST_F(NewWindows, WithoutAModelFileTheSizeStillWorks) {
   std::filesystem::remove(InFolder("Standard.DFC"));
   FormNew window(nullptr);
   Open(window);
-  EXPECT_EQ(user.TakeTexts(), Texts{"Errore: Non trovato file di definizione modelli standard!"});
+  EXPECT_EQ(
+      user.TakeTexts().at(0).find("Errore: Non trovato file di definizione modelli standard!\n" +
+                                  InFolder("").string()),
+      0u);
   QTest::mouseClick(window.Command3d1, Qt::LeftButton);
   EXPECT_EQ(Schema(4), "Dimensioni : 16x13");
 }

@@ -334,7 +334,8 @@ TEST_F(Form4Test, ImportReplacesTheListsUntilAFileIsMissing) {
       "5.txt .... 15.txt contenenti le parole che si vogliono importare";
   OpenItalian();
   Click(window->Command8);
-  EXPECT_EQ(user.TakeTexts(), Words{missing});
+  EXPECT_EQ(user.TakeTexts(),
+            Words{WithCause(missing, InFolder("3.txt"), "il file o la cartella non esiste")});
   EXPECT_EQ(Shown(3) + Count(3), "(1) parole");
   EXPECT_EQ(Shown(4), "CASA SOLE ");
   EXPECT_EQ(window->Label4->text(), QStringLiteral("5"));
@@ -389,7 +390,8 @@ TEST_F(Form4Test, PrivateDictionariesAreMadeOpenedAndDeleted) {
     user.AnswerText(name);
     Click(window->Command6);
     EXPECT_EQ(user.TakeTexts(),
-              Words{"Nome del file specificato NON valido oppure disco di sola lettura."});
+              Words{WithCause("Nome del file specificato NON valido oppure disco di sola lettura.",
+                              name, "il nome ha segni non ammessi")});
   }
   std::filesystem::create_directory(InFolder("cartella.priv"));
   user.AnswerText("cartella");
