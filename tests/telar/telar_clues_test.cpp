@@ -1,4 +1,5 @@
 #include "clues/encyclopedia.h"
+#include "support/faults.h"
 #include "telar/telar_fixture.h"
 
 namespace telarium {
@@ -77,6 +78,23 @@ TEST_F(TelarClues, TheStoreOfTheUsersOwnFolderIsUsedAsItIs) {
   fs::rename(InFolder("program/telarium1.mdb"), InFolder("home/telarium/telarium1.mdb"));
   call.environment.back() = "XDG_DATA_HOME=" + InFolder("home").string();
   EXPECT_EQ(Out("definizioni ora"), "F\tmia\n");
+}
+
+TEST_F(TelarClues, ImportOnAFullDiskReportsNoSuccess) {
+  MakeStore("ORA\tF\tfacile\n");
+  WriteFile("program/definizIONI.txt", "UNO\r\nprimo\r\nDUE\r\nsecondo\r\n");
+  const Words usual = call.environment;
+  // From the third call on, which is the first one that wants room.
+  for (const std::string& one :
+       Environment({.at = 3, .what = "ENOSPC", .onward = true, .under = InFolder("program")}))
+    call.environment.push_back(one);
+  EXPECT_EQ(Told("importa-definizioni", 1),
+            "2 parole non sono state aggiunte. Enciclopedia telarium1.mdb: il disco è pieno.\n");
+  call.environment = usual;
+  EXPECT_EQ(Told("definizioni UNO", 1), "");
+  EXPECT_EQ(Out("definizioni ORA"), "F\tfacile\n");
+  EXPECT_NE(Out("importa-definizioni"), "");
+  EXPECT_EQ(Out("definizioni DUE"), "F\tsecondo\n");
 }
 
 TEST_F(TelarClues, ImportThatIsKilledLeavesAStoreWithWhatItHadAdded) {
