@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "platform/codepage.h"
+#include "platform/folder_lock.h"
 #include "support/numbered_words.h"
 #include "support/telarium_test.h"
 
@@ -110,6 +111,11 @@ TEST_F(DictionaryWriterTest, FailuresAreToldAndLeaveTheOldFile) {
   {
     const FileSizeLimit limit(450);
     EXPECT_EQ(Write({Words{}, {"CASA"}}), refused(std::string("il file è troppo grande"_cp)));
+  }
+  {
+    const BloccoCartella other(InFolder(""));
+    EXPECT_EQ(Write({Words{}, {"CASA"}}),
+              refused("un altro programma sta scrivendo nella stessa cartella"));
   }
   EXPECT_EQ(ReadFile(InFolder(file)), "the old file");
 

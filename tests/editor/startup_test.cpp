@@ -111,7 +111,9 @@ TEST_F(StartupTest, OpensTheCommandLineAtTheFirstActivationOnly) {
   ASSERT_TRUE(ScriviIstantanea());
   Schema(5) = "C.A.S.A.";
   window.calls.clear();
+  window.preview = true;
   AttivaForm1();
+  EXPECT_FALSE(window.preview);
   EXPECT_EQ(Drawing(), (std::vector<std::string>{"SOLE"}));
   EXPECT_EQ(Calls("CollocaPicture2"), 0);
 }

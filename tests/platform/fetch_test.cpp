@@ -37,6 +37,7 @@ TEST_F(Fetch, GivesWholeBodiesOnly) {
   const Server good(Server::Reply("200 OK", "", body));
   EXPECT_EQ(From(good.Address() + "/x y\xC3\xA8"), body);
   EXPECT_EQ(From("HTTP" + good.Address().substr(4)), body);
+  EXPECT_EQ(From(good.Address() + "/x y?z=http://w"), body);
   const Server empty(Server::Reply("200 OK", "Content-Length: 0\r\n", ""));
   EXPECT_EQ(From(empty.Address()), "");
   const Server missing(Server::Reply("404 Not Found", "", "no such page"));

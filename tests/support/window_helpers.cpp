@@ -38,7 +38,7 @@ void CheckPlaces(const QWidget& widget) {
       EXPECT_FALSE(control->geometry().intersects(other->geometry()))
           << control->objectName().toStdString() << " and " << other->objectName().toStdString();
     shown.push_back(control);
-    if (widget.layout() && control->layout()) CheckPlaces(*control);
+    if (control->layout()) CheckPlaces(*control);
   }
 }
 
@@ -48,9 +48,9 @@ void ExpectNamedControls(const QWidget& window) {
   std::set<QString> names;
   CheckNames(window, names);
   EXPECT_FALSE(names.empty());
-  if (!window.isVisible() || !window.layout()) return;
+  if (!window.isVisible()) return;
   // At scale factor 2 the screen is smaller than any real one, and than some window needs.
-  const QSize least = window.layout()->minimumSize();
+  const QSize least = window.layout() ? window.layout()->minimumSize() : QSize(600, 400);
   if (least.boundedTo(window.size()) == least) CheckPlaces(window);
 }
 

@@ -63,8 +63,8 @@ void WhenOpen(QObject& context, std::function<void(Window&)> act,
 }
 
 /// Fails the test for a control of a window that has no name, or the name of another one, and for
-/// one that an open window's layout lets lie over another one or cuts off. Parts of a control that
-/// the window library makes are none of ours.
+/// one that lies over another one or is cut off in an open window. Parts of a control that the
+/// window library makes are none of ours.
 void ExpectNamedControls(const QWidget& window);
 
 /// The names of the controls that the Tab key reaches in an open window, in order, from the one

@@ -74,12 +74,15 @@ TEST_F(AuxiliaryWindowsTest, TheStartShowsATipOverTheCrosswordAndLetsOthersWait)
 }
 
 TEST_F(AuxiliaryWindowsTest, TheInformationWindowLeadsToTheConfiguredPages) {
-  WriteFile("indirizzi.txt", "PaginaDizionario=dizionario.example/&\nPaginaAmici=amici.example\n");
+  WriteFile("indirizzi.txt",
+            "PaginaDizionario=dizionario.example/&\nPaginaAmici=amici.example/?a=b\n");
   StartWith({"CASA"});
   const auto visit = [&](Form3& window) {
     ExpectNamedControls(window);
     EXPECT_EQ(window.Label4->text(), QStringLiteral("Telarium - Versione  7. 0. 1"));
     EXPECT_EQ(window.Label10->text(), QStringLiteral("dizionario.example/&"));
+    for (const QLabel* picture : {window.Picture5, window.Picture7})
+      EXPECT_GT(picture->width(), 32) << picture->objectName().toStdString();
     EXPECT_EQ(TabOrder(window), "Command3d1 Label10 Label8 Picture5 Picture7 Command1 ");
     Click(window.Label10, window.Label8, window.Picture5, window.Picture7);
     machine.program = "kinfocenter";
@@ -93,7 +96,7 @@ TEST_F(AuxiliaryWindowsTest, TheInformationWindowLeadsToTheConfiguredPages) {
   EXPECT_EQ(PuntatoreMouse, PuntatoreFreccia);
   EXPECT_EQ(machine.opened, (std::vector<std::string>{
                                 "https://dizionario.example/&", "mailto:autore@telarium.example",
-                                "https://www.telarium.example", "https://amici.example"}));
+                                "https://www.telarium.example", "https://amici.example/?a=b"}));
   EXPECT_EQ(machine.tried, std::vector<std::string>{"kinfocenter"});
 }
 

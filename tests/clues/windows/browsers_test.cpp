@@ -464,6 +464,8 @@ TEST_F(AllWords, ShowsTheRowsAndMovesThroughThem) {
   EXPECT_EQ(window->windowTitle(),
             QStringLiteral("Telarium - Enciclopedia definizioni (Tabella) "));
   EXPECT_EQ(Grid().model()->rowCount(), 4) << "one for a new row";
+  EXPECT_EQ(Grid().model()->headerData(1, Qt::Horizontal), QStringLiteral("DEFINIZ_FACILE"));
+  EXPECT_EQ(Grid().model()->headerData(3, Qt::Vertical), QStringLiteral("*"));
   EXPECT_EQ(Shown(1), "CASA|Abitazione/Dimora|");
   EXPECT_EQ(Shown(3), "||");
   EXPECT_EQ(Current(), (std::pair{1, 1}));

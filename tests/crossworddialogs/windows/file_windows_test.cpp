@@ -255,6 +255,11 @@ TEST_F(FileWindows, SaveTakesNameAndAuthor) {
   QCoreApplication::sendEvent(window.Text2, &fromItsMenu);
   EXPECT_EQ(window.Text2->selectedText(), QStringLiteral("Pr"));
   window.Text1->setText(QStringLiteral("Citt\u00E0"));
+  window.Text2->setText(QStringLiteral("Nicol\u0103"));  // no such letter in the code page
+  Click(window.Command3d1);
+  EXPECT_EQ(user.TakeTexts().size(), 1u);
+  EXPECT_EQ(window.focusWidget(), window.Text2);
+  EXPECT_FALSE(fs::exists(archive / "Città.tlrm"));
   window.Text2->setText(QStringLiteral("Nicol\u00F2, Forl\u00EC"));
   QTest::keyClick(window.Text2, Qt::Key_Return);
   EXPECT_FALSE(window.isVisible());

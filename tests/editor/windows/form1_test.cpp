@@ -23,8 +23,10 @@
 #include "editor/windows/menu_table.h"
 #include "fill/extraction.h"
 #include "model/crossword_file.h"
+#include "platform/qt/qt_platform.h"
 #include "support/crossword_page.h"
 #include "support/window_helpers.h"
+#include "telarium/desktop.h"
 
 namespace telarium {
 namespace {
@@ -53,6 +55,17 @@ TEST_F(Form1Test, ShowsTheSplashThatFitsTheScreen) {
   }
   Start();
   EXPECT_EQ(form->Picture1->width(), form->screen()->size().width() < 700 ? 30 : 40);
+}
+
+TEST_F(Form1Test, IsWhatTheProgramsPlatformDrawsOnAndAsksOver) {
+  Start();
+  PiattaformaQt program;
+  CollegaFinestra(program, *form);
+  EXPECT_EQ(program.FinestraPrincipale(), &form->Area->Superficie());
+  for (const int shape : {PuntatoreCasellaNera, PuntatoreMano}) {
+    program.ChiUsa().FormaPuntatore(shape);
+    EXPECT_FALSE(form->Area->cursor().pixmap().isNull()) << shape;
+  }
 }
 
 TEST_F(Form1Test, OffersTheCommandsOfThisProgramOnceThereIsACrossword) {

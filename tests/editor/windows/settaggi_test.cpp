@@ -156,6 +156,11 @@ TEST_F(SettaggiTest, ControlsHaveTheirNamesAndOrder) {
   ExpectNamedControls(*window);
   EXPECT_EQ(TabOrder(*window),
             "HScroll1 HScroll2 HScroll3 HScroll4 HScroll5 HScroll6 Command1 Command2 ");
+  window->HScroll2->setFocus();
+  const QLabel& value = *window->Label9;
+  EXPECT_EQ(value.backgroundRole(), QPalette::Highlight) << "a bar shows no focus by itself";
+  window->HScroll3->setFocus();
+  EXPECT_NE(value.backgroundRole(), QPalette::Highlight);
 }
 
 }  // namespace

@@ -77,6 +77,15 @@ TEST_F(WindowHelp, F1OpensTheChapterAboutEachWindow) {
   frmParole table(nullptr);
   Open(table);
   EXPECT_EQ(ChapterByF1(table), "enctabella");
+  // Marks of an address in the folder's name are none.
+  const Percorso folder = InFolder("a#1% \xC3\xA8");
+  std::filesystem::create_directory(folder);
+  std::filesystem::rename(InFolder(GemelloAiuto), folder / GemelloAiuto);
+  CartellaProgramma = folder;
+  EXPECT_EQ(ChapterByF1(table), "enctabella");
+  const QString page = QString::fromStdString(ReadFile(machine.opened[0]));
+  const QUrl url(page.section(u'"', 7, 7));
+  EXPECT_EQ(url.toLocalFile().toStdString(), (folder / GemelloAiuto).string());
   table.grdDataGrid->edit(table.grdDataGrid->currentIndex());
   EXPECT_EQ(ChapterByF1(table), "enctabella") << "from a cell too";
 }

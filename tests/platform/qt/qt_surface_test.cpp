@@ -88,6 +88,10 @@ TEST_F(SurfaceTest, TextStandsBelowItsPositionAndMovesIt) {
   EXPECT_NEAR(surface.LarghezzaTesto("A"), 20 * 0.667, 0.8);
   EXPECT_NEAR(surface.AltezzaTesto("A"), 20 * 1.117, 1.2);
   EXPECT_NEAR(surface.LarghezzaTesto("\xC0"), surface.LarghezzaTesto("A"), 0.01) << "A grave";
+  for (const std::string text : {"iW", "ii", "WW"})  // whatever was measured before
+    EXPECT_NEAR(surface.LarghezzaTesto(text),
+                surface.LarghezzaTesto(text.substr(0, 1)) + surface.LarghezzaTesto(text.substr(1)),
+                0.1);
   surface.Posizione(5, 3);
   surface.Scrivi("AB");
   EXPECT_NEAR(surface.PosizioneX(), 5 + surface.LarghezzaTesto("AB"), 0.01);
