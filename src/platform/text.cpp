@@ -34,7 +34,11 @@ double ValoreDecimale(std::string_view testo) {
   double valore = 0;
   const auto esito =
       std::from_chars(testo.data(), testo.data() + testo.size(), valore, std::chars_format::fixed);
-  if (esito.ec == std::errc::result_out_of_range) valore = std::numeric_limits<double>::max();
+  if (esito.ec == std::errc::result_out_of_range) {
+    // So many digits make it too large; or, with nothing but zeros before the point, too small.
+    const bool grande = testo.find_first_of("123456789") < testo.find('.');
+    valore = grande ? std::numeric_limits<double>::max() : 0;
+  }
   return negativo ? -valore : valore;
 }
 

@@ -1,5 +1,7 @@
 #include "platform/text.h"
 
+#include <limits>
+#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -15,6 +17,16 @@ TEST(Text, NumberIsWhatTheTextBeginsWith) {
   for (const char* text : {"2147483647", "2147483648", "99999999999999999999999"}) {
     EXPECT_EQ(ValoreNumerico(text), 2147483647) << text;
   }
+}
+
+TEST(Text, DecimalNumbersOfAnyLengthKeepTheirPlace) {
+  const std::string zeros(400, '0');
+  const double largest = std::numeric_limits<double>::max();
+  const std::pair<std::string, double> cases[] = {
+      {zeros + "7.5", 7.5},           {"0." + zeros + "1", 0}, {"-." + zeros + "1", 0},
+      {zeros + "." + zeros + "1", 0}, {"1" + zeros, largest},  {"-1" + zeros + ".5", -largest}};
+  for (const auto& [text, value] : cases)
+    EXPECT_EQ(ValoreDecimale(text), value) << text;
 }
 
 TEST(Text, NumbersAreRoundedAndWrittenAsTheFilesHaveThem) {
