@@ -31,8 +31,8 @@ JUDGED = ROOT / "tools" / "faults" / "judged.txt"
 FAULT_HEADER = ROOT / "tools" / "faults" / "fault.h"
 COPIED = ("CMakeLists.txt", ".clang-format", "src", "tests", "tools", "data", "package", "bench")
 TARGETS = ("core_tests", "telar_tests", "window_tests", "telar", "telarium", "fuzz_clues",
-           "fuzz_crossword", "fuzz_dictionary", "fuzz_models", "fuzz_page", "fuzz_tips",
-           "fuzz_words")
+           "fuzz_crossword", "fuzz_dictionary", "fuzz_models", "fuzz_page",
+           "fuzz_settings", "fuzz_tips", "fuzz_words")
 SPARE = 2  # so many times more places than asked for: some do not compile
 ROUNDS = 8  # of a build, each without the faults that the one before did not compile
 

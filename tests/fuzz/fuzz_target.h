@@ -28,13 +28,15 @@ class QuietPlatform : public ScriptedPlatform {
   QuietUser quiet_;
 };
 
-/// The state as at program start, with a quiet platform and a program folder of the target's own.
-inline void StartFresh() {
+/// The state as at program start, with a program folder of the target's own and a quiet platform,
+/// which is given.
+inline QuietPlatform& StartFresh() {
   static QuietPlatform platform;
   static const CartellaTemporanea folder;
   AzzeraStato();
   ImpostaPiattaforma(&platform);
   CartellaProgramma = folder.Nome();
+  return platform;
 }
 
 inline std::string_view TextOf(const std::uint8_t* data, std::size_t size) {
