@@ -373,7 +373,9 @@ TEST_F(StartupTest, AFileFromOutsideIsOpenedAfterTheSavingQuestionOrLeavesEveryt
   }
   SchemaModificato = Vero;
   user.Answer(Risposta::Annulla);
+  window.splash = true;
   ApriDaFuori(other);
+  EXPECT_FALSE(window.splash);
   AttivaForm1();
   user.TakeTexts();
   EXPECT_EQ(NomeCruciverba, other);

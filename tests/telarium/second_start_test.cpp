@@ -73,9 +73,12 @@ TEST_F(DesktopTest, HandsTheFileOfASecondStartToTheFirst) {
   const Percorso two = CrosswordFile("due.tlrm", {"....", "#..."});
   const auto first = Start({QString::fromStdString("uno \xC3\xA8.tlrm")});  // from where it starts
   EXPECT_TRUE(Shows(one));
+  QByteArray told;
   EXPECT_TRUE(QTest::qWaitFor(
-      [&] { return first->readAllStandardError().contains("fino alla prima immagine"); },
+      [&] { return (told += first->readAllStandardError()).contains("fino alla prima immagine"); },
       Patience));
+  const int start = told.mid(told.indexOf("avvio: ") + 7).split(' ').front().toInt();
+  EXPECT_TRUE(start > 0 && start < 3 * Patience) << told.toStdString();
   EXPECT_TRUE(fs::exists(InFolder(".telarium.lock")));
   EXPECT_FALSE(fs::exists(InFolder("telarium1.mdb"))) << "made in the user's own folder alone";
 

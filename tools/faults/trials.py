@@ -118,6 +118,7 @@ class Tests:
     def _run(self, test, command, patience, switch):
         """Status (none for one that hung) and output of a process that finds nothing of ours."""
         home = pathlib.Path(tempfile.mkdtemp(prefix="home", dir=self.scratch))
+        home.chmod(0o1777)  # some tests go on as another user
         environment = {**os.environ, **test.environment, **switch,
                        "HOME": str(home), "TMPDIR": str(home)}
         for name in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"):

@@ -24,6 +24,7 @@ TEST_F(AuxiliaryWindowsTest, TheTipWindowShowsOneTipAfterTheOther) {
   frmTip window(nullptr);
   Open(window);
   ExpectNamedControls(window);
+  QTest::keyClicks(window.lblTipText, QStringLiteral("x"));
   EXPECT_EQ(window.lblTipText->toPlainText(), QStringLiteral("Primo"));
   EXPECT_EQ(TabOrder(window), "cmdOK cmdNextTip lblTipText chkLoadTipsAtStartup ");
   Click(window.cmdNextTip);

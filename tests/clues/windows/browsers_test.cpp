@@ -118,6 +118,7 @@ class OneWord : public Browser<telariummdb> {
 TEST_F(OneWord, MovesByItsButtons) {
   Start();
   ExpectNamedControls(*window);
+  EXPECT_TRUE(window->Label1->text().endsWith(QStringLiteral("definizioni con un <Invio>.")));
   EXPECT_EQ(Shown(), "ARIA|Si respira|");
   EXPECT_EQ(Status(*window), "Record: 1");
   Click(window->cmdPrevious);
@@ -464,6 +465,7 @@ TEST_F(AllWords, ShowsTheRowsAndMovesThroughThem) {
   EXPECT_EQ(window->windowTitle(),
             QStringLiteral("Telarium - Enciclopedia definizioni (Tabella) "));
   EXPECT_EQ(Grid().model()->rowCount(), 4) << "one for a new row";
+  EXPECT_GE(window->lblStatus->width(), window->lblStatus->sizeHint().width());
   EXPECT_EQ(Grid().model()->headerData(1, Qt::Horizontal), QStringLiteral("DEFINIZ_FACILE"));
   EXPECT_EQ(Grid().model()->headerData(3, Qt::Vertical), QStringLiteral("*"));
   EXPECT_EQ(Shown(1), "CASA|Abitazione/Dimora|");

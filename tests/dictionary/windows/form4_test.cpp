@@ -376,9 +376,11 @@ TEST_F(Form4Test, PrivateDictionariesAreMadeOpenedAndDeleted) {
   EXPECT_EQ(std::filesystem::file_size(InFolder("nuovo.priv")), 455u);
   user.TakeTexts();
 
+  OpenItalian();
   user.AnswerText("MIO");  // there is one, in small letters
   Click(window->Command6);
   EXPECT_EQ(NomeDizionario, "mio.priv");
+  EXPECT_EQ(LinguaDizionario, 4);
   EXPECT_EQ(Shown(4) + Count(4), "NAVE (1) parole");
   Add(QStringLiteral("RETE"));
   user.AnswerText("mio");  // it is open, with a change that is not written yet

@@ -154,6 +154,7 @@ TEST_F(SettaggiTest, NothingIsCutOffWhateverTheBars) {
 TEST_F(SettaggiTest, ControlsHaveTheirNamesAndOrder) {
   Open();
   ExpectNamedControls(*window);
+  EXPECT_EQ(window->Campione->findChildren<QLabel*>().size(), 10) << "a letter and a number a cell";
   EXPECT_EQ(TabOrder(*window),
             "HScroll1 HScroll2 HScroll3 HScroll4 HScroll5 HScroll6 Command1 Command2 ");
   window->HScroll2->setFocus();
