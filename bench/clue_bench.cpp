@@ -21,6 +21,7 @@
 #include "model/crossword_file.h"
 #include "model/words.h"
 #include "offscreen_main.h"
+#include "platform/temporary.h"
 #include "support/scripted_platform.h"
 
 // Measures the bulk moves and the import of clues, and the windows over the encyclopedia, on the

@@ -11,6 +11,7 @@
 #include "model/crossword_file.h"
 #include "model/words.h"
 #include "offscreen_main.h"
+#include "platform/temporary.h"
 #include "support/scripted_platform.h"
 
 // Measures the window that opens a crossword on a folder with many files, on a screen that nobody

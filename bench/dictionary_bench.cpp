@@ -8,6 +8,7 @@
 #include "dictionary/windows/Form4.h"
 #include "median_keeper.h"
 #include "offscreen_main.h"
+#include "platform/temporary.h"
 #include "support/numbered_words.h"
 #include "support/scripted_platform.h"
 

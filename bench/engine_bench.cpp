@@ -15,6 +15,7 @@
 #include "model/crossword_file.h"
 #include "model/words.h"
 #include "plain_baseline.h"
+#include "platform/temporary.h"
 #include "process_cost.h"
 #include "support/scripted_platform.h"
 
@@ -57,7 +58,7 @@ std::string MissingWord() {
 
 std::vector<std::string> ModelRows() {
   std::vector<Modello> models;
-  if (LeggiModelli(CartellaProgramma / NomeModelliIniziale, models) != EsitoModelli::Letti) abort();
+  if (!CaricaModelli(CartellaProgramma / NomeModelliIniziale, models)) abort();
   return models.at(ModelNumber);
 }
 

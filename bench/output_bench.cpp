@@ -19,6 +19,7 @@
 #include "platform/qt/qt_print_job.h"
 #include "platform/qt/qt_surface.h"
 #include "platform/qt/qt_text.h"
+#include "platform/temporary.h"
 #include "support/scripted_platform.h"
 
 // Measures what the output commands make, files included, on a screen that nobody sees.

@@ -16,6 +16,7 @@
 #include "median_keeper.h"
 #include "model/words.h"
 #include "offscreen_main.h"
+#include "platform/temporary.h"
 #include "support/scripted_platform.h"
 
 // Measures what the main window paints, on a screen that nobody sees: a redraw, a repaint, and what

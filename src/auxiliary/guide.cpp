@@ -7,6 +7,7 @@
 #include "model/state.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
+#include "platform/temporary.h"
 #include "platform/text.h"
 
 namespace telarium {

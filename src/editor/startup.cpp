@@ -14,6 +14,7 @@
 #include "model/crossword_file.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
+#include "platform/temporary.h"
 
 namespace telarium {
 

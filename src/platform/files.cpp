@@ -124,7 +124,8 @@ class FileAccanto {
  private:
   void CreaConNomeNuovo() {
     // Shortened, so that a name of the greatest length has room for what is put round it.
-    const std::string nome = Unisci('.', definitivo_.filename().string().substr(0, 200), ".XXXXXX");
+    const std::string nome =
+        Unisci('.', definitivo_.filename().string().substr(0, 200), SegnoProvvisorio, "XXXXXX");
     std::string modello = (definitivo_.parent_path() / nome).string();
     file_ = Descrittore(::mkostemp(modello.data(), O_CLOEXEC));
     if (file_) nome_ = modello;
@@ -403,22 +404,12 @@ std::string TestoPercorso(const Percorso& nome) {
 }
 
 bool CartellaScrivibile(const Percorso& cartella) {
-  std::string modello = (cartella / "telarium-XXXXXX").string();
+  std::string modello = (cartella / Unisci(".prova", SegnoProvvisorio, "XXXXXX")).string();
   const int descrittore = ::mkstemp(modello.data());
   if (descrittore < 0) return false;
   ::close(descrittore);
   ::unlink(modello.c_str());
   return true;
-}
-
-CartellaTemporanea::CartellaTemporanea()
-    : rimozione_([this] {
-        std::error_code ignorato;
-        if (!nome_.empty()) fs::remove_all(nome_, ignorato);
-      }) {
-  std::error_code errore;
-  std::string modello = (fs::temp_directory_path(errore) / "telarium-XXXXXX").string();
-  if (!errore && ::mkdtemp(modello.data())) nome_ = modello;
 }
 
 }  // namespace telarium

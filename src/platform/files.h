@@ -8,8 +8,6 @@
 #include <system_error>
 #include <vector>
 
-#include "platform/commitment.h"
-
 // Files for one operation: nothing stays open between two calls.
 namespace telarium {
 
@@ -98,17 +96,8 @@ std::string TestoPercorso(const Percorso& nome);
 /// Whether new files can be made in a folder, found out by making one.
 bool CartellaScrivibile(const Percorso& cartella);
 
-/// A folder under the system's temporary folder, with its contents removed at the end of its life.
-class CartellaTemporanea {
- public:
-  CartellaTemporanea();
-
-  /// Empty when the system gave none.
-  const Percorso& Nome() const { return nome_; }
-
- private:
-  Percorso nome_;
-  Impegno rimozione_;
-};
+/// What the names of the files end in that are written beside their target, before six letters of
+/// the system's choice; they begin with a point.
+inline constexpr std::string_view SegnoProvvisorio = ".telarium-";
 
 }  // namespace telarium

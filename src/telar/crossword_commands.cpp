@@ -9,6 +9,7 @@
 #include "model/crossword_file.h"
 #include "model/words.h"
 #include "platform/platform.h"
+#include "platform/temporary.h"
 #include "platform/text.h"
 #include "telar/command.h"
 #include "telar/files.h"

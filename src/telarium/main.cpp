@@ -8,13 +8,14 @@
 #include <vector>
 
 #include "clues/first_encyclopedia.h"
+#include "crossworddialogs/crossword_archive.h"
 #include "editor/startup.h"
 #include "editor/windows/Form1.h"
-#include "platform/codepage.h"
 #include "platform/commitment.h"
 #include "platform/program_folder.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/qt_text.h"
+#include "platform/temporary.h"
 #include "telarium/desktop.h"
 #include "telarium/process_age.h"
 #include "telarium/single_instance.h"
@@ -56,6 +57,14 @@ void DiciTempi(Form1& form) {
   });
 }
 
+// What earlier runs left that were killed.
+void TogliResti(const Percorso& cartella) {
+  CartellaProgramma = cartella;
+  TogliScrittureInterrotte(cartella);
+  TogliScrittureInterrotte(CartellaArchivio());
+  TogliCartelleAbbandonate();
+}
+
 int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
   PiattaformaQt piattaforma;
   ImpostaPiattaforma(&piattaforma);
@@ -66,19 +75,20 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
   const Impegno libera([&istanza] { istanza.reset(); });
   Form1* ricevente = nullptr;
   std::vector<Percorso> inAttesa;  // what comes before the first activation
-  const bool prima = istanza->Prima([&](const Percorso& altro) {
+  const UnicaIstanza::Avvio avvio = istanza->Inizia([&](const Percorso& altro) {
     if (ricevente) {
       ricevente->RiceviDaFuori(altro);
     } else {
       inAttesa.push_back(altro);
     }
   });
-  if (!prima) {
+  if (avvio == UnicaIstanza::Avvio::Rinuncia) return EXIT_FAILURE;
+  if (avvio == UnicaIstanza::Avvio::Seconda) {
     if (istanza->Consegna(file)) return EXIT_SUCCESS;
-    Avvisa("Telarium è già aperto in questa cartella programma e non risponde."_cp, {},
-           Icona::Avviso);
+    istanza->AvvisaSenzaRisposta();
     return EXIT_FAILURE;
   }
+  TogliResti(cartella);
 
   if (daRiempire) AggiornaCartellaProgramma(cartella, FileModificati::Chiedi);
   if (daRiempire && MancaEnciclopedia(CartellaDatiInstallati(), cartella))

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "model/state.h"
+#include "platform/temporary.h"
 #include "support/scripted_platform.h"
 
 /// What a target is: one input, which must never end the process.

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "model/state.h"
+#include "platform/temporary.h"
 #include "support/scripted_platform.h"
 
 namespace telarium {

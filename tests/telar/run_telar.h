@@ -6,6 +6,7 @@
 
 #include "platform/descriptor.h"
 #include "platform/files.h"
+#include "platform/temporary.h"
 
 namespace telarium {
 

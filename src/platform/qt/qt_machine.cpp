@@ -16,6 +16,7 @@
 #include "platform/common/local_clock.h"
 #include "platform/qt/child_process.h"
 #include "platform/qt/qt_text.h"
+#include "platform/temporary.h"
 
 namespace telarium {
 namespace {

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/temporary.h"
+
 namespace telarium {
 namespace {
 

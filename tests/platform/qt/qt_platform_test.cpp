@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/commitment.h"
+#include "platform/temporary.h"
 
 namespace telarium {
 namespace {
