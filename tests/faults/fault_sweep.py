@@ -1,7 +1,8 @@
 #!/usr/bin/python3 -B
-"""Every writing command of telar with an error, or a kill, at each of its system calls in turn.
+"""Every writing command of telar, and what the desktop writes by itself, with an error, or a kill, at
+each of their system calls in turn.
 
-    fault_sweep.py TELAR SHIM [--every K] [--command NAME]
+    fault_sweep.py TELAR DESKTOP_WRITER SHIM [--every K] [--command NAME]
 
 A run that says 0 must have left the whole result and the usual report; any other one leaves each file
 as it was, or whole and new, says why on standard error and prints nothing. An encyclopedia keeps its
@@ -40,11 +41,12 @@ EMPTY = HEAD + "04x05\r\nH.H.H.H.\r\nH.H.H.H.\r\nH.H.H.H.\r\nH.H.H.H.\r\nD*D*D*D
 
 
 class Command:
-    def __init__(self, line, files=(), store=None):
+    def __init__(self, line, files=(), store=None, desktop=False):
         self.words = line.split()
         self.name = self.words[0]
         self.files = files  # that it writes, below the folder of the run
         self.store = store  # whether it "makes" the encyclopedia anew or "merges" into it
+        self.desktop = desktop  # whether it is the desktop's and no command of telar
 
 
 COMMANDS = [
@@ -60,13 +62,15 @@ COMMANDS = [
     Command("form grid --uscita out", ["out"]),
     Command("testo grid --cartella-uscita folder", ["folder/NONOME.TXT", "folder/NONOME.html"]),
     Command("apri page out", ["out"]),
+    Command("settings", ["program/telarium.INI"], desktop=True),
+    Command("snapshot", ["program/_tlma_32.tmp"], desktop=True),
 ]
 
 
-def run(telar, folder, words, environment=None):
+def run(program, folder, words, environment=None):
     own = {"TMPDIR": str(folder / "tmp"), "HOME": str(folder / "home"),
            "TELARIUM_CARTELLA": str(folder / "program")}
-    return subprocess.run([telar, *words], cwd=folder, env={**os.environ, **own, **(environment or {})},
+    return subprocess.run([program, *words], cwd=folder, env={**os.environ, **own, **(environment or {})},
                           capture_output=True, timeout=LIMIT)
 
 
@@ -84,7 +88,8 @@ def make_template(telar, folder):
     for words in ("diz-crea Forzato.dat forced", "diz-crea Nuovo.dat forced", "enc-crea first",
                   "form grid --uscita page"):
         assert run(telar, folder, words.split()).returncode == 0, words
-    for name in ("out", "folder/NONOME.TXT", "folder/NONOME.html"):
+    for name in ("out", "folder/NONOME.TXT", "folder/NONOME.html", "program/telarium.INI",
+                 "program/_tlma_32.tmp"):
         (folder / name).write_text("old")
 
 
@@ -126,8 +131,9 @@ def between(rows, old, new):
 
 
 class Sweep:
-    def __init__(self, telar, shim, every):
-        self.telar, self.shim, self.every = telar, shim, every
+    def __init__(self, telar, desktop_writer, shim, every):
+        self.telar, self.desktop_writer = telar, desktop_writer
+        self.shim, self.every = shim, every
         self.injected = self.false = self.damaged = self.untold = 0
 
     def attempt(self, command, template, tried, at):
@@ -136,7 +142,8 @@ class Sweep:
             folder, report = Path(name) / "run", Path(name) / "report"
             shutil.copytree(template, folder)
             calls, do, onward = tried
-            result = run(self.telar, folder, command.words, fault.environment(
+            program = self.desktop_writer if command.desktop else self.telar
+            result = run(program, folder, command.words, fault.environment(
                 self.shim, at=at, do=do, calls=calls, onward=onward, under=folder, report=report))
             calls, _, hit = report.read_text().strip().partition(" ")
             return result, State(command, folder), int(calls), hit
@@ -182,11 +189,12 @@ class Sweep:
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("telar", type=os.path.abspath)
+    parser.add_argument("desktop_writer", type=os.path.abspath)
     parser.add_argument("shim", type=os.path.abspath)
     parser.add_argument("--every", type=int, default=1)
     parser.add_argument("--command")
     arguments = parser.parse_args()
-    sweep = Sweep(arguments.telar, arguments.shim, arguments.every)
+    sweep = Sweep(arguments.telar, arguments.desktop_writer, arguments.shim, arguments.every)
     with tempfile.TemporaryDirectory() as name, \
             concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         template = Path(name) / "template"
