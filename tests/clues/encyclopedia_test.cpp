@@ -237,15 +237,16 @@ TEST_F(EncyclopediaTest, WriterReplacesTheOldStoreWhenTheNewOneIsComplete) {
   std::vector<VoceDiLista> entries;
   const EsitoLista list = AggiungiVoci(
       "\xEF\xBB\xBFzia\tF\tSorella di mamma\r\nZIA\tD\t \xE2\x82\xAC \n\nZIA\tF\tSorella di mamma\n"
-      "UN ALTRO\tF\tx\nZIA\tX\tx\nZIA\tF\t\nZIA\nZIA\tF\ta\tb\nZIA\tF\t\xCE\xA9\nZIA\tF\t\xFF\n",
+      "UN ALTRO\tF\tx\nZIA\tX\tx\nZIA\tF\t\nZIA\nZIA\tF\ta\tb\nZIA\tF\t\xCE\xA9\nZIA\tF\t\xFF\n"
+      "ZIA\tF\tCognata di papà\n",
       entries);
   EXPECT_EQ(list.tralasciate, 7);
   EXPECT_EQ(list.primaTralasciata, 5);
   const EsitoEnciclopedia made = ScriviEnciclopedia(entries);
   EXPECT_EQ(made.errore, "");
   EXPECT_EQ(made.parole, 1);
-  EXPECT_EQ(made.definizioni, 2);
-  EXPECT_EQ(Stored("ZIA"), "Sorella di mamma");
+  EXPECT_EQ(made.definizioni, 3);
+  EXPECT_EQ(Stored("ZIA"), "Sorella di mamma\r\nCognata di papà") << "the doubled one once";
   EXPECT_EQ(Stored("ZIA", true), "€");
   EXPECT_EQ(Stored("VECCHIA"), "?");
 

@@ -168,6 +168,9 @@ TEST_F(RedrawTest, StaysSafeWithAnySettingsAndAnyWindow) {
         EXPECT_LE(std::stod(type), std::max<double>(LatoCasella, 6)) << value << " in " << size;
       }
       EXPECT_GE(LatoCasella, 0);
+      if (size <= 1) {
+        EXPECT_EQ(LatoCasella, 0) << "no cell fits";
+      }
     }
   }
 }

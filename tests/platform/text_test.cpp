@@ -59,5 +59,12 @@ TEST(Text, LinesEndInAnyWay) {
   EXPECT_EQ(SenzaInterruzioni("a\r\nb\rc\nd\n\re\r"), "a b c d  e ");
 }
 
+TEST(Text, NumbersHavePointsBehindTheirThousands) {
+  EXPECT_EQ(ConMigliaia(999), "999");
+  EXPECT_EQ(ConMigliaia(1234), "1.234");
+  EXPECT_EQ(ConMigliaia(-123456), "-123.456");
+  EXPECT_EQ(ConMigliaia(1234567), "1.234.567");
+}
+
 }  // namespace
 }  // namespace telarium

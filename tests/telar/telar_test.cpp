@@ -62,6 +62,8 @@ TEST_F(Telar, DictionaryIsMadeListedAndSearched) {
       "12\t0\t0\n13\t0\t0\n14\t0\t0\n15\t464\t1\n");
   EXPECT_EQ(Out("diz-elenca Prova.dat"), "MELA\nMOLA\nPERA\nOEDIPO\nPERCHE\nQUINDICILETTERE\n");
   EXPECT_EQ(Out("diz-elenca Prova.dat 6"), "OEDIPO\nPERCHE\n");
+  EXPECT_EQ(Out("diz-elenca Prova.dat 3"), "");
+  EXPECT_EQ(Out("diz-elenca Prova.dat 15"), "QUINDICILETTERE\n");
   EXPECT_EQ(Names("program"), Words{"Prova.dat"});
   MakeDictionary("MILA\n");
   const TelarResult found = Run("cerca m_l. --dizionario Prova.dat");

@@ -54,7 +54,8 @@ TEST_F(NewWindows, AModelIsPickedByItsPictureItsNameOrAKey) {
     QTest::mouseClick(window.Picture1[2], Qt::LeftButton);
     QTest::mouseClick(window.Label3[2], Qt::LeftButton);
     QTest::mouseClick(window.Picture1[0], Qt::RightButton);
-    EXPECT_TRUE(window.isVisible()) << "an empty place, another button";
+    QTest::keyClick(window.Picture1[0], Qt::Key_A);
+    EXPECT_TRUE(window.isVisible()) << "an empty place, another button, another key";
     if (way == 0) QTest::mouseClick(window.Picture1[0], Qt::LeftButton);
     if (way == 1) QTest::mouseClick(window.Label3[0], Qt::LeftButton);
     if (way == 2) QTest::keyClick(window.Picture1[0], Qt::Key_Return);
