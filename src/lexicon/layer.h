@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "lexicon/entry.h"
+
+namespace telarium {
+
+/// The number of an entry in its layer, from 0: by length.
+using NumeroVoce = std::uint32_t;
+
+/// Words from one place: the lexicon of a language, the kit of short entries, a dictionary, a list.
+/// A layer never changes, so that threads share it.
+class Strato {
+ public:
+  virtual ~Strato() = default;
+
+  /// What the layer is called: the language, or the file name with its ending.
+  const std::string& Nome() const { return nome_; }
+
+  /// How many entries of a length from 2 to 53 there are, and the number of the first one. They
+  /// have numbers in a row, those of higher scores first.
+  virtual int Conta(int lunghezza) const = 0;
+  virtual NumeroVoce Prima(int lunghezza) const = 0;
+
+  /// The entry of a folded word.
+  virtual std::optional<NumeroVoce> Cerca(std::string_view parola) const = 0;
+
+  virtual std::string_view Parola(NumeroVoce numero) const = 0;
+  virtual int Punteggio(NumeroVoce numero) const = 0;
+  virtual Voce Leggi(NumeroVoce numero) const = 0;
+
+ protected:
+  explicit Strato(std::string nome) : nome_(std::move(nome)) {}
+
+ private:
+  std::string nome_;
+};
+
+}  // namespace telarium
