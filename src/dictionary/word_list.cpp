@@ -44,19 +44,25 @@ bool AccentoCombinato(char32_t carattere) {
 
 }  // namespace
 
+std::optional<std::string_view> PiegaCarattere(char32_t carattere) {
+  constexpr std::string_view alfabeto = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+  if (carattere < 0x80) {
+    const std::size_t posto = alfabeto.find(Maiuscola(static_cast<char>(carattere)));
+    if (posto == std::string_view::npos) return std::nullopt;
+    return alfabeto.substr(posto, 1);
+  }
+  const std::string_view piegata = Piegata(carattere);
+  if (piegata.empty() && !AccentoCombinato(carattere)) return std::nullopt;
+  return piegata;
+}
+
 std::optional<std::string> PiegaParola(std::string_view utf8) {
   std::string parola;
   while (!utf8.empty()) {
     const auto carattere = EstraiCarattereUtf8(utf8);
-    if (!carattere) return std::nullopt;
-    if (*carattere < 0x80) {
-      parola += Maiuscola(static_cast<char>(*carattere));
-      if (parola.back() < 'A' || parola.back() > 'Z') return std::nullopt;
-    } else if (const std::string_view piegata = Piegata(*carattere); !piegata.empty()) {
-      parola += piegata;
-    } else if (!AccentoCombinato(*carattere)) {
-      return std::nullopt;
-    }
+    const auto lettere = carattere ? PiegaCarattere(*carattere) : std::nullopt;
+    if (!lettere) return std::nullopt;
+    parola += *lettere;
   }
   return parola;
 }

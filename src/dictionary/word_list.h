@@ -19,6 +19,10 @@ inline constexpr std::size_t MaxByteListaDiParole = 64u << 20;
 /// Words by their length less 3.
 using ListeDiParole = std::array<std::vector<std::string>, MaxLunghezza - MinLunghezza + 1>;
 
+/// The capitals from A to Z that a letter is written with when it loses its accent; an empty text
+/// for an accent that is a character of its own. None for what is no letter.
+std::optional<std::string_view> PiegaCarattere(char32_t carattere);
+
 /// A word in UTF-8 in capitals, accents folded ("È" to "E", "Œ" to "OE"). None for one with any
 /// other character than A to Z then.
 std::optional<std::string> PiegaParola(std::string_view utf8);

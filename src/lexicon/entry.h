@@ -108,7 +108,7 @@ struct Analisi {
 };
 
 /// An analysis in the writing of the lexicon's sources, as "v.part.pass.ms": category, then
-/// attributes, divided by points. None for anything else.
+/// attributes, divided by points. None for anything else. lexicon_builder.h lists the codes.
 std::optional<Analisi> InterpretaAnalisi(std::string_view codice);
 
 /// An analysis in 32 bits, as lexicon files hold it. Bits that mean nothing give none.
@@ -135,9 +135,11 @@ struct Voce {
 /// one.
 bool SoloFinita(const std::vector<Lettura>& letture);
 
-/// The names of the marks that an entry has, and of the forms of one of its readings, in the order
-/// of the enumeration, divided by commas.
+/// The names of the marks that an entry has, in the order of the enumeration, divided by commas.
 std::string NomiDeiSegni(Segni segni);
+/// Likewise what form of its lemma a reading is: lemma, plurale, femminile, infinito, participio,
+/// gerundio, finita, clitica, comparata. The plural of a finite verb is not named. `grafia` is the
+/// spelled form of the entry.
 std::string NomiDelleForme(const Lettura& lettura, std::string_view grafia);
 /// The mark of a name; none for another text.
 std::optional<Segno> SegnoDiNome(std::string_view nome);

@@ -18,9 +18,9 @@ using Folders = std::set<std::string>;
 
 // What each layer may include, by folders of the sources. A folder's windows are a layer above all
 // logic.
-const Folders Core = {
-    "platform",         "model", "dictionary", "auxiliary",         "editor", "fill",
-    "crossworddialogs", "clues", "output",     "telarium_version.h"};
+const Folders Core = {"platform", "model",   "dictionary",       "auxiliary",
+                      "editor",   "fill",    "crossworddialogs", "clues",
+                      "output",   "lexicon", "laboratory",       "telarium_version.h"};
 
 Folders With(Folders folders, const Folders& more) {
   folders.insert(more.begin(), more.end());
@@ -34,9 +34,11 @@ const std::map<std::string, Folders> Allowed = {
     {"dictionary", {"platform", "model", "dictionary"}},
     {"editor", {"platform", "model", "dictionary", "auxiliary", "editor", "telarium_version.h"}},
     {"fill", {"platform", "model", "editor", "dictionary", "fill"}},
+    {"lexicon", {"platform", "dictionary", "lexicon"}},
     {"crossworddialogs", {"platform", "model", "editor", "crossworddialogs"}},
-    {"clues", {"platform", "model", "dictionary", "auxiliary", "editor", "clues"}},
+    {"clues", {"platform", "model", "dictionary", "lexicon", "auxiliary", "editor", "clues"}},
     {"output", {"platform", "model", "auxiliary", "editor", "output"}},
+    {"laboratory", {"platform", "model", "dictionary", "lexicon", "clues", "laboratory"}},
     {"platform/common", {"platform", "platform/common"}},
     {"platform/console", {"platform", "platform/common", "platform/console"}},
     {"platform/qt", {"platform", "platform/common", "platform/qt"}},
