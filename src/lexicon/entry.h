@@ -26,6 +26,8 @@ inline constexpr int MaxPunteggio = 100;
 inline constexpr int PunteggioNoto = 50;
 /// A word under this one is rare.
 inline constexpr int PunteggioRaro = 30;
+/// Of a word of which nobody has told how common it is: neither rare nor known.
+inline constexpr int PunteggioIgnoto = 40;
 
 /// Marks of an entry, of which it may have several. The numbers stand in lexicon files.
 enum class Segno : std::uint16_t {

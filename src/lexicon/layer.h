@@ -33,6 +33,12 @@ class Strato {
   virtual int Punteggio(NumeroVoce numero) const = 0;
   virtual Voce Leggi(NumeroVoce numero) const = 0;
 
+  /// Whether the score of an entry says anything: dictionaries and plain lists give every word
+  /// PunteggioIgnoto, and any layer below that has the word knows better.
+  virtual bool HaPunteggio(NumeroVoce) const { return true; }
+  /// The marks of an entry, for those who need no more of it.
+  virtual Segni LeggiSegni(NumeroVoce numero) const { return Leggi(numero).segni; }
+
  protected:
   explicit Strato(std::string nome) : nome_(std::move(nome)) {}
 

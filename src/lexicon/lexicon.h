@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -23,19 +24,27 @@ enum class Origine {
 
 /// A word as the layers together know it.
 struct Parola {
-  std::string lettere;           // folded
-  std::string grafia;            // as spelled, in the code page
-  int punteggio = 0;             // of the last layer that has the word
-  Segni segni;                   // of all layers; `Bandita` as bans and admissions leave it
-  std::vector<Lettura> letture;  // of the first layer that has any; views into it
-  std::string_view strato;       // the name of the layer that the score is from
-  Origine origine = Origine::Lingua;
-  bool nelCorredo = false;  // whether the kit has it
+  std::string lettere;                // folded
+  std::string grafia;                 // as spelled, in the code page
+  int punteggio = 0;                  // see Lessico
+  Segni segni;                        // likewise; `Bandita` as bans and admissions leave it
+  std::vector<Lettura> letture;       // of the first layer that has any; views into it
+  std::string_view strato;            // the name of the layer that the score is from
+  Origine origine = Origine::Lingua;  // what that layer is
+  bool nelCorredo = false;            // whether the kit has it
+  bool propria = false;               // whether a list or the user's own one has it
 };
 
-/// The words that a crossword may use: layers one above the other, of which a later one overrides
-/// the score of an earlier one, bans, and admissions, which lift a ban. A value: copies share the
-/// layers. Words are folded.
+/// Words by their letters.
+using InsiemeDiParole = std::set<std::string, std::less<>>;
+
+/// The words that a crossword may use: layers one above the other, bans, and admissions, which lift
+/// a ban. A value: copies share the layers. Words are folded.
+///
+/// The score of a word is that of the last layer which gives it one, its readings are those of the
+/// first that has any. Its marks are those of language and kit together, but what one of them knows
+/// as a plain word is one. Further languages are asked only for words that no other layer has: what
+/// is common there may be rare here. A ban of any layer holds for all.
 class Lessico {
  public:
   struct Livello {
@@ -53,13 +62,13 @@ class Lessico {
   bool Bandita(std::string_view parola) const;
 
   const std::vector<Livello>& Livelli() const { return livelli_; }
-  const std::set<std::string, std::less<>>& Vietate() const { return vietate_; }
-  const std::set<std::string, std::less<>>& Ammesse() const { return ammesse_; }
+  const InsiemeDiParole& Vietate() const { return vietate_; }
+  const InsiemeDiParole& Ammesse() const { return ammesse_; }
 
  private:
   std::vector<Livello> livelli_;
-  std::set<std::string, std::less<>> vietate_;
-  std::set<std::string, std::less<>> ammesse_;
+  InsiemeDiParole vietate_;
+  InsiemeDiParole ammesse_;
 };
 
 }  // namespace telarium

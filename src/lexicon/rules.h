@@ -21,23 +21,26 @@ struct Quota {
   bool operator==(const Quota&) const = default;
 };
 
-/// What may stand in a slot of two letters.
+/// What may stand in a slot of two letters: entries of the kit and of the user's lists, or any
+/// letters.
 enum class DueLettere { Corredo, Tutte };
-/// And in one of three, besides words and names: real abbreviations, explained letter play,
-/// whatever a layer has.
+/// And what besides words, names and abbreviations in a longer one: nothing, entries that letter
+/// play explains, whatever a layer has. Entries of three letters are nearly all that it is about.
 enum class TreLettere { Parole, Gioco, Tutte };
 
 /// A kind of entry that a set of rules may limit.
 enum class Genia { Finita, Tronca, Nome, Sigla, Straniera };
+inline constexpr int NumGenie = 5;
 
 /// A named set of rules.
 struct Regolamento {
-  std::string nome;
-  std::array<Quota, 5> quote;  // by Genia
+  std::string nome;                   // in the code page
+  std::array<Quota, NumGenie> quote;  // by Genia
   DueLettere due = DueLettere::Corredo;
   TreLettere tre = TreLettere::Parole;
 
   const Quota& Di(Genia genia) const { return quote[static_cast<std::size_t>(genia)]; }
+  Quota& Di(Genia genia) { return quote[static_cast<std::size_t>(genia)]; }
   bool operator==(const Regolamento&) const = default;
 };
 
@@ -46,17 +49,20 @@ struct Regolamento {
 const Regolamento* RegolamentoDiNome(std::string_view nome);
 inline constexpr std::string_view RegolamentoIniziale = "severe";
 
-/// A set of rules from the text of a file: see telar-regole in the man page. `causa` says in
-/// Italian, with the line's number, what is wrong when there is none.
+/// The most bytes of a rule file that are worth reading.
+inline constexpr std::size_t MaxByteRegolamento = 64u << 10;
+
+/// A set of rules from the text of a file: a line `nome = valore` each, of which telar(1) has the
+/// list; `#` begins a comment line. `nome` is what the set is called. `causa` says in Italian, with
+/// the number of the line, what is wrong when there is none.
 std::optional<Regolamento> InterpretaRegolamento(std::string_view testoUtf8, std::string_view nome,
                                                  std::string& causa);
 
-/// The limited kinds that a word belongs to.
+/// Whether a word is of a limited kind.
 bool Appartiene(const Parola& parola, Genia genia);
 
 /// Why a word may not stand in any crossword under a set of rules, whatever the shares: an Italian
-/// sentence; none when it may. Bans are not looked at. A word in two letters that the layers have
-/// but the kit lacks is refused where the kit is asked for.
+/// sentence; none when it may. Bans are not looked at.
 std::optional<std::string> Divieto(const Parola& parola, const Regolamento& regole);
 
 }  // namespace telarium

@@ -1,0 +1,95 @@
+#include "lexicon/rules.h"
+
+#include <algorithm>
+
+#include "platform/codepage.h"
+#include "platform/text.h"
+
+namespace telarium {
+namespace {
+
+constexpr Quota No = {Quota::Nessuna};
+constexpr Quota Si = {Quota::Libera};
+
+const std::array<Regolamento, 3>& Regolamenti() {
+  // clang-format off
+  static const std::array<Regolamento, 3> regolamenti = {{
+      //              finite  tronche nomi sigle straniere
+      {"severe",      {{No,   No,     Si,  Si,   {20}}}, DueLettere::Corredo, TreLettere::Parole},
+      {"settimanali", {{{10}, No,     Si,  Si,   {10}}}, DueLettere::Corredo, TreLettere::Gioco},
+      {"libere",      {{Si,   Si,     Si,  Si,   Si}},   DueLettere::Tutte,   TreLettere::Tutte},
+  }};
+  // clang-format on
+  return regolamenti;
+}
+
+// What an entry of each kind is.
+constexpr std::string_view NomiDiGenia[NumGenie] = {"è una forma finita di un verbo"_cp,
+                                                    "è una parola tronca"_cp, "è un nome"_cp,
+                                                    "è una sigla"_cp, "è una parola straniera"_cp};
+
+constexpr std::string_view NonDelCorredo = "non è una delle voci di due lettere riconosciute"_cp;
+constexpr std::string_view SoloGioco = "si spiega solo come gioco di lettere";
+
+bool DueLettereVietate(const Parola& parola, DueLettere due) {
+  const bool riconosciuta = parola.nelCorredo || parola.propria;
+  return parola.lettere.size() == 2 && due == DueLettere::Corredo && !riconosciuta;
+}
+
+bool GiocoVietato(const Parola& parola, TreLettere tre) {
+  return parola.lettere.size() > 2 && tre == TreLettere::Parole && parola.segni.Ha(Segno::Gioco);
+}
+
+// The reason why a word is refused, as a predicate; empty for none.
+std::string_view Motivo(const Parola& parola, const Regolamento& regole) {
+  if (DueLettereVietate(parola, regole.due)) return NonDelCorredo;
+  if (GiocoVietato(parola, regole.tre)) return SoloGioco;
+  for (int i = 0; i < NumGenie; ++i) {
+    const auto genia = static_cast<Genia>(i);
+    if (regole.Di(genia) == No && Appartiene(parola, genia)) return NomiDiGenia[i];
+  }
+  return {};
+}
+
+}  // namespace
+
+int Quota::Ammesse(int voci) const {
+  switch (unaSu) {
+    case Libera:
+      return voci;
+    case Nessuna:
+      return 0;
+    default:
+      return voci / unaSu;
+  }
+}
+
+const Regolamento* RegolamentoDiNome(std::string_view nome) {
+  const auto trovato = std::find_if(Regolamenti().begin(), Regolamenti().end(),
+                                    [&](const Regolamento& uno) { return uno.nome == nome; });
+  return trovato == Regolamenti().end() ? nullptr : &*trovato;
+}
+
+bool Appartiene(const Parola& parola, Genia genia) {
+  switch (genia) {
+    case Genia::Finita:
+      return SoloFinita(parola.letture);
+    case Genia::Tronca:
+      return parola.segni.Ha(Segno::Tronca);
+    case Genia::Nome:
+      return parola.segni.Ha(Segno::Nome);
+    case Genia::Sigla:
+      return parola.segni.Ha(Segno::Sigla);
+    case Genia::Straniera:
+      return parola.segni.Ha(Segno::Straniera);
+  }
+  return false;
+}
+
+std::optional<std::string> Divieto(const Parola& parola, const Regolamento& regole) {
+  const std::string_view motivo = Motivo(parola, regole);
+  if (motivo.empty()) return std::nullopt;
+  return Unisci(parola.lettere, ' ', motivo, ": le regole \"", regole.nome, "\" non l'ammettono.");
+}
+
+}  // namespace telarium
