@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "lexicon/layer.h"
+#include "platform/digest.h"
 #include "platform/mapped_file.h"
 
 // The file of one language's lexicon. It is mapped, and holds all that a search needs ready, so
@@ -49,9 +50,6 @@
 //   sets         for each length L, place from 0 and letter: 64-bit words, bit k of word j is the
 //                entry 64j+k of the length; as many words as all entries of the length need
 namespace telarium {
-
-/// 64 bits that stand for some bytes; the same on every machine.
-std::uint64_t ImprontaDi(std::span<const std::byte> byte);
 
 class FileLessico final : public Strato {
  public:

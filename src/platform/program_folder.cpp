@@ -2,32 +2,15 @@
 
 #include <cstdlib>
 #include <limits>
-#include <pwd.h>
-#include <unistd.h>
 
 #include "platform/platform.h"
 #include "platform/text.h"
+#include "platform/user_folders.h"
 
 namespace telarium {
 namespace {
 
 namespace fs = std::filesystem;
-
-Percorso Ambiente(const char* variabile) {
-  const char* valore = std::getenv(variabile);
-  return valore ? Percorso(valore) : Percorso();
-}
-
-Percorso CartellaUtente() {
-  const Percorso dati = Ambiente("XDG_DATA_HOME");
-  if (dati.is_absolute()) return dati / "telarium";  // a relative value is to be ignored
-  Percorso casa = Ambiente("HOME");
-  if (casa.empty()) {
-    const passwd* utente = ::getpwuid(::getuid());
-    if (utente && utente->pw_dir) casa = utente->pw_dir;
-  }
-  return casa.is_absolute() ? casa / ".local/share/telarium" : Percorso();
-}
 
 std::error_code CopiaFile(const Percorso& da, const Percorso& a) {
   std::string contenuto;
@@ -85,12 +68,11 @@ Percorso CartellaDatiInstallati() {
 
 SceltaCartella ScegliCartellaProgramma() {
   std::error_code errore;
-  if (const Percorso nominata = Ambiente("TELARIUM_CARTELLA"); !nominata.empty()) {
-    return {fs::absolute(nominata, errore), false};
-  }
+  const char* const nominata = std::getenv("TELARIUM_CARTELLA");
+  if (nominata && *nominata) return {fs::absolute(nominata, errore), false};
   const Percorso accanto = CartellaEseguibile();
   if (!accanto.empty() && TrovaFile(accanto, "telarium.INI")) return {accanto, false};
-  const Percorso utente = CartellaUtente();
+  const Percorso utente = CartellaDatiUtente();
   return {utente, !utente.empty()};
 }
 
