@@ -32,6 +32,7 @@ template <class Riga>
 EsitoNuovo Finisci(int colonne, int righe, Riga riga) {
   CruciverbaDiPrima prima;
   SvuotaDefinizioni();
+  LaboratorioDelCruciverba = {};
   ScriviIntestazione(colonne, righe);
   for (int r = 1; r <= righe; ++r)
     Schema(r + RigheIntestazione) = riga(r);

@@ -73,7 +73,7 @@ void GestisciModelli() {
 
 void SalvaCruciverba() {
   LasciaLoSchema();
-  RidisegnaSchema();  // the writer wants the words of the grid
+  RidisegnaSchema();
   if (MaiSalvato()) return SalvaConNome();
   if (ScriviCruciverba(NomeCruciverba)) SchemaModificato = Falso;
 }
@@ -113,7 +113,7 @@ bool ApriFileDiCruciverba(const Percorso& nome) {
 
 bool AccogliCruciverba(Apertura esito) {
   if (esito == Apertura::Assente || esito == Apertura::Rifiutata) return false;
-  RicalcolaCaselle();                     // the writer wants the words of the grid
+  RicalcolaCaselle();
   static_cast<void>(ScriviIstantanea());  // a failure has shown its message
   return true;
 }

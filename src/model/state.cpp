@@ -11,6 +11,7 @@ Percorso NomeCruciverba;
 Booleano16 SchemaModificato = Falso;
 Tabella<std::string, AsseColonne, AsseRighe, AsseDirezioni> Definizione("Definizione");
 Tabella<Colore, AsseColonne, AsseRighe> ColoreCasella("ColoreCasella");
+Laboratorio LaboratorioDelCruciverba;
 Tabella<char, AsseColonne, AsseRighe> LetteraCasella("LetteraCasella", CellaVuota);
 Tabella<std::int16_t, AsseColonne, AsseRighe> TipoCasella("TipoCasella");
 Tabella<std::int16_t, AsseColonne, AsseRighe> NumeroCasella("NumeroCasella");
@@ -47,6 +48,7 @@ void SvuotaCruciverba() {
     Schema(i).clear();
   SvuotaDefinizioni();
   ColoreCasella.Riempi(ColoreNero);
+  LaboratorioDelCruciverba = {};
   LetteraCasella.Riempi(CellaVuota);
   TipoCasella.Riempi(0);
   NumeroCasella.Riempi(0);

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "model/cells.h"
+#include "model/laboratory_section.h"
 #include "model/table.h"
 #include "platform/files.h"
 #include "platform/surface.h"
@@ -13,31 +15,15 @@
 // direction).
 namespace telarium {
 
-inline constexpr int MaxColonne = 53;
-inline constexpr int MaxRighe = 30;
 inline constexpr int RigheSchema = 350;  // lines of Schema, of which NumRighe + 4 have a meaning
-inline constexpr int RigheIntestazione = 4;  // row r of the grid is line r + 4 of Schema
-/// Characters of a header line before its value, as "Autore     : ".
-inline constexpr std::size_t LunghezzaEtichetta = 13;
 
 /// Flags of the shared state: 0 and -1, tested for not 0.
 using Booleano16 = std::int16_t;
 inline constexpr Booleano16 Falso = 0;
 inline constexpr Booleano16 Vero = -1;
 
-// Directions of a word.
-inline constexpr int Orizzontale = 1;
-inline constexpr int Verticale = 2;
-
-// Cell characters. Any other is the letter of a white cell.
-inline constexpr char CellaNera = '*';
-inline constexpr char CellaVuota = '.';
 /// A cell that the running fill has emptied, in LetteraCasella only.
 inline constexpr char CellaSvuotata = ' ';
-
-using AsseColonne = Indici<1, MaxColonne>;
-using AsseRighe = Indici<1, MaxRighe>;
-using AsseDirezioni = Indici<Orizzontale, Verticale>;
 
 // --- The grid as text: the primary copy ---
 
@@ -57,6 +43,8 @@ extern Booleano16 SchemaModificato;
 extern Tabella<std::string, AsseColonne, AsseRighe, AsseDirezioni> Definizione;
 /// Fill colour of a black cell; 0 is plain black. No effect on white cells.
 extern Tabella<Colore, AsseColonne, AsseRighe> ColoreCasella;
+/// What the laboratory keeps with the crossword.
+extern Laboratorio LaboratorioDelCruciverba;
 
 // --- Derived from Schema by RicalcolaCaselle ---
 
@@ -116,9 +104,9 @@ void AzzeraStato();
 /// Empties all clues, as a new crossword needs it.
 void SvuotaDefinizioni();
 
-/// Empties the grid lines, clues, colours and the derived tables, so that a crossword that is
-/// opened shows nothing of an earlier one, even if its file breaks off. Cells that its file does
-/// not hold count as empty white ones.
+/// Empties the grid lines, clues, colours, what the laboratory keeps and the derived tables, so
+/// that a crossword that is opened shows nothing of an earlier one, even if its file breaks off.
+/// Cells that its file does not hold count as empty white ones.
 void SvuotaCruciverba();
 
 /// Sets PuntatoreMouse and the visible shape.

@@ -2,89 +2,85 @@
 
 #include <algorithm>
 
+#include "model/crossword_format.h"
+#include "model/derivation.h"
+
 namespace telarium {
 namespace {
 
 void CopiaCaratteri() {
   for (int r = 1; r <= NumRighe; ++r) {
     const std::string& riga = Schema(r + RigheIntestazione);
-    // Cell c has its character at position 2c-1, which is index 2c-2.
-    const int presenti = static_cast<int>(std::min<std::size_t>((riga.size() + 1) / 2, MaxColonne));
-    for (int c = 1; c <= std::min<int>(presenti, NumColonne); ++c) {
-      LetteraCasella(c, r) = riga[2 * static_cast<std::size_t>(c) - 2];
-    }
+    for (int c = 1; c <= NumColonne && IndiceInRiga(c) < riga.size(); ++c)
+      LetteraCasella(c, r) = riga[IndiceInRiga(c)];
   }
 }
 
-bool Nera(int c, int r) {
-  return LetteraCasella(c, r) == CellaNera;
+Derivati DerivaDalleLettere() {
+  std::string caratteri;
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c)
+      caratteri += LetteraCasella(c, r);
+  }
+  return {NumColonne, NumRighe, caratteri};
 }
 
-// Fills ParolaCasella of one line of cells, a row or a column, given by how its k-th cell is
-// reached.
-template <class Cella>
-void ParoleDiUnaLinea(int lunghezza, int direzione, Cella cella) {
-  std::array<char, MaxColonne> caratteri;
-  for (int k = 1; k <= lunghezza; ++k) {
-    const Casella dove = cella(k);
-    caratteri[static_cast<std::size_t>(k - 1)] = LetteraCasella(dove.colonna, dove.riga);
-  }
-  const char* const fineLinea = caratteri.data() + lunghezza;
-  for (int k = 1; k <= lunghezza; ++k) {
-    const Casella dove = cella(k);
-    const char* const da = caratteri.data() + k - 1;
-    const char* const fine = std::find(da, fineLinea, CellaNera);
-    // A black cell, and one that no white cell follows, begins no part of a word.
-    if (fine - da >= 2) {
-      ParolaCasella(dove.colonna, dove.riga, direzione).assign(da, fine);
+// What ParolaCasella holds at each cell of a word.
+void ScriviParola(const Slot& slot, const std::string& lettere) {
+  for (int k = 1; k <= slot.lunghezza; ++k) {
+    const auto [c, r] = slot.Cella(k);
+    std::string& parola = ParolaCasella(c, r, slot.direzione);
+    if (k < slot.lunghezza) {
+      parola.assign(lettere, static_cast<std::size_t>(k) - 1);
     } else {
-      ParolaCasella(dove.colonna, dove.riga, direzione).clear();
+      parola.clear();  // no white cell follows
     }
   }
 }
 
-std::int16_t Tipo(int c, int r) {
-  if (Nera(c, r)) return 0;
-  const bool estremoSinistro = c == 1 || Nera(c - 1, r);
-  const bool estremoAlto = r == 1 || Nera(c, r - 1);
-  const bool orizzontale = estremoSinistro && !ParolaCasella(c, r, Orizzontale).empty();
-  const bool verticale = estremoAlto && !ParolaCasella(c, r, Verticale).empty();
-  if (orizzontale && verticale) return 5;
-  if (verticale) return 3;
-  return orizzontale ? 2 : 1;
+void ScriviParole(const Derivati& derivati) {
+  for (int r = 1; r <= NumRighe; ++r) {
+    for (int c = 1; c <= NumColonne; ++c) {
+      for (const int d : Direzioni) {
+        if (derivati.ParolaPer({c, r}, d) == Derivati::NessunaParola)
+          ParolaCasella(c, r, d).clear();
+      }
+    }
+  }
+  for (const Slot& slot : derivati.Parole())
+    ScriviParola(slot, derivati.Lettere(slot));
 }
 
-void Tipi() {
+void ScriviTipi(const Derivati& derivati) {
   for (int r = 1; r <= NumRighe; ++r) {
     for (int c = 1; c <= NumColonne; ++c)
-      TipoCasella(c, r) = Tipo(c, r);
+      TipoCasella(c, r) = static_cast<std::int16_t>(derivati.Tipo({c, r}));
   }
 }
 
-void Numeri() {
-  std::int16_t numero = 0;
+void ScriviNumeri(const Derivati& derivati) {
   for (int r = 1; r <= NumRighe; ++r) {
     for (int c = 1; c <= NumColonne; ++c)
-      NumeroCasella(c, r) = TipoCasella(c, r) > 1 ? ++numero : 0;
+      NumeroCasella(c, r) = static_cast<std::int16_t>(derivati.Numero({c, r}));
   }
+}
+
+Derivati RicalcolaTuttoSenzaNumeri() {
+  CopiaCaratteri();
+  Derivati derivati = DerivaDalleLettere();
+  ScriviParole(derivati);
+  ScriviTipi(derivati);
+  return derivati;
 }
 
 }  // namespace
 
 void RicalcolaCaselle() {
-  RicalcolaCaselleSenzaNumeri();
-  Numeri();
+  ScriviNumeri(RicalcolaTuttoSenzaNumeri());
 }
 
 void RicalcolaCaselleSenzaNumeri() {
-  CopiaCaratteri();
-  for (int r = 1; r <= NumRighe; ++r) {
-    ParoleDiUnaLinea(NumColonne, Orizzontale, [r](int k) { return Casella{k, r}; });
-  }
-  for (int c = 1; c <= NumColonne; ++c) {
-    ParoleDiUnaLinea(NumRighe, Verticale, [c](int k) { return Casella{c, k}; });
-  }
-  Tipi();
+  RicalcolaTuttoSenzaNumeri();
 }
 
 bool IniziaParola(Casella casella, int direzione) {
@@ -107,10 +103,7 @@ std::string LettereDi(const Slot& slot) {
 }
 
 void ScriviInSchema(Casella casella, char carattere) {
-  std::string& riga = Schema(casella.riga + RigheIntestazione);
-  const auto posto = 2 * static_cast<std::size_t>(casella.colonna) - 2;
-  if (riga.size() < posto + 2) riga.resize(posto + 2, CellaVuota);
-  riga[posto] = carattere;
+  ScriviInRiga(Schema(casella.riga + RigheIntestazione), casella.colonna, carattere);
 }
 
 void ScriviInSchema(const Slot& slot, std::string_view parola) {

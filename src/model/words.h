@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string_view>
 
 #include "model/state.h"
@@ -8,42 +7,10 @@
 // The words of the grid: runs of at least two white cells in a row or a column.
 namespace telarium {
 
-struct Casella {
-  int colonna = 0;
-  int riga = 0;
-};
-
-/// A word of the grid, named by its start cell and its direction.
-struct Slot {
-  Casella inizio;
-  int direzione = Orizzontale;
-  int lunghezza = 0;  // in cells
-
-  /// The k-th cell of the word, k from 1.
-  Casella Cella(int k) const {
-    return direzione == Orizzontale ? Casella{inizio.colonna + k - 1, inizio.riga}
-                                    : Casella{inizio.colonna, inizio.riga + k - 1};
-  }
-};
-
 /// Whether a cell lies in the current grid.
 inline bool NelloSchema(Casella casella) {
   return casella.colonna >= 1 && casella.colonna <= NumColonne && casella.riga >= 1 &&
          casella.riga <= NumRighe;
-}
-
-inline constexpr std::array<int, 2> Direzioni = {Orizzontale, Verticale};
-
-/// The other direction.
-constexpr int Traversa(int direzione) {
-  return direzione == Orizzontale ? Verticale : Orizzontale;
-}
-
-/// Whether a cell character is one of those that model files and previews know: black, empty, or a
-/// capital from A to Z.
-constexpr bool CarattereSemplice(char carattere) {
-  return carattere == CellaNera || carattere == CellaVuota ||
-         (carattere >= 'A' && carattere <= 'Z');
 }
 
 /// Sets LetteraCasella, TipoCasella, NumeroCasella and ParolaCasella of all cells of the current

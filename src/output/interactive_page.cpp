@@ -161,7 +161,7 @@ void ScriviVerifica(TestoDiPagina& pagina) {
 }  // namespace
 
 std::optional<std::string> PaginaInterattiva() {
-  const auto blocco = TestoDelCruciverba();
+  const auto blocco = TestoDaPubblicare();
   if (!blocco) return std::nullopt;
   const ValoriDiPagina valori = ValoriAttuali();
   TestoDiPagina pagina;

@@ -1,7 +1,6 @@
 #include "auxiliary/addresses.h"
 #include "editor/settings.h"
 #include "model/crossword_file.h"
-#include "model/words.h"
 #include "output/interactive_page.h"
 #include "output/output_file.h"
 #include "output/static_page.h"
@@ -71,7 +70,6 @@ Stato ApriPagina(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   if (!blocco && piattaforma.ChiUsa().Interrotto())
     Avvisa("Prelievo interrotto: nessun file scritto.");
   if (!blocco || ApriTestoDiCruciverba(*blocco) != Apertura::Intera) return Stato::Fallito;
-  RicalcolaCaselle();  // the writer wants the words of the grid
   return Scrivi(argomenti.liberi[1]);
 }
 

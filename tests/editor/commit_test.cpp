@@ -23,8 +23,8 @@ TEST_F(Commit, BringsMarksAndDerivedTablesIntoLine) {
 TEST_F(Commit, ClueOutlivesTheLossOfItsStart) {
   Draw({"AB"});
   Definizione(1, 1, Orizzontale) = "Nota";
-  // The file follows the kinds of the redraw before it.
-  const std::pair<char, bool> steps[] = {{'*', true}, {'*', false}, {'.', false}, {'.', true}};
+  // The file follows the grid as it stands.
+  const std::pair<char, bool> steps[] = {{'*', false}, {'*', false}, {'.', true}};
   for (const auto& [second, inFile] : steps) {
     Schema(5)[2] = second;
     ConsolidaSchema();

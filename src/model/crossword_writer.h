@@ -1,0 +1,16 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "model/crossword_format.h"
+#include "model/cruciverba.h"
+
+namespace telarium {
+
+/// The bytes of the file of a crossword, with the clues of the words that its grid has. None when
+/// LeggiContenuto could not give it back: a cell has a character that the file cannot hold, the
+/// laboratory a text that it cannot, or the file would be too large.
+std::optional<std::string> ContenutoDelFile(const Cruciverba& cruciverba);
+
+}  // namespace telarium

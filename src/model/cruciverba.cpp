@@ -1,0 +1,38 @@
+#include "model/cruciverba.h"
+
+#include "model/crossword_format.h"
+
+namespace telarium {
+
+char CarattereDi(const Cruciverba& cruciverba, Casella casella) {
+  Verifica(NelloSchema(cruciverba, casella), "Cruciverba: casella fuori dallo schema");
+  const auto riga = static_cast<std::size_t>(casella.riga) - 1;
+  if (riga >= cruciverba.griglia.size()) return CellaVuota;
+  const std::size_t posto = IndiceInRiga(casella.colonna);
+  const std::string& testo = cruciverba.griglia[riga];
+  return posto < testo.size() ? testo[posto] : CellaVuota;
+}
+
+void ScriviCarattere(Cruciverba& cruciverba, Casella casella, char carattere) {
+  Verifica(NelloSchema(cruciverba, casella), "Cruciverba: casella fuori dallo schema");
+  const auto riga = static_cast<std::size_t>(casella.riga) - 1;
+  if (riga >= cruciverba.griglia.size()) cruciverba.griglia.resize(riga + 1);
+  ScriviInRiga(cruciverba.griglia[riga], casella.colonna, carattere);
+}
+
+void Ridimensiona(Cruciverba& cruciverba, int colonne, int righe) {
+  Verifica(colonne >= 1 && colonne <= MaxColonne && righe >= 1 && righe <= MaxRighe,
+           "Cruciverba: dimensioni fuori dai limiti");
+  const auto prima = 2 * static_cast<std::size_t>(cruciverba.colonne);
+  cruciverba.griglia.resize(static_cast<std::size_t>(righe));
+  for (std::string& riga : cruciverba.griglia) {
+    if (riga.size() > prima) riga.resize(prima);  // what a line holds past its last cell is no cell
+    riga.resize(2 * static_cast<std::size_t>(colonne), CellaVuota);
+  }
+  cruciverba.colonne = colonne;
+  cruciverba.righe = righe;
+  std::string& dimensioni = cruciverba.intestazione[RigheIntestazione - 1];
+  dimensioni = ConDimensioni(std::move(dimensioni), {colonne, righe});
+}
+
+}  // namespace telarium

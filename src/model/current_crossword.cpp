@@ -1,0 +1,58 @@
+#include "model/current_crossword.h"
+
+#include "model/state.h"
+
+namespace telarium {
+namespace {
+
+// Calls `visita` with each place of the largest grid, by columns, in them by rows.
+template <class Visita>
+void PerOgniPosto(Visita visita) {
+  for (int c = 1; c <= MaxColonne; ++c) {
+    for (int r = 1; r <= MaxRighe; ++r)
+      visita(c, r);
+  }
+}
+
+std::string& RigaDiGriglia(std::size_t indice) {
+  return Schema(static_cast<int>(indice) + 1 + RigheIntestazione);
+}
+
+}  // namespace
+
+Cruciverba CruciverbaCorrente() {
+  Cruciverba cruciverba;
+  for (int i = 1; i <= RigheIntestazione; ++i)
+    cruciverba.intestazione[static_cast<std::size_t>(i) - 1] = Schema(i);
+  cruciverba.colonne = NumColonne;
+  cruciverba.righe = NumRighe;
+  cruciverba.griglia.resize(static_cast<std::size_t>(NumRighe));
+  for (std::size_t i = 0; i < cruciverba.griglia.size(); ++i)
+    cruciverba.griglia[i] = RigaDiGriglia(i);
+  PerOgniPosto([&](int c, int r) {
+    for (const int d : Direzioni) {
+      const std::string& definizione = Definizione(c, r, d);
+      if (!definizione.empty()) cruciverba.definizioni.Imposta(definizione, c, r, d);
+    }
+    if (ColoreCasella(c, r) != ColoreNero) cruciverba.colori.Imposta(ColoreCasella(c, r), c, r);
+  });
+  cruciverba.laboratorio = LaboratorioDelCruciverba;
+  return cruciverba;
+}
+
+void PrendiCruciverba(const Cruciverba& cruciverba) {
+  for (int i = 1; i <= RigheIntestazione; ++i)
+    Schema(i) = cruciverba.intestazione[static_cast<std::size_t>(i) - 1];
+  NumColonne = static_cast<std::int16_t>(cruciverba.colonne);
+  NumRighe = static_cast<std::int16_t>(cruciverba.righe);
+  for (std::size_t i = 0; i < cruciverba.griglia.size(); ++i)
+    RigaDiGriglia(i) = cruciverba.griglia[i];
+  PerOgniPosto([&](int c, int r) {
+    for (const int d : Direzioni)
+      Definizione(c, r, d) = cruciverba.definizioni(c, r, d);
+    ColoreCasella(c, r) = cruciverba.colori(c, r);
+  });
+  LaboratorioDelCruciverba = cruciverba.laboratorio;
+}
+
+}  // namespace telarium
