@@ -18,6 +18,21 @@ void SvuotaElenco() {
 
 const AzzeramentoDiSottosistema azzeramento(SvuotaElenco);
 
+// Calls `visita` with each part in order.
+template <class Visita>
+void PerOgniParte(std::string_view famiglia, Visita visita) {
+  for (;;) {
+    const std::size_t fine = famiglia.find(SeparatoreDefinizioni);
+    visita(famiglia.substr(0, fine));
+    if (fine == std::string_view::npos) return;
+    famiglia.remove_prefix(fine + SeparatoreDefinizioni.size());
+  }
+}
+
+bool Vuota(std::string_view parte) {
+  return SenzaSpazi(parte).empty();
+}
+
 }  // namespace
 
 std::string ConSeparatori(std::string_view testo) {
@@ -35,18 +50,20 @@ std::string ConSeparatori(std::string_view testo) {
 
 std::vector<std::string_view> PartiDellaFamiglia(std::string_view famiglia) {
   std::vector<std::string_view> parti;
-  for (;;) {
-    const std::size_t fine = famiglia.find(SeparatoreDefinizioni);
-    parti.push_back(famiglia.substr(0, fine));
-    if (fine == std::string_view::npos) return parti;
-    famiglia.remove_prefix(fine + SeparatoreDefinizioni.size());
-  }
+  PerOgniParte(famiglia, [&](std::string_view parte) { parti.push_back(parte); });
+  return parti;
 }
 
 std::vector<std::string_view> DefinizioniDellaFamiglia(std::string_view famiglia) {
   std::vector<std::string_view> definizioni = PartiDellaFamiglia(famiglia);
-  std::erase_if(definizioni, [](std::string_view parte) { return SenzaSpazi(parte).empty(); });
+  std::erase_if(definizioni, Vuota);
   return definizioni;
+}
+
+int ContaDefinizioni(std::string_view famiglia) {
+  int quante = 0;
+  PerOgniParte(famiglia, [&](std::string_view parte) { quante += !Vuota(parte); });
+  return quante;
 }
 
 void spezzatesto(std::string& testo) {

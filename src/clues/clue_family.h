@@ -12,6 +12,9 @@ namespace telarium {
 
 inline constexpr std::string_view SeparatoreDefinizioni = "\r\n";
 
+/// Which of the two families of a word are meant.
+enum class QualiDefinizioni { Tutte, Facili, Difficili };
+
 /// A text with each of its line ends, of one or two characters, as that separator.
 std::string ConSeparatori(std::string_view testo);
 
@@ -21,6 +24,9 @@ std::vector<std::string_view> PartiDellaFamiglia(std::string_view famiglia);
 
 /// The clues of a family in order: its parts but for those that are empty or all blanks.
 std::vector<std::string_view> DefinizioniDellaFamiglia(std::string_view famiglia);
+
+/// How many clues a family has, in the code page or in UTF-8.
+int ContaDefinizioni(std::string_view famiglia);
 
 // The parts of a text that is about to go would be views of nothing.
 template <std::same_as<std::string> Temporaneo>

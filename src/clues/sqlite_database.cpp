@@ -128,6 +128,19 @@ bool BaseDati::Ricevi(const BaseDati& altra, const std::function<bool()>& proseg
   return !interrotta;
 }
 
+void BaseDati::RiponiRegistro() {
+  try {
+    bool conRegistro = false;
+    {
+      Istruzione modo(*this, "PRAGMA journal_mode");
+      conRegistro = modo.Passo() && modo.VistaUtf8(0) == "wal";
+    }
+    if (conRegistro) Esegui("PRAGMA journal_mode = DELETE");
+  } catch (const ErroreEnciclopedia&) {
+    // Another connection is still open, or the file cannot be written.
+  }
+}
+
 void BaseDati::Fallisci() const {
   const int codice = sqlite3_extended_errcode(connessione_);
   throw ErroreEnciclopedia(Spiegata(codice, sqlite3_errmsg(connessione_)), SpecieDi(codice));
@@ -206,15 +219,20 @@ void Istruzione::Ricomincia() {
 }
 
 std::optional<std::string> Istruzione::Testo(int colonna) const {
-  const auto utf8 = TestoUtf8(colonna);
+  const auto utf8 = VistaUtf8(colonna);
   return utf8 ? std::optional(DaUtf8(*utf8)) : std::nullopt;
 }
 
-std::optional<std::string> Istruzione::TestoUtf8(int colonna) const {
+std::optional<std::string_view> Istruzione::VistaUtf8(int colonna) const {
   const auto* testo = reinterpret_cast<const char*>(sqlite3_column_text(istruzione_, colonna));
   if (!testo) return std::nullopt;
-  const auto byte = static_cast<std::size_t>(sqlite3_column_bytes(istruzione_, colonna));
-  return std::string(testo, byte);
+  return std::string_view(testo,
+                          static_cast<std::size_t>(sqlite3_column_bytes(istruzione_, colonna)));
+}
+
+std::optional<std::string> Istruzione::TestoUtf8(int colonna) const {
+  const auto vista = VistaUtf8(colonna);
+  return vista ? std::optional(std::string(*vista)) : std::nullopt;
 }
 
 std::int64_t Istruzione::Intero(int colonna) const {

@@ -42,6 +42,11 @@ class BaseDati {
   /// asked now and then, has broken it off.
   bool Ricevi(const BaseDati& altra, const std::function<bool()>& prosegue);
 
+  /// Folds a write-ahead log back into the file, which then opens as it is on any medium; also one
+  /// that a killed program has left. Whatever keeps from it leaves all as it is: another connection
+  /// that is open will do it.
+  void RiponiRegistro();
+
   /// Runs statements that give no rows.
   void Esegui(const char* sql);
 
@@ -87,7 +92,8 @@ class Istruzione {
   Istruzione& LegaUtf8(int posto, const std::optional<std::string>& utf8);
   std::optional<std::string> TestoUtf8(int colonna) const;
 
-  /// Columns of the row.
+  /// Columns of the row. The view holds until the next step.
+  std::optional<std::string_view> VistaUtf8(int colonna) const;
   std::optional<std::string> Testo(int colonna) const;
   std::int64_t Intero(int colonna) const;
 

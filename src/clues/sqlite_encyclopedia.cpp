@@ -62,14 +62,7 @@ class EnciclopediaSqlite : public Enciclopedia {
     corrente_ = Trovata(prima);
   }
 
-  ~EnciclopediaSqlite() override {
-    try {
-      // Also a log that a killed program has left, or another one of today's connections.
-      if (ConRegistro()) base_.Esegui("PRAGMA journal_mode = DELETE");
-    } catch (const ErroreEnciclopedia&) {
-      // Another connection is still open: it folds the log back.
-    }
-  }
+  ~EnciclopediaSqlite() override { base_.RiponiRegistro(); }
 
   bool CercaParola(std::string_view parola) override {
     VerificaCercabile(parola);
@@ -216,11 +209,6 @@ class EnciclopediaSqlite : public Enciclopedia {
     } catch (const ErroreEnciclopedia&) {
       // Some errors have ended the transaction by themselves.
     }
-  }
-
-  bool ConRegistro() {
-    Istruzione modo(base_, "PRAGMA journal_mode");
-    return modo.Passo() && modo.Testo(0) == "wal";
   }
 
   void PreparaScrittura() {

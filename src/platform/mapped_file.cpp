@@ -44,6 +44,10 @@ FileMappato::~FileMappato() {
   if (!byte_.empty()) munmap(const_cast<std::byte*>(byte_.data()), byte_.size());
 }
 
+void FileMappato::LasciaPagine() const {
+  if (!byte_.empty()) ::madvise(const_cast<std::byte*>(byte_.data()), byte_.size(), MADV_DONTNEED);
+}
+
 FileMappato::FileMappato(FileMappato&& altro) noexcept : byte_(std::exchange(altro.byte_, {})) {}
 
 FileMappato& FileMappato::operator=(FileMappato&& altro) noexcept {

@@ -23,6 +23,10 @@ class FileMappato {
 
   std::span<const std::byte> Byte() const { return byte_; }
 
+  /// Lets go of the memory of all pages that were touched: they come back when they are touched
+  /// again. For whoever has gone through the whole file and now needs little of it.
+  void LasciaPagine() const;
+
  private:
   std::span<const std::byte> byte_;
 };
