@@ -1,0 +1,258 @@
+#include <algorithm>
+#include <unordered_map>
+
+#include "laboratory/clue_leaks.h"
+#include "laboratory/examination.h"
+#include "platform/codepage.h"
+#include "platform/text.h"
+
+// Faults and warnings that lie in the words of a grid.
+namespace telarium {
+namespace {
+
+using PuntatoriAVoci = std::vector<const VoceDiGriglia*>;
+
+// --- Faults ---
+
+// Why an entry is no word, as a predicate; empty when it is one.
+std::string_view PercheInesistente(const VoceDiGriglia& voce) {
+  if (voce.HaVuote()) return "ha caselle vuote";
+  if (voce.libera) return {};
+  if (!voce.Intera()) return "ha un segno che non è una lettera"_cp;
+  if (voce.parola || voce.propria) return {};
+  return "non è in nessun elenco di parole"_cp;
+}
+
+void Inesistenti(Esame& esame) {
+  for (const VoceDiGriglia& voce : esame.voci) {
+    const std::string_view perche = PercheInesistente(voce);
+    if (!perche.empty())
+      esame.Rileva(Codice::Inesistente, voce, Unisci(voce.Nome(), ' ', perche, '.'));
+  }
+}
+
+void Ripetute(Esame& esame) {
+  std::unordered_map<std::string_view, const VoceDiGriglia*> prime;
+  for (const VoceDiGriglia& voce : esame.voci) {
+    if (!voce.Intera()) continue;
+    const auto [prima, nuova] = prime.emplace(voce.lettere, &voce);
+    if (nuova) continue;
+    esame.Rileva(
+        Codice::Ripetuta, voce,
+        Unisci(voce.Nome(), " è nello schema anche come "_cp, prima->second->Luogo(), '.'));
+  }
+}
+
+void Vietate(Esame& esame) {
+  for (const VoceDiGriglia& voce : esame.voci) {
+    if (voce.vietata)
+      esame.Rileva(Codice::Vietata, voce, voce.Nome() + std::string(" è una parola vietata."_cp));
+  }
+}
+
+// An entry that rules judge: the author's own word is not questioned.
+bool Giudicata(const VoceDiGriglia& voce) {
+  return voce.parola && !voce.propria && !voce.libera;
+}
+
+void Divieti(Esame& esame) {
+  for (const VoceDiGriglia& voce : esame.voci) {
+    if (!Giudicata(voce)) continue;
+    if (const auto divieto = Divieto(*voce.parola, esame.criteri.regole))
+      esame.Rileva(Codice::Regola, voce, Unisci(voce.Nome(), ": ", *divieto));
+  }
+}
+
+void Minimi(Esame& esame) {
+  for (const VoceDiGriglia& voce : esame.voci) {
+    const int minimo = esame.criteri.minimi[static_cast<std::size_t>(voce.slot.lunghezza)];
+    const auto punteggio = voce.Punteggio();
+    if (!punteggio || *punteggio >= minimo) continue;
+    esame.Rileva(Codice::Regola, voce,
+                 Unisci(voce.Nome(), " ha punteggio ", *punteggio, ": il minimo chiesto è "_cp,
+                        minimo, '.'));
+  }
+}
+
+// The entries beyond so many, those of the lowest scores: they are the ones to be changed.
+PuntatoriAVoci Eccedenti(PuntatoriAVoci voci, int ammesse) {
+  const std::size_t quante = voci.size() - std::min(voci.size(), static_cast<std::size_t>(ammesse));
+  std::stable_sort(voci.begin(), voci.end(), [](const auto* una, const auto* altra) {
+    return una->Punteggio() < altra->Punteggio();
+  });
+  voci.resize(quante);
+  return voci;
+}
+
+template <class Condizione>
+PuntatoriAVoci Scelte(const Esame& esame, Condizione condizione) {
+  PuntatoriAVoci scelte;
+  for (const VoceDiGriglia& voce : esame.voci) {
+    if (condizione(voce)) scelte.push_back(&voce);
+  }
+  return scelte;
+}
+
+struct NomeDiGenia {
+  Genia genia;
+  std::string_view singolare, plurale;
+};
+
+constexpr NomeDiGenia NomiDelleGenie[] = {
+    {Genia::Finita, "è una forma verbale finita"_cp, "forme verbali finite"},
+    {Genia::Tronca, "è una parola tronca"_cp, "parole tronche"},
+    {Genia::Nome, "è un nome"_cp, "nomi"},
+    {Genia::Sigla, "è una sigla"_cp, "sigle"},
+    {Genia::Straniera, "è una parola straniera"_cp, "parole straniere"},
+};
+
+void Quote(Esame& esame) {
+  for (const auto& [genia, singolare, plurale] : NomiDelleGenie) {
+    const Quota& quota = esame.criteri.regole.Di(genia);
+    if (quota.unaSu == Quota::Nessuna || quota.unaSu == Quota::Libera) continue;
+    const auto voci = Scelte(esame, [genia = genia](const VoceDiGriglia& voce) {
+      return Giudicata(voce) && Appartiene(*voce.parola, genia);
+    });
+    const int ammesse = quota.Ammesse(esame.QuanteVoci());
+    for (const VoceDiGriglia* voce : Eccedenti(voci, ammesse)) {
+      esame.Rileva(Codice::Regola, *voce,
+                   Unisci(voce->Nome(), ' ', singolare, ": lo schema ha ", voci.size(), ' ',
+                          plurale, ", le regole ne ammettono ", ammesse, '.'));
+    }
+  }
+}
+
+// --- Warnings ---
+
+void Rare(Esame& esame) {
+  const auto rare = Scelte(esame, [](const VoceDiGriglia& voce) { return voce.Rara(); });
+  const int ammesse = RareAmmesse(esame.QuanteVoci());
+  for (const VoceDiGriglia* voce : Eccedenti(rare, ammesse)) {
+    esame.Rileva(Codice::Rare, *voce,
+                 Unisci(voce->Nome(), " è una parola rara: lo schema ne ha "_cp, rare.size(),
+                        ", meglio non più di "_cp, ammesse, '.'));
+  }
+}
+
+// Tells entries that are forms of a word of which an earlier one is a form too. Words meet by many
+// readings: the lemma must be that of the commonest one of at least one of the two.
+class FormeDiLemmi {
+ public:
+  explicit FormeDiLemmi(Esame& esame) : esame_(esame) {}
+
+  void Aggiungi(const VoceDiGriglia& voce) {
+    const auto lemmi = LemmiDi(*voce.parola);
+    for (std::size_t i = 0; i < lemmi.size(); ++i) {
+      const Forme& forme = perLemma_[lemmi[i]];
+      const VoceDiGriglia* altra = i == 0 ? forme.prima : forme.primaComune;
+      if (!altra || altra->lettere == voce.lettere) continue;
+      esame_.Rileva(Codice::LemmaRipetuto, voce,
+                    Unisci(voce.Nome(), " e ", altra->Nome(), " sono forme della stessa parola, ",
+                           TraVirgolette(lemmi[i]), '.'));
+      break;
+    }
+    for (std::size_t i = 0; i < lemmi.size(); ++i)
+      Segna(perLemma_[lemmi[i]], voce, i == 0);
+  }
+
+ private:
+  // The first entries that can be a form of a lemma, and that are one in their commonest reading.
+  struct Forme {
+    const VoceDiGriglia* prima = nullptr;
+    const VoceDiGriglia* primaComune = nullptr;
+  };
+
+  static void Segna(Forme& forme, const VoceDiGriglia& voce, bool comune) {
+    if (!forme.prima) forme.prima = &voce;
+    if (comune && !forme.primaComune) forme.primaComune = &voce;
+  }
+
+  Esame& esame_;
+  std::unordered_map<std::string_view, Forme> perLemma_;
+};
+
+void Lemmi(Esame& esame) {
+  if (esame.criteri.ammetteForme) return;
+  FormeDiLemmi forme(esame);
+  for (const VoceDiGriglia& voce : esame.voci) {
+    if (voce.parola && !voce.libera) forme.Aggiungi(voce);
+  }
+}
+
+// The letters that two words share from two places on.
+std::string_view Comuni(std::string_view una, std::string_view altra) {
+  const auto fine = std::mismatch(una.begin(), una.end(), altra.begin(), altra.end()).first;
+  return una.substr(0, static_cast<std::size_t>(fine - una.begin()));
+}
+
+// Tells entries that share a stretch of letters with an earlier one, each by the longest stretch.
+class Tratti {
+ public:
+  explicit Tratti(Esame& esame) : esame_(esame) {}
+
+  void Aggiungi(const VoceDiGriglia& voce) {
+    std::string_view tratto;
+    const VoceDiGriglia* altra = nullptr;
+    for (std::size_t i = 0; i + LettereDiTratto <= voce.lettere.size(); ++i) {
+      const auto resto = std::string_view(voce.lettere).substr(i);
+      const auto [dove, nuovo] =
+          primi_.try_emplace(resto.substr(0, LettereDiTratto), Posto{&voce, i});
+      const auto& [prima, da] = dove->second;
+      if (nuovo || prima->lettere == voce.lettere) continue;
+      const auto comuni = Comuni(resto, std::string_view(prima->lettere).substr(da));
+      if (comuni.size() <= tratto.size()) continue;
+      tratto = comuni;
+      altra = prima;
+    }
+    if (!altra) return;
+    esame_.Rileva(Codice::TrattoComune, voce,
+                  Unisci(voce.Nome(), " e ", altra->Nome(), " hanno in comune ", tratto, '.'));
+  }
+
+ private:
+  struct Posto {
+    const VoceDiGriglia* voce;
+    std::size_t inizio;
+  };
+
+  Esame& esame_;
+  std::unordered_map<std::string_view, Posto> primi_;
+};
+
+void TrattiComuni(Esame& esame) {
+  Tratti tratti(esame);
+  for (const VoceDiGriglia& voce : esame.voci)
+    tratti.Aggiungi(voce);
+}
+
+void Incroci(Esame& esame) {
+  for (const VoceDiGriglia& voce : esame.voci) {
+    if (voce.slot.direzione != Orizzontale || !voce.Rara()) continue;
+    for (int k = 1; k <= voce.slot.lunghezza; ++k) {
+      const int parola = esame.griglia.ParolaPer(voce.slot.Cella(k), Verticale);
+      if (parola == Derivati::NessunaParola) continue;
+      const VoceDiGriglia& altra = esame.voci[static_cast<std::size_t>(parola)];
+      if (!altra.Rara()) continue;
+      esame.Rileva(
+          Codice::IncrocioDuro, voce,
+          Unisci(voce.Nome(), " e ", altra.Nome(), " si incrociano e sono rare tutt'e due."));
+    }
+  }
+}
+
+}  // namespace
+
+void EsaminaParole(Esame& esame) {
+  Inesistenti(esame);
+  Ripetute(esame);
+  Divieti(esame);
+  Quote(esame);
+  Minimi(esame);
+  Vietate(esame);
+  Lemmi(esame);
+  TrattiComuni(esame);
+  Rare(esame);
+  Incroci(esame);
+}
+
+}  // namespace telarium
