@@ -26,14 +26,13 @@ const char* Fault(std::string_view line, std::set<std::pair<std::string, std::st
   return nullptr;
 }
 
-// Tells the faults of a file and gives their number.
-int Check(const char* file) {
+// Tells the faults of a file and gives their number. `seen` holds the clues of the files before.
+int Check(const char* file, std::set<std::pair<std::string, std::string>>& seen) {
   std::string text;
   if (LeggiFile(file, MaxBytes, text) != EsitoLettura::Letto) {
     std::fprintf(stderr, "%s: cannot be read\n", file);
     return 1;
   }
-  std::set<std::pair<std::string, std::string>> seen;
   LettoreDiRighe lines(text);
   int faults = 0, number = 0;
   for (std::string_view line; lines.Prossima(line);) {
@@ -50,7 +49,8 @@ int Check(const char* file) {
 
 int main(int argc, char** argv) {
   int faults = argc < 2;
+  std::set<std::pair<std::string, std::string>> seen;
   for (int i = 1; i < argc; ++i)
-    faults += Check(argv[i]);
+    faults += Check(argv[i], seen);
   return faults > 0 ? 1 : 0;
 }

@@ -166,5 +166,25 @@ TEST_F(DataTest, SampleCrosswordsAreComplete) {
   }
 }
 
+// The words of a list of the sources, by its first field.
+std::multiset<std::string> FirstFields(const char* name) {
+  std::string text;
+  EXPECT_EQ(LeggiFile(Percorso(TELARIUM_SOURCE_DIR) / name, 1u << 20, text), EsitoLettura::Letto);
+  std::multiset<std::string> words;
+  LettoreDiRighe lines(text);
+  for (std::string_view line; lines.Prossima(line);)
+    words.insert(Maiuscole(line.substr(0, line.find('\t'))));
+  return words;
+}
+
+TEST_F(DataTest, EachEntryOfTheKitHasClues) {
+  const auto entries = FirstFields("data/lexicon/sigle.tsv");
+  const auto clues = FirstFields("data/clues/sigle.tsv");
+  EXPECT_GE(entries.size(), 330u);
+  EXPECT_EQ(std::set(entries.begin(), entries.end()), std::set(clues.begin(), clues.end()));
+  for (const std::string& word : entries)
+    EXPECT_EQ(word.size(), 2u) << word;
+}
+
 }  // namespace
 }  // namespace telarium
