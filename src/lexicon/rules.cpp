@@ -73,7 +73,7 @@ const Regolamento* RegolamentoDiNome(std::string_view nome) {
 bool Appartiene(const Parola& parola, Genia genia) {
   switch (genia) {
     case Genia::Finita:
-      return SoloFinita(parola.letture);
+      return !parola.nelCorredo && SoloFinita(parola.letture);
     case Genia::Tronca:
       return parola.segni.Ha(Segno::Tronca);
     case Genia::Nome:
