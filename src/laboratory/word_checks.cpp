@@ -58,8 +58,8 @@ bool Giudicata(const VoceDiGriglia& voce) {
 void Divieti(Esame& esame) {
   for (const VoceDiGriglia& voce : esame.voci) {
     if (!Giudicata(voce)) continue;
-    if (const auto divieto = Divieto(*voce.parola, esame.criteri.regole))
-      esame.Rileva(Codice::Regola, voce, Unisci(voce.Nome(), ": ", *divieto));
+    if (auto divieto = Divieto(*voce.parola, esame.criteri.regole, voce.Nome()))
+      esame.Rileva(Codice::Regola, voce, std::move(*divieto));
   }
 }
 
@@ -95,19 +95,19 @@ PuntatoriAVoci Scelte(const Esame& esame, Condizione condizione) {
 
 struct NomeDiGenia {
   Genia genia;
-  std::string_view singolare, plurale;
+  std::string_view nome;  // what an entry of it is
 };
 
 constexpr NomeDiGenia NomiDelleGenie[] = {
-    {Genia::Finita, "è una forma verbale finita"_cp, "forme verbali finite"},
-    {Genia::Tronca, "è una parola tronca"_cp, "parole tronche"},
-    {Genia::Nome, "è un nome"_cp, "nomi"},
-    {Genia::Sigla, "è una sigla"_cp, "sigle"},
-    {Genia::Straniera, "è una parola straniera"_cp, "parole straniere"},
+    {Genia::Finita, "è una forma verbale finita"_cp},
+    {Genia::Tronca, "è una parola tronca"_cp},
+    {Genia::Nome, "è un nome"_cp},
+    {Genia::Sigla, "è una sigla"_cp},
+    {Genia::Straniera, "è una parola straniera"_cp},
 };
 
 void Quote(Esame& esame) {
-  for (const auto& [genia, singolare, plurale] : NomiDelleGenie) {
+  for (const auto& [genia, nome] : NomiDelleGenie) {
     const Quota& quota = esame.criteri.regole.Di(genia);
     if (quota.unaSu == Quota::Nessuna || quota.unaSu == Quota::Libera) continue;
     const auto voci = Scelte(esame, [genia = genia](const VoceDiGriglia& voce) {
@@ -116,8 +116,8 @@ void Quote(Esame& esame) {
     const int ammesse = quota.Ammesse(esame.QuanteVoci());
     for (const VoceDiGriglia* voce : Eccedenti(voci, ammesse)) {
       esame.Rileva(Codice::Regola, *voce,
-                   Unisci(voce->Nome(), ' ', singolare, ": lo schema ha ", voci.size(), ' ',
-                          plurale, ", le regole ne ammettono ", ammesse, '.'));
+                   Unisci(voce->Nome(), ' ', nome, ": lo schema ne ha ", voci.size(),
+                          ", le regole ne ammettono ", ammesse, '.'));
     }
   }
 }

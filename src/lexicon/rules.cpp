@@ -86,10 +86,12 @@ bool Appartiene(const Parola& parola, Genia genia) {
   return false;
 }
 
-std::optional<std::string> Divieto(const Parola& parola, const Regolamento& regole) {
+std::optional<std::string> Divieto(const Parola& parola, const Regolamento& regole,
+                                   std::string_view chiamata) {
   const std::string_view motivo = Motivo(parola, regole);
   if (motivo.empty()) return std::nullopt;
-  return Unisci(parola.lettere, ' ', motivo, ": le regole \"", regole.nome, "\" non l'ammettono.");
+  if (chiamata.empty()) chiamata = parola.lettere;
+  return Unisci(chiamata, ' ', motivo, ": le regole \"", regole.nome, "\" non l'ammettono.");
 }
 
 }  // namespace telarium

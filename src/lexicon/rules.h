@@ -63,7 +63,9 @@ std::optional<Regolamento> InterpretaRegolamento(std::string_view testoUtf8, std
 bool Appartiene(const Parola& parola, Genia genia);
 
 /// Why a word may not stand in any crossword under a set of rules, whatever the shares: an Italian
-/// sentence; none when it may. Bans are not looked at.
-std::optional<std::string> Divieto(const Parola& parola, const Regolamento& regole);
+/// sentence, in which `chiamata` names the word if it is not to be its letters alone; none when it
+/// may. Bans are not looked at.
+std::optional<std::string> Divieto(const Parola& parola, const Regolamento& regole,
+                                   std::string_view chiamata = {});
 
 }  // namespace telarium
