@@ -177,7 +177,7 @@ const Planted Cases[] = {
                "risposta: «cinte» ha la stessa radice."}},
     {.name = "ClueHoldsAnotherEntry",
      .rows = {"POR#A", "ETIRE", "SALVO", "CINGE", "ALTRE"},
-     .clues = {{"5O", "Pesca in altre acque, malaltre, por"}},
+     .clues = {{"5O", "Pesca in acque, malaltre, por"}},
      .found = {"definizione-rivela 1,2 O La definizione di ETIRE (5 orizzontale) contiene un'altra "
                "voce dello schema: PESCA (1 verticale).",
                "cella-sola 5,1 - La casella 5,1 sta in una parola sola: AEOEE (4 verticale)."}},
