@@ -43,7 +43,7 @@ constexpr struct {
     // clang-format on
 };
 
-// FNV-1a: tells versions of one file apart. Nobody gains by forging one.
+// FNV-1a: the records that programs of all versions left hold it. Nobody gains by forging one.
 std::uint64_t Impronta(std::string_view contenuto) {
   std::uint64_t impronta = 0xcbf29ce484222325;
   for (const char byte : contenuto)
@@ -270,7 +270,7 @@ std::vector<Percorso> NomiInstallati(const Percorso& installati) {
   for (fs::recursive_directory_iterator voce(installati, errore), fine; !errore && voce != fine;
        voce.increment(errore)) {
     const Percorso nome = voce->path().lexically_relative(installati);
-    if (FileNascosto(nome.filename()) || nome == CartellaListeInstallate) {
+    if (FileNascosto(nome.filename()) || RestaInstallata(nome)) {
       voce.disable_recursion_pending();
     } else if (FileOrdinario(voce->path()) && !DellEnciclopedia(nome)) {
       nomi.push_back(nome);
@@ -281,6 +281,10 @@ std::vector<Percorso> NomiInstallati(const Percorso& installati) {
 }
 
 }  // namespace
+
+bool RestaInstallata(const Percorso& nome) {
+  return nome == CartellaListeInstallate || nome == CartellaLessiciInstallati;
+}
 
 std::vector<CopiaFallita> AggiornaCartella(const Percorso& installati, const Percorso& cartella,
                                            FileModificati modificati) {

@@ -12,6 +12,13 @@ namespace telarium {
 /// the program folder is made from it.
 inline constexpr const char* CartellaListeInstallate = "clues";
 
+/// And the one that holds the lexicons, which are opened where they are.
+inline constexpr const char* CartellaLessiciInstallati = "lexicon";
+
+/// Whether a folder of the installed data, by its name in them, is never copied into a program
+/// folder.
+bool RestaInstallata(const Percorso& nome);
+
 /// A file, or a folder with all in it, that could not be copied: its name below the installed data.
 struct CopiaFallita {
   Percorso nome;

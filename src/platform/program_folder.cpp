@@ -33,7 +33,7 @@ void CopiaMancanti(const Percorso& da, const Percorso& a, const Percorso& relati
     const Percorso nome = voce->path().filename();
     if (FileNascosto(nome)) continue;
     if (voce->is_directory(ignorato)) {
-      if (relativo.empty() && nome == CartellaListeInstallate) continue;
+      if (relativo.empty() && RestaInstallata(nome)) continue;
       CopiaMancanti(voce->path(), PercorsoDellaCartella(a, nome), relativo / nome, falliti);
     } else if (!TrovaFile(a, nome)) {
       if (const auto fallito = CopiaFile(voce->path(), a / nome))
@@ -64,6 +64,10 @@ Percorso CartellaEseguibile() {
 
 Percorso CartellaDatiInstallati() {
   return (CartellaEseguibile() / "../share/telarium").lexically_normal();
+}
+
+Percorso CartellaLessici() {
+  return CartellaDatiInstallati() / CartellaLessiciInstallati;
 }
 
 SceltaCartella ScegliCartellaProgramma() {

@@ -27,9 +27,13 @@ Percorso CartellaEseguibile();
 /// Where the installed data lie, seen from the executable.
 Percorso CartellaDatiInstallati();
 
+/// Where the lexicons lie, NAME.lexicon for each language and for the kit of short entries: among
+/// the installed data, so that a newer package brings newer ones.
+Percorso CartellaLessici();
+
 /// Copies into `cartella` each file below `installati` that is missing there, and makes folders as
-/// needed, the case of all names aside; the clue lists and hidden files stay behind. Nothing that
-/// exists is written over. Gives what could not be copied.
+/// needed, the case of all names aside; what RestaInstallata names and hidden files stay behind.
+/// Nothing that exists is written over. Gives what could not be copied.
 std::vector<CopiaFallita> RiempiCartella(const Percorso& installati, const Percorso& cartella);
 
 /// Chooses the program folder and, when it is the user's own, brings it what is missing there of
