@@ -1,8 +1,5 @@
 #include "dictionary/dictionary.h"
 
-#include <algorithm>
-#include <array>
-
 #include "dictionary/dictionary_file.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
@@ -25,14 +22,6 @@ void AzzeraDizionario() {
 
 const AzzeramentoDiSottosistema azzeramento(AzzeraDizionario);
 
-using Intestazione = std::array<char, PrimaPosizione - 1>;
-
-// The number in the field of the header that begins at a position. Bytes past the end of a short
-// file are zero here and so give 0.
-std::int32_t Campo(const Intestazione& intestazione, int posizione) {
-  return ValoreNumerico({intestazione.data() + posizione - 1, ByteCampo});
-}
-
 }  // namespace
 
 Percorso PercorsoDizionario() {
@@ -45,13 +34,11 @@ bool ApriDizionario() {
     TerminaProgramma();
   }
   const FileDizionario file(PercorsoDizionario());
-  Intestazione intestazione{};
-  file.Leggi(1, intestazione.data(), intestazione.size());
-  for (int lunghezza = MinLunghezza; lunghezza <= MaxLunghezza; ++lunghezza) {
-    const std::int32_t inizio = Campo(intestazione, PosizioneVoce(lunghezza));
-    const std::int32_t fine = Campo(intestazione, PosizioneVoce(lunghezza) + ByteCampo);
-    OffsetLunghezza(lunghezza - MinLunghezza) = inizio;
-    ContaLunghezza(lunghezza - MinLunghezza) = (fine - inizio) / lunghezza;
+  int indice = 0;
+  for (const auto& [inizio, conta] : LeggiSezioni(file)) {
+    OffsetLunghezza(indice) = inizio;
+    ContaLunghezza(indice) = conta;
+    ++indice;
   }
   if (!file.Leggibile()) AvvisaDizionarioIlleggibile();
   return file.Leggibile();

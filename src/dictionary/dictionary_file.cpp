@@ -2,7 +2,19 @@
 
 #include <fcntl.h>
 
+#include "platform/text.h"
+
 namespace telarium {
+namespace {
+
+using Intestazione = std::array<char, PrimaPosizione - 1>;
+
+// The number in the field of the header that begins at a position.
+std::int32_t Campo(const Intestazione& intestazione, int posizione) {
+  return ValoreNumerico({intestazione.data() + posizione - 1, ByteCampo});
+}
+
+}  // namespace
 
 FileDizionario::FileDizionario(const Percorso& nome)
     // A pipe in the place of a dictionary must not make the program wait for it.
@@ -26,6 +38,20 @@ std::size_t FileDizionario::Leggi(std::int64_t posizione, char* destinazione,
     letti += static_cast<std::size_t>(n);
   }
   return letti;
+}
+
+std::array<SezioneDizionario, MaxLunghezza - MinLunghezza + 1> LeggiSezioni(
+    const FileDizionario& file) {
+  Intestazione intestazione{};
+  file.Leggi(1, intestazione.data(), intestazione.size());
+  std::array<SezioneDizionario, MaxLunghezza - MinLunghezza + 1> sezioni;
+  for (int lunghezza = MinLunghezza; lunghezza <= MaxLunghezza; ++lunghezza) {
+    const std::int32_t inizio = Campo(intestazione, PosizioneVoce(lunghezza));
+    const std::int32_t fine = Campo(intestazione, PosizioneVoce(lunghezza) + ByteCampo);
+    sezioni[static_cast<std::size_t>(lunghezza - MinLunghezza)] = {
+        .inizio = inizio, .conta = (fine - inizio) / lunghezza};
+  }
+  return sezioni;
 }
 
 }  // namespace telarium

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
+#include "dictionary/dictionary.h"
 #include "platform/descriptor.h"
 #include "platform/files.h"
 
@@ -31,5 +33,19 @@ class FileDizionario {
   mutable bool guasto_ = false;
   std::error_code errore_;
 };
+
+/// What the table of a dictionary says of the section of one length, believed or not: the position
+/// of its first word, 0 for none, and how many words it has, which may be any number.
+struct SezioneDizionario {
+  std::int32_t inizio = 0;
+  std::int32_t conta = 0;
+
+  /// The last word number that a scan goes to: the low 16 bits of the count, as a signed number.
+  int UltimoNumero() const { return static_cast<std::int16_t>(conta & 0xFFFF); }
+};
+
+/// The sections by their length less 3. What a short file lacks counts as zeros.
+std::array<SezioneDizionario, MaxLunghezza - MinLunghezza + 1> LeggiSezioni(
+    const FileDizionario& file);
 
 }  // namespace telarium

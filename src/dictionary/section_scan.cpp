@@ -7,7 +7,7 @@
 namespace telarium {
 
 int UltimoNumero(int lunghezza) {
-  return static_cast<std::int16_t>(ContaLunghezza(lunghezza - MinLunghezza) & 0xFFFF);
+  return SezioneDizionario{.conta = ContaLunghezza(lunghezza - MinLunghezza)}.UltimoNumero();
 }
 
 ScansioneSezione::ScansioneSezione(int lunghezza)

@@ -2,6 +2,7 @@
 #include <charconv>
 #include <map>
 
+#include "lexicon/list_text.h"
 #include "lexicon/rules.h"
 #include "platform/codepage.h"
 #include "platform/text.h"
@@ -12,13 +13,6 @@ namespace {
 
 /// The largest N of "uno su N": more entries than that no grid has.
 constexpr int MaxUnaSu = 9999;
-
-std::string_view Ritagliato(std::string_view testo) {
-  constexpr std::string_view bianchi = " \t";
-  const std::size_t inizio = testo.find_first_not_of(bianchi);
-  if (inizio == std::string_view::npos) return {};
-  return testo.substr(inizio, testo.find_last_not_of(bianchi) - inizio + 1);
-}
 
 // Small letters, and one blank for several.
 std::string Normale(std::string_view testo) {
