@@ -75,7 +75,7 @@ class Package(unittest.TestCase):
         return {path.name for path in self.own.iterdir() if not path.name.startswith(".")}
 
     def expected_names(self):
-        return {path.name for path in self.data.iterdir()} - {"clues"}
+        return {path.name for path in self.data.iterdir()} - {"clues", "lexicon"}
 
     def test_says_what_it_needs(self):
         def field(name):
@@ -104,6 +104,15 @@ class Package(unittest.TestCase):
         notice = (self.documents / "copyright").read_text(encoding="utf-8")
         for name in [re.sub(r"\d+-", "*-", name) for name in lists] + [
                 path.name for path in self.data.glob("*.dat")]:
+            self.assertIn(name, notice)
+
+    def test_has_the_lexicon_of_each_source(self):
+        lexicons = sorted(path.name for path in (self.data / "lexicon").iterdir())
+        self.assertEqual(lexicons, sorted(
+            re.sub(r"\.tsv(\.xz)?$", ".lexicon", path.name)
+            for path in (SOURCE / "data/lexicon").glob("*.tsv*")))
+        notice = (self.documents / "copyright").read_text(encoding="utf-8")
+        for name in lexicons:
             self.assertIn(name, notice)
 
     def test_documents_have_what_they_link_to(self):
@@ -161,7 +170,7 @@ class Package(unittest.TestCase):
         self.assertEqual(self.start("telarium", self.samples[1]).wait(PATIENCE), 0)
         wait_until(lambda: shows(self.samples[1]), "the second file is open")
         self.assertLessEqual(self.expected_names() | {"telarium1.mdb"}, self.names_in_own())
-        self.assertNotIn("clues", self.names_in_own())
+        self.assertFalse({"clues", "lexicon"} & self.names_in_own())
         self.assertEqual(self.telar("definizioni", "casa")[1], "")
         self.assertIsNone(first.poll(), "it has ended")
 

@@ -14,6 +14,7 @@ class InstalledData : public TelariumTest {
     TelariumTest::SetUp();
     std::filesystem::create_directories(InFolder("dati/Archivio"));
     std::filesystem::create_directories(InFolder("dati/clues"));
+    std::filesystem::create_directories(InFolder("dati/lexicon"));
     std::filesystem::create_directories(InFolder("mia"));
     Install("prima");
   }
@@ -23,7 +24,8 @@ class InstalledData : public TelariumTest {
   }
 
   void Install(const std::string& version) const {
-    WriteFile("dati/clues/lista.tsv", version);
+    for (const char* name : {"dati/clues/lista.tsv", "dati/lexicon/italiano.lexicon"})
+      WriteFile(name, version);
     for (const Percorso& name : Names())
       WriteFile("dati" / name, version + " " + name.string());
   }
@@ -63,7 +65,9 @@ TEST_F(InstalledData, UnchangedFilesFollowEachPackageAndWhatTheUserOwnsDoesNot) 
   EXPECT_EQ(OwnOf("nuova edizione"), (std::vector<Percorso>{"A.dat", "TIPS.txt"}));
   EXPECT_EQ(Own("Archivio/uno.tlrm"), "mio");
   EXPECT_EQ(Own("telarium1.mdb"), "mio");
-  EXPECT_FALSE(std::filesystem::exists(InFolder("mia/clues")));
+  for (const char* name : {"mia/clues", "mia/lexicon"})
+    EXPECT_FALSE(std::filesystem::exists(InFolder(name))) << name;
+  EXPECT_EQ(Own(NomeRegistroInstallati).find("lexicon"), std::string::npos);
 }
 
 TEST_F(InstalledData, AboutChangedOnesOneQuestionIsAskedOnceForEachVersion) {

@@ -49,9 +49,10 @@ TEST_F(FillingFolder, WhatIsMissingIsCopiedAndNothingIsWrittenOver) {
   std::filesystem::create_directories(InFolder("dati/aiuto/figure"));
   std::filesystem::create_directories(InFolder("dati/occupata"));
   std::filesystem::create_directories(InFolder("dati/clues"));
+  std::filesystem::create_directories(InFolder("dati/lexicon"));
   std::filesystem::create_directories(InFolder("mia/AIUTO"));
   for (const char* name : {"INI", "DFC", "aiuto/A.html", "aiuto/figure/una.bmp", "occupata/file",
-                           "clues/lista.tsv", ".telarium.lock"}) {
+                           "clues/lista.tsv", "lexicon/italiano.lexicon", ".telarium.lock"}) {
     WriteFile(Percorso("dati") / name, "installato");
   }
   const char* const kept[] = {"ini", "AIUTO/a.HTML", "occupata"};
@@ -64,7 +65,7 @@ TEST_F(FillingFolder, WhatIsMissingIsCopiedAndNothingIsWrittenOver) {
   EXPECT_EQ(ElencaFile(InFolder("mia"), "*"), (Names{"DFC", "ini", "occupata"}));
   Names folders;
   EXPECT_FALSE(ElencaCartelle(InFolder("mia"), folders));
-  EXPECT_EQ(folders, Names{"AIUTO"}) << "one folder, whatever the case; no clue lists";
+  EXPECT_EQ(folders, Names{"AIUTO"}) << "one folder, whatever the case; no clue lists, no lexicons";
   EXPECT_EQ(ElencaFile(InFolder("mia/AIUTO"), "*"), Names{"a.HTML"});
   EXPECT_EQ(ReadFile(InFolder("mia/AIUTO/figure/una.bmp")), "installato");
   for (const char* name : kept)
