@@ -13,7 +13,13 @@
 namespace telarium::telar {
 
 /// Exit status of a command.
-enum class Stato { Fatto = 0, Fallito = 1, ArgomentiErrati = 2 };
+enum class Stato {
+  Fatto = 0,
+  Fallito = 1,
+  ArgomentiErrati = 2,
+  Negativo = 3,    // answered with no: impossible, not fit for print, not in the lexicon
+  Interrotto = 4,  // broken off before there was an answer
+};
 
 inline constexpr std::size_t QuantiSiVuole = std::numeric_limits<std::size_t>::max();
 
@@ -37,5 +43,6 @@ std::vector<Comando> ComandiCruciverba();
 std::vector<Comando> ComandiDizionario();
 std::vector<Comando> ComandiDefinizioni();
 std::vector<Comando> ComandiUscita();
+std::vector<Comando> ComandiLessico();
 
 }  // namespace telarium::telar

@@ -1,0 +1,186 @@
+#include "telar/word_options.h"
+
+#include <algorithm>
+
+#include "clues/encyclopedia.h"
+#include "model/state.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
+#include "platform/program_folder.h"
+#include "platform/text.h"
+
+namespace telarium::telar {
+
+const Opzione OpzioneLessico = {"--lessico", "NOME[,NOME...]",
+                                "lingue, dizionari, liste di parole (italiano)"};
+
+namespace {
+
+constexpr Opzione OpzioneRegole = {"--regole", "NOME",
+                                   "severe, settimanali, libere o un file (severe)"};
+constexpr Opzione OpzioneLivello = {"--livello", "N", "il punteggio minimo, da 0 a 100 (0)"};
+constexpr Opzione OpzioneLivelli = {"--livello-lunghezza", "L:N[,...]",
+                                    "il punteggio minimo delle parole di L lettere"};
+constexpr Opzione OpzioneDefinizioni = {"--definizioni", "VALORE",
+                                        "no, preferite, obbligatorie (preferite)"};
+constexpr Opzione OpzioneFamiglia = {"--famiglia", "VALORE", "tutte, facili, difficili (tutte)"};
+constexpr Opzione OpzioneVieta = {"--vieta", "PAROLA[,...]", "parole da non usare"};
+constexpr Opzione OpzioneVietaDa = {"--vieta-da", "FILE", "le parole da non usare, una per riga"};
+constexpr Opzione OpzioneAmmetti = {"--ammetti", "PAROLA[,...]",
+                                    "parole vietate da ammettere lo stesso"};
+constexpr Opzione OpzioneForme = {"--forme", "si|no", "due forme della stessa parola (no)"};
+
+template <class Valore>
+using Scelte = std::initializer_list<std::pair<std::string_view, Valore>>;
+
+// The value of an option that has these; the first one without the option.
+template <class Valore>
+Valore Scelto(const Argomenti& argomenti, const Opzione& opzione, Valore altrimenti,
+              Scelte<Valore> scelte) {
+  if (!argomenti.Ha(opzione.nome)) return altrimenti;
+  const std::string valore = argomenti.Valore(opzione.nome);
+  std::string nomi;
+  for (const auto& [nome, scelta] : scelte) {
+    if (nome == valore) return scelta;
+    nomi += Unisci(nomi.empty() ? "" : ", ", nome);
+  }
+  throw ArgomentiErrati(Unisci(opzione.nome, " richiede uno di: ", nomi));
+}
+
+// The parts of a value that are divided by commas; none is empty.
+std::vector<std::string> Parti(const Argomenti& argomenti, const Opzione& opzione) {
+  std::vector<std::string> parti;
+  if (!argomenti.Ha(opzione.nome)) return parti;
+  const std::string valore = argomenti.Valore(opzione.nome);
+  std::size_t inizio = 0;
+  while (inizio <= valore.size()) {
+    const std::size_t fine = std::min(valore.find(',', inizio), valore.size());
+    parti.push_back(valore.substr(inizio, fine - inizio));
+    inizio = fine + 1;
+  }
+  if (std::ranges::any_of(parti, &std::string::empty))
+    throw ArgomentiErrati(Unisci(opzione.nome, " ha un valore vuoto"));
+  return parti;
+}
+
+InsiemeDiParole Parole(const Argomenti& argomenti, const Opzione& opzione) {
+  InsiemeDiParole parole;
+  for (const std::string& parte : Parti(argomenti, opzione)) {
+    auto parola = PiegaGrafiaUtf8(parte);
+    if (!parola) {
+      throw ArgomentiErrati(
+          Unisci(opzione.nome, ": \"", parte, "\" non è una parola da 2 a 53 lettere"));
+    }
+    parole.insert(std::move(*parola));
+  }
+  return parole;
+}
+
+int Limitato(std::string_view testo, int minimo, int massimo, const Opzione& opzione) {
+  const auto numero = NumeroIntero(testo);
+  if (numero && *numero >= minimo && *numero <= massimo) return static_cast<int>(*numero);
+  throw ArgomentiErrati(Unisci(opzione.nome, " richiede numeri da ", minimo, " a ", massimo));
+}
+
+void LeggiLivelli(const Argomenti& argomenti, SceltaParole& scelta) {
+  if (argomenti.Ha(OpzioneLivello.nome)) {
+    scelta.livelli.fill(
+        Limitato(argomenti.Valore(OpzioneLivello.nome), 0, MaxPunteggio, OpzioneLivello));
+  }
+  for (const std::string& parte : Parti(argomenti, OpzioneLivelli)) {
+    const std::size_t duePunti = parte.find(':');
+    if (duePunti == std::string::npos)
+      throw ArgomentiErrati(Unisci(OpzioneLivelli.nome, " richiede L:N[,L:N...]"));
+    const std::string_view tutto = parte;
+    const int lunghezza =
+        Limitato(tutto.substr(0, duePunti), MinLunghezzaVoce, MaxLunghezzaVoce, OpzioneLivelli);
+    scelta.livelli[static_cast<std::size_t>(lunghezza)] =
+        Limitato(tutto.substr(duePunti + 1), 0, MaxPunteggio, OpzioneLivelli);
+  }
+}
+
+// False, told, for a word that is banned and admitted by name. One of a file of bans may be lifted.
+bool LeggiDivieti(const Argomenti& argomenti, SceltaParole& scelta) {
+  scelta.vietate = Parole(argomenti, OpzioneVieta);
+  scelta.ammesse = Parole(argomenti, OpzioneAmmetti);
+  const auto insieme = std::ranges::find_if(
+      scelta.vietate, [&](const std::string& parola) { return scelta.ammesse.contains(parola); });
+  if (insieme != scelta.vietate.end()) {
+    Avvisa(Unisci("La parola ", *insieme, " è insieme vietata e ammessa."_cp));
+    return false;
+  }
+  if (!argomenti.Ha(OpzioneVietaDa.nome)) return true;
+  std::string causa;
+  auto altre = LeggiParole(argomenti.Valore(OpzioneVietaDa.nome), causa);
+  if (!altre) {
+    Avvisa(causa);
+    return false;
+  }
+  scelta.vietate.merge(*altre);
+  return true;
+}
+
+bool LeggiRegole(const Argomenti& argomenti, SceltaParole& scelta) {
+  if (!argomenti.Ha(OpzioneRegole.nome)) return true;
+  std::string causa;
+  auto regole = TrovaRegolamento(argomenti.Valore(OpzioneRegole.nome), causa);
+  if (regole) {
+    scelta.regole = std::move(*regole);
+  } else {
+    Avvisa(causa);
+  }
+  return regole.has_value();
+}
+
+}  // namespace
+
+std::vector<Opzione> ConOpzioniParole(std::vector<Opzione> opzioni) {
+  opzioni.insert(opzioni.begin(),
+                 {OpzioneLessico, OpzioneRegole, OpzioneLivello, OpzioneLivelli, OpzioneDefinizioni,
+                  OpzioneFamiglia, OpzioneVieta, OpzioneVietaDa, OpzioneAmmetti, OpzioneForme});
+  return opzioni;
+}
+
+std::optional<SceltaParole> LeggiSceltaParole(const Argomenti& argomenti) {
+  SceltaParole scelta;
+  scelta.lessici = LeggiLessici(argomenti);
+  LeggiLivelli(argomenti, scelta);
+  scelta.definizioni = Scelto(argomenti, OpzioneDefinizioni, scelta.definizioni,
+                              {{"no", UsoDefinizioni::No},
+                               {"preferite", UsoDefinizioni::Preferite},
+                               {"obbligatorie", UsoDefinizioni::Obbligatorie}});
+  scelta.quali = Scelto(argomenti, OpzioneFamiglia, scelta.quali,
+                        {{"tutte", QualiDefinizioni::Tutte},
+                         {"facili", QualiDefinizioni::Facili},
+                         {"difficili", QualiDefinizioni::Difficili}});
+  scelta.ammetteForme =
+      Scelto(argomenti, OpzioneForme, scelta.ammetteForme, {{"si", true}, {"no", false}});
+  if (!LeggiDivieti(argomenti, scelta) || !LeggiRegole(argomenti, scelta)) return std::nullopt;
+  return scelta;
+}
+
+std::vector<Percorso> LeggiLessici(const Argomenti& argomenti) {
+  const std::vector<std::string> nomi = Parti(argomenti, OpzioneLessico);
+  if (nomi.empty()) return {LessicoIniziale};
+  return {nomi.begin(), nomi.end()};
+}
+
+LuoghiLessico LuoghiDeiLessici() {
+  return {.lessici = CartellaLessici(), .programma = CartellaProgramma};
+}
+
+std::shared_ptr<const Copertura> PreparaCopertura() {
+  std::string causa;
+  auto copertura = CoperturaDi(PercorsoNellaCartella(CartellaProgramma, NomeEnciclopedia), causa);
+  if (!copertura) Avvisa(causa);
+  return copertura;
+}
+
+std::optional<Lessico> PreparaLessico(const SceltaParole& scelta) {
+  std::string causa;
+  auto lessico = LessicoDi(scelta, LuoghiDeiLessici(), causa);
+  if (!lessico) Avvisa(causa);
+  return lessico;
+}
+
+}  // namespace telarium::telar
