@@ -47,6 +47,12 @@ const std::map<std::string, Folders> Allowed = {
     {"telarium", With(Core, {"platform/qt", "windows", "telarium"})},
 };
 
+// Folders of functions on values, and what would give them a state, a user or a folder that no call
+// named.
+const Folders OfValues = {"lexicon", "laboratory"};
+const Folders Shared = {"model/state.h", "platform/platform.h", "platform/program_folder.h",
+                        "dictionary/dictionary.h"};
+
 // The layer of a source file by its path below src.
 std::string LayerOf(const std::string& path) {
   if (path.find("/windows/") != std::string::npos) return "windows";
@@ -73,6 +79,7 @@ void CheckInclude(const fs::path& file, const std::string& folder, const std::st
   const std::string name = included.substr(1, included.size() - 2);
   const std::string target = LayerOf(name);
   EXPECT_TRUE(!own || Allowed.at(folder).contains(target)) << "an include points upward";
+  EXPECT_FALSE(OfValues.contains(folder) && Shared.contains(name)) << "more than values";
   EXPECT_FALSE(IsWithoutQt(folder) && !own && name.starts_with("Q")) << "Qt below the windows";
 }
 

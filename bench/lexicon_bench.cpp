@@ -1,0 +1,161 @@
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <random>
+
+#include <benchmark/benchmark.h>
+
+#include "lexicon/lexicon_file.h"
+#include "median_keeper.h"
+#include "process_cost.h"
+
+// Measures the lexicon of the Italian language beside the plain way: its words read into a sorted
+// table of strings, and each looked for there.
+namespace telarium {
+namespace {
+
+const Percorso File = Percorso(TELARIUM_DATA_DIR) / "lexicon/italiano.lexicon";
+constexpr int Words = 1000;  // looked for in an iteration
+
+using Table = std::vector<std::pair<std::string, NumeroVoce>>;
+
+std::shared_ptr<const FileLessico> Open() {
+  std::string cause;
+  auto lexicon = FileLessico::Apri(File, "italiano", cause);
+  if (!lexicon) std::fprintf(stderr, "%s: %s\n", File.c_str(), cause.c_str());
+  return lexicon;
+}
+
+Table ReadTable() {
+  const auto lexicon = Open();
+  Table table;
+  for (int length = MinLunghezzaVoce; length <= MaxLunghezzaVoce; ++length) {
+    for (int k = 0; k < lexicon->Conta(length); ++k) {
+      const NumeroVoce number = lexicon->Prima(length) + static_cast<NumeroVoce>(k);
+      table.emplace_back(lexicon->Parola(number), number);
+    }
+  }
+  std::sort(table.begin(), table.end());
+  return table;
+}
+
+bool Has(const Table& table, const std::string& word) {
+  const auto found = std::lower_bound(table.begin(), table.end(), std::pair(word, NumeroVoce{0}));
+  return found != table.end() && found->first == word;
+}
+
+// Words of the lexicon by chance, or such with one letter changed that it lacks.
+std::vector<std::string> Drawn(const Table& table, bool present) {
+  std::mt19937 random(20261124);
+  std::vector<std::string> words;
+  while (words.size() < Words) {
+    std::string word = table[random() % table.size()].first;
+    if (!present)
+      word[random() % word.size()] = static_cast<char>('A' + random() % LettereAlfabeto);
+    if (Has(table, word) == present) words.push_back(word);
+  }
+  return words;
+}
+
+void BM_OpenPlain(benchmark::State& state) {
+  for (auto _ : state)
+    benchmark::DoNotOptimize(ReadTable());
+}
+
+void BM_Open(benchmark::State& state) {
+  for (auto _ : state)
+    benchmark::DoNotOptimize(Open());
+}
+
+void BM_FindPlain(benchmark::State& state, const Table& table,
+                  const std::vector<std::string>& words) {
+  for (auto _ : state) {
+    for (const std::string& word : words)
+      benchmark::DoNotOptimize(Has(table, word));
+  }
+}
+
+void BM_Find(benchmark::State& state, const std::vector<std::string>& words) {
+  const auto lexicon = Open();
+  for (auto _ : state) {
+    for (const std::string& word : words)
+      benchmark::DoNotOptimize(lexicon->Cerca(word));
+  }
+}
+
+void BM_Read(benchmark::State& state, const std::vector<std::string>& words) {
+  const auto lexicon = Open();
+  for (auto _ : state) {
+    for (const std::string& word : words)
+      benchmark::DoNotOptimize(lexicon->Leggi(*lexicon->Cerca(word)));
+  }
+}
+
+void BM_Family(benchmark::State& state, const std::vector<std::string>& words) {
+  const auto lexicon = Open();
+  for (auto _ : state) {
+    for (const std::string& word : words)
+      benchmark::DoNotOptimize(lexicon->Famiglia(*lexicon->Cerca(word)));
+  }
+}
+
+struct Row {
+  const char* what;
+  const char* plain;  // name of the benchmark of the plain way; null where there is none
+  const char* ours;
+  int perIteration;  // how many of `what` an iteration does
+  const char* wanted;
+};
+
+constexpr Row Rows[] = {
+    {"the Italian lexicon opened", "open/plain", "open/telarium", 1, "under 5,000"},
+    {"a word looked for that is there", "there/plain", "there/telarium", Words, "under 2"},
+    {"one that is not", "absent/plain", "absent/telarium", Words, "under 2"},
+    {"a word looked for and read whole", nullptr, "read/telarium", Words, ""},
+    {"the other forms of its lemmas", nullptr, "family/telarium", Words, ""},
+};
+
+void PrintTable(std::map<std::string, double>& medians, const ProcessCost& process) {
+  std::printf("\n| | plain, µs | Telarium, µs | ratio | wanted |\n|---|---|---|---|---|\n");
+  for (const Row& row : Rows) {
+    const double ours = medians[row.ours] * 1000 / row.perIteration;
+    if (row.plain) {
+      const double plain = medians[row.plain] * 1000 / row.perIteration;
+      std::printf("| %s | %.2f | %.2f | %.1f | %s |\n", row.what, plain, ours, plain / ours,
+                  row.wanted);
+    } else {
+      std::printf("| %s | | %.2f | | %s |\n", row.what, ours, row.wanted);
+    }
+  }
+  if (!process.succeeded) return;
+  std::printf("| `telar lessico CASA`, whole process | | %.0f | | |\n",
+              process.milliseconds * 1000);
+  std::printf("| its peak memory | | %.1f MiB | | under 16 MiB |\n", process.peakMebibytes);
+}
+
+int Main() {
+  const ProcessCost process = MeasureProcess({TELAR_PROGRAM, "lessico", "CASA"}, 5);
+  if (!Open()) return 1;
+  const Table table = ReadTable();
+  const auto there = Drawn(table, true), absent = Drawn(table, false);
+  Register("open/plain", BM_OpenPlain);
+  Register("open/telarium", BM_Open);
+  Register("there/plain", BM_FindPlain, table, there);
+  Register("there/telarium", BM_Find, there);
+  Register("absent/plain", BM_FindPlain, table, absent);
+  Register("absent/telarium", BM_Find, absent);
+  Register("read/telarium", BM_Read, there);
+  Register("family/telarium", BM_Family, there);
+  MedianKeeper reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  PrintTable(reporter.medians, process);
+  return 0;
+}
+
+}  // namespace
+}  // namespace telarium
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  return telarium::Main();
+}
