@@ -123,8 +123,7 @@ class Composizione {
     byte += ComeTesto(std::as_bytes(std::span(caselle_)));
     byte += voci_;
     byte += timbro;
-    const std::uint64_t impronta = ImprontaABlocchi(ComeByte(byte), [] {});
-    std::memcpy(byte.data() + offsetof(Testata, impronta), &impronta, sizeof impronta);
+    SegnaImpronta(byte);
     return byte;
   }
 
@@ -160,6 +159,12 @@ std::string ComponiIndice(std::span<const VoceCopertura> voci, std::string_view 
   for (const VoceCopertura& voce : voci)
     composizione.Metti(voce);
   return composizione.Byte(timbro);
+}
+
+void SegnaImpronta(std::string& byte) {
+  if (byte.size() < sizeof(Testata)) return;
+  const std::uint64_t impronta = ImprontaABlocchi(ComeByte(byte), [] {});
+  std::memcpy(byte.data() + offsetof(Testata, impronta), &impronta, sizeof impronta);
 }
 
 std::shared_ptr<const IndiceCopertura> IndiceCopertura::Apri(Byte byte) {

@@ -62,6 +62,9 @@ inline constexpr int MaxConteggio = 65'535;
 /// The bytes of an index. Of entries of one word the first one counts, whatever it has.
 std::string ComponiIndice(std::span<const VoceCopertura> voci, std::string_view timbro);
 
+/// Puts the digest of the contents into its place, if there is room for it.
+void SegnaImpronta(std::string& byte);
+
 /// An index. It never changes, so that threads share it. Nothing that lies in it leads outside it.
 class IndiceCopertura {
  public:

@@ -81,6 +81,7 @@ std::vector<VoceCopertura> LeggiVociCopertura(const Percorso& archivio,
     while (righe.Passo())
       lettura.Riga(righe.VistaUtf8(0).value_or(""), righe.VistaUtf8(1), righe.VistaUtf8(2));
   }
+  base.Attesa(0);
   base.RiponiRegistro();
   return std::move(lettura).Voci();
 }

@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 
 constexpr Nanosecondi Scatto = 30ms;      // of the system's clock: 10 at most, with some room
 constexpr Nanosecondi ScattoGrosso = 2s;  // of file systems that keep whole seconds
-constexpr int AttesaDiScrittura = 100;    // milliseconds for another program's write to the log
+constexpr int AttesaDiScrittura = 30;    // milliseconds for another program's write to the log
 constexpr int TentativiDiFermare = 3;
 
 Nanosecondi Tempo(const timespec& tempo) {
@@ -30,9 +30,10 @@ Nanosecondi Tempo(const timespec& tempo) {
 class Stato {
  public:
   explicit Stato(const FontiIndice& fonti) {
-    Metti(fonti.archivio);
-    registro_ = Metti(Percorso(fonti.archivio) += "-wal") > 0;
-    Metti(fonti.corredo);
+    Metti(fonti.archivio, &stat::st_ctim);
+    // Whoever opens the log may give it its owner once more, which changes that time too.
+    registro_ = Metti(Percorso(fonti.archivio) += "-wal", &stat::st_mtim) > 0;
+    Metti(fonti.corredo, &stat::st_ctim);
     testo_ += '\n' + fonti.archivio.string();
   }
 
@@ -53,14 +54,14 @@ class Stato {
   }
 
  private:
-  // Gives the size, 0 for a file that is missing.
-  std::int64_t Metti(const Percorso& file) {
+  // Gives the size, 0 for a file that is missing. `quando` is the time of its last change.
+  std::int64_t Metti(const Percorso& file, timespec stat::*quando) {
     struct stat stato {};
     if (::stat(file.c_str(), &stato) != 0) {
       testo_ += "- ";
       return 0;
     }
-    const Nanosecondi cambiato = Tempo(stato.st_ctim);
+    const Nanosecondi cambiato = Tempo(stato.*quando);
     testo_ += Unisci(stato.st_dev, '.', stato.st_ino, '.', stato.st_size, '.',
                      Tempo(stato.st_mtim).count(), '.', cambiato.count(), ' ');
     cambiato_ = std::max(cambiato_, cambiato);
@@ -84,18 +85,27 @@ std::optional<Stato> StatoVecchio(const FontiIndice& fonti) {
   return std::nullopt;
 }
 
-// The same while no program is in the middle of a write to the log.
+// The state while no program is in the middle of a write to the log; none while one is, or when it
+// has just ended one, or where this user may not write.
 std::optional<Stato> StatoSenzaScritture(const FontiIndice& fonti) {
   BaseDati base(fonti.archivio);
   base.Attesa(AttesaDiScrittura);
   try {
     base.Esegui("BEGIN IMMEDIATE");
   } catch (const ErroreEnciclopedia&) {
-    return std::nullopt;  // being written to, or not to be written to by us
+    return std::nullopt;
   }
-  std::optional<Stato> stato = StatoVecchio(fonti);
+  // Others wait as long as this lasts.
+  std::optional<Stato> stato(fonti);
+  if (stato->Manca() > 0ns) stato.reset();
   base.Esegui("ROLLBACK");
   return stato;
+}
+
+void RiponiRegistro(const Percorso& archivio) {
+  BaseDati base(archivio);
+  base.Attesa(0);
+  base.RiponiRegistro();
 }
 
 }  // namespace
@@ -110,13 +120,13 @@ Percorso ArchivioDelTimbro(std::string_view timbro) {
 }
 
 std::optional<std::string> TimbroFermo(const FontiIndice& fonti) {
-  BaseDati(fonti.archivio).RiponiRegistro();
+  RiponiRegistro(fonti.archivio);
   for (int i = 0; i < TentativiDiFermare; ++i) {
     std::optional<Stato> stato = StatoVecchio(fonti);
-    if (stato && stato->ConRegistro()) stato = StatoSenzaScritture(fonti);
     if (!stato) return std::nullopt;
+    if (stato->ConRegistro()) stato = StatoSenzaScritture(fonti);
     // A connection of ours that was the last one has folded the log back at its end.
-    if (TimbroDi(fonti) == stato->Testo()) return stato->Testo();
+    if (stato && TimbroDi(fonti) == stato->Testo()) return stato->Testo();
   }
   return std::nullopt;
 }

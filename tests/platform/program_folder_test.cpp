@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "platform/user_folders.h"
 #include "support/telarium_test.h"
 
 namespace telarium {
@@ -39,6 +40,22 @@ TEST(ProgramFolder, EnvironmentDecidesWhichItIs) {
     const Variable home("HOME", row.home);
     EXPECT_EQ(ScegliCartellaProgramma().cartella, row.folder);
     EXPECT_EQ(ScegliCartellaProgramma().daRiempire, row.fill) << row.folder;
+  }
+}
+
+TEST(ProgramFolder, TheCacheFolderIsWhereTheSystemHasIt) {
+  const struct {
+    const char *cache, *home;
+    Percorso folder;
+  } cases[] = {
+      {"/cache", "/casa", "/cache/telarium"},
+      {"relativa", "/casa", "/casa/.cache/telarium"},
+      {nullptr, "relativa", ""},
+  };
+  for (const auto& row : cases) {
+    const Variable cache("XDG_CACHE_HOME", row.cache);
+    const Variable home("HOME", row.home);
+    EXPECT_EQ(CartellaCacheUtente(), row.folder);
   }
 }
 

@@ -1,6 +1,7 @@
 #include "support/telarium_test.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <sstream>
 
 #include "dictionary/dictionary_writer.h"
@@ -25,6 +26,8 @@ void TelariumTest::SetUp() {
   ImpostaPiattaforma(&platform);
   ASSERT_FALSE(folder_.Nome().empty());
   CartellaProgramma = folder_.Nome();
+  // The cache of whoever runs the tests is left alone.
+  ASSERT_EQ(::setenv("XDG_CACHE_HOME", InFolder("cache").c_str(), 1), 0);
 }
 
 void TelariumTest::TearDown() {

@@ -22,7 +22,8 @@ constexpr std::chrono::milliseconds TimeLimit(120'000);
 // the tests to ignore; then it becomes `telar`.
 std::vector<std::string> CommandLine(const TelarCall& call) {
   std::vector<std::string> words = {"env", "--default-signal=INT,PIPE", "-C", call.folder};
-  for (const char* name : {"TELARIUM_CARTELLA", "XDG_DATA_HOME", "HOME", "TMPDIR"})
+  for (const char* name :
+       {"TELARIUM_CARTELLA", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME", "TMPDIR"})
     words.push_back(std::string("-u") + name);
   words.insert(words.end(), call.environment.begin(), call.environment.end());
   words.push_back(TELAR_PROGRAM);

@@ -36,6 +36,7 @@ class Telar : public TelariumTest {
     }
     call.folder = InFolder("work");
     call.environment = {"TMPDIR=" + InFolder("tmp").string(), "HOME=" + InFolder("home").string(),
+                        "XDG_CACHE_HOME=" + InFolder("cache").string(),
                         "TELARIUM_CARTELLA=" + InFolder("program").string()};
     WriteFile("work/old", "old");
     // Cells "CA*.", "IND" with an accented A, "....": two companion marks are wrong, one clue
