@@ -8,7 +8,7 @@
 namespace telarium {
 namespace {
 
-constexpr const char* NomeListaDelCorredo = "sigle.tsv";
+constexpr const char* NomeListaDelCorredo = "15-sigle.tsv";  // see data/CMakeLists.txt
 constexpr std::size_t MaxByteCorredo = 1 << 20;
 
 bool Compresa(std::size_t famiglia, QualiDefinizioni quali) {
