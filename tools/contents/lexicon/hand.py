@@ -1,0 +1,32 @@
+"""The hand-made lists that go into the Italian lexicon. Each may be missing."""
+
+from .text import fold, hand_lines
+
+
+class HandLists:
+    """Each list as folded form to the fields of its line, the spelling first; a score comes last."""
+
+    def __init__(self, folder):
+        self.banned = table(folder / "bandite.txt")
+        self.foreign = table(folder / "straniere.txt")
+        self.names = table(folder / "nomi.txt")
+        self.abbreviations = table(folder / "sigle_lunghe.txt")
+        self.three = table(folder / "tre_lettere.tsv")
+        self.phrases = table(folder / "locuzioni.txt")
+        self.judged = {key: readings_of(fields)
+                       for key, fields in table(folder / "ambigue.tsv").items()}
+
+
+def table(path):
+    rows = [[field.strip() for field in line.split("\t")] for line in hand_lines(path)]
+    return {fold(row[0]): row for row in rows if fold(row[0])}
+
+
+def readings_of(fields):
+    """Pairs of code and lemma of a line of ambigue.tsv."""
+    pairs = []
+    for reading in fields[1].split(";") if len(fields) > 1 else ():
+        code, _, lemma = reading.partition("=")
+        if code:
+            pairs.append((code, lemma or fields[0]))
+    return pairs
