@@ -24,16 +24,23 @@ void Separate(Esame& esame) {
   }
 }
 
+// The word that runs through a cell which has but one, and where it does, from 1.
+std::pair<const VoceDiGriglia*, int> UnicaVoce(const Esame& esame, Casella casella) {
+  for (const int direzione : Direzioni) {
+    const int parola = esame.griglia.ParolaPer(casella, direzione);
+    if (parola == Derivati::NessunaParola) continue;
+    const VoceDiGriglia& voce = esame.voci[static_cast<std::size_t>(parola)];
+    const Casella inizio = voce.slot.inizio;
+    return {&voce, casella.colonna - inizio.colonna + casella.riga - inizio.riga + 1};
+  }
+  return {};
+}
+
 void CelleInUnaParola(Esame& esame) {
   for (const Casella casella : CelleSole(esame.griglia)) {
-    const int orizzontale = esame.griglia.ParolaPer(casella, Orizzontale);
-    const int parola = orizzontale != Derivati::NessunaParola
-                           ? orizzontale
-                           : esame.griglia.ParolaPer(casella, Verticale);
-    esame.Rileva(
-        Codice::CellaSola, casella,
-        Unisci("La casella ", casella.colonna, ',', casella.riga, " sta in una parola sola: ",
-               esame.voci[static_cast<std::size_t>(parola)].Nome(), '.'));
+    const auto [voce, posto] = UnicaVoce(esame, casella);
+    esame.Rileva(Codice::CellaSola, casella,
+                 Unisci("La casella ", posto, " di ", voce->Nome(), " non ha un incrocio."));
   }
 }
 

@@ -44,5 +44,6 @@ std::vector<Comando> ComandiDizionario();
 std::vector<Comando> ComandiDefinizioni();
 std::vector<Comando> ComandiUscita();
 std::vector<Comando> ComandiLessico();
+std::vector<Comando> ComandiControllo();
 
 }  // namespace telarium::telar

@@ -173,8 +173,8 @@ Stato EseguiRigaDiComando(std::vector<std::string> parole, PiattaformaConsole& p
 const std::vector<Comando>& Comandi() {
   static const std::vector<Comando> comandi = [] {
     std::vector<Comando> tutti = ComandiCruciverba();
-    for (const auto& altri :
-         {ComandiDizionario(), ComandiDefinizioni(), ComandiUscita(), ComandiLessico()})
+    for (const auto& altri : {ComandiDizionario(), ComandiDefinizioni(), ComandiUscita(),
+                              ComandiLessico(), ComandiControllo()})
       tutti.insert(tutti.end(), altri.begin(), altri.end());
     return tutti;
   }();

@@ -180,7 +180,7 @@ const Planted Cases[] = {
      .clues = {{"5O", "Pesca in acque, malaltre, por"}},
      .found = {"definizione-rivela 1,2 O La definizione di ETIRE (5 orizzontale) contiene un'altra "
                "voce dello schema: PESCA (1 verticale).",
-               "cella-sola 5,1 - La casella 5,1 sta in una parola sola: AEOEE (4 verticale)."}},
+               "cella-sola 5,1 - La casella 1 di AEOEE (4 verticale) non ha un incrocio."}},
     {.name = "BannedEntryAndClue",
      .words = {"PORTA 80 +bandita", "SCEMO 80 +bandita"},
      .clues = {{"6O", "Uno Scemo, no"}, {"7O", "La zuppa"}},
