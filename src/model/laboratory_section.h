@@ -35,13 +35,13 @@ struct InizioDiParola {
 };
 
 struct Laboratorio {
-  std::vector<InizioDiParola> bloccate;
+  std::vector<InizioDiParola> bloccate = {};
   // Words without blanks and control characters: no file holds others.
-  std::vector<std::string> proprie;
-  std::vector<std::string> vietate;
-  std::optional<Simmetria> simmetria;  // none: never chosen
+  std::vector<std::string> proprie = {};
+  std::vector<std::string> vietate = {};
+  std::optional<Simmetria> simmetria = {};  // none: never chosen
   /// Lines of which this version knows nothing, in the order of the file.
-  std::vector<std::string> altreRighe;
+  std::vector<std::string> altreRighe = {};
 
   bool operator==(const Laboratorio&) const = default;
 };

@@ -20,6 +20,7 @@ class NewCrossword : public TelariumTest {
     Draw({"AB", "CD"});
     Definizione(1, 1, Orizzontale) = Definizione(53, 30, Verticale) = "di prima";
     ColoreCasella(1, 2) = 255;
+    LaboratorioDelCruciverba.vietate = {"AB"};
     SchemaModificato = Vero;
   }
 
@@ -28,6 +29,7 @@ class NewCrossword : public TelariumTest {
     EXPECT_EQ(Schema(4) + Schema(5) + Schema(6), "Dimensioni : 02x02A.B.C.D.");
     EXPECT_EQ(NumColonne + NumRighe, 4);
     EXPECT_EQ(Definizione(1, 1, Orizzontale), "di prima");
+    EXPECT_EQ(LaboratorioDelCruciverba.vietate, Texts{"AB"});
     EXPECT_EQ(SchemaModificato, Vero);
     EXPECT_EQ(NomeCruciverba, "prova.tlrm");
     EXPECT_FALSE(std::filesystem::exists(PercorsoIstantanea()));

@@ -2,12 +2,28 @@
 #include "editor/resizing.h"
 #include "fuzz/fuzz_target.h"
 #include "model/crossword_file.h"
+#include "model/crossword_reader.h"
+#include "model/crossword_writer.h"
 #include "model/words.h"
 #include "platform/check.h"
 
 using namespace telarium;
 
 namespace {
+
+// Whatever was read can be written, and its file gives it back.
+void ReadAndWrite(std::string_view input) {
+  const Cruciverba read = LeggiContenuto(input).cruciverba;
+  const auto written = ContenutoDelFile(read);
+  Verifica(written.has_value(), "what was read cannot be written");
+  if (read.colonne == 0) return;
+  const LetturaDelFile again = LeggiContenuto(*written);
+  Verifica(!again.guasto, "the writer's file has a fault");
+  Verifica(again.cruciverba.laboratorio == read.laboratorio, "the laboratory kept something else");
+  const auto second = ContenutoDelFile(again.cruciverba);
+  Verifica(second == written, "the second file differs from the first");
+  Verifica(LeggiContenuto(*second).cruciverba == again.cruciverba, "another value was read");
+}
 
 // The crossword as its file holds it; empty when it has a character that no file can hold.
 std::string Written() {
@@ -43,6 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   StartFresh();
   const std::string_view input = TextOf(data, size);
   const bool slow = OneIn(8, input);
+  ReadAndWrite(input);
   const bool read = InterpretaCruciverba(input);
   RicalcolaCaselle();
   if (slow) Preview(input);

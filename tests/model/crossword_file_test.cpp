@@ -202,6 +202,27 @@ TEST_F(CrosswordFile, ACutFileShowsNothingOfTheEarlierCrossword) {
   EXPECT_EQ(Schema(6) + Schema(7), "");
 }
 
+TEST_F(CrosswordFile, WhatTheLaboratoryKeepsStaysWithItsCrosswordAndIsNotPublished) {
+  const std::string section = "[Laboratorio]\r\nproprie = ZZ\r\naltro = 1\r\n";
+  const std::string bytes = SmallFile() + section;
+  ASSERT_EQ(ApriCruciverba(WriteFile("uno.tlrm", bytes)), Apertura::Intera);
+  ASSERT_TRUE(ScriviIstantanea());
+  ASSERT_TRUE(LeggiIstantanea());
+  EXPECT_EQ(FirstDifference(TestoDelCruciverba().value(), bytes), "");
+  EXPECT_EQ(FirstDifference(TestoDaPubblicare().value(), SmallFile()), "");
+  ASSERT_TRUE(InterpretaCruciverba(SmallFile())) << "a reading without a section clears nothing";
+  EXPECT_EQ(LaboratorioDelCruciverba.proprie, Texts{"ZZ"});
+
+  const std::string large = "[Laboratorio]\r\n" + std::string(1u << 20, 'x');
+  EXPECT_EQ(ApriCruciverba(WriteFile("uno.tlrm", SmallFile() + large)), Apertura::Parziale);
+  ExpectReadError("la sezione [Laboratorio] è troppo grande"_cp);
+  EXPECT_EQ(FirstDifference(TestoDelCruciverba().value(), SmallFile()), "");
+
+  LaboratorioDelCruciverba.proprie = {"ZZ"};
+  ASSERT_EQ(ApriTestoDiCruciverba(bytes), Apertura::Intera) << "from a page";
+  EXPECT_EQ(FirstDifference(TestoDelCruciverba().value(), SmallFile()), "");
+}
+
 TEST_F(CrosswordFile, IsRefusedPastSixteenMegabytesAndMissingEndsTheProgram) {
   const Percorso path = WriteFile("uno.tlrm", SmallFile());
   std::filesystem::resize_file(path, 16777216);  // zeros behind the colours, which nobody reads

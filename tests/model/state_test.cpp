@@ -35,6 +35,7 @@ using State = TelariumTest;
 std::vector<std::string> Everything() {
   std::vector<std::string> all;
   const auto add = [&](const auto&... values) { (all.push_back(Unisci(values)), ...); };
+  all.push_back(Unisci(LaboratorioDelCruciverba.vietate.size()));
   add(Schema(350), Definizione(53, 30, 2), ParolaCasella(53, 30, 2), LetteraCasella(53, 30));
   add(NumColonne, NumRighe, SchemaModificato, ColoreCasella(53, 30), TipoCasella(53, 30));
   add(NumeroCasella(53, 30), LatoCasella, OrigineX, OrigineY, ModoGriglia, PuntatoreMouse);
@@ -61,6 +62,7 @@ TEST_F(State, ResetPutsEveryVariableAsAtProgramStart) {
   AggiornaIstantanea();  // fails
   Schema(350) = Definizione(53, 30, 2) = ParolaCasella(53, 30, 2) = NomeFont = "x";
   ElencoDefinizioni(1) = IndirizzoWeb = "x";
+  LaboratorioDelCruciverba.vietate = {"X"};
   NomeCruciverba = NomeDizionario = RigaDiComando = FileComando = "x";
   for (std::int16_t* one : {&NumColonne,
                             &NumRighe,

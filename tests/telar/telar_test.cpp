@@ -30,6 +30,18 @@ TEST_F(Telar, CrosswordIsPrintedFieldByFieldAndCopiedToTheByte) {
   EXPECT_EQ(FirstDifference(Read("new"), copy), "");
 }
 
+TEST_F(Telar, WhatTheLaboratoryKeepsIsCopiedButInNoPage) {
+  const std::string section = "[Laboratorio]\r\nproprie = ZAZZERA\r\nsconosciuta = 1\r\n";
+  Out("copia sample new");
+  Write("kept", Read("new") + section);
+  Out("copia kept copy");
+  EXPECT_EQ(FirstDifference(Read("copy"), Read("new") + section), "");
+  Out("form kept --uscita page.html");
+  EXPECT_EQ(Read("page.html").find("ZAZZERA"), std::string::npos);
+  Out("apri page.html again");
+  EXPECT_EQ(FirstDifference(Read("again"), Read("new")), "");
+}
+
 TEST_F(Telar, LineBreaksAndTabsInCellsAreOneBlankEach) {
   Write("x", Unisci(Head, "04x01\r\n'.$.#.[.\r\n"));
   EXPECT_EQ(Out("griglia x"), "   A\n");
