@@ -9,6 +9,8 @@
 #include "fill/placed_word.h"
 #include "fill/word_choice.h"
 #include "model/crossword_file.h"
+#include "model/current_crossword.h"
+#include "model/derivation.h"
 #include "model/pointer.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
@@ -122,12 +124,8 @@ class Estrazione {
       for (std::size_t p = 0; p < riga.size(); p += 2) {
         if (riga[p] != CellaNera) riga[p] = CellaVuota;
       }
-      for (int c = 1; c <= MaxColonne; ++c) {
-        if (TipoCasella(c, r) <= 1) continue;
-        for (const int d : Direzioni)
-          Definizione(c, r, d).clear();
-      }
     }
+    SvuotaDefinizioniDegliInizi();
     pittore_.DirettoSulloSchermo();
     const bool registrata = ConsolidaSchema();
     for (int c = 1; c <= MaxColonne; ++c) {
@@ -137,6 +135,15 @@ class Estrazione {
     }
     pittore_.PreparaCarattere();
     return registrata;
+  }
+
+  // Clues outside the grid, and those that have lost their start, stay.
+  static void SvuotaDefinizioniDegliInizi() {
+    const Derivati derivati = Deriva(CruciverbaCorrente());
+    for (const Slot& slot : derivati.Parole()) {
+      for (const int d : Direzioni)
+        Definizione(slot.inizio.colonna, slot.inizio.riga, d).clear();
+    }
   }
 
   // The slots that a dictionary has words for, the longest first, among equally long ones in

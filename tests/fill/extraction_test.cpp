@@ -99,11 +99,13 @@ TEST_F(ExtractionTest, LettersAndCluesOfWordsGoAndTheSnapshotHoldsTheNewOnes) {
   DrawJoined("XXXXX ##X## ##.## ##X##");
   Definizione(1, 1, 1) = Definizione(1, 1, 2) = Definizione(3, 1, 2) = "of a start cell";
   Definizione(2, 1, 1) = "of another cell";
+  Definizione(6, 1, 2) = "of a column taken away";
+  TipoCasella(6, 1) = 3;  // as it was in the wider grid
   OpenDictionary(TeeWords);
   machine.draws = {DrawCarta};
   EXPECT_EQ(Run(), TeeWithCarta);
   EXPECT_EQ(Definizione(1, 1, 1) + Definizione(1, 1, 2) + Definizione(3, 1, 2), "");
-  EXPECT_EQ(Definizione(2, 1, 1), "of another cell");
+  EXPECT_EQ(Definizione(2, 1, 1) + Definizione(6, 1, 2), "of another cellof a column taken away");
   const std::string rows = "\r\n].[.l.n.[.\r\nD*D*i.D*D*\r\nD*D*m.D*D*\r\nD*D*[.D*D*\r\n";
   EXPECT_NE(ReadFile(PercorsoIstantanea()).find(rows), std::string::npos);
 }
