@@ -36,18 +36,14 @@ bool AggiungiGriglia(std::string& testo, const Cruciverba& cruciverba) {
   return true;
 }
 
+// The clues stand in the file in the order in which the table has them.
 void AggiungiDefinizioni(std::string& testo, const Cruciverba& cruciverba) {
   const Derivati derivati = Deriva(cruciverba);
-  for (int c = 1; c <= cruciverba.colonne; ++c) {
-    for (int r = 1; r <= cruciverba.righe; ++r) {
-      for (const int d : Direzioni) {
-        const std::string& definizione = cruciverba.definizioni(c, r, d);
-        if (definizione.empty() || !derivati.Inizia({c, r}, d)) continue;
-        AggiungiRiga(testo,
-                     Unisci(InTreCaratteri(c), InTreCaratteri(r), d, '-', InUnaRiga(definizione)));
-      }
-    }
-  }
+  cruciverba.definizioni.PerOgni([&](const std::string& definizione, int c, int r, int d) {
+    if (!derivati.Dentro({c, r}) || !derivati.Inizia({c, r}, d)) return;
+    AggiungiRiga(testo,
+                 Unisci(InTreCaratteri(c), InTreCaratteri(r), d, '-', InUnaRiga(definizione)));
+  });
 }
 
 void AggiungiColori(std::string& testo, const Cruciverba& cruciverba) {

@@ -5,15 +5,6 @@
 namespace telarium {
 namespace {
 
-// Calls `visita` with each place of the largest grid, by columns, in them by rows.
-template <class Visita>
-void PerOgniPosto(Visita visita) {
-  for (int c = 1; c <= MaxColonne; ++c) {
-    for (int r = 1; r <= MaxRighe; ++r)
-      visita(c, r);
-  }
-}
-
 std::string& RigaDiGriglia(std::size_t indice) {
   return Schema(static_cast<int>(indice) + 1 + RigheIntestazione);
 }
@@ -29,13 +20,15 @@ Cruciverba CruciverbaCorrente() {
   cruciverba.griglia.resize(static_cast<std::size_t>(NumRighe));
   for (std::size_t i = 0; i < cruciverba.griglia.size(); ++i)
     cruciverba.griglia[i] = RigaDiGriglia(i);
-  PerOgniPosto([&](int c, int r) {
-    for (const int d : Direzioni) {
-      const std::string& definizione = Definizione(c, r, d);
-      if (!definizione.empty()) cruciverba.definizioni.Imposta(definizione, c, r, d);
+  for (int c = 1; c <= MaxColonne; ++c) {
+    for (int r = 1; r <= MaxRighe; ++r) {
+      for (const int d : Direzioni) {
+        const std::string& definizione = Definizione(c, r, d);
+        if (!definizione.empty()) cruciverba.definizioni.Imposta(definizione, c, r, d);
+      }
+      if (ColoreCasella(c, r) != ColoreNero) cruciverba.colori.Imposta(ColoreCasella(c, r), c, r);
     }
-    if (ColoreCasella(c, r) != ColoreNero) cruciverba.colori.Imposta(ColoreCasella(c, r), c, r);
-  });
+  }
   cruciverba.laboratorio = LaboratorioDelCruciverba;
   return cruciverba;
 }
@@ -47,11 +40,12 @@ void PrendiCruciverba(const Cruciverba& cruciverba) {
   NumRighe = static_cast<std::int16_t>(cruciverba.righe);
   for (std::size_t i = 0; i < cruciverba.griglia.size(); ++i)
     RigaDiGriglia(i) = cruciverba.griglia[i];
-  PerOgniPosto([&](int c, int r) {
-    for (const int d : Direzioni)
-      Definizione(c, r, d) = cruciverba.definizioni(c, r, d);
-    ColoreCasella(c, r) = cruciverba.colori(c, r);
+  SvuotaDefinizioni();
+  cruciverba.definizioni.PerOgni([](const std::string& definizione, int c, int r, int d) {
+    Definizione(c, r, d) = definizione;
   });
+  ColoreCasella.Riempi(ColoreNero);
+  cruciverba.colori.PerOgni([](Colore colore, int c, int r) { ColoreCasella(c, r) = colore; });
   LaboratorioDelCruciverba = cruciverba.laboratorio;
 }
 

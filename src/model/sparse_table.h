@@ -1,8 +1,10 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <limits>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -11,8 +13,8 @@
 namespace telarium {
 
 /// A checked table as Tabella, for values that are copied and kept in numbers: only entries other
-/// than T{} take room, so that equal contents are equal tables. In the order of its indices, the
-/// last one running fastest.
+/// than T{} take room, so that equal contents are equal tables. They stand in the order of their
+/// indices, the last one running fastest.
 template <class T, class... Assi>
 class TabellaRada {
  public:
@@ -45,6 +47,14 @@ class TabellaRada {
   /// How many entries are other than T{}.
   std::size_t Quanti() const { return elementi_.size(); }
 
+  /// Calls `visita` with each of them and its indices, in their order.
+  template <class Visita>
+  void PerOgni(Visita visita) const {
+    for (const auto& [posto, valore] : elementi_) {
+      std::apply([&](auto... indice) { visita(valore, indice...); }, IndiciDi(posto));
+    }
+  }
+
   bool operator==(const TabellaRada& altra) const { return elementi_ == altra.elementi_; }
 
  private:
@@ -55,6 +65,15 @@ class TabellaRada {
   template <class... Indice>
   std::uint16_t Posto(Indice... indice) const {
     return static_cast<std::uint16_t>(PostoNellaTabella<Assi...>(nome_, indice...));
+  }
+
+  static std::array<int, sizeof...(Assi)> IndiciDi(int posto) {
+    constexpr int primi[] = {Assi::primo...};
+    constexpr int quanti[] = {Assi::quanti...};
+    std::array<int, sizeof...(Assi)> indici;
+    for (std::size_t i = indici.size(); i-- > 0; posto /= quanti[i])
+      indici[i] = primi[i] + posto % quanti[i];
+    return indici;
   }
 
   typename std::vector<Elemento>::const_iterator Cerca(std::uint16_t posto) const {
