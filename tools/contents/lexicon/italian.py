@@ -111,7 +111,7 @@ class Italian:
                                         not form.isascii(), form))
 
     def _spelling(self, key):
-        for table in (self.hand.phrases, self.hand.three, self.hand.names):
+        for table in (self.hand.phrases, self.hand.three, self.hand.names, self.hand.no_names):
             if key in table:
                 return (table[key][0],)
         for table in (self.hand.abbreviations, self.hand.foreign):
@@ -175,6 +175,8 @@ class Italian:
     # ---- names and marks
 
     def _is_name(self, key, forms, ordered):
+        if key in self.hand.no_names:
+            return False
         if key in self.hand.names or self.hand.three.get(key, ["", ""])[1] == "nome":
             return True
         named = [form for form in forms if form in self.readings.names]
