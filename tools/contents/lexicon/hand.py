@@ -10,7 +10,7 @@ class HandLists:
         self.banned = table(folder / "bandite.txt")
         self.foreign = table(folder / "straniere.txt")
         self.names = table(folder / "nomi.txt")
-        self.no_names = table(folder / "parole.txt")  # words first, though oftener with a capital
+        self.own_words = table(folder / "parole.txt")  # neither names nor foreign, as sources have them
         self.abbreviations = table(folder / "sigle_lunghe.txt")
         self.three = table(folder / "tre_lettere.tsv")
         self.phrases = table(folder / "locuzioni.txt")

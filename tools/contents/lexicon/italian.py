@@ -70,6 +70,7 @@ class Italian:
         known = set(self.words)
         hand = self.hand
         added = set(hand.names) | set(hand.abbreviations) | set(hand.phrases) | set(hand.foreign)
+        added |= set(hand.own_words)
         added |= {key for key, row in hand.three.items() if row[1:2] != ["via"]} | set(hand.judged)
         added |= {fold(stem) for stem in self.readings.hunspell.stems
                   if stem.isalpha() and stem[0].isupper()}
@@ -111,7 +112,7 @@ class Italian:
                                         not form.isascii(), form))
 
     def _spelling(self, key):
-        for table in (self.hand.phrases, self.hand.three, self.hand.names, self.hand.no_names):
+        for table in (self.hand.phrases, self.hand.three, self.hand.names, self.hand.own_words):
             if key in table:
                 return (table[key][0],)
         for table in (self.hand.abbreviations, self.hand.foreign):
@@ -175,7 +176,7 @@ class Italian:
     # ---- names and marks
 
     def _is_name(self, key, forms, ordered):
-        if key in self.hand.no_names:
+        if key in self.hand.own_words:
             return False
         if key in self.hand.names or self.hand.three.get(key, ["", ""])[1] == "nome":
             return True
@@ -219,8 +220,8 @@ class Italian:
             entry.marks.add("locuzione")
         if key in hand.banned:
             entry.marks.add("bandita")
-        if not kind and (key in hand.foreign or not entry.readings
-                         and self._is_foreign(entry.spelled)):
+        if not kind and key not in hand.own_words and (
+                key in hand.foreign or not entry.readings and self._is_foreign(entry.spelled)):
             entry.marks.add("straniera")
         if entry.marks & {"sigla"} and not entry.readings:
             entry.readings = [("sig", entry.spelled)]
@@ -276,7 +277,8 @@ class Italian:
     def _apply_hand_scores(self, entry):
         hand, key = self.hand, entry.folded
         scores = [row[-1] for row in (table.get(key, []) for table in (
-            hand.three, hand.phrases, hand.names, hand.abbreviations)) if row[-1:] and row[-1].isdigit()]
+            hand.three, hand.phrases, hand.names, hand.own_words, hand.abbreviations))
+                  if row[-1:] and row[-1].isdigit()]
         if scores:
             entry.score = int(scores[0])
         elif any(key in table for table in (hand.names, hand.abbreviations, hand.phrases)):
