@@ -20,9 +20,14 @@ std::error_code UltimoErrore() {
   return {errno, std::generic_category()};
 }
 
+// Recent systems keep what one call wrote in blocks as large as that, and whoever maps the file
+// gets a whole block into memory with each byte that is looked at.
+constexpr std::size_t MaxByteScrittura = 128u << 10;
+
 std::error_code ScriviTutto(int file, std::string_view contenuto) {
   while (!contenuto.empty()) {
-    const ssize_t scritti = ::write(file, contenuto.data(), contenuto.size());
+    const ssize_t scritti =
+        ::write(file, contenuto.data(), std::min(contenuto.size(), MaxByteScrittura));
     // Also an interruption: a pipe that nobody empties must not hold a user who wants to stop.
     if (scritti < 0) return UltimoErrore();
     contenuto.remove_prefix(static_cast<std::size_t>(scritti));
