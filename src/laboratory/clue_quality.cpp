@@ -53,43 +53,40 @@ std::string SenzaArticolo(std::string parola) {
 }
 
 // Words from one on, divided by blanks.
-template <class Forma>
-std::string Unite(const Parole& parole, std::size_t prima, std::size_t quante, Forma forma) {
+std::string Unite(const Parole& parole, std::size_t prima, std::size_t quante) {
   std::string unite;
   for (std::size_t i = prima; i < std::min(parole.size(), prima + quante); ++i) {
     if (!unite.empty()) unite += ' ';
-    unite += forma(parole[i]);
+    unite += parole[i].piegata;
   }
   return unite;
 }
 
-std::string Unite(const Parole& parole, std::size_t prima, std::size_t quante) {
-  return Unite(parole, prima, quante,
-               [](const ParolaDiDefinizione& parola) { return parola.piegata; });
+// How a clue begins, as openings of letter plays are written: text k has k words.
+std::vector<std::string> Inizi(const Parole& parole, std::size_t prima) {
+  constexpr std::size_t massimo = 3;  // of words in an opening
+  std::vector<std::string> inizi = {{}};
+  for (std::size_t i = prima; i < std::min(parole.size(), prima + massimo); ++i) {
+    const std::string_view spazio = inizi.size() > 1 ? " " : "";
+    inizi.push_back(Unisci(inizi.back(), spazio, SenzaArticolo(Maiuscole(parole[i].testo))));
+  }
+  return inizi;
 }
 
 std::size_t QuanteParole(std::string_view testo) {
   return static_cast<std::size_t>(std::count(testo.begin(), testo.end(), ' ')) + 1;
 }
 
-bool ApreCon(const Parole& parole, std::size_t prima, const tabelle::Apertura& apertura) {
-  const std::size_t quante = QuanteParole(apertura.parole);
-  const std::size_t tutte = parole.size() - prima;
-  if (apertura.sola ? tutte != quante + 1 : tutte <= quante) return false;
-  const auto forma = [](const ParolaDiDefinizione& parola) {
-    return SenzaArticolo(Maiuscole(parola.testo));
-  };
-  return Unite(parole, prima, quante, forma) == apertura.parole;
-}
-
 std::optional<std::string_view> GiocoDi(const Parole& parole) {
   const std::size_t prima = !parole.empty() && ArticoloDeterminativo(parole[0].piegata) ? 1 : 0;
-  const auto aperture = tabelle::ApertureDiGiochi();
-  const auto trovata = std::find_if(
-      aperture.begin(), aperture.end(),
-      [&](const tabelle::Apertura& apertura) { return ApreCon(parole, prima, apertura); });
-  if (trovata == aperture.end()) return std::nullopt;
-  return trovata->nome;
+  const std::size_t tutte = parole.size() - prima;
+  const std::vector<std::string> inizi = Inizi(parole, prima);
+  for (const auto& [testo, nome, sola] : tabelle::ApertureDiGiochi()) {
+    const std::size_t quante = QuanteParole(testo);
+    const bool resta = sola ? tutte == quante + 1 : tutte > quante;
+    if (resta && quante < inizi.size() && inizi[quante] == testo) return nome;
+  }
+  return std::nullopt;
 }
 
 // The longest common prefix that a text begins with.

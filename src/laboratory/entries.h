@@ -25,7 +25,7 @@ struct Criteri {
   /// None: no word has a clue in the store.
   const Copertura* copertura = nullptr;
   /// How hard the clue of a word is; none: no clue is hard.
-  std::function<GradoDefinizione(std::string_view parola, std::string_view definizione)> grado;
+  std::function<GradoDefinizione(std::string_view parola, std::string_view definizione)> grado = {};
   /// The least score of an entry, by its length.
   std::array<int, MaxLunghezzaVoce + 1> minimi{};
   bool vuoleDefinizioni = true;  // an entry without a clue is a fault
