@@ -215,7 +215,8 @@ class Italian:
             entry.marks.add("nome")
             entry.spelled = entry.readings[0][1]
         if key in hand.abbreviations and not self._has_word(key):
-            entry.marks.add("sigla")
+            entry.marks = entry.marks - {"nome"} | {"sigla"}
+            entry.readings = [("sig", entry.spelled)]
         if key in hand.phrases or SEVERAL_WORDS.search(entry.spelled):
             entry.marks.add("locuzione")
         if key in hand.banned:
