@@ -122,7 +122,8 @@ class Italian:
 
     def _has_word(self, key):
         """Whether an ordinary word, no finite form, stands under the key."""
-        return any(not FINITE.match(code) for form in self._spelled_forms(key)
+        return any(code not in ("np", "sig") and not FINITE.match(code)
+                   for form in self._spelled_forms(key)
                    for code, _ in self.readings.of(form)
                    if self.counts.small[form] or not self.counts.capital[form])
 
