@@ -1,5 +1,7 @@
 #include "clues/coverage.h"
 
+#include <utility>
+
 #include "clues/coverage_cache.h"
 #include "clues/coverage_reader.h"
 #include "clues/encyclopedia.h"
@@ -20,7 +22,7 @@ FontiIndice FontiDellIndice(const FontiCopertura& fonti) {
 
 // What one reading of the store has given.
 struct Letto {
-  std::vector<VoceCopertura> voci;
+  ComposizioneIndice indice;
   std::string timbro;  // what they are of; empty when that cannot be told
 };
 
@@ -32,7 +34,7 @@ Letto LeggiArchivio(const FontiIndice& fonti) {
     const std::string timbro = TimbroFermo(fonti).value_or("");
     const auto cambiato = [&] { return !timbro.empty() && TimbroDi(fonti) != timbro; };
     try {
-      Letto letto{.voci = LeggiVociCopertura(fonti.archivio, corredo), .timbro = timbro};
+      Letto letto{.indice = LeggiVociCopertura(fonti.archivio, corredo), .timbro = timbro};
       if (!cambiato()) return letto;
       letto.timbro.clear();
       if (ultimo) return letto;
@@ -43,8 +45,8 @@ Letto LeggiArchivio(const FontiIndice& fonti) {
 }
 
 std::shared_ptr<const IndiceCopertura> FaiIndice(const FontiIndice& fonti, const Percorso& file) {
-  const Letto letto = LeggiArchivio(fonti);
-  std::string byte = ComponiIndice(letto.voci, letto.timbro);
+  Letto letto = LeggiArchivio(fonti);
+  std::string byte = std::exchange(letto.indice, {}).Byte(letto.timbro);
   if (!letto.timbro.empty() && !file.empty() && ScriviIndice(file, byte)) {
     // What is mapped takes no memory of the program's own.
     if (auto scritto = LeggiIndice(file, letto.timbro)) return scritto;

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <limits>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/digest.h"
@@ -24,11 +25,7 @@ struct Testata {
 };
 static_assert(sizeof(Testata) == 40);
 
-struct Casella {
-  std::uint32_t impronta;
-  std::uint32_t voce;  // where it begins, + 1
-};
-static_assert(sizeof(Casella) == 8);
+using Casella = std::uint64_t;
 
 // In front of the letters.
 constexpr std::size_t ByteTestaVoce = 5;
@@ -71,8 +68,13 @@ std::uint64_t ImprontaABlocchi(std::span<const std::byte> byte, Dopo dopo) {
   return ImprontaDi(std::as_bytes(std::span(blocchi)));
 }
 
-std::uint32_t Superiore(std::uint64_t impronta) {
-  return static_cast<std::uint32_t>(impronta >> 32);
+// The slot of an entry: what it has of the digest, and where the entry is.
+constexpr Casella MascheraImpronta = 0xFFFFFFFF00000000;
+std::size_t PostoVoce(Casella casella) {
+  return (casella & ~MascheraImpronta) - 1;
+}
+bool PuoEssere(Casella casella, std::uint64_t impronta) {
+  return ((casella ^ impronta) & MascheraImpronta) == 0;
 }
 
 // A piece of the entries: what stands at `posto`. None outside them.
@@ -89,75 +91,77 @@ std::optional<VoceLetta> LeggiVoce(std::span<const std::byte> voci, std::size_t 
                     .difficili = Leggi<std::uint16_t>(voci, posto + 3)}};
 }
 
-// Slots and entries of an index that is being made.
-class Composizione {
- public:
-  explicit Composizione(std::size_t quante)
-      : caselle_(std::bit_ceil(std::max<std::size_t>(quante + quante / 4 + 1, 2))) {}
+std::uint16_t Conteggio(int quante) {
+  return static_cast<std::uint16_t>(std::clamp(quante, 0, MaxConteggio));
+}
 
-  void Metti(const VoceCopertura& voce) {
-    if (voce.parola.size() > MaxLunghezzaIndice) return;
-    const std::uint64_t impronta = ImprontaDi(voce.parola);
-    Casella& casella = PostoDi(voce.parola, impronta);
-    if (casella.voce != 0 || voci_.size() > MaxByteVoci) return;
-    casella = {Superiore(impronta), static_cast<std::uint32_t>(voci_.size() + 1)};
-    voci_ += static_cast<char>(voce.parola.size());
-    Aggiungi(voci_, Conteggio(voce.conteggio.facili));
-    Aggiungi(voci_, Conteggio(voce.conteggio.difficili));
-    voci_ += voce.parola;
-    parole_ += voce.conteggio.Alcuna() ? 1 : 0;
-  }
-
-  std::string Byte(std::string_view timbro) const {
-    Testata testata{.segno = {},
-                    .versione = Versione,
-                    .ordine = Ordine,
-                    .impronta = 0,
-                    .parole = parole_,
-                    .caselle = static_cast<std::uint32_t>(caselle_.size()),
-                    .byteVoci = static_cast<std::uint32_t>(voci_.size()),
-                    .byteTimbro = static_cast<std::uint32_t>(timbro.size())};
-    std::copy(Segno.begin(), Segno.end(), testata.segno);
-    std::string byte;
-    Aggiungi(byte, testata);
-    byte += ComeTesto(std::as_bytes(std::span(caselle_)));
-    byte += voci_;
-    byte += timbro;
-    SegnaImpronta(byte);
-    return byte;
-  }
-
- private:
-  // Far above any store's.
-  static constexpr std::size_t MaxByteVoci = std::numeric_limits<std::uint32_t>::max() / 2;
-
-  static std::uint16_t Conteggio(int quante) {
-    return static_cast<std::uint16_t>(std::clamp(quante, 0, MaxConteggio));
-  }
-
-  // The slot of a word, or the free one that it gets.
-  Casella& PostoDi(std::string_view parola, std::uint64_t impronta) {
-    const std::size_t maschera = caselle_.size() - 1;
-    for (std::size_t i = impronta & maschera;; i = (i + 1) & maschera) {
-      Casella& casella = caselle_[i];
-      if (casella.voce == 0) return casella;
-      if (casella.impronta == Superiore(impronta) &&
-          LeggiVoce(ComeByte(voci_), casella.voce - 1)->parola == parola)
-        return casella;
-    }
-  }
-
-  std::vector<Casella> caselle_;
-  std::string voci_;
-  std::uint32_t parole_ = 0;
-};
+// Far above any store's.
+constexpr std::size_t MaxByteVoci = std::numeric_limits<std::uint32_t>::max() / 2;
 
 }  // namespace
 
+void ComposizioneIndice::Metti(std::string_view parola, ConteggioDefinizioni conteggio) {
+  if (parola.size() > MaxLunghezzaIndice || voci_.size() > MaxByteVoci) return;
+  const std::uint64_t impronta = ImprontaDi(parola);
+  Casella& casella = PostoDi(parola, impronta);
+  if (casella != 0) return;
+  casella = (impronta & MascheraImpronta) | (voci_.size() + 1);
+  voci_ += static_cast<char>(parola.size());
+  Aggiungi(voci_, Conteggio(conteggio.facili));
+  Aggiungi(voci_, Conteggio(conteggio.difficili));
+  voci_ += parola;
+  conDefinizioni_ += conteggio.Alcuna() ? 1 : 0;
+  // A fifth stays free: the way to a free slot is short.
+  if (++quante_ > caselle_.size() / 5 * 4) Raddoppia();
+}
+
+// The slot of a word, or the free one that it gets.
+std::uint64_t& ComposizioneIndice::PostoDi(std::string_view parola, std::uint64_t impronta) {
+  const std::size_t maschera = caselle_.size() - 1;
+  for (std::size_t i = impronta & maschera;; i = (i + 1) & maschera) {
+    Casella& casella = caselle_[i];
+    if (casella == 0) return casella;
+    if (PuoEssere(casella, impronta) &&
+        LeggiVoce(ComeByte(voci_), PostoVoce(casella))->parola == parola)
+      return casella;
+  }
+}
+
+void ComposizioneIndice::Raddoppia() {
+  const std::vector<Casella> prima =
+      std::exchange(caselle_, std::vector<Casella>(2 * caselle_.size()));
+  for (const Casella casella : prima) {
+    if (casella == 0) continue;
+    const std::string_view parola = LeggiVoce(ComeByte(voci_), PostoVoce(casella))->parola;
+    PostoDi(parola, ImprontaDi(parola)) = casella;
+  }
+}
+
+std::string ComposizioneIndice::Byte(std::string_view timbro) const {
+  Testata testata{.segno = {},
+                  .versione = Versione,
+                  .ordine = Ordine,
+                  .impronta = 0,
+                  .parole = conDefinizioni_,
+                  .caselle = static_cast<std::uint32_t>(caselle_.size()),
+                  .byteVoci = static_cast<std::uint32_t>(voci_.size()),
+                  .byteTimbro = static_cast<std::uint32_t>(timbro.size())};
+  std::copy(Segno.begin(), Segno.end(), testata.segno);
+  const auto caselle = std::as_bytes(std::span(caselle_));
+  std::string byte;
+  byte.reserve(sizeof testata + caselle.size() + voci_.size() + timbro.size());
+  Aggiungi(byte, testata);
+  byte += ComeTesto(caselle);
+  byte += voci_;
+  byte += timbro;
+  SegnaImpronta(byte);
+  return byte;
+}
+
 std::string ComponiIndice(std::span<const VoceCopertura> voci, std::string_view timbro) {
-  Composizione composizione(voci.size());
+  ComposizioneIndice composizione;
   for (const VoceCopertura& voce : voci)
-    composizione.Metti(voce);
+    composizione.Metti(voce.parola, voce.conteggio);
   return composizione.Byte(timbro);
 }
 
@@ -202,9 +206,9 @@ ConteggioDefinizioni IndiceCopertura::Cerca(std::string_view parola) const {
   for (std::size_t passo = 0; passo < quante; ++passo) {
     const auto casella =
         Leggi<Casella>(caselle_, ((impronta + passo) & (quante - 1)) * sizeof(Casella));
-    if (casella.voce == 0) return {};
-    if (casella.impronta != Superiore(impronta)) continue;
-    const auto voce = LeggiVoce(voci_, casella.voce - 1);
+    if (casella == 0) return {};
+    if (!PuoEssere(casella, impronta)) continue;
+    const auto voce = LeggiVoce(voci_, PostoVoce(casella));
     if (voce && voce->parola == parola) return voce->conteggio;
   }
   return {};

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "clues/clue_family.h"
 #include "platform/mapped_file.h"
@@ -28,9 +29,9 @@
 //   32       4      bytes of the entries, E
 //   36       4      bytes of the stamp, S
 //
-//   40       8 T    slots: the upper half of ImprontaDi(word), then where its entry begins in the
-//                   entries, + 1; 0 in that place for none. A word is looked for from its digest
-//                   modulo T on, and the search ends at a slot of none
+//   40       8 T    slots: 0 for none, or a number whose upper half is that of ImprontaDi(word) and
+//                   whose lower half tells where the entry begins in the entries, + 1. A word is
+//                   looked for from its digest modulo T on, and the search ends at a 0
 //            E      entries: bytes of the word (1), easy clues (2), hard clues (2), the word
 //            S      stamp: what the index was made from
 namespace telarium {
@@ -59,7 +60,26 @@ inline constexpr std::size_t MaxLunghezzaIndice = 255;
 /// What counts there are past this one is not told.
 inline constexpr int MaxConteggio = 65'535;
 
-/// The bytes of an index. Of entries of one word the first one counts, whatever it has.
+/// An index in the making.
+class ComposizioneIndice {
+ public:
+  /// Adds an entry. Of those of one word the first one counts, whatever it has.
+  void Metti(std::string_view parola, ConteggioDefinizioni conteggio);
+
+  /// The bytes of an index of all that was added.
+  std::string Byte(std::string_view timbro) const;
+
+ private:
+  std::uint64_t& PostoDi(std::string_view parola, std::uint64_t impronta);
+  void Raddoppia();
+
+  std::vector<std::uint64_t> caselle_ = std::vector<std::uint64_t>(2);
+  std::string voci_;
+  std::uint32_t quante_ = 0;
+  std::uint32_t conDefinizioni_ = 0;
+};
+
+/// The bytes of an index of some entries.
 std::string ComponiIndice(std::span<const VoceCopertura> voci, std::string_view timbro);
 
 /// Puts the digest of the contents into its place, if there is room for it.

@@ -29,7 +29,7 @@ class Lettura {
   }
 
   void Riga(std::string_view parolaUtf8, const Famiglia& facili, const Famiglia& difficili) {
-    auto parola = Cercabile(parolaUtf8);
+    const auto parola = Cercabile(parolaUtf8);
     if (!parola) return;
     ConteggioDefinizioni conteggio = {ContaDefinizioni(facili.value_or("")),
                                       ContaDefinizioni(difficili.value_or(""))};
@@ -37,16 +37,15 @@ class Lettura {
       conteggio.facili += Nuove(*parola, QualiDefinizioni::Facili, facili);
       conteggio.difficili += Nuove(*parola, QualiDefinizioni::Difficili, difficili);
     }
-    voci_.push_back({std::move(*parola), conteggio});
+    indice_.Metti(*parola, conteggio);
   }
 
-  std::vector<VoceCopertura> Voci() && {
+  ComposizioneIndice Indice() && {
     for (const std::string& parola : mancanti_) {
-      voci_.push_back({parola,
-                       {Nuove(parola, QualiDefinizioni::Facili, std::nullopt),
-                        Nuove(parola, QualiDefinizioni::Difficili, std::nullopt)}});
+      indice_.Metti(parola, {Nuove(parola, QualiDefinizioni::Facili, std::nullopt),
+                             Nuove(parola, QualiDefinizioni::Difficili, std::nullopt)});
     }
-    return std::move(voci_);
+    return std::move(indice_);
   }
 
  private:
@@ -64,13 +63,13 @@ class Lettura {
   const DefinizioniDelCorredo& corredo_;
   std::set<std::string> mancanti_;  // words of the kit that no row was of so far
   std::size_t lunghezzaCorredo_ = 0;
-  std::vector<VoceCopertura> voci_;
+  ComposizioneIndice indice_;
 };
 
 }  // namespace
 
-std::vector<VoceCopertura> LeggiVociCopertura(const Percorso& archivio,
-                                              const DefinizioniDelCorredo& corredo) {
+ComposizioneIndice LeggiVociCopertura(const Percorso& archivio,
+                                      const DefinizioniDelCorredo& corredo) {
   Lettura lettura(corredo);
   BaseDati base(archivio);
   {
@@ -83,7 +82,7 @@ std::vector<VoceCopertura> LeggiVociCopertura(const Percorso& archivio,
   }
   base.Attesa(0);
   base.RiponiRegistro();
-  return std::move(lettura).Voci();
+  return std::move(lettura).Indice();
 }
 
 }  // namespace telarium

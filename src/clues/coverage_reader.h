@@ -1,18 +1,16 @@
 #pragma once
 
-#include <vector>
-
 #include "clues/clue_kit.h"
 #include "clues/coverage_index.h"
 #include "platform/files.h"
 
 namespace telarium {
 
-/// The words of a store and how many clues the first row of each has, the kit's among them, in the
-/// order of the rows; behind them the words that only the kit has. Words that no search finds are
-/// left out. Reads the store in one go, as it is at one moment. Its errors are thrown as
-/// ErroreEnciclopedia.
-std::vector<VoceCopertura> LeggiVociCopertura(const Percorso& archivio,
-                                              const DefinizioniDelCorredo& corredo);
+/// An index of the words of a store and how many clues the first row of each has, the kit's among
+/// them, in the order of the rows; behind them the words that only the kit has. Words that no
+/// search finds are left out. Reads the store in one go, as it is at one moment. Its errors are
+/// thrown as ErroreEnciclopedia.
+ComposizioneIndice LeggiVociCopertura(const Percorso& archivio,
+                                      const DefinizioniDelCorredo& corredo);
 
 }  // namespace telarium
