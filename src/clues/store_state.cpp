@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 
 constexpr Nanosecondi Scatto = 30ms;      // of the system's clock: 10 at most, with some room
 constexpr Nanosecondi ScattoGrosso = 2s;  // of file systems that keep whole seconds
-constexpr int AttesaDiScrittura = 30;    // milliseconds for another program's write to the log
+constexpr int AttesaDiScrittura = 30;     // milliseconds for another program's write to the log
 constexpr int TentativiDiFermare = 3;
 
 Nanosecondi Tempo(const timespec& tempo) {
