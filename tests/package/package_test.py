@@ -140,6 +140,13 @@ class Package(unittest.TestCase):
         self.assertEqual(self.names_in_own(), self.expected_names() | {"telarium1.mdb"})
         self.assertGreater(len(self.telar("parole", sample)[0].splitlines()), 10)
 
+    def test_clues_of_two_letters_count_where_the_encyclopedia_is_older(self):
+        clues = self.home / "clues"
+        clues.write_text("MELA\tF\tFrutto\n")
+        self.telar("--cartella", self.home, "enc-crea", clues)
+        line = self.telar("--cartella", self.home, "lessico", "--lessico", "sigle", "MI")[0].splitlines()[0]
+        self.assertGreater(sum(map(int, line.split("\t")[6:8])), 0, line)
+
     def test_a_newer_package_reaches_who_changed_nothing(self):
         self.telar("griglia", self.samples[0])
         tips = self.data / "TLRMTIPS.TXT"
