@@ -22,8 +22,15 @@ constexpr Nanosecondi ScattoGrosso = 2s;  // of file systems that keep whole sec
 constexpr int AttesaDiScrittura = 30;     // milliseconds for another program's write to the log
 constexpr int TentativiDiFermare = 3;
 
+// Far from now, where nanoseconds overflow, all times count as one.
 Nanosecondi Tempo(const timespec& tempo) {
-  return std::chrono::seconds(tempo.tv_sec) + Nanosecondi(tempo.tv_nsec);
+  constexpr std::time_t Ultimo = 9'000'000'000;
+  const std::chrono::seconds secondi(std::clamp<std::time_t>(tempo.tv_sec, 0, Ultimo));
+  return secondi + Nanosecondi(tempo.tv_nsec);
+}
+
+std::string Esatto(const timespec& tempo) {
+  return Unisci(tempo.tv_sec, ':', tempo.tv_nsec);
 }
 
 // What the system tells of the files, and what follows from it.
@@ -61,10 +68,9 @@ class Stato {
       testo_ += "- ";
       return 0;
     }
-    const Nanosecondi cambiato = Tempo(stato.*quando);
     testo_ += Unisci(stato.st_dev, '.', stato.st_ino, '.', stato.st_size, '.',
-                     Tempo(stato.st_mtim).count(), '.', cambiato.count(), ' ');
-    cambiato_ = std::max(cambiato_, cambiato);
+                     Esatto(stato.st_mtim), '.', Esatto(stato.*quando), ' ');
+    cambiato_ = std::max(cambiato_, Tempo(stato.*quando));
     return stato.st_size;
   }
 
