@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <mutex>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -53,6 +54,10 @@ std::error_code ScriviDirettamente(const Percorso& nome, std::string_view conten
 mode_t DirittiPer(const Percorso& nome) {
   struct stat stato {};
   if (::stat(nome.c_str(), &stato) == 0) return stato.st_mode & 07777;
+  // The mask can only be read by setting it: of two threads at once one would take the other's 0
+  // for it and leave that.
+  static std::mutex unoPerVolta;
+  const std::lock_guard blocco(unoPerVolta);
   const mode_t maschera = ::umask(0);
   ::umask(maschera);
   return 0666 & ~maschera;
