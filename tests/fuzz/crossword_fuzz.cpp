@@ -1,6 +1,7 @@
 #include "crossworddialogs/crossword_preview.h"
 #include "editor/resizing.h"
 #include "fuzz/fuzz_target.h"
+#include "laboratory/checks.h"
 #include "model/crossword_file.h"
 #include "model/crossword_reader.h"
 #include "model/crossword_writer.h"
@@ -23,6 +24,20 @@ void ReadAndWrite(std::string_view input) {
   const auto second = ContenutoDelFile(again.cruciverba);
   Verifica(second == written, "the second file differs from the first");
   Verifica(LeggiContenuto(*second).cruciverba == again.cruciverba, "another value was read");
+}
+
+// Whatever was read can be checked; each finding lies in the grid, or in no place.
+void Check(std::string_view input) {
+  const Cruciverba read = LeggiContenuto(input).cruciverba;
+  Criteri criteria;
+  criteria.regole = *RegolamentoDiNome(RegolamentoIniziale);
+  const Verdetto verdict = Controlla(read, criteria);
+  for (const auto* findings : {&verdict.errori, &verdict.avvisi}) {
+    for (const Rilievo& one : *findings) {
+      Verifica(one.inizio == Casella{} || NelloSchema(read, one.inizio), "outside the grid");
+      Verifica(!one.testo.empty(), "nothing is told");
+    }
+  }
 }
 
 // The crossword as its file holds it; empty when it has a character that no file can hold.
@@ -63,6 +78,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const bool read = InterpretaCruciverba(input);
   RicalcolaCaselle();
   if (slow) Preview(input);
+  if (slow) Check(input);
   if (NumColonne == 0) return 0;
   for (const char cell : {CellaNera, 'A', CellaVuota}) {
     ScriviInSchema({NumColonne, NumRighe}, cell);
