@@ -85,4 +85,13 @@ Verdetto Controlla(const Cruciverba& cruciverba, const Criteri& criteri) {
   return std::move(esame).Chiudi();
 }
 
+Criteri CriteriDi(const SceltaParole& scelta, Lessico lessico, const Copertura* copertura) {
+  return {.lessico = std::move(lessico),
+          .regole = scelta.regole,
+          .copertura = copertura,
+          .minimi = scelta.livelli,
+          .vuoleDefinizioni = scelta.definizioni != UsoDefinizioni::No,
+          .ammetteForme = scelta.ammetteForme};
+}
+
 }  // namespace telarium

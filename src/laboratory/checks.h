@@ -6,6 +6,7 @@
 
 #include "laboratory/entries.h"
 #include "laboratory/figures.h"
+#include "laboratory/word_selection.h"
 #include "model/cruciverba.h"
 
 // Whether a crossword is fit for print, and its figures.
@@ -61,5 +62,8 @@ struct Verdetto {
 };
 
 Verdetto Controlla(const Cruciverba& cruciverba, const Criteri& criteri);
+
+/// The criteria of what a person has chosen. The coverage must outlive them.
+Criteri CriteriDi(const SceltaParole& scelta, Lessico lessico, const Copertura* copertura);
 
 }  // namespace telarium

@@ -94,17 +94,10 @@ Stato Controlla(const Argomenti& argomenti, PiattaformaConsole&) {
   if (!lessico) return Stato::Fallito;
   const auto copertura = PreparaCopertura();
   DefinizioniDifficili difficili;
-  const Criteri criteri = {
-      .lessico = *lessico,
-      .regole = scelta->regole,
-      .copertura = copertura.get(),
-      .grado =
-          [&](std::string_view parola, std::string_view definizione) {
-            return GradoDefinizione{.difficile = copertura && difficili.Ha(parola, definizione)};
-          },
-      .minimi = scelta->livelli,
-      .vuoleDefinizioni = scelta->definizioni != UsoDefinizioni::No,
-      .ammetteForme = scelta->ammetteForme};
+  Criteri criteri = CriteriDi(*scelta, *lessico, copertura.get());
+  criteri.grado = [&](std::string_view parola, std::string_view definizione) {
+    return GradoDefinizione{.difficile = copertura && difficili.Ha(parola, definizione)};
+  };
   const Verdetto verdetto = telarium::Controlla(CruciverbaCorrente(), criteri);
   if (argomenti.Ha(OpzioneJson.nome)) {
     StampaJson(verdetto);
