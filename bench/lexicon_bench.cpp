@@ -134,7 +134,10 @@ void PrintTable(std::map<std::string, double>& medians, const ProcessCost& proce
 }
 
 int Main() {
-  const ProcessCost process = MeasureProcess({TELAR_PROGRAM, "lessico", "CASA"}, 5);
+  const std::vector<std::string> command = {TELAR_PROGRAM, "--cartella", TELARIUM_DATA_DIR,
+                                            "lessico", "CASA"};
+  MeasureProcess(command, 1);  // makes the index of the words that have clues
+  const ProcessCost process = MeasureProcess(command, 5);
   if (!Open()) return 1;
   const Table table = ReadTable();
   const auto there = Drawn(table, true), absent = Drawn(table, false);

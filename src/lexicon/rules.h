@@ -58,8 +58,8 @@ inline constexpr std::size_t MaxByteRegolamento = 64u << 10;
 std::optional<Regolamento> InterpretaRegolamento(std::string_view testoUtf8, std::string_view nome,
                                                  std::string& causa);
 
-/// Whether a word is of a limited kind. HA and its like in the kit count as no finite forms: the kit
-/// is what an editor takes in two letters.
+/// Whether a word is of a limited kind. HA and its like in the kit count as no finite forms: the
+/// kit is what an editor takes in two letters.
 bool Appartiene(const Parola& parola, Genia genia);
 
 /// Why a word may not stand in any crossword under a set of rules, whatever the shares: an Italian
