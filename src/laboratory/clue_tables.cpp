@@ -55,16 +55,14 @@ constexpr Apertura ElencoAperture[] = {
     {"MEZZO", "Mezzo", true}, {"MEZZA", "Mezza", true}, {"METÀ"_cp, "Metà"_cp, true},
 };
 
-// CON and its like are no beginnings of five letters, but with the vowel and consonant that so
-// often follow they become some: CONTENTO and contenere, DISTRETTO and distratto.
+// CON and its like are no beginnings of five letters, but with the letters that so often follow
+// they become some: COMPAGNO and compassione, DISTRETTO and distratto.
 constexpr std::string_view ElencoPrefissi[] = {
-    "ANTE", "ANTI", "ARCHI", "AUTO", "CIRCO", "CIRCUM", "COM", "CON", "CONTR",
-    "DIS", "ELETTR", "EXTRA", "FOTO", "IDRO", "INFRA",
-    "INTER", "INTRA", "INTRO", "IPER", "MACRO", "MAXI", "MEGA", "META", "MICRO", "MINI",
-    "MONO", "MULTI", "NEURO", "ONNI", "PARA", "PERI", "PLURI", "POLI", "POST", "PRE",
-    "PRO", "PSICO", "RADIO", "RETRO", "SEMI", "SOPRA", "SOTTO",
-    "SOVRA", "STRA", "SUPER", "TECNO", "TELE", "TERMO", "TRANS", "TRAS", "ULTRA",
-    "VIDEO",
+    "ANTE", "ANTI", "ARCHI", "AUTO", "CIRCO", "CIRCUM", "COM", "CON", "CONTR", "DIS", "ELETTR",
+    "EXTRA", "FOTO", "IDRO", "INFRA", "INTER", "INTRA", "INTRO", "IPER", "MACRO", "MAXI",
+    "MEGA", "META", "MICRO", "MINI", "MONO", "MULTI", "NEURO", "ONNI", "PARA", "PERI", "PLURI",
+    "POLI", "POST", "PRE", "PRO", "PSICO", "RADIO", "RETRO", "SEMI", "SOPRA", "SOTTO", "SOVRA",
+    "STRA", "SUPER", "TECNO", "TELE", "TERMO", "TRANS", "TRAS", "ULTRA", "VIDEO",
 };
 
 // Sorted, for a search by halves.

@@ -93,6 +93,7 @@ Stato Controlla(const Argomenti& argomenti, PiattaformaConsole&) {
   const auto lessico = PreparaLessico(*scelta);
   if (!lessico) return Stato::Fallito;
   const auto copertura = PreparaCopertura();
+  if (!copertura && scelta->definizioni == UsoDefinizioni::Obbligatorie) return Stato::Fallito;
   DefinizioniDifficili difficili;
   Criteri criteri = CriteriDi(*scelta, *lessico, copertura.get());
   criteri.grado = [&](std::string_view parola, std::string_view definizione) {

@@ -76,6 +76,7 @@ TEST_F(TelarCheck, AStoreThatCannotBeReadIsToldAndNoWordHasAClueThere) {
   EXPECT_EQ(result.status, 3);
   EXPECT_NE(result.err, "");
   EXPECT_NE(result.out.find("cifra\tfacili\t0\ncifra\tdifficili\t0\n"), std::string::npos);
+  EXPECT_EQ(Told("controlla grid --lessico words --definizioni obbligatorie", 1), result.err);
 }
 
 }  // namespace
