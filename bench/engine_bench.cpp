@@ -7,6 +7,7 @@
 
 #include "crossworddialogs/model_file.h"
 #include "crossworddialogs/new_crossword.h"
+#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "editor/commit.h"
 #include "fill/extraction.h"

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "dictionary/dictionary.h"
+#include "dictionary/dictionary_format.h"
 #include "platform/descriptor.h"
 #include "platform/files.h"
 

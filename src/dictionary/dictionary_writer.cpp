@@ -4,6 +4,7 @@
 
 #include "platform/codepage.h"
 #include "platform/folder_lock.h"
+#include "platform/text.h"
 
 namespace telarium {
 namespace {

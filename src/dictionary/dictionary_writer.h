@@ -5,6 +5,7 @@
 #include <string>
 
 #include "dictionary/word_list.h"
+#include "platform/files.h"
 
 namespace telarium {
 

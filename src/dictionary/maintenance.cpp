@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_file.h"
 #include "dictionary/word_list.h"
 #include "platform/codepage.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/codepage.h"
+#include "platform/text.h"
 
 namespace telarium {
 namespace {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "dictionary/dictionary.h"
+#include "dictionary/dictionary_format.h"
 
 // Plain word lists, from which dictionaries are built.
 namespace telarium {

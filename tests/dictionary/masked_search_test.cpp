@@ -1,5 +1,6 @@
 #include "dictionary/masked_search.h"
 
+#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "support/numbered_words.h"
 #include "support/telarium_test.h"

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "platform/codepage.h"
 #include "support/numbered_words.h"

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "dictionary/maintenance.h"
 #include "dictionary/masked_search.h"

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <sstream>
 
+#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "model/crossword_file.h"
 #include "model/words.h"

@@ -6,6 +6,7 @@
 
 #include "crossworddialogs/windows/file_lists.h"
 #include "dictionary/windows/word_box.h"
+#include "dictionary/dictionary.h"
 #include "dictionary/word_list.h"
 #include "platform/pace.h"
 #include "platform/qt/qt_canvas.h"
