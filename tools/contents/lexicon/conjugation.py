@@ -62,6 +62,12 @@ def regular(infinitive, verb_class):
     return pairs
 
 
+# Imperatives of one syllable double the consonant of a pronoun: dimmi, fallo, vacci.
+SHORT_IMPERATIVES = {"di": "dire", "da": "dare", "fa": "fare", "va": "andare", "sta": "stare"}
+# Pronouns that older Italian and advertisements put behind a finite form: vendesi, ruppemi.
+FINITE_CLITICS = ("si", "mi", "ti")
+
+
 def clitic_code(code, whole):
     """The code of a verb's form with pronouns behind it; "" where none can stand there. Only the
     infinitive loses its last vowel, and it always does: it is not `whole`."""

@@ -12,6 +12,7 @@ from .scores import (LEAST_COUNT, LEMMA_BY_VOTES, NAME_DISCOUNT, Scale, by_frequ
                      with_lemma)
 from .text import fold, list_order
 
+GUESSED_DISCOUNT = 1.5  # of a logarithm: what a form has less that only its ending shows for a verb's
 SHORTEST = 3  # two letters are the kit's
 FOREIGN_LOCALES = ("en_US", "en_GB", "fr_FR", "de_DE", "es_ES")
 MOST_READINGS = 6
@@ -45,6 +46,7 @@ class Italian:
             {form: self.counts.as_word(form) for form in self.readings.table})
         self.spellings = self._spellings()
         self.list_order = list_order(self.words)
+        self.guessed = set()  # entries whose readings no source has
 
     def entries(self):
         left_out = {key for key, row in self.hand.three.items() if row[1:2] == ["via"]}
@@ -83,6 +85,8 @@ class Italian:
     def _worth_adding(self, form, choices):
         if self.counts.all(form):
             return True
+        if form not in self.readings.attested:
+            return False
         if all(code.endswith("comp") for code, _ in choices):
             return any(number > 1 for number in choices.values())
         if any(code[:2] != "v." for code, _ in choices):
@@ -131,17 +135,25 @@ class Italian:
 
     def _read(self, entry):
         if entry.folded in self.hand.judged:
-            return self.hand.judged[entry.folded]
+            judged = self.hand.judged[entry.folded]
+            named = entry.folded in self.hand.names and all(code != "np" for code, _ in judged)
+            return [("np", entry.spelled)] * named + judged
         forms = self._spelled_forms(entry.folded)
         weights = collections.Counter()
         for form in forms:
             share_of_form = self.counts.as_word(form) + 1
             for reading, share in self.plausibility.shares(self.readings.of(form)).items():
                 weights[reading] += share * share_of_form
+        if any(FINITE.match(code) for code, _ in weights):  # sposti is no participle of sporre
+            weights = {(code, lemma): weight for (code, lemma), weight in weights.items()
+                       if not code.startswith("v.part") or self.readings.votes[lemma] > 2}
         total = sum(weights.values())
         ordered = [reading for reading, weight in sorted(
             weights.items(), key=lambda item: (-item[1], item[0])) if weight > total * RARE_READING]
-        ordered = self._kept(ordered) or self._guessed(forms[0])
+        ordered = self._kept(ordered, weights)
+        if not ordered:
+            ordered = self._guessed(forms[0])
+            self.guessed.add(entry.folded)
         if self._is_name(entry.folded, forms, ordered):
             reading = ("np", self._capitalised(entry, forms))
             first = entry.folded in self.hand.names or self._name_first(forms, ordered)
@@ -149,13 +161,12 @@ class Italian:
         return ordered
 
     @staticmethod
-    def _kept(ordered):
-        """The commonest readings, but one that is no finite form always among them, and each
-        person of a tense but once."""
-        kept = list(dict.fromkeys(ordered))[:MOST_READINGS]
-        others = [reading for reading in ordered if not FINITE.match(reading[0])]
-        if others and others[0] not in kept:
-            kept[-1] = others[0]
+    def _kept(ordered, weights):
+        """The commonest readings, and always one that is no finite form where there is any."""
+        kept = ordered[:MOST_READINGS]
+        others = [reading for reading in weights if not FINITE.match(reading[0])]
+        if others and all(FINITE.match(code) for code, _ in kept):
+            kept = kept[:MOST_READINGS - 1] + [max(others, key=lambda one: (weights[one], one))]
         return kept
 
     def _guessed(self, form):
@@ -166,7 +177,7 @@ class Italian:
                 found = [(code, prefix + lemma) for code, lemma in self.readings.of(rest)
                          if code.startswith("v.") and code != "v.inf"]
                 if found:
-                    return self._kept(sorted(found))
+                    return sorted(found)[:MOST_READINGS]
         found = self.readings.verbs.by_ending(form)
         if self.counts.mostly_capital(form):
             return []
@@ -179,11 +190,14 @@ class Italian:
     def _is_name(self, key, forms, ordered):
         if key in self.hand.own_words:
             return False
-        if key in self.hand.names or self.hand.three.get(key, ["", ""])[1] == "nome":
-            return True
+        kind = self.hand.three.get(key, ["", ""])[1]
+        if key in self.hand.names or kind:
+            return kind in ("", "nome")
         named = [form for form in forms if form in self.readings.names]
         if named:
-            return not ordered or any(self.counts.mostly_capital(form) for form in named)
+            return not ordered or any(self.counts.mostly_capital(form) for form in named) or (
+                all(FINITE.match(code) for code, _ in ordered)
+                and any(self.counts.capital[form] > self.counts.small[form] for form in named))
         return not ordered and any(self.counts.mostly_capital(form) or
                                    self.foreign_counts.mostly_capital(form) for form in forms
                                    if not self._is_foreign(form))
@@ -206,18 +220,21 @@ class Italian:
     def _mark(self, entry):
         key, hand = entry.folded, self.hand
         kind = hand.three.get(key, ["", ""])[1]
+        if key in hand.abbreviations and key not in hand.names and not self._has_word(key):
+            kind = "sigla"
         if kind in ("sigla", "gioco", "straniera"):
             entry.marks.add(kind)
         if kind == "gioco":
             entry.readings = []
-        if not kind and key not in hand.judged and key not in hand.names:
+        if kind == "sigla":
+            entry.readings = [("sig", entry.spelled)] + [
+                reading for reading in entry.readings
+                if reading[0][:2] in ("s.", "a.") and reading[1].lower() != entry.folded.lower()]
+        if kind in ("", "parola") and key not in hand.names:
             self._mark_truncated(entry)
         if entry.readings and entry.readings[0][0] == "np" and kind in ("", "nome"):
             entry.marks.add("nome")
             entry.spelled = entry.readings[0][1]
-        if key in hand.abbreviations and not self._has_word(key):
-            entry.marks = entry.marks - {"nome"} | {"sigla"}
-            entry.readings = [("sig", entry.spelled)]
         if key in hand.phrases or SEVERAL_WORDS.search(entry.spelled):
             entry.marks.add("locuzione")
         if key in hand.banned:
@@ -225,29 +242,40 @@ class Italian:
         if not kind and key not in hand.own_words and (
                 key in hand.foreign or not entry.readings and self._is_foreign(entry.spelled)):
             entry.marks.add("straniera")
-        if entry.marks & {"sigla"} and not entry.readings:
-            entry.readings = [("sig", entry.spelled)]
 
     def _mark_truncated(self, entry):
-        """Infinitives and nouns without their last vowel; their readings are those of the whole."""
         form = entry.folded.lower()
-        if not TRUNCATED.search(form) or form in WORDS_IN_THEIR_OWN_RIGHT:
-            return
+        if TRUNCATED.search(form) and form not in WORDS_IN_THEIR_OWN_RIGHT:
+            whole = self._readings_of_whole(entry, form)
+            if whole:
+                entry.marks.add("tronca")
+                entry.spelled = form
+                entry.readings = whole
+
+    def _readings_of_whole(self, entry, form):
+        """The readings of what a form is truncated from: an infinitive, a noun or adjective, a
+        third person; none where it is a word itself."""
         table = self.readings.table
-        named = form in self.readings.names or any(code == "np" for code, _ in entry.readings)
+        if entry.folded in self.hand.judged:
+            cut = all(lemma in (form + "e", form + "o") and code.startswith(("v.inf", "s", "a."))
+                      for code, lemma in entry.readings)
+            return entry.readings * cut
         if self.readings.votes[form] > 1 or any(
                 code[:2] != "v." and number > 1 for (code, _), number in table.get(form, {}).items()):
-            return
+            return []
+        long = len(form) > SHORTEST and not self._is_foreign(form)
+        if long and not entry.readings:
+            for code, lemma in table.get(form + "o", ()):
+                if code.startswith("v.ind") and code.endswith("3p"):
+                    return [(code, lemma)]
+        named = form in self.readings.names or any(code == "np" for code, _ in entry.readings)
         for whole in (form + "e", form + "o"):
+            common = self.counts.all(form) < self.counts.all(whole) / 2
             for code, lemma in self.plausibility.ordered(table.get(whole, {})):
-                if code == "v.inf" or (code[:2] in ("s.", "a.")
-                                       and self._lemma_count(code, lemma) > WHOLE_COUNT
-                                       and not self._is_foreign(form) and not named
-                                       and self.counts.all(form) < self.counts.all(whole) / 2):
-                    entry.marks.add("tronca")
-                    entry.spelled = form
-                    entry.readings = [(code, lemma)]
-                    return
+                if code == "v.inf" or (code[:2] in ("s.", "a.") and long and not named and common
+                                       and self._lemma_count(code, lemma) > WHOLE_COUNT):
+                    return [(code, lemma)]
+        return []
 
     # ---- scores
 
@@ -270,6 +298,9 @@ class Italian:
                               self._lemma_count(code, lemma))
                    for code, lemma in entry.readings if code != "np"]
         best = max(choices) if choices else by_frequency(count)
+        if not count and (entry.folded in self.guessed or entry.folded.endswith("II")
+                          and not self.readings.attested & set(forms)):
+            best -= GUESSED_DISCOUNT  # archivii for archivi too
         if "nome" in entry.marks:
             best = by_frequency(count) - NAME_DISCOUNT
         if not count:

@@ -14,12 +14,12 @@ FLOOR = 0.5  # count of a form that never occurs, and of a lemma before its form
 INFLECTION_SHARE = {
     "s": 50, "a": 25, "a.ms": 30, "a.comp": 2, "avv": 100, "pron": 100, "art": 100, "prep": 100,
     "cong": 100, "inter": 30, "num": 100, "np": 100, "sig": 100, "v": 2, "v.inf": 18, "v.inf.cli": 3,
-    "v.ger": 4, "v.ger.cli": 1, "v.part.pass": 10, "v.part.pass.cli": 0.2, "v.part.pres": 0.5,
+    "v.ger": 4, "v.ger.cli": 1, "v.part.pass": 10, "v.part.pass.cli": 0.005, "v.part.pres": 0.5,
     "v.ind.pres": 0.3, "v.ind.pres.3s": 14, "v.ind.pres.3p": 6, "v.ind.pres.1s": 1,
     "v.ind.impf": 0.05, "v.ind.impf.3s": 3, "v.ind.impf.3p": 1.5, "v.ind.pass": 0.05,
     "v.ind.pass.3s": 7, "v.ind.pass.3p": 2.5, "v.ind.fut": 0.1, "v.ind.fut.3s": 1.5,
     "v.ind.fut.3p": 0.6, "v.cong.pres": 0.1, "v.cong.pres.3s": 0.8, "v.cong.impf": 0.03,
-    "v.cong.impf.3s": 0.5, "v.cond.pres": 0.05, "v.cond.pres.3s": 0.5, "v.imp": 0.1, "v.imp.cli": 0.05,
+    "v.cong.impf.3s": 0.5, "v.cond.pres": 0.05, "v.cond.pres.3s": 0.5, "v.imp": 0.1, "v.imp.cli": 0.01,
     "v.fin": 1}
 
 

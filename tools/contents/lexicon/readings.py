@@ -3,11 +3,12 @@
 import bisect
 import collections
 
-from .conjugation import CLITICS, clitic_code
+from .conjugation import CLITICS, FINITE_CLITICS, SHORT_IMPERATIVES, clitic_code
 from .lemmas import lemma_of
 from .verbs import Verbs
 
 NOUN_FLAGS = "OQRSnopu"  # Hunspell's plurals and feminines
+CONJUGATING_FLAGS = "AzBCtÀVPZfEGHam"
 DERIVING_FLAGS = NOUN_FLAGS + "WYN@"
 ADJECTIVE_FLAGS = "WYopy"  # superlatives, adverbs in -mente, four endings
 INFINITIVE_ENDS = ("are", "ere", "ire", "rre")
@@ -25,7 +26,9 @@ class Readings:
         self.hunspell = sources.hunspell("it_IT")
         self.festlex = list(sources.festlex())
         self.headwords = list(sources.mythes())
+        self.clitics = {}  # what was asked for, since it is asked for again
         self.votes = collections.Counter()  # lemma to the number of sources that have it
+        self.attested = set()  # forms that a source has, and not only conjugation by rule
         self.verbs = self._verbs(sources)
         self._add_simple(sources)
         self._add_festlex()
@@ -35,7 +38,9 @@ class Readings:
     def _verbs(self, sources):
         infinitives = [form for form, code in self.festlex + self.headwords if code == "v.inf"]
         infinitives += [stem for stem, flags in self.hunspell.stems.items() if "I" in flags]
-        verbs = Verbs(sources.morphit_verbs(), self.hunspell,
+        morphit = sources.morphit_verbs()
+        self.attested.update(form for pairs in morphit.values() for form, _ in pairs)
+        verbs = Verbs(morphit, self.hunspell,
                       [verb for verb in infinitives
                        if verb.endswith(INFINITIVE_ENDS) and verb.isalpha()])
         for form, readings in verbs.readings().items():
@@ -55,6 +60,7 @@ class Readings:
         for form, code, lemma in sources.morphit_nouns():
             if form and form.isalpha():
                 self.add(form, code, lemma)
+                self.attested.add(form)
                 self.votes[lemma] += form == lemma
         for form, code in self.headwords:
             if code == "v.inf.cli":
@@ -63,6 +69,7 @@ class Readings:
             else:
                 self.add(form, code, form)
         self.votes.update({form for form, _ in self.headwords})
+        self.attested.update(form for form, _ in self.headwords)
         self.votes.update({verb for verb in sources.morphit_verbs()})
 
     def _add_festlex(self):
@@ -79,6 +86,7 @@ class Readings:
         infinitives = sorted(self.verbs.forms)
         for form, code in inflected:
             if code.startswith("v."):
+                self.votes[form] += code == "v.inf"
                 for lemma in self._verb_lemmas(form, code, infinitives):
                     self.add(form, code, lemma)
             else:
@@ -86,6 +94,9 @@ class Readings:
 
     def _verb_lemmas(self, form, code, infinitives):
         """The verbs that have this very form, else the verb that begins alike to its ending."""
+        regular = form[:-3] + "ere"  # perduto is no participle of perdurre
+        if code.startswith("v.part.pass") and form[-3:-1] == "ut" and regular in self.verbs.forms:
+            return [regular]
         verbal = [(known, lemma) for known, lemma in self.table.get(form, ()) if known[:2] == "v."]
         lemmas = [lemma for known, lemma in verbal if known == code] or [
             lemma for known, lemma in verbal if not known.startswith("v.part")]
@@ -94,7 +105,7 @@ class Readings:
         place = bisect.bisect(infinitives, form)
         near = infinitives[max(0, place - NEAR):place + NEAR]
         best = max(near, key=lambda verb: (alike(form, verb), -len(verb), verb))
-        return [best] if alike(form, best) >= max(2, len(best) - 4) else [form]
+        return [best] if alike(form, best) >= max(2, len(best) - 3) else [form]
 
     def _add_hunspell(self):
         """Hunspell's stems tell plurals and feminines, and seldom what part of speech they are."""
@@ -107,8 +118,12 @@ class Readings:
 
     def _add_stem(self, stem, flags):
         own = self._categories(stem, flags)
+        self.attested.add(stem)
+        for flag in set(flags) & set(CONJUGATING_FLAGS):
+            self.attested.update(form for form, _ in self.hunspell.derived(stem, flag))
         for flag in sorted(set(flags)):
             for form, _ in self.hunspell.derived(stem, flag) if flag in DERIVING_FLAGS else ():
+                self.attested.add(form)
                 if flag in NOUN_FLAGS:
                     self._add_inflected(stem, form, own)
                 elif form.endswith("mente"):
@@ -145,6 +160,8 @@ class Readings:
             number = attributes[0] if attributes else ""
             if form[-1] in "ae" and stem[-1] == "o":
                 number = {"a": "fs", "e": "fp"}[form[-1]]
+            elif form[-1] == "i" and number == "fs":
+                number = None  # a feminine in -a has no plural in -i, though roba/R would have it
             else:
                 number = PLURAL.get(number)
             if number:
@@ -156,7 +173,11 @@ class Readings:
 
     def of(self, form):
         """The readings of a form, those with pronouns where it has no other."""
-        return self.table.get(form) or self._with_clitics(form)
+        if form in self.table:
+            return self.table[form]
+        if form not in self.clitics:
+            self.clitics[form] = self._with_clitics(form)
+        return self.clitics[form]
 
     def _with_clitics(self, form):
         """The readings of a verb's form that a pronoun leans on."""
@@ -165,11 +186,18 @@ class Readings:
             if not form.endswith(clitic):
                 continue
             bare = form[:-len(clitic)]
-            for host in (bare, bare + "e", bare + "re"):
+            for host in (bare, bare + "e") + ((bare + "re",) if bare.endswith("r") else ()):
                 for code, lemma in self.table.get(host, ()):
                     joined = clitic_code(code, bare == host)
                     if joined:
                         found[joined, lemma] = 1
+            if bare[-1:] == clitic[0] and bare[:-1] in SHORT_IMPERATIVES:
+                found["v.imp.pres.2s.cli", SHORT_IMPERATIVES[bare[:-1]]] = 1
+        if any(code.startswith("v.imp") for code, _ in found):  # fategli is no participle
+            found = {reading: 1 for reading in found if not reading[0].startswith("v.part")}
+        for code, lemma in self.table.get(form[:-2], ()) if not found else ():
+            if form.endswith(FINITE_CLITICS) and code.startswith("v.") and code[-2:] in ("3s", "3p"):
+                found[code + ".cli", lemma] = 1
         return found
 
 

@@ -12,17 +12,17 @@ RAREST = 0.02  # occurrences of a form of which nothing is known
 
 # How much of the score the lemma makes, by the beginning of the reading's code: the whole noun is
 # known where one of its forms is, a verb's rare form is rare however common the verb.
-LEMMA_WEIGHT = (("v.inf.cli", 0), ("v.inf", .45), ("v.part.pass", .2), ("v.part.pres", .1),
+LEMMA_WEIGHT = (("v.inf", .45), ("v.part.pass", .2), ("v.part.pres", .1),
                 ("v.ger", .1), ("v", 0), ("a.comp", .1), ("a", .3), ("avv", .2), ("", .35))
 NAME_DISCOUNT = 0.35  # the list comes from an encyclopedia, where names abound
 
 # Occurrences taken for a lemma that the frequency list lacks, by how many dictionaries have it.
-LEMMA_BY_VOTES = (0.2, 1.5, 8, 30, 70)
+LEMMA_BY_VOTES = (0.2, 2, 15, 80, 180)
 
 
 def lemma_weight(code):
-    if code.endswith(".comp"):
-        return .1
+    if code.endswith((".comp", ".cli")):
+        return .1 * code.endswith(".comp")
     return next(weight for start, weight in LEMMA_WEIGHT if code.startswith(start))
 
 

@@ -21,14 +21,12 @@ def fold(spelled):
 
 def in_code_page(spelled):
     """The spelling with bare letters for those that Windows-1252, the program's code page, lacks."""
-    letters = []
-    for letter in unicodedata.normalize("NFC", spelled):
-        try:
-            letter.encode("cp1252")
-        except UnicodeEncodeError:
-            letter = unicodedata.normalize("NFD", letter)[0]
-        letters.append(letter)
-    return "".join(letters)
+    def covered(letter):
+        return letter.encode("cp1252", "ignore") != b""
+    if len(spelled.encode("cp1252", "ignore")) == len(spelled):
+        return spelled
+    return "".join(letter if covered(letter) else unicodedata.normalize("NFD", letter)[0]
+                   for letter in unicodedata.normalize("NFC", spelled))
 
 
 def read_packed(path):

@@ -48,9 +48,10 @@ class Verbs:
         for infinitive, pairs in sorted(morphit.items()):
             if len(pairs) > SHORTEST_ANALOGY:
                 self._add_morphit(infinitive, pairs)
+        complete = set(self.forms)  # Hunspell tells finire from partire badly: only what is new
         for stem, flags in sorted(hunspell.stems.items()):
             for flag, verb_class in FLAG_CLASS.items():
-                if flag in flags and stem.endswith(("are", "ere", "ire")):
+                if flag in flags and stem not in complete and stem.endswith(("are", "ere", "ire")):
                     self._add(stem, regular(stem, verb_class))
             if "P" in flags:  # facere's children, which Morph-it! takes for regular
                 self._add(stem, transferred("fare", self.forms["fare"], stem, len("fare")))
@@ -96,9 +97,9 @@ class Verbs:
         return table
 
     def by_ending(self, form):
-        """Code and infinitive of a form that is made of a known verb's stem and a finite ending of
-        any class; None where it is not."""
-        for ending, code, verb_class in FINITE_ENDINGS:
+        """Code and infinitive of a form that is made of a known verb's stem and an ending of any
+        class; None where it is not."""
+        for ending, code, verb_class in VERB_ENDINGS:
             if len(form) > len(ending) and form.endswith(ending):
                 stem = form[:-len(ending)]
                 for bare in (stem, stem.removesuffix("h"), stem + "i"):
@@ -108,19 +109,19 @@ class Verbs:
         return None
 
 
-def finite_endings():
-    """Endings of finite forms with code and end of the infinitive, the longest first."""
+def verb_endings():
+    """Endings of verbs' forms with code and end of the infinitive, the longest first."""
     found = []
     for verb_class, tenses in ENDINGS.items():
         for tense, endings in tenses.items():
-            if tense not in FORMS_OF:
-                found += [(ending, f"v.{tense}.{person}", verb_class.replace("isc", "ire"))
-                          for person, choices in zip(PERSONS, endings.split())
-                          for ending in choices.split("|") if ending != "-"]
+            codes = FORMS_OF.get(tense) or [f"{tense}.{person}" for person in PERSONS]
+            found += [(ending, f"v.{code}", verb_class.replace("isc", "ire"))
+                      for code, choices in zip(codes, endings.split())
+                      for ending in choices.split("|") if ending != "-"]
     return sorted(set(found), key=lambda item: (-len(item[0]), item))
 
 
-FINITE_ENDINGS = finite_endings()
+VERB_ENDINGS = verb_endings()
 
 
 def gerund(infinitive, pairs):
