@@ -5,7 +5,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include "lexicon/lexicon.h"
 #include "lexicon/lexicon_file.h"
+#include "lexicon/list_import.h"
 #include "median_keeper.h"
 #include "process_cost.h"
 
@@ -99,6 +101,52 @@ void BM_Family(benchmark::State& state, const std::vector<std::string>& words) {
   }
 }
 
+// A list of another program: words of 3 to 12 letters, some of them twice, scores, accents.
+std::string LargeList() {
+  constexpr int lines = 500'000;
+  std::mt19937 random(20261124);
+  std::string text;
+  for (int i = 0; i < lines; ++i) {
+    for (auto letters = 3 + random() % 10; letters > 1; --letters)
+      text += static_cast<char>('a' + random() % LettereAlfabeto);
+    text += i % 10 == 0 ? "\xC3\xA0" : "o";
+    text += ';' + std::to_string(random() % 51) + "\r\n";
+  }
+  return text;
+}
+
+ElencoImportato Import(const std::string& text) {
+  std::string cause;
+  return ImportaElenco(text, cause).value();
+}
+
+std::shared_ptr<const StratoElenco> AsLayer(const std::string& text) {
+  return std::make_shared<StratoElenco>("list", Import(text).parole);
+}
+
+void BM_Import(benchmark::State& state, const std::string& text) {
+  for (auto _ : state)
+    benchmark::DoNotOptimize(Import(text));
+}
+
+void BM_AsLayer(benchmark::State& state, const std::string& text) {
+  for (auto _ : state)
+    benchmark::DoNotOptimize(AsLayer(text));
+}
+
+// A word as the language, a large list and the list of its first words together know it.
+void BM_FindInLayers(benchmark::State& state, const std::string& text,
+                     const std::vector<std::string>& words) {
+  Lessico lexicon;
+  lexicon.Aggiungi(Open(), Origine::Lingua);
+  lexicon.Aggiungi(AsLayer(text), Origine::Elenco);
+  lexicon.Aggiungi(AsLayer(text.substr(0, 1000)), Origine::Mio);
+  for (auto _ : state) {
+    for (const std::string& word : words)
+      benchmark::DoNotOptimize(lexicon.Cerca(word));
+  }
+}
+
 struct Row {
   const char* what;
   const char* plain;  // name of the benchmark of the plain way; null where there is none
@@ -113,6 +161,9 @@ constexpr Row Rows[] = {
     {"one that is not", "absent/plain", "absent/telarium", Words, "under 2"},
     {"a word looked for and read whole", nullptr, "read/telarium", Words, ""},
     {"the other forms of its lemmas", nullptr, "family/telarium", Words, ""},
+    {"a word of three layers, read whole", nullptr, "layers/telarium", Words, "under 2"},
+    {"a list of 500,000 lines imported", nullptr, "import/telarium", 1, "under 1,000,000"},
+    {"the same as a layer", nullptr, "list/telarium", 1, "under 1,000,000"},
 };
 
 void PrintTable(std::map<std::string, double>& medians, const ProcessCost& process) {
@@ -150,6 +201,10 @@ int Main() {
   Register("absent/telarium", BM_Find, absent);
   Register("read/telarium", BM_Read, there);
   Register("family/telarium", BM_Family, there);
+  const std::string list = LargeList();
+  Register("layers/telarium", BM_FindInLayers, list, there);
+  Register("import/telarium", BM_Import, list);
+  Register("list/telarium", BM_AsLayer, list);
   MedianKeeper reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);
   PrintTable(reporter.medians, process);

@@ -50,5 +50,48 @@ TEST_F(Telar, LexiconTellsWhatItCannotRead) {
       Told("lessico --lessico a,,b sole", 2).starts_with("telar: --lessico ha un valore vuoto\n"));
 }
 
+TEST_F(Telar, OptionsOnWordsAreTakenOrRefused) {
+  Write("ala", Unisci(Head, "03x01\r\n[.f.[.\r\n"));
+  Write("words", "ala;80\n");
+  Write("bans", "Àla;1\nre\n");
+  Write("empty", "");
+  Write("rules", "sigle = no\n");
+  Write("wrong", "\nsigla = no\n");
+  const struct {
+    const char *options, *told;  // how the message begins
+    int status;
+  } rows[] = {
+      {"", "", 0},
+      {"--vieta àla", "", 3},
+      {"--vieta oro,ala --ammetti ala", "La parola ALA è insieme vietata e ammessa.\n", 1},
+      {"--vieta-da bans", "", 3},
+      {"--vieta-da bans --ammetti ALA", "", 0},
+      {"--vieta-da empty", "", 0},
+      {"--vieta-da manca", "La lista di parole non si può leggere. manca: ", 1},
+      {"--livello 81", "", 3},
+      {"--livello 81 --livello-lunghezza 2:99,3:80", "", 0},
+      {"--livello-lunghezza 3:81", "", 3},
+      {"--regole rules", "", 0},
+      {"--regole wrong", "Le regole non si possono leggere. wrong: riga 2: \"sigla\" non è ", 1},
+      {"--forme si --famiglia facili", "", 0},
+      {"--livello 101", "telar: --livello richiede numeri da 0 a 100\n", 2},
+      {"--livello-lunghezza 3", "telar: --livello-lunghezza richiede L:N[,L:N...]\n", 2},
+      {"--livello-lunghezza 54:1", "telar: --livello-lunghezza richiede numeri da 2 a 53\n", 2},
+      {"--forme forse", "telar: --forme richiede uno di: si, no\n", 2},
+      {"--vieta x", "telar: --vieta: \"x\" non è una parola da 2 a 53 lettere\n", 2},
+      {"--lessico words,", "telar: --lessico ha un valore vuoto\n", 2},
+  };
+  Out("enc-crea --vuoto empty");
+  for (const auto& [options, told, status] : rows) {
+    Words words = Split("controlla ala --definizioni no --lessico words", ' ');
+    for (const std::string& option : Split(options, ' '))
+      words.push_back(option);
+    const TelarResult result = Run(words);
+    EXPECT_EQ(result.status, status) << options << '\n' << result.out;
+    EXPECT_EQ(result.err.substr(0, std::string_view(told).size()), told) << options;
+    EXPECT_EQ(result.err.empty(), *told == '\0') << options << '\n' << result.err;
+  }
+}
+
 }  // namespace
 }  // namespace telarium
