@@ -3,8 +3,8 @@
 namespace telarium {
 
 std::optional<Lessico> LessicoDi(const SceltaParole& scelta, const LuoghiLessico& luoghi,
-                                 std::string& causa) {
-  auto lessico = ComponiLessico(scelta.lessici, luoghi, causa);
+                                 std::string& messaggio) {
+  auto lessico = ComponiLessico(scelta.lessici, luoghi, messaggio);
   if (!lessico) return std::nullopt;
   for (const std::string& parola : scelta.vietate)
     lessico->Vieta(parola);

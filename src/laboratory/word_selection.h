@@ -25,9 +25,9 @@ struct SceltaParole {
   bool ammetteForme = false;  // two forms of one lemma may stand together
 };
 
-/// The lexicon of a choice, its bans and admissions too. None, with a message in Italian in
-/// `causa`, when a layer cannot be had.
+/// The lexicon of a choice, its bans and admissions too. None when a layer cannot be
+/// had; `messaggio` as that of ComponiLessico.
 std::optional<Lessico> LessicoDi(const SceltaParole& scelta, const LuoghiLessico& luoghi,
-                                 std::string& causa);
+                                 std::string& messaggio);
 
 }  // namespace telarium

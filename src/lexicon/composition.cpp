@@ -34,36 +34,54 @@ Specie SpecieDi(const Percorso& nome) {
 
 // Reads a text file. None, with a message that begins with a text, when that fails.
 std::optional<std::string> LeggiTesto(const Percorso& file, std::size_t massimo,
-                                      std::string_view messaggio, std::string& causa) {
+                                      std::string_view illeggibile, std::string& messaggio) {
   std::string contenuto;
   std::error_code errore;
   switch (LeggiFile(file, massimo, contenuto, errore)) {
     case EsitoLettura::Letto:
       return contenuto;
     case EsitoLettura::TroppoGrande:
-      causa = ConCausa(messaggio, file, "è troppo grande"_cp);
+      messaggio = ConCausa(illeggibile, file, "è troppo grande"_cp);
       return std::nullopt;
     default:
-      causa = ConCausa(messaggio, file, errore);
+      messaggio = ConCausa(illeggibile, file, errore);
       return std::nullopt;
   }
 }
 
-std::optional<ElencoImportato> LeggiElenco(const Percorso& file, std::string& causa) {
-  constexpr std::string_view messaggio = "La lista di parole non si può leggere."_cp;
-  const auto testo = LeggiTesto(file, MaxByteElenco, messaggio, causa);
+// So many scores, none above 50, are hardly of the scale from 0 to 100.
+constexpr std::int64_t MoltiPunteggi = 1000;
+
+std::string NotaSu(const ResocontoElenco& resoconto, const Percorso& file) {
+  std::string nota;
+  if (resoconto.scartate > 0) {
+    nota = Unisci("Lista ", TestoPercorso(file),
+                  ": righe che non contengono una parola, ignorate: ", resoconto.scartate,
+                  " (la prima: ", resoconto.primaScartata, ").");
+  }
+  if (resoconto.conPunteggio >= MoltiPunteggi && resoconto.massimo <= MassimoDiCinquanta) {
+    nota += Unisci(nota.empty() ? "" : "\n", "Lista ", TestoPercorso(file),
+                   ": nessun punteggio supera 50, ma valgono come stanno, da 0 a 100.");
+  }
+  return nota;
+}
+
+std::optional<ElencoImportato> LeggiElenco(const Percorso& file, std::string& messaggio) {
+  constexpr std::string_view illeggibile = "La lista di parole non si può leggere."_cp;
+  const auto testo = LeggiTesto(file, MaxByteElenco, illeggibile, messaggio);
   if (!testo) return std::nullopt;
-  std::string perche;
-  auto elenco = InterpretaElenco(*testo, LetturaPunteggi::ComeSono, perche);
-  if (!elenco) causa = ConCausa(messaggio, file, perche);
+  std::string causa;
+  auto elenco = InterpretaElenco(*testo, LetturaPunteggi::ComeSono, causa);
+  messaggio = elenco ? NotaSu(elenco->resoconto, file) : ConCausa(illeggibile, file, causa);
   return elenco;
 }
 
 // Puts a lexicon together from the layers that are named.
 class Composizione {
  public:
-  Composizione(const std::vector<Percorso>& nomi, const LuoghiLessico& luoghi, std::string& causa)
-      : nomi_(nomi), luoghi_(luoghi), causa_(causa) {}
+  Composizione(const std::vector<Percorso>& nomi, const LuoghiLessico& luoghi,
+               std::string& messaggio)
+      : nomi_(nomi), luoghi_(luoghi), messaggio_(messaggio) {}
 
   std::optional<Lessico> Esegui() {
     if (!AggiungiSpecie(Specie::Lingua) || !Aggiungi(Specie::Corredo, NomeCorredo) ||
@@ -126,8 +144,8 @@ class Composizione {
     std::string perche;
     auto strato = FileLessico::Apri(file, nome.string(), perche);
     if (!strato) {
-      causa_ = ConCausa(Unisci("Il lessico \"", TestoPercorso(nome), "\" non si può aprire."_cp),
-                        file, perche);
+      messaggio_ = ConCausa(
+          Unisci("Il lessico \"", TestoPercorso(nome), "\" non si può aprire."_cp), file, perche);
     }
     return strato;
   }
@@ -136,18 +154,21 @@ class Composizione {
     const Percorso file = PercorsoNellaCartella(luoghi_.programma, nome);
     std::string perche;
     auto strato = StratoDizionario(file, TestoPercorso(nome.filename()), perche);
-    if (!strato) causa_ = ConCausa("Impossibile leggere il dizionario.", file, perche);
+    if (!strato) messaggio_ = ConCausa("Impossibile leggere il dizionario.", file, perche);
     return strato;
   }
 
   std::shared_ptr<const Strato> ApriElenco(const Percorso& nome) {
-    const auto elenco = LeggiElenco(nome, causa_);
+    std::string messaggio;
+    const auto elenco = LeggiElenco(nome, messaggio);
+    if (!messaggio_.empty() && !messaggio.empty()) messaggio_ += '\n';
+    messaggio_ += messaggio;
     if (!elenco) return nullptr;
     return std::make_shared<StratoElenco>(TestoPercorso(nome.filename()), elenco->parole);
   }
 
   bool AggiungiMio() {
-    const auto mie = ParoleMie::Leggi(luoghi_.programma, causa_);
+    const auto mie = ParoleMie::Leggi(luoghi_.programma, messaggio_);
     if (!mie) return false;
     if (Nominata(Specie::Lingua) || Nominata(Specie::Dizionario) || Nominata(Specie::Mio)) {
       lessico_.Aggiungi(std::make_shared<StratoElenco>(NomeParoleMie, mie->Elenco()), Origine::Mio);
@@ -160,30 +181,32 @@ class Composizione {
 
   const std::vector<Percorso>& nomi_;
   const LuoghiLessico& luoghi_;
-  std::string& causa_;
+  std::string& messaggio_;
   Lessico lessico_;
 };
 
 }  // namespace
 
 std::optional<Lessico> ComponiLessico(const std::vector<Percorso>& nomi,
-                                      const LuoghiLessico& luoghi, std::string& causa) {
-  return Composizione(nomi, luoghi, causa).Esegui();
+                                      const LuoghiLessico& luoghi, std::string& messaggio) {
+  messaggio.clear();
+  return Composizione(nomi, luoghi, messaggio).Esegui();
 }
 
-std::optional<Regolamento> TrovaRegolamento(const Percorso& nome, std::string& causa) {
+std::optional<Regolamento> TrovaRegolamento(const Percorso& nome, std::string& messaggio) {
+  messaggio.clear();
   if (const Regolamento* const noto = RegolamentoDiNome(nome.string())) return *noto;
-  constexpr std::string_view messaggio = "Le regole non si possono leggere.";
-  const auto testo = LeggiTesto(nome, MaxByteRegolamento, messaggio, causa);
+  constexpr std::string_view illeggibili = "Le regole non si possono leggere.";
+  const auto testo = LeggiTesto(nome, MaxByteRegolamento, illeggibili, messaggio);
   if (!testo) return std::nullopt;
-  std::string perche;
-  auto regole = InterpretaRegolamento(*testo, TestoPercorso(nome.filename()), perche);
-  if (!regole) causa = ConCausa(messaggio, nome, perche);
+  std::string causa;
+  auto regole = InterpretaRegolamento(*testo, TestoPercorso(nome.filename()), causa);
+  if (!regole) messaggio = ConCausa(illeggibili, nome, causa);
   return regole;
 }
 
-std::optional<InsiemeDiParole> LeggiParole(const Percorso& lista, std::string& causa) {
-  const auto elenco = LeggiElenco(lista, causa);
+std::optional<InsiemeDiParole> LeggiParole(const Percorso& lista, std::string& messaggio) {
+  const auto elenco = LeggiElenco(lista, messaggio);
   if (!elenco) return std::nullopt;
   InsiemeDiParole parole;
   for (std::size_t i = 0; i < elenco->parole.Quante(); ++i)

@@ -8,8 +8,9 @@
 #include "lexicon/rules.h"
 #include "platform/files.h"
 
-// Lexicons, rules and lists by the names that a person gives them. Each routine tells in `causa`, a
-// message in Italian, why there is no result.
+// Lexicons, rules and lists by the names that a person gives them. Each routine tells in
+// `messaggio`, in Italian, why there is no result; or beside one, a line for each list, what a
+// person should know of it, as lines that hold no word. It is empty when there is nothing to tell.
 namespace telarium {
 
 // Names of layers that are no files of the user's: languages, the kit, the user's own list.
@@ -29,12 +30,12 @@ struct LuoghiLessico {
 /// language or a dictionary is named, or it itself: beside lists alone only its bans hold. The
 /// layers lie in the order: languages, kit, dictionaries, lists, own list.
 std::optional<Lessico> ComponiLessico(const std::vector<Percorso>& nomi,
-                                      const LuoghiLessico& luoghi, std::string& causa);
+                                      const LuoghiLessico& luoghi, std::string& messaggio);
 
 /// A set of rules by its name, or from the file of that path.
-std::optional<Regolamento> TrovaRegolamento(const Percorso& nome, std::string& causa);
+std::optional<Regolamento> TrovaRegolamento(const Percorso& nome, std::string& messaggio);
 
 /// The words of a list, whatever scores and clues it has.
-std::optional<InsiemeDiParole> LeggiParole(const Percorso& lista, std::string& causa);
+std::optional<InsiemeDiParole> LeggiParole(const Percorso& lista, std::string& messaggio);
 
 }  // namespace telarium

@@ -9,8 +9,6 @@
 namespace telarium {
 namespace {
 
-constexpr int MassimoDiCinquanta = 50;
-
 // Separators in the order in which they are preferred.
 constexpr std::array<char, 3> Separatori = {';', '\t', ','};
 constexpr char NessunSeparatore = '\n';  // no line has one

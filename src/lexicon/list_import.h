@@ -23,6 +23,9 @@ enum class Scala {
   Cento,      // from 0 to 100
 };
 
+/// The highest score of the scale from 0 to 50.
+inline constexpr int MassimoDiCinquanta = 50;
+
 /// How scores are read.
 enum class LetturaPunteggi {
   Riconosci,  // by the scale that they show

@@ -99,6 +99,10 @@ void LeggiLivelli(const Argomenti& argomenti, SceltaParole& scelta) {
   }
 }
 
+void AvvisaSeServe(const std::string& messaggio) {
+  if (!messaggio.empty()) Avvisa(messaggio);
+}
+
 // False, told, for a word that is banned and admitted by name. One of a file of bans may be lifted.
 bool LeggiDivieti(const Argomenti& argomenti, SceltaParole& scelta) {
   scelta.vietate = Parole(argomenti, OpzioneVieta);
@@ -110,25 +114,19 @@ bool LeggiDivieti(const Argomenti& argomenti, SceltaParole& scelta) {
     return false;
   }
   if (!argomenti.Ha(OpzioneVietaDa.nome)) return true;
-  std::string causa;
-  auto altre = LeggiParole(argomenti.Valore(OpzioneVietaDa.nome), causa);
-  if (!altre) {
-    Avvisa(causa);
-    return false;
-  }
-  scelta.vietate.merge(*altre);
-  return true;
+  std::string messaggio;
+  auto altre = LeggiParole(argomenti.Valore(OpzioneVietaDa.nome), messaggio);
+  AvvisaSeServe(messaggio);
+  if (altre) scelta.vietate.merge(*altre);
+  return altre.has_value();
 }
 
 bool LeggiRegole(const Argomenti& argomenti, SceltaParole& scelta) {
   if (!argomenti.Ha(OpzioneRegole.nome)) return true;
-  std::string causa;
-  auto regole = TrovaRegolamento(argomenti.Valore(OpzioneRegole.nome), causa);
-  if (regole) {
-    scelta.regole = std::move(*regole);
-  } else {
-    Avvisa(causa);
-  }
+  std::string messaggio;
+  auto regole = TrovaRegolamento(argomenti.Valore(OpzioneRegole.nome), messaggio);
+  AvvisaSeServe(messaggio);
+  if (regole) scelta.regole = std::move(*regole);
   return regole.has_value();
 }
 
@@ -177,9 +175,9 @@ std::shared_ptr<const Copertura> PreparaCopertura() {
 }
 
 std::optional<Lessico> PreparaLessico(const SceltaParole& scelta) {
-  std::string causa;
-  auto lessico = LessicoDi(scelta, LuoghiDeiLessici(), causa);
-  if (!lessico) Avvisa(causa);
+  std::string messaggio;
+  auto lessico = LessicoDi(scelta, LuoghiDeiLessici(), messaggio);
+  AvvisaSeServe(messaggio);
   return lessico;
 }
 

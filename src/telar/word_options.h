@@ -31,7 +31,8 @@ LuoghiLessico LuoghiDeiLessici();
 /// read: then no word has one.
 std::shared_ptr<const Copertura> PreparaCopertura();
 
-/// The lexicon of a choice. None, told, when a layer cannot be had.
+/// The lexicon of a choice. None, told, when a layer cannot be had; what a list has beside words is
+/// told too.
 std::optional<Lessico> PreparaLessico(const SceltaParole& scelta);
 
 }  // namespace telarium::telar

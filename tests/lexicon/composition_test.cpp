@@ -66,6 +66,7 @@ TEST_F(Composition, LayersLieInTheirOrderHoweverTheyAreNamed) {
   EXPECT_EQ(two->Cerca("LAQUILA")->grafia, "L'Aquila");
   EXPECT_TRUE(two->Cerca("AB")->propria && two->Cerca("RE")->nelCorredo);
   EXPECT_FALSE(Compose({list_})->Contiene("CITTA"));
+  EXPECT_EQ(cause_, "");
 }
 
 TEST_F(Composition, BansOfTheOwnWordsHoldBesideListsAlone) {
@@ -97,6 +98,22 @@ TEST_F(Composition, WhatCannotBeHadIsToldByItsName) {
   EXPECT_TRUE(Layers({"italiano"}).starts_with("L'elenco delle parole proprie"));
   std::filesystem::remove(InFolder("lexicon/sigle.lexicon"));
   EXPECT_TRUE(Layers({list_}).starts_with("Il lessico \"sigle\" non si"));
+}
+
+TEST_F(Composition, WhatAListHasBesideWordsIsToldAndLeftOut) {
+  const Percorso odd = WriteFile("strana", "sole;7\n1\n2\n");
+  std::string low = "x;1\n";
+  for (int i = 0; i < 1000; ++i)
+    low += Unisci("pa", std::string(1 + i % 40, 'a' + i / 40), ";50\n");
+  EXPECT_TRUE(Compose({odd, list_, WriteFile("bassa", low)}));
+  EXPECT_EQ(cause_, Unisci("Lista ", odd.string(),
+                           ": righe che non contengono una parola, ignorate: 2 (la prima: 2).\n"
+                           "Lista ",
+                           InFolder("bassa").string(),
+                           ": righe che non contengono una parola, ignorate: 1 (la prima: 1).\n"
+                           "Lista ",
+                           InFolder("bassa").string(),
+                           ": nessun punteggio supera 50, ma valgono come stanno, da 0 a 100."));
 }
 
 TEST_F(Composition, RulesAndWordsAreReadFromFiles) {
