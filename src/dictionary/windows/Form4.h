@@ -5,8 +5,8 @@
 #include <array>
 
 #include "crossworddialogs/windows/file_lists.h"
-#include "dictionary/windows/word_box.h"
 #include "dictionary/dictionary.h"
+#include "dictionary/windows/word_box.h"
 #include "dictionary/word_list.h"
 #include "platform/pace.h"
 #include "platform/qt/qt_canvas.h"
