@@ -27,8 +27,8 @@ bool ParolaPiena(Categoria categoria) {
   }
 }
 
-bool HannoComune(const std::vector<std::string_view>& uni,
-                 const std::vector<std::string_view>& altri) {
+bool HannoComune(const std::vector<LemmaDiCategoria>& uni,
+                 const std::vector<LemmaDiCategoria>& altri) {
   return std::find_first_of(uni.begin(), uni.end(), altri.begin(), altri.end()) != uni.end();
 }
 
@@ -56,12 +56,12 @@ std::string_view Brano(const std::vector<ParolaDiDefinizione>& parole,
 
 }  // namespace
 
-std::vector<std::string_view> LemmiDi(const Parola& parola) {
-  std::vector<std::string_view> lemmi;
+std::vector<LemmaDiCategoria> LemmiDi(const Parola& parola) {
+  std::vector<LemmaDiCategoria> lemmi;
   for (const auto& [lemma, analisi] : parola.letture) {
-    const bool nuovo = std::find(lemmi.begin(), lemmi.end(), lemma) == lemmi.end();
-    if (ParolaPiena(analisi.categoria) && !lemma.empty() && !tabelle::LemmaVuoto(lemma) && nuovo)
-      lemmi.push_back(lemma);
+    if (!ParolaPiena(analisi.categoria) || lemma.empty() || tabelle::LemmaVuoto(lemma)) continue;
+    const LemmaDiCategoria uno{lemma, analisi.categoria};
+    if (std::find(lemmi.begin(), lemmi.end(), uno) == lemmi.end()) lemmi.push_back(uno);
   }
   return lemmi;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -11,9 +12,16 @@
 // What clues give away, and which of their words are banned.
 namespace telarium {
 
+/// A lemma as a part of speech: CORSO the noun is not the adjective of which CORSA is a form.
+struct LemmaDiCategoria {
+  std::string_view lemma;
+  Categoria categoria = Categoria::Ignota;
+  auto operator<=>(const LemmaDiCategoria&) const = default;
+};
+
 /// The lemmas by which a word may be akin to another one: those of its readings as a noun, an
 /// adjective, a verb or an adverb, the commonest first. Views into the layer of its readings.
-std::vector<std::string_view> LemmiDi(const Parola& parola);
+std::vector<LemmaDiCategoria> LemmiDi(const Parola& parola);
 
 /// What a clue says that it should not.
 struct Rivelazione {
@@ -45,7 +53,7 @@ class Rivelatore {
   // What is kept of a word of clues.
   struct Nota {
     bool vietata = false;
-    std::vector<std::string_view> lemmi;
+    std::vector<LemmaDiCategoria> lemmi;
   };
   // An entry that is written with several words.
   struct Locuzione {

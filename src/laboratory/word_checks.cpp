@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <map>
 #include <unordered_map>
 
 #include "laboratory/clue_leaks.h"
@@ -148,7 +149,7 @@ class FormeDiLemmi {
       if (!altra || altra->lettere == voce.lettere) continue;
       esame_.Rileva(Codice::LemmaRipetuto, voce,
                     Unisci(voce.Nome(), " e ", altra->Nome(), " sono forme della stessa parola, ",
-                           TraVirgolette(lemmi[i]), '.'));
+                           TraVirgolette(lemmi[i].lemma), '.'));
       break;
     }
     for (std::size_t i = 0; i < lemmi.size(); ++i)
@@ -168,7 +169,7 @@ class FormeDiLemmi {
   }
 
   Esame& esame_;
-  std::unordered_map<std::string_view, Forme> perLemma_;
+  std::map<LemmaDiCategoria, Forme> perLemma_;
 };
 
 void Lemmi(Esame& esame) {
