@@ -4,7 +4,7 @@ import bisect
 import collections
 
 from .conjugation import CLITICS, FINITE_CLITICS, SHORT_IMPERATIVES, clitic_code
-from .lemmas import lemma_of
+from .lemmas import SINGULARS, candidates, lemma_of
 from .verbs import Verbs
 
 NOUN_FLAGS = "OQRSnopu"  # Hunspell's plurals and feminines
@@ -33,6 +33,7 @@ class Readings:
         self._add_simple(sources)
         self._add_festlex()
         self._add_hunspell()
+        self._settle_feminines()
         self._add_names()
 
     def _verbs(self, sources):
@@ -166,6 +167,32 @@ class Readings:
                 number = PLURAL.get(number)
             if number:
                 self.add(form, f"{category}.{number}", lemma)
+
+    def _settle_feminines(self):
+        """Casa and moda are words of their own: caso and modo have no feminine, though a rule would make
+        one. What is an adjective too has one (bianca), but not beside a noun of its own (banca)."""
+        for code, singulars in (("s.fs", lambda form: [form]),
+                                ("s.fp", lambda form: list(candidates(form, SINGULARS["fp"])))):
+            for form, choices in list(self.table.items()):
+                for known, lemma in [reading for reading in choices if reading[0] == code]:
+                    if self._masculine(lemma):
+                        self._settle_feminine(choices, known, lemma, singulars(form))
+
+    def _masculine(self, lemma):
+        own = {code for code, known in self.table.get(lemma, ()) if known == lemma}
+        return bool(own & {"s.ms", "s.m"}) and not own & {"s.fs", "s.f", "s.s", "s"}
+
+    def _settle_feminine(self, choices, code, lemma, singulars):
+        feminines = [word for word in singulars if word != lemma and self.has_own(word, ("s.fs", "s.f"))]
+        if not feminines and not self.has_own(lemma, ("a.ms", "a.s", "a")):
+            feminines = [word for word in singulars if self.has(word, ("s.fs",))] or [
+                word for word in singulars if code == "s.fs"]
+        if feminines:
+            sources = choices.pop((code, lemma))
+            choices[code, feminines[0]] = choices.get((code, feminines[0]), 0) + sources
+
+    def has_own(self, word, codes):
+        return any(code in codes and lemma == word for code, lemma in self.table.get(word, ()))
 
     def _add_names(self):
         self.names = {name: spelled for name, spelled in self.names.items() if name.isalpha()
