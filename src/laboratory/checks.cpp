@@ -68,6 +68,10 @@ std::string TraVirgolette(std::string_view testo) {
   return Unisci("«"_cp, testo, "»"_cp);
 }
 
+std::string MeglioAlMassimo(int voci) {
+  return voci == 0 ? "meglio nessuna" : Unisci("meglio non più di "_cp, voci);
+}
+
 Verdetto Esame::Chiudi() && {
   std::stable_sort(rilievi_.begin(), rilievi_.end(), Precede);
   Verdetto verdetto;

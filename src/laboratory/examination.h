@@ -35,6 +35,9 @@ class Esame {
 /// A word of a clue or a lemma in a sentence.
 std::string TraVirgolette(std::string_view testo);
 
+/// "meglio non più di 3", "meglio nessuna": how many entries a crossword had better have.
+std::string MeglioAlMassimo(int voci);
+
 // The parts of the check.
 void EsaminaParole(Esame& esame);
 void EsaminaDefinizioni(Esame& esame);

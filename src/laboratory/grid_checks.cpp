@@ -50,9 +50,8 @@ void VociDiDueLettere(Esame& esame) {
   });
   const int ammesse = DueLettereAmmesse(esame.QuanteVoci());
   if (due <= ammesse) return;
-  esame.Rileva(Codice::DueLettere,
-               Unisci("Troppe voci di due lettere: ", due, " su ", esame.QuanteVoci(),
-                      ", meglio non più di "_cp, ammesse, '.'));
+  esame.Rileva(Codice::DueLettere, Unisci("Troppe voci di due lettere: ", due, " su ",
+                                          esame.QuanteVoci(), ", ", MeglioAlMassimo(ammesse), '.'));
 }
 
 }  // namespace

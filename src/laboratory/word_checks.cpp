@@ -94,31 +94,24 @@ PuntatoriAVoci Scelte(const Esame& esame, Condizione condizione) {
   return scelte;
 }
 
-struct NomeDiGenia {
-  Genia genia;
-  std::string_view nome;  // what an entry of it is
-};
-
-constexpr NomeDiGenia NomiDelleGenie[] = {
-    {Genia::Finita, "è una forma verbale finita"_cp},
-    {Genia::Tronca, "è una parola tronca"_cp},
-    {Genia::Nome, "è un nome"_cp},
-    {Genia::Sigla, "è una sigla"_cp},
-    {Genia::Straniera, "è una parola straniera"_cp},
-};
+// "ne ammettono 2", "non ne ammettono".
+std::string Ammettono(int quante) {
+  return quante == 0 ? "non ne ammettono" : Unisci("ne ammettono ", quante);
+}
 
 void Quote(Esame& esame) {
-  for (const auto& [genia, nome] : NomiDelleGenie) {
+  for (int i = 0; i < NumGenie; ++i) {
+    const auto genia = static_cast<Genia>(i);
     const Quota& quota = esame.criteri.regole.Di(genia);
     if (quota.unaSu == Quota::Nessuna || quota.unaSu == Quota::Libera) continue;
-    const auto voci = Scelte(esame, [genia = genia](const VoceDiGriglia& voce) {
+    const auto voci = Scelte(esame, [genia](const VoceDiGriglia& voce) {
       return Giudicata(voce) && Appartiene(*voce.parola, genia);
     });
     const int ammesse = quota.Ammesse(esame.QuanteVoci());
     for (const VoceDiGriglia* voce : Eccedenti(voci, ammesse)) {
       esame.Rileva(Codice::Regola, *voce,
-                   Unisci(voce->Nome(), ' ', nome, ": lo schema ne ha ", voci.size(),
-                          ", le regole ne ammettono ", ammesse, '.'));
+                   Unisci(voce->Nome(), ' ', CheCosaE(genia), ": lo schema ne ha ", voci.size(),
+                          ", le regole ", Ammettono(ammesse), '.'));
     }
   }
 }
@@ -130,8 +123,8 @@ void Rare(Esame& esame) {
   const int ammesse = RareAmmesse(esame.QuanteVoci());
   for (const VoceDiGriglia* voce : Eccedenti(rare, ammesse)) {
     esame.Rileva(Codice::Rare, *voce,
-                 Unisci(voce->Nome(), " è una parola rara: lo schema ne ha "_cp, rare.size(),
-                        ", meglio non più di "_cp, ammesse, '.'));
+                 Unisci(voce->Nome(), " è una parola rara: lo schema ne ha "_cp, rare.size(), ", ",
+                        MeglioAlMassimo(ammesse), '.'));
   }
 }
 

@@ -76,6 +76,20 @@ std::optional<ElencoImportato> LeggiElenco(const Percorso& file, std::string& me
   return elenco;
 }
 
+// A bare name that no file has is likely meant as one of those that need none: they are told.
+std::string SeNomeErrato(const Percorso& nome, std::string_view quali, std::string_view noti) {
+  std::error_code ignorato;
+  const bool errato = !nome.has_parent_path() && !std::filesystem::exists(nome, ignorato);
+  return errato ? Unisci(' ', quali, noti, '.') : std::string();
+}
+
+std::string NomiDelleLingue() {
+  std::string nomi;
+  for (const std::string_view lingua : Lingue)
+    nomi += Unisci(nomi.empty() ? "" : ", ", lingua);
+  return nomi;
+}
+
 // Puts a lexicon together from the layers that are named.
 class Composizione {
  public:
@@ -163,7 +177,10 @@ class Composizione {
     const auto elenco = LeggiElenco(nome, messaggio);
     if (!messaggio_.empty() && !messaggio.empty()) messaggio_ += '\n';
     messaggio_ += messaggio;
-    if (!elenco) return nullptr;
+    if (!elenco) {
+      messaggio_ += SeNomeErrato(nome, "Le lingue sono ", NomiDelleLingue());
+      return nullptr;
+    }
     return std::make_shared<StratoElenco>(TestoPercorso(nome.filename()), elenco->parole);
   }
 
@@ -198,7 +215,10 @@ std::optional<Regolamento> TrovaRegolamento(const Percorso& nome, std::string& m
   if (const Regolamento* const noto = RegolamentoDiNome(nome.string())) return *noto;
   constexpr std::string_view illeggibili = "Le regole non si possono leggere.";
   const auto testo = LeggiTesto(nome, MaxByteRegolamento, illeggibili, messaggio);
-  if (!testo) return std::nullopt;
+  if (!testo) {
+    messaggio += SeNomeErrato(nome, "Le regole con un nome sono ", NomiDeiRegolamenti);
+    return std::nullopt;
+  }
   std::string causa;
   auto regole = InterpretaRegolamento(*testo, TestoPercorso(nome.filename()), causa);
   if (!regole) messaggio = ConCausa(illeggibili, nome, causa);

@@ -15,12 +15,6 @@ constexpr char NessunSeparatore = '\n';  // no line has one
 // So many lines tell which one a list uses.
 constexpr int RigheDiProva = 1000;
 
-bool InUtf16(std::string_view testo) {
-  constexpr std::size_t inizio = 256;  // any text in UTF-16 has a zero byte in so many
-  return testo.starts_with("\xFF\xFE") || testo.starts_with("\xFE\xFF") ||
-         testo.substr(0, inizio).find('\0') != std::string_view::npos;
-}
-
 // Whether a separator divides a line into a word and a score, which may be missing.
 bool DivideInPunteggio(std::string_view riga, char separatore) {
   if (riga.find(separatore) == std::string_view::npos) return false;

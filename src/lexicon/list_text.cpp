@@ -20,6 +20,12 @@ Codifica CodificaDi(std::string_view testo) {
   return guasti > sani ? Codifica::CodePage : Codifica::Utf8;
 }
 
+bool InUtf16(std::string_view testo) {
+  constexpr std::size_t inizio = 256;  // any text in UTF-16 has a zero byte in so many
+  return testo.starts_with("\xFF\xFE") || testo.starts_with("\xFE\xFF") ||
+         testo.substr(0, inizio).find('\0') != std::string_view::npos;
+}
+
 std::optional<std::string> PiegaGrafia(std::string_view grafia, Codifica codifica) {
   return codifica == Codifica::Utf8 ? PiegaGrafiaUtf8(grafia) : PiegaGrafia(grafia);
 }

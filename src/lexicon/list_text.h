@@ -15,6 +15,9 @@ enum class Codifica { Utf8, CodePage };
 /// in UTF-8 may have a broken line.
 Codifica CodificaDi(std::string_view testo);
 
+/// Whether a text is in UTF-16, or none at all.
+bool InUtf16(std::string_view testo);
+
 /// A spelled form of a list as a word, and in the code page; it is empty when the code page cannot
 /// write it.
 std::optional<std::string> PiegaGrafia(std::string_view grafia, Codifica codifica);

@@ -23,7 +23,6 @@ const std::array<Regolamento, 3>& Regolamenti() {
   return regolamenti;
 }
 
-// What an entry of each kind is.
 constexpr std::string_view NomiDiGenia[NumGenie] = {"è una forma finita di un verbo"_cp,
                                                     "è una parola tronca"_cp, "è un nome"_cp,
                                                     "è una sigla"_cp, "è una parola straniera"_cp};
@@ -46,7 +45,7 @@ std::string_view Motivo(const Parola& parola, const Regolamento& regole) {
   if (GiocoVietato(parola, regole.tre)) return SoloGioco;
   for (int i = 0; i < NumGenie; ++i) {
     const auto genia = static_cast<Genia>(i);
-    if (regole.Di(genia) == No && Appartiene(parola, genia)) return NomiDiGenia[i];
+    if (regole.Di(genia) == No && Appartiene(parola, genia)) return CheCosaE(genia);
   }
   return {};
 }
@@ -86,12 +85,16 @@ bool Appartiene(const Parola& parola, Genia genia) {
   return false;
 }
 
+std::string_view CheCosaE(Genia genia) {
+  return NomiDiGenia[static_cast<std::size_t>(genia)];
+}
+
 std::optional<std::string> Divieto(const Parola& parola, const Regolamento& regole,
                                    std::string_view chiamata) {
   const std::string_view motivo = Motivo(parola, regole);
   if (motivo.empty()) return std::nullopt;
   if (chiamata.empty()) chiamata = parola.lettere;
-  return Unisci(chiamata, ' ', motivo, ": le regole \"", regole.nome, "\" non l'ammettono.");
+  return Unisci(chiamata, ' ', motivo, ": le regole «"_cp, regole.nome, "» non l'ammettono."_cp);
 }
 
 }  // namespace telarium

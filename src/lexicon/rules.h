@@ -48,19 +48,23 @@ struct Regolamento {
 /// name.
 const Regolamento* RegolamentoDiNome(std::string_view nome);
 inline constexpr std::string_view RegolamentoIniziale = "severe";
+inline constexpr std::string_view NomiDeiRegolamenti = "severe, settimanali, libere";
 
 /// The most bytes of a rule file that are worth reading.
 inline constexpr std::size_t MaxByteRegolamento = 64u << 10;
 
 /// A set of rules from the text of a file: a line `nome = valore` each, of which telar(1) has the
-/// list; `#` begins a comment line. `nome` is what the set is called. `causa` says in Italian, with
-/// the number of the line, what is wrong when there is none.
-std::optional<Regolamento> InterpretaRegolamento(std::string_view testoUtf8, std::string_view nome,
+/// list, in UTF-8 or in the code page; `#` begins a comment line. `nome` is what the set is called.
+/// `causa` says in Italian, with the number of the line, what is wrong when there is none.
+std::optional<Regolamento> InterpretaRegolamento(std::string_view testo, std::string_view nome,
                                                  std::string& causa);
 
 /// Whether a word is of a limited kind. HA and its like in the kit count as no finite forms: the
 /// kit is what an editor takes in two letters.
 bool Appartiene(const Parola& parola, Genia genia);
+
+/// What an entry of a kind is, as a predicate: "è una sigla".
+std::string_view CheCosaE(Genia genia);
 
 /// Why a word may not stand in any crossword under a set of rules, whatever the shares: an Italian
 /// sentence, in which `chiamata` names the word if it is not to be its letters alone; none when it

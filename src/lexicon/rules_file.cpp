@@ -27,7 +27,7 @@ std::string Normale(std::string_view testo) {
 
 std::optional<Quota> QuotaDi(std::string_view valore) {
   if (valore == "no") return Quota{Quota::Nessuna};
-  if (valore == "si" || valore == "s\xC3\xAC") return Quota{Quota::Libera};
+  if (valore == "si" || valore == "s\xC3\xAC" || valore == "s\xC3\x8C") return Quota{Quota::Libera};
   constexpr std::string_view inizi[] = {"uno su ", "una su ", "1 su "};
   for (const std::string_view inizio : inizi) {
     if (!valore.starts_with(inizio)) continue;
@@ -90,7 +90,7 @@ constexpr std::string_view ValoriDiQuota = "no, si, uno su N (N da 1 a 9999)";
 
 // The first one is what the others change, wherever it stands in the file.
 constexpr Regola Regole[] = {
-    {"base", ImpostaBase, "severe, settimanali, libere"},
+    {"base", ImpostaBase, NomiDeiRegolamenti},
     {"finite", ImpostaQuota<Genia::Finita>, ValoriDiQuota},
     {"tronche", ImpostaQuota<Genia::Tronca>, ValoriDiQuota},
     {"due", ImpostaDue, "corredo, tutte"},
@@ -161,10 +161,16 @@ class FileDiRegole {
 
 }  // namespace
 
-std::optional<Regolamento> InterpretaRegolamento(std::string_view testoUtf8, std::string_view nome,
+std::optional<Regolamento> InterpretaRegolamento(std::string_view testo, std::string_view nome,
                                                  std::string& causa) {
+  if (InUtf16(testo)) {
+    causa = "il file è in UTF-16, o non è un testo: va salvato in UTF-8"_cp;
+    return std::nullopt;
+  }
+  const bool utf8 = CodificaDi(testo) == Codifica::Utf8;
+  const std::string inUtf8 = utf8 ? std::string(SenzaSegnoUtf8(testo)) : AUtf8(testo);
   FileDiRegole file;
-  LettoreDiRighe righe(SenzaSegnoUtf8(testoUtf8));
+  LettoreDiRighe righe(inUtf8);
   std::string_view riga;
   while (righe.Prossima(riga)) {
     if (!file.Prendi(riga, causa)) return std::nullopt;

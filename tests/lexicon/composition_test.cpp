@@ -88,7 +88,8 @@ TEST_F(Composition, WhatCannotBeHadIsToldByItsName) {
   EXPECT_EQ(Layers({"italiano", "Manca.priv"}), Unisci("Impossibile leggere il dizionario.\n",
                                                        InFolder("Manca.priv").string(), missing));
   const std::string_view list = "La lista di parole non si può leggere.\n"_cp;
-  EXPECT_EQ(Layers({"spagnolo"}), Unisci(list, "spagnolo", missing));
+  EXPECT_EQ(Layers({"spagnolo"}), Unisci(list, "spagnolo", missing,
+                                         " Le lingue sono italiano, inglese, latino, francese."));
   EXPECT_EQ(Layers({utf16}), Unisci(list, utf16.string(),
                                     ": la lista è in UTF-16, o non è un testo: va salvata in "
                                     "UTF-8."_cp));
@@ -127,7 +128,9 @@ TEST_F(Composition, RulesAndWordsAreReadFromFiles) {
   EXPECT_TRUE(cause_.starts_with(Unisci("Le regole non si possono leggere.\n", file.string(),
                                         ": riga 2: \"nome\" non è una regola"_cp)))
       << cause_;
-  EXPECT_FALSE(TrovaRegolamento("manca", cause_));
+  EXPECT_FALSE(TrovaRegolamento("Severe", cause_));
+  EXPECT_TRUE(cause_.ends_with(" Le regole con un nome sono severe, settimanali, libere."))
+      << cause_;
   EXPECT_EQ(LeggiParole(list_, cause_), (InsiemeDiParole{"AB", "SOLE"}));
   EXPECT_EQ(LeggiParole(WriteFile("vuota", ""), cause_), InsiemeDiParole());
   EXPECT_FALSE(LeggiParole("manca", cause_));

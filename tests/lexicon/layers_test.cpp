@@ -210,22 +210,22 @@ TEST(Rules, EachSetRefusesWhatItsTableSays) {
     std::string_view severe, settimanali;
   } rows[] = {
       {Word("ANDAVA", {}, {"v.ind.impf.3s"}),
-       "ANDAVA è una forma finita di un verbo: le regole \"severe\" non l'ammettono."_cp, ""},
+       "ANDAVA è una forma finita di un verbo: le regole «severe» non l'ammettono."_cp, ""},
       {Word("BARCA", {}, {"s.fs", "v.ind.pres.3s"}), "", ""},
       {Word("ANDARE", {}, {"v.inf"}), "", ""},
       {Word("SENZALETTURE"), "", ""},
       {Word("ANDAR", {Segno::Tronca}, {"v.inf"}),
-       "ANDAR è una parola tronca: le regole \"severe\" non l'ammettono."_cp,
-       "ANDAR è una parola tronca: le regole \"settimanali\" non l'ammettono."_cp},
+       "ANDAR è una parola tronca: le regole «severe» non l'ammettono."_cp,
+       "ANDAR è una parola tronca: le regole «settimanali» non l'ammettono."_cp},
       {kit, "", ""},
       {own, "", ""},
       {Word("XY"),
-       "XY non è una delle voci di due lettere riconosciute: le regole \"severe\" non "
+       "XY non è una delle voci di due lettere riconosciute: le regole «severe» non "
        "l'ammettono."_cp,
-       "XY non è una delle voci di due lettere riconosciute: le regole \"settimanali\" non "
+       "XY non è una delle voci di due lettere riconosciute: le regole «settimanali» non "
        "l'ammettono."_cp},
       {Word("STU", {Segno::Gioco}),
-       "STU si spiega solo come gioco di lettere: le regole \"severe\" non l'ammettono.", ""},
+       "STU si spiega solo come gioco di lettere: le regole «severe» non l'ammettono."_cp, ""},
       {Word("FBI", {Segno::Sigla}), "", ""},
       {Word("ROMA", {Segno::Nome}), "", ""},
       {Word("SHOW", {Segno::Straniera}), "", ""},
@@ -254,7 +254,7 @@ TEST(Rules, AFileChangesASetLineByLine) {
   std::string cause;
   const auto rules = InterpretaRegolamento(
       "\xEF\xBB\xBF# le mie\r\n\r\nFinite = uno  su 7\r\n due=tutte\nbase = settimanali\n"
-      "sigle = no\nnomi = s\xC3\xAC\ntre = parole",
+      "sigle = no\nnomi = S\xC3\x8C\ntre = parole",
       "mie.txt", cause);
   ASSERT_TRUE(rules) << cause;
   Regolamento expected = *RegolamentoDiNome("settimanali");
@@ -267,6 +267,7 @@ TEST(Rules, AFileChangesASetLineByLine) {
   const auto empty = InterpretaRegolamento("", "severe", cause);
   ASSERT_TRUE(empty);
   EXPECT_EQ(*empty, *RegolamentoDiNome("severe"));
+  EXPECT_EQ(InterpretaRegolamento("nomi = s\xEC", "severe", cause), empty);
 
   constexpr std::string_view valuesOfShare =
       "\" non è un valore di \"finite\"; i valori sono no, si, uno su N (N da 1 a 9999)"_cp;
@@ -282,6 +283,8 @@ TEST(Rules, AFileChangesASetLineByLine) {
       {"finite = uno su 0", Unisci("riga 1: \"uno su 0", valuesOfShare)},
       {"finite = uno su dieci", Unisci("riga 1: \"uno su dieci", valuesOfShare)},
       {"finite =", Unisci("riga 1: \"", valuesOfShare)},
+      {std::string_view("b\0a\0s\0e\0", 8),
+       std::string("il file è in UTF-16, o non è un testo: va salvato in UTF-8"_cp)},
   };
   for (const auto& [text, because] : wrong) {
     EXPECT_FALSE(InterpretaRegolamento(text, "x", cause)) << text;

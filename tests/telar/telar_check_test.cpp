@@ -33,7 +33,7 @@ TEST_F(TelarCheck, PrintsFaultsWarningsAndFigures) {
             "avviso\triempitiva\t1\t1\tV\tLa definizione di AST (1 verticale) dice troppo poco: "
             "«Nome maschile».\n"
             "avviso\trare\t2\t1\tV\tLER (2 verticale) è una parola rara: lo schema ne ha 1, meglio "
-            "non più di 0.\n"
+            "nessuna.\n"
             "cifra\tnere\t0.0\ncifra\tmedia\t3.0\ncifra\tpunteggio\t57.0\ncifra\tminimo\t20\n"
             "cifra\tfacili\t2\ncifra\tdifficili\t1\ncifra\tlettere\t7\ncifra\tpiazza\t3x3\n"
             "cifra\tdifficolta\t1.7\ncifra\tvoci-3\t6\n");

@@ -43,7 +43,8 @@ TEST_F(Telar, LexiconTellsWhatItCannotRead) {
   EXPECT_EQ(found.err, NoStore);
   EXPECT_EQ(found.status, 0);
   EXPECT_EQ(Told("lessico --lessico manca sole", 1),
-            "La lista di parole non si può leggere. manca: il file o la cartella non esiste.\n");
+            "La lista di parole non si può leggere. manca: il file o la cartella non esiste. "
+            "Le lingue sono italiano, inglese, latino, francese.\n");
   EXPECT_TRUE(Told("lessico", 2).starts_with("telar: mancano argomenti, servono: PAROLA...\n"));
   EXPECT_TRUE(Told("lessico --conta sole", 2).starts_with("telar: --conta non richiede parole\n"));
   EXPECT_TRUE(
