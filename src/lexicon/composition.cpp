@@ -172,11 +172,15 @@ class Composizione {
     return strato;
   }
 
+  void AggiungiRiga(std::string_view messaggio) {
+    if (!messaggio_.empty() && !messaggio.empty()) messaggio_ += '\n';
+    messaggio_ += messaggio;
+  }
+
   std::shared_ptr<const Strato> ApriElenco(const Percorso& nome) {
     std::string messaggio;
     const auto elenco = LeggiElenco(nome, messaggio);
-    if (!messaggio_.empty() && !messaggio.empty()) messaggio_ += '\n';
-    messaggio_ += messaggio;
+    AggiungiRiga(messaggio);
     if (!elenco) {
       messaggio_ += SeNomeErrato(nome, "Le lingue sono ", NomiDelleLingue());
       return nullptr;
@@ -185,8 +189,13 @@ class Composizione {
   }
 
   bool AggiungiMio() {
-    const auto mie = ParoleMie::Leggi(luoghi_.programma, messaggio_);
+    std::string causa;
+    const auto mie = ParoleMie::Leggi(luoghi_.programma, causa);
+    AggiungiRiga(causa);
     if (!mie) return false;
+    const auto [quante, prima] = mie->RigheIgnorate();
+    AggiungiRiga(NotaSu({.scartate = quante, .primaScartata = prima},
+                        PercorsoNellaCartella(luoghi_.programma, ParoleMie::NomeFile)));
     if (Nominata(Specie::Lingua) || Nominata(Specie::Dizionario) || Nominata(Specie::Mio)) {
       lessico_.Aggiungi(std::make_shared<StratoElenco>(NomeParoleMie, mie->Elenco()), Origine::Mio);
       return true;

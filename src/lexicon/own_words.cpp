@@ -37,10 +37,16 @@ std::optional<ParoleMie> ParoleMie::Leggi(const Percorso& cartella, std::string&
   std::error_code errore;
   const EsitoLettura esito = LeggiFile(file, MaxByte, contenuto, errore);
   if (esito == EsitoLettura::Assente) return ParoleMie();
-  if (esito == EsitoLettura::Letto) return Interpreta(contenuto);
   constexpr std::string_view messaggio = "L'elenco delle parole proprie non si può leggere."_cp;
-  causa = esito == EsitoLettura::TroppoGrande ? ConCausa(messaggio, file, "è troppo grande"_cp)
-                                              : ConCausa(messaggio, file, errore);
+  if (esito == EsitoLettura::TroppoGrande) {
+    causa = ConCausa(messaggio, file, "è troppo grande"_cp);
+  } else if (esito != EsitoLettura::Letto) {
+    causa = ConCausa(messaggio, file, errore);
+  } else if (InUtf16(contenuto)) {
+    causa = ConCausa(messaggio, file, "è in UTF-16, o non è un testo: va salvato in UTF-8"_cp);
+  } else {
+    return Interpreta(contenuto);
+  }
   return std::nullopt;
 }
 
@@ -118,6 +124,15 @@ bool ParoleMie::Togli(std::string_view parola) {
     return !riga.parola.empty() && riga.parola == parola;
   };
   return std::erase_if(righe_, tolta) > 0;
+}
+
+ParoleMie::Ignorate ParoleMie::RigheIgnorate() const {
+  Ignorate ignorate;
+  for (std::size_t i = 0; i < righe_.size(); ++i) {
+    if (!righe_[i].parola.empty() || RigaVuota(SenzaFine(righe_[i].testo))) continue;
+    if (ignorate.quante++ == 0) ignorate.prima = static_cast<std::int64_t>(i) + 1;
+  }
+  return ignorate;
 }
 
 ElencoParole ParoleMie::Elenco() const {

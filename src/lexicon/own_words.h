@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -34,6 +35,13 @@ class ParoleMie {
   bool Imposta(std::string_view grafia, int punteggio = ElencoParole::SenzaPunteggio);
   /// Takes a folded word out. False when it is not there.
   bool Togli(std::string_view parola);
+
+  /// The lines that hold something but no word.
+  struct Ignorate {
+    std::int64_t quante = 0;
+    std::int64_t prima = 0;  // the number of the first one, from 1; 0 for none
+  };
+  Ignorate RigheIgnorate() const;
 
   /// All words, those with a score of 0 too; and these alone.
   ElencoParole Elenco() const;

@@ -106,6 +106,7 @@ TEST_F(Composition, WhatAListHasBesideWordsIsToldAndLeftOut) {
   std::string low = "x;1\n";
   for (int i = 0; i < 1000; ++i)
     low += Unisci("pa", std::string(1 + i % 40, 'a' + i / 40), ";50\n");
+  const Percorso own = WriteFile(ParoleMie::NomeFile, "# mie\nculo 0\nsole;0\n");
   EXPECT_TRUE(Compose({odd, list_, WriteFile("bassa", low)}));
   EXPECT_EQ(cause_, Unisci("Lista ", odd.string(),
                            ": righe che non contengono una parola, ignorate: 2 (la prima: 2).\n"
@@ -114,7 +115,10 @@ TEST_F(Composition, WhatAListHasBesideWordsIsToldAndLeftOut) {
                            ": righe che non contengono una parola, ignorate: 1 (la prima: 1).\n"
                            "Lista ",
                            InFolder("bassa").string(),
-                           ": nessun punteggio supera 50, ma valgono come stanno, da 0 a 100."));
+                           ": nessun punteggio supera 50, ma valgono come stanno, da 0 a 100.\n"
+                           "Lista ",
+                           own.string(),
+                           ": righe che non contengono una parola, ignorate: 1 (la prima: 2)."));
 }
 
 TEST_F(Composition, RulesAndWordsAreReadFromFiles) {

@@ -123,6 +123,8 @@ TEST_F(OwnWords, WhatIsNotChangedIsKeptByteByByte) {
   EXPECT_EQ(list[*list.Cerca("ORO")].punteggio, 9);
   EXPECT_EQ(list[*list.Cerca("CITTA")].grafia, "Citt\xE0");
   EXPECT_EQ(own.Vietate(), InsiemeDiParole{"CULO"});
+  EXPECT_EQ(own.RigheIgnorate().quante, 2);
+  EXPECT_EQ(own.RigheIgnorate().prima, 4);
   own.Imposta("PERCH\xC9", 50);
   own.Imposta("culo", 1);
   EXPECT_TRUE(own.Togli("CITTA"));
@@ -142,6 +144,11 @@ TEST_F(OwnWords, AListThatCannotBeReadIsNone) {
   std::filesystem::create_symlink("/dev/null", InFolder(ParoleMie::NomeFile));
   EXPECT_FALSE(ParoleMie::Leggi(CartellaProgramma, cause));
   EXPECT_TRUE(cause.starts_with("L'elenco delle parole proprie non si può leggere.\n"_cp)) << cause;
+  std::filesystem::remove(InFolder(ParoleMie::NomeFile));
+  WriteFile(ParoleMie::NomeFile, std::string_view("C\0U\0L\0O\0;\0"
+                                                  "0\0",
+                                                  12));
+  EXPECT_FALSE(ParoleMie::Leggi(CartellaProgramma, cause)) << "its bans would be lost";
 }
 
 }  // namespace
