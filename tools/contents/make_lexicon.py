@@ -3,9 +3,9 @@
 
     tools/contents/make_lexicon.py --morphit FOLDER [--root FOLDER] [--out FOLDER] [LANGUAGE]...
 
-`--root` is where the Debian packages named in data/lexicon/README.md are unpacked, / as it is told
-for installed ones; `--morphit` holds the unpacked npm packages italian-{words,verbs,adjectives}-dict.
-The same sources always give the same bytes."""
+`--root` is where the Debian packages named in data/lexicon/README.md are unpacked, / where they are
+installed; `--morphit` holds the unpacked npm packages italian-{words,verbs,adjectives}-dict. The
+same sources always give the same bytes."""
 
 import argparse
 import pathlib

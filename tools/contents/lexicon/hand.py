@@ -4,18 +4,22 @@ from .text import fold, hand_lines
 
 
 class HandLists:
-    """Each list as folded form to the fields of its line, the spelling first; a score comes last."""
+    """Each list as folded form to the fields of its line: the spelling first, a score last."""
 
     def __init__(self, folder):
         self.banned = table(folder / "bandite.txt")
         self.foreign = table(folder / "straniere.txt")
         self.names = table(folder / "nomi.txt")
-        self.own_words = table(folder / "parole.txt")  # neither names nor foreign, as sources have them
+        self.own_words = table(folder / "parole.txt")  # sources take them for names or foreign
         self.abbreviations = table(folder / "sigle_lunghe.txt")
         self.three = table(folder / "tre_lettere.tsv")
         self.phrases = table(folder / "locuzioni.txt")
         self.judged = {key: readings_of(fields)
                        for key, fields in table(folder / "ambigue.tsv").items()}
+
+    def kind(self, key):
+        """What an entry of three letters was judged to be; "" for all others."""
+        return self.three[key][1] if len(self.three.get(key, ())) > 1 else ""
 
 
 def table(path):

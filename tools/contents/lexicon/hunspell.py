@@ -7,8 +7,8 @@ Affix = collections.namedtuple("Affix", "strip add condition further")
 
 
 class Hunspell:
-    """Stems with their flags, and the suffixes that each flag stands for. Flags are one letter each,
-    or two where the affix file says so."""
+    """Stems with their flags, and the suffixes that each flag stands for. Flags are one letter
+    each, or two where the affix file says so."""
 
     def __init__(self, aff_path, dic_path):
         self.suffixes = collections.defaultdict(list)

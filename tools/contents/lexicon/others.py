@@ -6,7 +6,7 @@ import math
 from .entry import Entry
 from .counts import Counts
 from .scores import MIDDLE_RANK, TOP_RANK, Scale
-from .text import fold, list_order
+from .text import SHORTEST, fold, list_order
 
 LIST_SHARE = 0.9  # of a logarithm: what the order of the word list makes among words never seen
 HEADWORD_BONUS = 0.2
@@ -21,7 +21,6 @@ ENGLISH_LISTS = (("american-english-small", 1.0), ("british-english-small", 1.0)
 FRENCH_STEM, FRENCH_INFLECTED, FRENCH_VERB = 0.9, 0.6, -0.2
 FRENCH_NAMES = ("po:npr", "po:patr", "po:prn")
 UNKNOWN = -0.4
-SMALLEST_LETTERS = 3
 
 
 def others(language, sources, words):
@@ -29,7 +28,7 @@ def others(language, sources, words):
         return latin(words)
     build = {"inglese": english, "francese": french}[language]
     counts, known, names = build(sources)
-    return by_counts([word for word in words if len(word) >= SMALLEST_LETTERS],
+    return by_counts([word for word in words if len(word) >= SHORTEST],
                      counts, known, names)
 
 
@@ -93,8 +92,8 @@ def by_counts(words, counts, known, names):
 
 
 # Common forms by length, in hundredths, as they are in Italian: of the 30,000 commonest.
-COMMON_BY_LENGTH = {3: 1, 4: 3.7, 5: 8, 6: 11.2, 7: 15.5, 8: 15.9, 9: 14.7, 10: 12.2, 11: 8.5, 12: 4.8,
-                    13: 2.5, 14: 1.3, 15: 0.7}
+COMMON_BY_LENGTH = {3: 1, 4: 3.7, 5: 8, 6: 11.2, 7: 15.5, 8: 15.9, 9: 14.7, 10: 12.2, 11: 8.5,
+                    12: 4.8, 13: 2.5, 14: 1.3, 15: 0.7}
 
 
 def latin(words):

@@ -12,6 +12,7 @@ CONJUGATING_FLAGS = "AzBCtÀVPZfEGHam"
 DERIVING_FLAGS = NOUN_FLAGS + "WYN@"
 ADJECTIVE_FLAGS = "WYopy"  # superlatives, adverbs in -mente, four endings
 INFINITIVE_ENDS = ("are", "ere", "ire", "rre")
+SHORTEST_WITH_CLITIC = 6  # letters of a finite form with a pronoun: Geti are a people
 NEAR = 12  # infinitives looked at on each side of a form without a lemma
 PLURAL = {"ms": "mp", "fs": "fp", "s": "p"}
 
@@ -169,8 +170,9 @@ class Readings:
                 self.add(form, f"{category}.{number}", lemma)
 
     def _settle_feminines(self):
-        """Casa and moda are words of their own: caso and modo have no feminine, though a rule would make
-        one. What is an adjective too has one (bianca), but not beside a noun of its own (banca)."""
+        """Casa and moda are words of their own: caso and modo have no feminine, though a rule would
+        make one. What is an adjective too has one (bianca), but not beside a noun of its own
+        (banca)."""
         for code, singulars in (("s.fs", lambda form: [form]),
                                 ("s.fp", lambda form: list(candidates(form, SINGULARS["fp"])))):
             for form, choices in list(self.table.items()):
@@ -183,7 +185,8 @@ class Readings:
         return bool(own & {"s.ms", "s.m"}) and not own & {"s.fs", "s.f", "s.s", "s"}
 
     def _settle_feminine(self, choices, code, lemma, singulars):
-        feminines = [word for word in singulars if word != lemma and self.has_own(word, ("s.fs", "s.f"))]
+        feminines = [word for word in singulars
+                     if word != lemma and self.has_own(word, ("s.fs", "s.f"))]
         if not feminines and not self.has_own(lemma, ("a.ms", "a.s", "a")):
             feminines = [word for word in singulars if self.has(word, ("s.fs",))] or [
                 word for word in singulars if code == "s.fs"]
@@ -223,7 +226,8 @@ class Readings:
         if any(code.startswith("v.imp") for code, _ in found):  # fategli is no participle
             found = {reading: 1 for reading in found if not reading[0].startswith("v.part")}
         for code, lemma in self.table.get(form[:-2], ()) if not found else ():
-            if form.endswith(FINITE_CLITICS) and code.startswith("v.") and code[-2:] in ("3s", "3p"):
+            third = code.startswith("v.") and code.endswith(("3s", "3p"))
+            if third and form.endswith(FINITE_CLITICS) and len(form) >= SHORTEST_WITH_CLITIC:
                 found[code + ".cli", lemma] = 1
         return found
 

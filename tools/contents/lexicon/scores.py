@@ -14,6 +14,11 @@ RAREST = 0.02  # occurrences of a form of which nothing is known
 # known where one of its forms is, a verb's rare form is rare however common the verb.
 LEMMA_WEIGHT = (("v.inf", .45), ("v.part.pass", .2), ("v.part.pres", .1),
                 ("v.ger", .1), ("v", 0), ("a.comp", .1), ("a", .3), ("avv", .2), ("", .35))
+NAME_USE = 0.8  # of a word's occurrences as a name: what does not count for it
+HAND_SCORE = 40  # the least that an entry has that somebody wrote down by hand
+LIST_SHARE = 0.2  # of a logarithm: what the order of the word list makes among words never seen
+GUESSED_DISCOUNT = 1.5  # of a logarithm: what a form has less whose reading no source has
+NAME_LEAST = 8  # occurrences taken for a name that the list lacks
 NAME_DISCOUNT = 0.35  # the list comes from an encyclopedia, where names abound
 
 # Occurrences taken for a lemma that the frequency list lacks, by how many dictionaries have it.

@@ -7,6 +7,7 @@ import unicodedata
 
 LIGATURES = str.maketrans({"Œ": "OE", "Æ": "AE", "ß": "SS"})
 DROPPED = re.compile(r"[ '’.\-]")
+SHORTEST = 3  # letters of an entry here; two letters are the kit's
 FOLDED = re.compile(r"[A-Z]{2,53}")
 
 
@@ -20,7 +21,8 @@ def fold(spelled):
 
 
 def in_code_page(spelled):
-    """The spelling with bare letters for those that Windows-1252, the program's code page, lacks."""
+    """The spelling with bare letters for those that the program's code page, Windows-1252,
+    lacks."""
     def covered(letter):
         return letter.encode("cp1252", "ignore") != b""
     if len(spelled.encode("cp1252", "ignore")) == len(spelled):

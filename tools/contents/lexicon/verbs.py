@@ -10,13 +10,15 @@ SHORTEST_ANALOGY = 5  # letters at the end that a verb must share with its model
 
 # What Morph-it! leaves to its auxiliaries, and the commonest forms that go by no rule.
 IRREGULAR = {
-    "essere": {"ind.pres": "sono sei è siamo siete sono", "ind.impf": "ero eri era eravamo eravate erano",
+    "essere": {"ind.pres": "sono sei è siamo siete sono",
+               "ind.impf": "ero eri era eravamo eravate erano",
                "ind.pass": "fui fosti fu fummo foste furono",
                "ind.fut": "sarò sarai sarà saremo sarete saranno",
                "cong.pres": "sia sia sia siamo siate siano",
                "cong.impf": "fossi fossi fosse fossimo foste fossero",
                "cond.pres": "sarei saresti sarebbe saremmo sareste sarebbero",
-               "imp.pres": "- sii - siamo siate -", "ger": "essendo", "part.pass": "stato stata stati state"},
+               "imp.pres": "- sii - siamo siate -", "ger": "essendo",
+               "part.pass": "stato stata stati state"},
     "avere": {"ind.pres": "ho hai ha abbiamo avete hanno",
               "ind.impf": "avevo avevi aveva avevamo avevate avevano",
               "ind.pass": "ebbi avesti ebbe avemmo aveste ebbero",
@@ -24,7 +26,8 @@ IRREGULAR = {
               "cong.pres": "abbia abbia abbia abbiamo abbiate abbiano",
               "cong.impf": "avessi avessi avesse avessimo aveste avessero",
               "cond.pres": "avrei avresti avrebbe avremmo avreste avrebbero",
-              "imp.pres": "- abbi - abbiamo abbiate -", "ger": "avendo", "part.pres": "avente aventi",
+              "imp.pres": "- abbi - abbiamo abbiate -", "ger": "avendo",
+              "part.pres": "avente aventi",
               "part.pass": "avuto avuta avuti avute"},
 }
 
