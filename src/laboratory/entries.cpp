@@ -44,7 +44,8 @@ std::string VoceDiGriglia::Luogo() const {
 }
 
 std::string VoceDiGriglia::Nome() const {
-  return Unisci(caselle, " (", Luogo(), ')');
+  const bool vuota = caselle.find_first_not_of(CellaVuota) == std::string::npos;
+  return vuota ? Luogo() : Unisci(caselle, " (", Luogo(), ')');
 }
 
 ParoleVietate::ParoleVietate(const Lessico& lessico, const Cruciverba& cruciverba)

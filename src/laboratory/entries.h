@@ -50,7 +50,8 @@ struct VoceDiGriglia {
   std::optional<int> Punteggio() const;
   bool Rara() const;
 
-  /// "SEGUO (5 verticale)", and "5 verticale" alone.
+  /// "SEGUO (5 verticale)", and "5 verticale" alone, which is the name of an entry without letters
+  /// too.
   std::string Nome() const;
   std::string Luogo() const;
 };
