@@ -68,7 +68,7 @@ class Package(unittest.TestCase):
         """Standard output and standard error of a command that succeeds."""
         process = self.start("telar", *arguments)
         results = process.communicate(timeout=PATIENCE)
-        self.assertEqual(process.returncode, 0, results[1])
+        self.assertEqual(process.returncode, 0, results)
         return results
 
     def names_in_own(self):
@@ -146,6 +146,11 @@ class Package(unittest.TestCase):
         self.telar("--cartella", self.home, "enc-crea", clues)
         line = self.telar("--cartella", self.home, "lessico", "--lessico", "sigle", "MI")[0].splitlines()[0]
         self.assertGreater(sum(map(int, line.split("\t")[6:8])), 0, line)
+
+    def test_the_samples_are_fit_for_print(self):
+        for sample in self.samples:
+            with self.subTest(sample.name):
+                self.telar("controlla", sample)
 
     def test_a_newer_package_reaches_who_changed_nothing(self):
         self.telar("griglia", self.samples[0])
