@@ -39,7 +39,7 @@ std::string Detto(const Rivelazione& rivelazione) {
     case Rivelazione::Specie::Risposta:
       return "contiene la risposta";
     case Rivelazione::Specie::Parente:
-      return Unisci("tradisce la risposta: ", parola, " ha la stessa radice"_cp);
+      return Unisci("tradisce la risposta: ", parola, " le somiglia troppo");
     case Rivelazione::Specie::AltraVoce:
       return Unisci("contiene un'altra voce dello schema: ", rivelazione.voce->Nome());
     default:

@@ -113,8 +113,8 @@ Stato Controlla(const Argomenti& argomenti, PiattaformaConsole&) {
 std::vector<Comando> ComandiControllo() {
   return {
       {"controlla", "FILE", "", 1, 1, ConOpzioniParole({OpzioneJson}),
-       "Controlla se il cruciverba è pronto per la stampa: errori, avvisi, cifre.", Controlla,
-       true},
+       "Controlla se il cruciverba è pronto per la stampa: errori, avvisi, cifre.", Controlla, true,
+       Stato::Interrotto},
   };
 }
 

@@ -33,7 +33,8 @@ struct Comando {
   std::vector<Opzione> opzioni;
   std::string_view aiuto;
   std::function<Stato(const Argomenti&, PiattaformaConsole&)> esegui;
-  bool usaEnciclopedia = false;  // the user's own one is made first when it is missing
+  bool usaEnciclopedia = false;       // the user's own one is made first when it is missing
+  Stato interrotto = Stato::Fallito;  // when Ctrl+C breaks that off
 };
 
 /// All commands, in the order of the help text.

@@ -77,7 +77,7 @@ std::vector<Comando> ComandiLessico() {
       {"lessico", "PAROLA...", " | --conta", 0, QuantiSiVuole,
        {OpzioneConta, OpzioneLessico},
        "Dice che cosa il lessico sa delle parole, e quante voci ha.",
-       ComandoLessico, true},
+       ComandoLessico, true, Stato::Interrotto},
   };
   // clang-format on
 }

@@ -139,7 +139,7 @@ Stato Esegui(const Comando& comando, const Argomenti& argomenti, PiattaformaCons
   if (scelta.daRiempire && !FileOrdinario(scelta.cartella / NomeBlocco))
     AggiornaCartellaProgramma(scelta.cartella, FileModificati::Lascia);
   if (scelta.daRiempire && comando.usaEnciclopedia && !PreparaEnciclopediaMancante())
-    return Stato::Fallito;
+    return piattaforma.ChiUsa().Interrotto() ? comando.interrotto : Stato::Fallito;
   return comando.esegui(argomenti, piattaforma);
 }
 

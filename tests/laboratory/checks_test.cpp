@@ -172,14 +172,14 @@ const Planted Cases[] = {
     {.name = "ClueSharesAStem",
      .clues = {{"1O", "Un portale"}, {"7O", "Un salvacondotto"}},
      .found = {"definizione-rivela 1,1 O La definizione di PORTA (1 orizzontale) tradisce la "
-               "risposta: «portale» ha la stessa radice."}},
+               "risposta: «portale» le somiglia troppo."}},
     {.name = "ClueSharesALemma",
      .words = {"CINGE 80 v.ind.pres.3s cingere s.fs cinta", "CINTE 80 v.part.pass.fp cingere",
                "SALVO 80 v.ind.pres.3s essere", "SIA 80 v.cong.pres.3s essere"},
      .clues = {{"8O", "Sono cinte d'assedio"}, {"7O", "Sia pure"}},
      .rules = "libere",
      .found = {"definizione-rivela 1,4 O La definizione di CINGE (8 orizzontale) tradisce la "
-               "risposta: «cinte» ha la stessa radice."}},
+               "risposta: «cinte» le somiglia troppo."}},
     {.name = "ClueHoldsAnotherEntry",
      .rows = {"POR#A", "ETIRE", "SALVO", "CINGE", "ALTRE"},
      .clues = {{"5O", "Pesca in acque, malaltre, por"}},
