@@ -5,7 +5,9 @@ import re
 
 from .entry import Entry
 from .knowledge import FINITE, Knowledge, only_finite
+from .lemmas import superlative_lemma
 from .marks import Marks
+from .readings import ending_number
 from .scores import (GUESSED_DISCOUNT, HAND_SCORE, LIST_SHARE, NAME_DISCOUNT, NAME_LEAST, NAME_USE,
                      Scale, by_frequency, with_lemma)
 from .text import SHORTEST, fold, list_order
@@ -15,6 +17,7 @@ RARE_READING = 0.0005  # of a form's occurrences: what is meant less often is le
 LEAST_FINITE = 1.5  # expected occurrences of a verb's form that is worth an entry
 KNOWN_VERB = 2  # sources that a verb must have for a participle to count beside a finite form
 PREFIXES = ("ri", "stra", "pre", "dis", "s", "auto", "super", "sovra")
+SUPERLATIVE = re.compile("issim[oaie]$")
 # Endings that only finite forms have, of verbs that no source knows.
 ONLY_FINITE = re.compile("..(([aei]ss|ebb|ett|[^aeiou]s|ar|ir)ero|[aei]rono|[aei]ranno|[ei]remmo|"
                          "[ei]rebbe|[ei]resti|[aei]va(mo|te|no)|[ae]ssimo)$")
@@ -33,6 +36,7 @@ class Italian:
         for key in sorted(self._keys()):
             entry = Entry(key, self._spelling(key))
             entry.readings = self._read(entry)
+            self._put_own_first(entry)
             self.marks.mark(entry)
             entries.append(entry)
         logarithms = [self._logarithm(entry) for entry in entries]
@@ -87,7 +91,7 @@ class Italian:
     def _read(self, entry):
         hand, key = self.know.hand, entry.folded
         if key in hand.judged:
-            judged = hand.judged[key]
+            judged = list(hand.judged[key])
             unnamed = key in hand.names and all(code != "np" for code, _ in judged)
             return [("np", entry.spelled)] + judged if unnamed else judged
         forms = self.know.spelled_forms(key)
@@ -97,6 +101,12 @@ class Italian:
             readings = self._guessed(forms[0])
             self.guessed.add(key)
         return self.marks.with_name(entry, forms, readings)
+
+    def _put_own_first(self, entry):
+        """Readings of the entry as spelled before those of other spellings (inizio, iniziò)."""
+        own = self.know.readings.of(entry.spelled)
+        if own:
+            entry.readings.sort(key=lambda one: one not in own and one[0] != "np")
 
     def _weights(self, forms, is_phrase):
         """Readings of all spelled forms to how often each is meant."""
@@ -109,15 +119,20 @@ class Italian:
         if is_phrase:  # in fieri is no infierì
             return {reading: weight for reading, weight in weights.items()
                     if not reading[0].startswith("v.")}
-        if any(FINITE.match(code) for code, _ in weights):  # sposti is no participle of sporre
-            return {(code, lemma): weight for (code, lemma), weight in weights.items()
-                    if not code.startswith("v.part")
-                    or self.know.readings.votes[lemma] > KNOWN_VERB}
-        return weights
+        infinitives = {lemma for code, lemma in weights if code == "v.inf"}
+        finite = any(FINITE.match(code) for code, _ in weights)
+        return {(code, lemma): weight for (code, lemma), weight in weights.items()
+                if not (FINITE.match(code) and lemma in infinitives)  # fare is no farè
+                and not (finite and code.startswith("v.part")  # sposti is none of sporre
+                         and self.know.readings.votes[lemma] <= KNOWN_VERB)}
 
     def _guessed(self, form):
-        """A form without readings: made with a prefix, or ending as only verbs' forms do."""
+        """A form without readings: a superlative, made with a prefix, or ending as only verbs'
+        forms do."""
         readings = self.know.readings
+        if SUPERLATIVE.search(form):
+            lemma = superlative_lemma(form, readings.has)
+            return [(f"a.{ending_number(form)}.comp", lemma)] if lemma != form else []
         for prefix in PREFIXES:
             rest = form.removeprefix(prefix)
             if rest != form and len(rest) > SHORTEST:

@@ -11,6 +11,7 @@ from .scores import LEAST_COUNT, LEMMA_BY_VOTES
 from .text import fold
 
 FOREIGN_LOCALES = ("en_US", "en_GB", "fr_FR", "de_DE", "es_ES")
+WORD_BEFORE_VERB = 10  # times commoner that a finite form must be to give an entry its spelling
 FINITE = re.compile(r"v\.(ind|cong|cond|imp|fin|ger)")
 
 
@@ -36,9 +37,13 @@ class Knowledge:
             self.spellings[fold(form)].add(form)
 
     def spelled_forms(self, key):
-        """The spelled forms of a key, the commonest first."""
+        """The spelled forms of a key, the commonest first, but a word before a finite form that is
+        somewhat commoner."""
+        def weight(form):
+            word = any(not FINITE.match(code) for code, _ in self.readings.table.get(form, ()))
+            return self.counts.all(form) * (WORD_BEFORE_VERB if word else 1)
         return sorted(self.spellings.get(key) or {key.lower()},
-                      key=lambda form: (-self.counts.all(form), -len(self.readings.of(form)),
+                      key=lambda form: (-weight(form), -len(self.readings.of(form)),
                                         not form.isascii(), form))
 
     def has_word(self, key):

@@ -50,6 +50,6 @@ def lemma_of(form, code, known):
 
 def superlative_lemma(form, known):
     for choice in candidates(form[:-1], SUPERLATIVES):
-        if known(choice, {"a.ms", "a.s", "a", "avv"}):
+        if known(choice, {"a.ms", "a.s", "a", "avv", "v.part.pass.ms"}):
             return choice
     return form

@@ -65,6 +65,8 @@ class Readings:
                 self.attested.add(form)
                 self.votes[lemma] += form == lemma
         for form, code in self.headwords:
+            if code == "v.inf" and not form.endswith(INFINITIVE_ENDS):
+                continue  # mythes-it calls participles verbs
             if code == "v.inf.cli":
                 base = form[:-2] + ("re" if form[:-2] + "re" in self.verbs.forms else "e")
                 self.add(form, code, base)
@@ -78,6 +80,8 @@ class Readings:
         """festlex-ifd has tags without lemma: dictionary forms first, then what is inflected."""
         inflected = []
         for form, code in dict.fromkeys(self.festlex):
+            if code == "v.inf" and not form.endswith(INFINITIVE_ENDS):
+                continue
             if code == "np":
                 self.names.setdefault(form, "-".join(map(str.capitalize, form.split("-"))))
             elif code.startswith("v.") or lemma_of(form, code, lambda *_: True) != form:
@@ -104,6 +108,9 @@ class Readings:
             lemma for known, lemma in verbal if not known.startswith("v.part")]
         if lemmas:
             return dict.fromkeys(lemmas)
+        made = self.verbs.by_ending(form)
+        if made and made[0] == code:
+            return [made[1]]
         place = bisect.bisect(infinitives, form)
         near = infinitives[max(0, place - NEAR):place + NEAR]
         best = max(near, key=lambda verb: (alike(form, verb), -len(verb), verb))
