@@ -90,6 +90,13 @@ std::string NomiDelleLingue() {
   return nomi;
 }
 
+bool SenzaParole(const Strato& strato) {
+  int lunghezza = MinLunghezzaVoce;
+  while (lunghezza <= MaxLunghezzaVoce && strato.Conta(lunghezza) == 0)
+    ++lunghezza;
+  return lunghezza > MaxLunghezzaVoce;
+}
+
 // Puts a lexicon together from the layers that are named.
 class Composizione {
  public:
@@ -120,6 +127,8 @@ class Composizione {
   bool Aggiungi(Specie specie, const Percorso& nome) {
     auto strato = Apri(specie, nome);
     if (!strato) return false;
+    if (SenzaParole(*strato))
+      AggiungiRiga(Unisci(TestoPercorso(nome), ": non contiene nemmeno una parola."));
     lessico_.Aggiungi(std::move(strato), OrigineDi(specie));
     return true;
   }

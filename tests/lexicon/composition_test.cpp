@@ -57,6 +57,7 @@ TEST_F(Composition, LayersLieInTheirOrderHoweverTheyAreNamed) {
   EXPECT_EQ(Layers({list_}), "sigle, lista.txt");
   EXPECT_EQ(Layers({list_, "mio"}), "sigle, lista.txt, mio");
   EXPECT_EQ(Layers({WriteFile("vuota", "")}), "sigle, vuota");
+  EXPECT_EQ(cause_, InFolder("vuota").string() + ": non contiene nemmeno una parola.");
 
   const auto two = Compose({"italiano", "inglese", list_});
   ASSERT_TRUE(two);
