@@ -17,11 +17,12 @@ std::string Elenco(std::string nomi, std::string_view altri) {
   return nomi.append(altri);
 }
 
+// Spelled forms are printed in capitals, as words stand in crosswords.
 void StampaVoce(const Parola& parola, const ConteggioDefinizioni& definizioni) {
   const auto stampa = [&](std::string_view lemma, const std::string& segni) {
-    StampaCampi({"voce", parola.lettere, parola.grafia, std::to_string(parola.punteggio), lemma,
-                 segni, std::to_string(definizioni.facili), std::to_string(definizioni.difficili),
-                 parola.strato});
+    StampaCampi({"voce", parola.lettere, Maiuscole(parola.grafia), std::to_string(parola.punteggio),
+                 Maiuscole(lemma), segni, std::to_string(definizioni.facili),
+                 std::to_string(definizioni.difficili), parola.strato});
   };
   const std::string segni = NomiDeiSegni(parola.segni);
   for (const Lettura& lettura : parola.letture)

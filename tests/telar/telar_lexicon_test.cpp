@@ -12,16 +12,16 @@ TEST_F(Telar, LexiconTellsWhatItKnowsOfAWordAndWhichItLacks) {
   Write("words", "città;70\nluna park;5\nXQ;3\n");
   WriteFile("program/parole_mie.txt", "l'oro;60\ncittà;0\n");
   EXPECT_EQ(Out(Words{"lessico", "--lessico", "words,mio", "CITTA", "l'oro", "Lùna-Park", "xq"}),
-            "voce\tCITTA\tcittà\t70\t\tbandita\t2\t1\twords\n"
-            "voce\tLORO\tl'oro\t60\t\t\t0\t0\tmio\n"
-            "voce\tLUNAPARK\tluna park\t5\t\t\t0\t0\twords\n"
+            "voce\tCITTA\tCITTÀ\t70\t\tbandita\t2\t1\twords\n"
+            "voce\tLORO\tL'ORO\t60\t\t\t0\t0\tmio\n"
+            "voce\tLUNAPARK\tLUNA PARK\t5\t\t\t0\t0\twords\n"
             "voce\tXQ\tXQ\t3\t\t\t0\t0\twords\n");
   const TelarResult some = Run("lessico --lessico words x città1 manca città");
   EXPECT_EQ(some.status, 3);
   EXPECT_EQ(some.err, "");
   EXPECT_EQ(some.out,
             "assente\tx\nassente\tcittà1\nassente\tMANCA\n"
-            "voce\tCITTA\tcittà\t70\t\tbandita\t2\t1\twords\n");
+            "voce\tCITTA\tCITTÀ\t70\t\tbandita\t2\t1\twords\n");
 }
 
 TEST_F(Telar, LexiconCountsItsLayersByLength) {
@@ -39,7 +39,7 @@ TEST_F(Telar, LexiconCountsItsLayersByLength) {
 TEST_F(Telar, LexiconTellsWhatItCannotRead) {
   Write("words", "sole;8\n");
   const TelarResult found = Run("lessico --lessico words sole");
-  EXPECT_EQ(found.out, "voce\tSOLE\tsole\t8\t\t\t0\t0\twords\n");
+  EXPECT_EQ(found.out, "voce\tSOLE\tSOLE\t8\t\t\t0\t0\twords\n");
   EXPECT_EQ(found.err, NoStore);
   EXPECT_EQ(found.status, 0);
   EXPECT_EQ(Told("lessico --lessico manca sole", 1),
