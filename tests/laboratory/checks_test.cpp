@@ -223,9 +223,12 @@ const Planted Cases[] = {
     // --- warnings about words ---
     {.name = "TwoFormsOfALemma",
      .words = {"PORTA 80 s.fs porta v.ind.pres.3s portare", "CINGE 80 v.inf portare",
-               "ETIRE 80 s.fs etira v.part.pass.fp salvare", "SALVO 80 a.ms salvo v.inf salvare"},
+               "ETIRE 80 s.fs etira v.part.pass.fp salvare", "SALVO 80 a.ms salvo v.inf salvare",
+               "ALTRE 80 a.fp altro v.ind.pres.3s portare"},
      .found =
          {"lemma-ripetuto 1,4 O CINGE (8 orizzontale) e PORTA (1 orizzontale) sono forme della "
+          "stessa parola, «portare».",
+          "lemma-ripetuto 1,5 O ALTRE (9 orizzontale) e CINGE (8 orizzontale) sono forme della "
           "stessa parola, «portare»."}},
     {.name = "FiveLettersInCommon",
      .rows = {"PORTALE", "#######", "TERZINO", "#######", "APORTAL", "#######", "TERZONI"},
