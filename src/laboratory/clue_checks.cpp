@@ -101,8 +101,7 @@ class SchemiUsati {
 };
 
 void Mancanti(Esame& esame, const VoceDiGriglia& voce) {
-  // A run with empty cells is told as such; what it will need shows when it is full.
-  if (!esame.criteri.vuoleDefinizioni || voce.libera || voce.HaVuote()) return;
+  if (!esame.criteri.vuoleDefinizioni || voce.libera) return;
   esame.Rileva(Codice::SenzaDefinizione, voce, voce.Nome() + " non ha una definizione.");
 }
 

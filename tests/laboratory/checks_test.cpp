@@ -108,6 +108,7 @@ const Planted Cases[] = {
      .rows = {".....", "ETIRE", "SALVO", "CINGE", "ALTRE"},
      .clues = {{"1O", ""}},
      .found = {"inesistente 1,1 O 1 orizzontale ha caselle vuote.",
+               "senza-definizione 1,1 O 1 orizzontale non ha una definizione.",
                "inesistente 1,1 V .ESCA (1 verticale) ha caselle vuote.",
                "inesistente 2,1 V .TAIL (2 verticale) ha caselle vuote.",
                "inesistente 3,1 V .ILNT (3 verticale) ha caselle vuote.",

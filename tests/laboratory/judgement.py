@@ -68,8 +68,7 @@ class Judgement:
                 self.places["vietata"].add(place)
             if entry and whole and word not in own:
                 judged.append((place, word, entry))
-            if "." not in word or crossword.clues.get(place):  # an empty cell is told alone
-                self.judge_clue(place, word, crossword.clues.get(place, ""), clues, texts)
+            self.judge_clue(place, word, crossword.clues.get(place, ""), clues, texts)
             if whole:
                 self.judge_stretches(place, word, stretches)
         self.judge_rules(judged)
