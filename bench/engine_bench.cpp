@@ -5,6 +5,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "comparison_table.h"
 #include "crossworddialogs/model_file.h"
 #include "crossworddialogs/new_crossword.h"
 #include "dictionary/dictionary.h"
@@ -165,15 +166,7 @@ void BM_BuildDictionary(benchmark::State& state, const std::string& list, const 
   }
 }
 
-struct Row {
-  const char* what;
-  const char* plain;  // name of the benchmark of the plain way; null where there is none
-  const char* ours;
-  int perIteration;  // how many of `what` an iteration does
-  const char* wanted;
-};
-
-constexpr Row Rows[] = {
+constexpr ComparisonRow Rows[] = {
     {"`CercaCandidati`, longest section, blank pattern", "blank/plain", "blank/telarium", 1,
      "at least 100"},
     {"`CercaCandidati`, longest section, two letters", "two/plain", "two/telarium", 1,
@@ -187,18 +180,7 @@ constexpr Row Rows[] = {
 };
 
 void PrintTable(const std::map<std::string, double>& medians, const ProcessCost& process) {
-  std::printf("\n| | plain, ms | Telarium, ms | ratio | wanted |\n|---|---|---|---|---|\n");
-  for (const Row& row : Rows) {
-    if (!medians.contains(row.ours)) continue;
-    const double ours = medians.at(row.ours) / row.perIteration;
-    if (row.plain && medians.contains(row.plain)) {
-      const double plain = medians.at(row.plain) / row.perIteration;
-      std::printf("| %s | %.3f | %.3f | %.0f | %s |\n", row.what, plain, ours, plain / ours,
-                  row.wanted);
-    } else {
-      std::printf("| %s | | %.3f | | %s |\n", row.what, ours, row.wanted);
-    }
-  }
+  PrintComparison(Rows, medians, {"ms", 1, 3});
   std::printf("| `telar estrai` of that grid, whole process | | %.1f | | under 50 ms |\n",
               process.milliseconds);
   std::printf("| its peak memory | | %.1f MiB | | under 16 MiB |\n", process.peakMebibytes);

@@ -5,6 +5,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "comparison_table.h"
 #include "lexicon/lexicon.h"
 #include "lexicon/lexicon_file.h"
 #include "lexicon/list_import.h"
@@ -147,15 +148,7 @@ void BM_FindInLayers(benchmark::State& state, const std::string& text,
   }
 }
 
-struct Row {
-  const char* what;
-  const char* plain;  // name of the benchmark of the plain way; null where there is none
-  const char* ours;
-  int perIteration;  // how many of `what` an iteration does
-  const char* wanted;
-};
-
-constexpr Row Rows[] = {
+constexpr ComparisonRow Rows[] = {
     {"the Italian lexicon opened", "open/plain", "open/telarium", 1, "under 5,000"},
     {"a word looked for that is there", "there/plain", "there/telarium", Words, "under 2"},
     {"one that is not", "absent/plain", "absent/telarium", Words, "under 2"},
@@ -166,19 +159,8 @@ constexpr Row Rows[] = {
     {"the same as a layer", nullptr, "list/telarium", 1, "under 1,000,000"},
 };
 
-void PrintTable(std::map<std::string, double>& medians, const ProcessCost& process) {
-  std::printf("\n| | plain, µs | Telarium, µs | ratio | wanted |\n|---|---|---|---|---|\n");
-  for (const Row& row : Rows) {
-    if (!medians.contains(row.ours)) continue;
-    const double ours = medians[row.ours] * 1000 / row.perIteration;
-    if (row.plain) {
-      const double plain = medians[row.plain] * 1000 / row.perIteration;
-      std::printf("| %s | %.2f | %.2f | %.1f | %s |\n", row.what, plain, ours, plain / ours,
-                  row.wanted);
-    } else {
-      std::printf("| %s | | %.2f | | %s |\n", row.what, ours, row.wanted);
-    }
-  }
+void PrintTable(const std::map<std::string, double>& medians, const ProcessCost& process) {
+  PrintComparison(Rows, medians, {"µs", 1000, 2});
   if (!process.succeeded) return;
   std::printf("| `telar lessico CASA`, whole process | | %.0f | | |\n",
               process.milliseconds * 1000);
