@@ -18,9 +18,10 @@ using Folders = std::set<std::string>;
 
 // What each layer may include, by folders of the sources. A folder's windows are a layer above all
 // logic.
-const Folders Core = {"platform", "model",   "dictionary",       "auxiliary",
-                      "editor",   "fill",    "crossworddialogs", "clues",
-                      "output",   "lexicon", "laboratory",       "telarium_version.h"};
+const Folders Core = {
+    "platform",          "model", "dictionary", "auxiliary", "editor",   "fill",
+    "crossworddialogs",  "clues", "output",     "lexicon",   "composer", "laboratory",
+    "telarium_version.h"};
 
 Folders With(Folders folders, const Folders& more) {
   folders.insert(more.begin(), more.end());
@@ -38,7 +39,9 @@ const std::map<std::string, Folders> Allowed = {
     {"crossworddialogs", {"platform", "model", "editor", "crossworddialogs"}},
     {"clues", {"platform", "model", "dictionary", "lexicon", "auxiliary", "editor", "clues"}},
     {"output", {"platform", "model", "auxiliary", "editor", "output"}},
-    {"laboratory", {"platform", "model", "dictionary", "lexicon", "clues", "laboratory"}},
+    {"composer", {"platform", "lexicon", "composer"}},
+    {"laboratory",
+     {"platform", "model", "dictionary", "lexicon", "composer", "clues", "laboratory"}},
     {"platform/common", {"platform", "platform/common"}},
     {"platform/console", {"platform", "platform/common", "platform/console"}},
     {"platform/qt", {"platform", "platform/common", "platform/qt"}},
@@ -49,7 +52,7 @@ const std::map<std::string, Folders> Allowed = {
 
 // Folders of functions on values, and what would give them a state, a user or a folder that no call
 // named.
-const Folders OfValues = {"lexicon", "laboratory"};
+const Folders OfValues = {"lexicon", "composer", "laboratory"};
 const Folders Shared = {"model/state.h", "platform/platform.h", "platform/program_folder.h",
                         "dictionary/dictionary.h"};
 

@@ -1,0 +1,124 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lexicon/entry.h"
+#include "lexicon/rules.h"
+
+// The words that a composition may use, in the form that a search wants: by length, the best ones
+// first, and for each place and letter the set of words that have it there. A filter, a cut or a
+// ban is a set too.
+namespace telarium {
+
+/// A part of a set of words of one length: bit k of block j is the word 64j+k.
+using Blocco = std::uint64_t;
+inline constexpr int ParolePerBlocco = 64;
+
+/// Letters as bits, A the lowest.
+using Lettere = std::uint32_t;
+inline constexpr Lettere TutteLeLettere = (1u << LettereAlfabeto) - 1;
+constexpr Lettere SolaLettera(char lettera) {
+  return 1u << (lettera - 'A');
+}
+
+/// The kinds of an entry of which a grid may have only so many, as bits by Genia.
+using Genie = std::uint8_t;
+constexpr Genie SolaGenia(Genia genia) {
+  return static_cast<Genie>(1u << static_cast<unsigned>(genia));
+}
+
+/// A word of a vocabulary: its length, and its number in that length, from 0.
+struct NumeroParola {
+  int lunghezza = 0;
+  int numero = 0;
+  bool operator==(const NumeroParola&) const = default;
+};
+
+/// What a vocabulary is made of.
+struct ParolaDaUsare {
+  std::string_view lettere;  // 2 to 53 from A to Z
+  int pregio = 0;            // how welcome it is, 0 to MaxPregio: their order, and what is improved
+  int punteggio = 0;         // 0 to 100, which a least score is compared with
+  bool definita = false;     // it has a clue
+  bool propria = false;      // the author's own, which no least score or demand of clues binds
+  Genie genie = 0;
+};
+inline constexpr int MaxPregio = 1000;
+
+/// A value that never changes; threads share it. Words of a length are in the order of falling
+/// `pregio`, equal ones by their letters.
+class Vocabolario {
+ public:
+  /// Gives the words that may not stand beside a word, as forms of one lemma, as letters; itself
+  /// may be among them. Called in any thread.
+  using Parentela = std::function<std::vector<std::string>(std::string_view parola)>;
+
+  /// No words.
+  Vocabolario() = default;
+  /// Takes different words, the sooner done the nearer they are to the order of a vocabulary.
+  /// `parentela` may be empty: no word is akin to another one.
+  explicit Vocabolario(std::span<const ParolaDaUsare> parole, Parentela parentela = {});
+
+  int Quante(int lunghezza) const { return Di(lunghezza).quante; }
+  /// Blocks of a set of words of a length.
+  int Blocchi(int lunghezza) const { return Di(lunghezza).blocchi; }
+
+  std::string_view Parola(NumeroParola parola) const;
+  /// The number of a word; none for one that is not in the vocabulary.
+  std::optional<NumeroParola> Cerca(std::string_view parola) const;
+
+  int Pregio(NumeroParola parola) const;
+  int Punteggio(NumeroParola parola) const;
+  bool Definita(NumeroParola parola) const;
+  bool Propria(NumeroParola parola) const;
+  Genie GenieDi(NumeroParola parola) const;
+  /// The words akin to one that the vocabulary has, without itself.
+  std::vector<NumeroParola> Parenti(std::string_view parola) const;
+  bool HaParentele() const { return static_cast<bool>(parentela_); }
+
+  /// The words of a length with a letter (0 for A) at a place from 0.
+  const Blocco* Insieme(int lunghezza, int posto, int lettera) const {
+    const Fascia& fascia = Di(lunghezza);
+    return fascia.insiemi.data() +
+           static_cast<std::size_t>((posto * LettereAlfabeto + lettera) * fascia.blocchi);
+  }
+  /// The letters of the words of a length, one word behind the other.
+  const char* LettereDi(int lunghezza) const { return Di(lunghezza).lettere.data(); }
+  const std::uint16_t* Pregi(int lunghezza) const { return Di(lunghezza).pregi.data(); }
+
+  /// The words of a length with a score of at least `minimo`, own ones too; with `definite` only
+  /// those that have a clue, or are own ones.
+  std::vector<Blocco> Ammesse(int lunghezza, int minimo, bool definite) const;
+  /// The words of a length that are of a kind.
+  std::span<const Blocco> DellaGenia(int lunghezza, Genia genia) const;
+
+ private:
+  struct Fascia {
+    int quante = 0;
+    int blocchi = 0;
+    std::vector<char> lettere;
+    std::vector<std::uint16_t> pregi;
+    std::vector<std::uint8_t> punteggi;
+    std::vector<std::uint8_t> segni;  // clue, own
+    std::vector<Genie> genie;
+    std::vector<Blocco> insiemi;
+    std::array<std::vector<Blocco>, NumGenie> perGenia;
+  };
+
+  const Fascia& Di(int lunghezza) const {
+    return fasce_[static_cast<std::size_t>(lunghezza - MinLunghezzaVoce)];
+  }
+  static void Riempi(Fascia& fascia, int lunghezza, std::vector<const ParolaDaUsare*>& parole);
+
+  std::array<Fascia, MaxLunghezzaVoce - MinLunghezzaVoce + 1> fasce_;
+  Parentela parentela_;
+};
+
+}  // namespace telarium

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <bitset>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "clues/coverage.h"
+#include "composer/vocabulary.h"
+#include "laboratory/word_selection.h"
+
+// The words of a choice as the composer wants them.
+namespace telarium {
+
+/// Lengths of words, by number.
+using Lunghezze = std::bitset<MaxLunghezzaVoce + 1>;
+
+/// How welcome a word is to the composer, 0 to MaxPregio: the commoner the better, and, where clues
+/// are preferred, one that has a clue before all that have none.
+int PregioDi(int punteggio, bool definita, UsoDefinizioni uso);
+
+struct ParoleDiCruciverba {
+  std::vector<std::string> proprie = {};  // the author's own words: they are words here
+  InsiemeDiParole vietate = {};           // banned in this crossword
+};
+
+/// The words of these lengths that a choice lets into a crossword: those of all layers that are not
+/// banned and that the rules allow at least in some number. Least scores and the demand of clues
+/// are the problem's: they take nothing away here. Under rules that take any two letters all pairs
+/// are words. `copertura` may be null: no word has a clue then. The lexicon must live as long as
+/// the vocabulary.
+std::shared_ptr<const Vocabolario> VocabolarioDi(const SceltaParole& scelta, const Lessico& lessico,
+                                                 const Copertura* copertura,
+                                                 const Lunghezze& lunghezze,
+                                                 const ParoleDiCruciverba& delCruciverba);
+
+}  // namespace telarium
