@@ -29,8 +29,8 @@ struct Limiti {
 
 struct Riempimento {
   Esito esito = Esito::Tempo;
-  /// By cell. Of a fill every cell of the slots that are not open has a letter; otherwise the most
-  /// whole entries that were met, which may be none.
+  /// By cell, SenzaLettera for none. Of a fill every cell has a letter but those that are left;
+  /// otherwise the most whole entries that were met, which may be none.
   std::string lettere;
   std::int64_t passi = 0;  // of the lane that answered; out of time those of all lanes
   /// How often each slot was left without words, by slot: the heavier, the harder. Never 0.

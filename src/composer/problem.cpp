@@ -35,7 +35,11 @@ class Lettore {
 
   void LeggiCasella(int casella) {
     const char lettera = lettere_[static_cast<std::size_t>(casella)];
-    if (lettera == SenzaLettera) return;
+    if (lettera == SenzaLettera) {
+      if (!problema_.Lasciata(casella))
+        difetti_.push_back("cell " + std::to_string(casella) + " has no letter");
+      return;
+    }
     if (lettera < 'A' || lettera > 'Z') {
       difetti_.push_back("cell " + std::to_string(casella) + " holds no letter");
     } else if ((problema_.lettere[static_cast<std::size_t>(casella)] & SolaLettera(lettera)) == 0) {

@@ -16,7 +16,7 @@ namespace telarium {
 struct SlotDaRiempire {
   std::vector<int> caselle;  // two or more, by their numbers
   int minimo = 0;            // the least score of its word
-  /// Some cell of it is not to be filled: some word must fit, and stays open.
+  /// Some cell of it is left empty: some word must fit, and none is placed.
   bool aperto = false;
 };
 
@@ -31,6 +31,9 @@ struct Problema {
   /// For each cell the letters that it may have: one of a given letter. None: what stands there is
   /// no letter, and no word fits.
   std::vector<Lettere> lettere;
+  /// The cells that are left as they are, by number: those of open slots that stay empty. Empty:
+  /// all cells are to be filled.
+  std::vector<bool> lasciate = {};
   /// Words that stand elsewhere: none of them may stand in a slot, nor one akin to them.
   std::vector<std::string> altrove;
   /// Words that must stand in some slot.
@@ -43,6 +46,9 @@ struct Problema {
 
   int Caselle() const { return static_cast<int>(lettere.size()); }
   int Slot() const { return static_cast<int>(slot.size()); }
+  bool Lasciata(int casella) const {
+    return !lasciate.empty() && lasciate[static_cast<std::size_t>(casella)];
+  }
 };
 
 /// A cell of an answer: a letter from 'A', or none.
