@@ -1,0 +1,109 @@
+#include "composer_bench_measure.h"
+
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <cstdio>
+#include <cstdlib>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <time.h>
+
+namespace telarium {
+namespace {
+
+double Now(clockid_t clock) {
+  timespec time{};
+  ::clock_gettime(clock, &time);
+  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+// Asks for a stop when its time is up, unless it is gone before.
+class Deadline {
+ public:
+  explicit Deadline(double seconds)
+      : thread_([this, seconds](const std::stop_token& gone) {
+          std::unique_lock lock(mutex_);
+          never_.wait_for(lock, gone, std::chrono::duration<double>(seconds), [] { return false; });
+          if (!gone.stop_requested()) source_.request_stop();
+        }) {}
+
+  std::stop_token Token() const { return source_.get_token(); }
+
+ private:
+  std::stop_source source_;
+  std::mutex mutex_;
+  std::condition_variable_any never_;
+  std::jthread thread_;
+};
+
+}  // namespace
+
+Stopwatch::Stopwatch() : thread_(Now(CLOCK_THREAD_CPUTIME_ID)), wall_(Now(CLOCK_MONOTONIC)) {}
+
+double Stopwatch::ThreadMs() const {
+  return Now(CLOCK_THREAD_CPUTIME_ID) - thread_;
+}
+
+double Stopwatch::WallMs() const {
+  return Now(CLOCK_MONOTONIC) - wall_;
+}
+
+void Demand(bool condition, const std::string& what) {
+  if (condition) return;
+  std::fprintf(stderr, "composer_bench: %s\n", what.c_str());
+  std::exit(1);
+}
+
+void DemandSound(const Problema& problem, const std::string& letters) {
+  const auto faults = Difetti(problem, letters);
+  Demand(faults.empty(), "a faulty fill: " + (faults.empty() ? "" : faults.front()));
+}
+
+TimedFill FillTimed(const Problema& problem, const Limiti& limits, double seconds) {
+  std::optional<Deadline> deadline;
+  Limiti bounded = limits;
+  if (seconds > 0) bounded.ferma = deadline.emplace(seconds).Token();
+  const Stopwatch watch;
+  TimedFill timed{.fill = Componi(problem, bounded)};
+  timed.threadMs = watch.ThreadMs();
+  timed.wallMs = watch.WallMs();
+  if (timed.fill.esito == Esito::Riempito) DemandSound(problem, timed.fill.lettere);
+  return timed;
+}
+
+double Times::Median() const {
+  std::vector<double> sorted = all_;
+  const auto middle = sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2);
+  std::nth_element(sorted.begin(), middle, sorted.end());
+  return *middle;
+}
+
+double Times::Worst() const {
+  return *std::max_element(all_.begin(), all_.end());
+}
+
+std::string Told(double milliseconds) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.*f", milliseconds < 10 ? 1 : 0, milliseconds);
+  std::string told = text;
+  if (milliseconds < 10) return told;
+  for (std::size_t place = told.size(); place > 3; place -= 3)
+    told.insert(place - 3, 1, ',');
+  return told;
+}
+
+const char* NameOf(Esito outcome) {
+  switch (outcome) {
+    case Esito::Riempito:
+      return "filled";
+    case Esito::Impossibile:
+      return "impossible";
+    case Esito::Tempo:
+      return "no answer";
+  }
+  return "";
+}
+
+}  // namespace telarium
