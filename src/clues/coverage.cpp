@@ -1,5 +1,6 @@
 #include "clues/coverage.h"
 
+#include <optional>
 #include <utility>
 
 #include "clues/coverage_cache.h"
@@ -26,15 +27,18 @@ struct Letto {
   std::string timbro;  // what they are of; empty when that cannot be told
 };
 
-// A store that another one takes the place of meanwhile, or that changes, is read once more.
-Letto LeggiArchivio(const FontiIndice& fonti) {
+// None when it was broken off. A store that another one takes the place of meanwhile, or that
+// changes, is read once more.
+std::optional<Letto> LeggiArchivio(const FontiIndice& fonti, const std::stop_token& ferma) {
   const DefinizioniDelCorredo corredo(fonti.corredo);
   for (int i = 1;; ++i) {
     const bool ultimo = i == TentativiDiLettura;
     const std::string timbro = TimbroFermo(fonti).value_or("");
     const auto cambiato = [&] { return !timbro.empty() && TimbroDi(fonti) != timbro; };
     try {
-      Letto letto{.indice = LeggiVociCopertura(fonti.archivio, corredo), .timbro = timbro};
+      auto indice = LeggiVociCopertura(fonti.archivio, corredo, ferma);
+      if (!indice) return std::nullopt;
+      Letto letto{.indice = std::move(*indice), .timbro = timbro};
       if (!cambiato()) return letto;
       letto.timbro.clear();
       if (ultimo) return letto;
@@ -44,12 +48,14 @@ Letto LeggiArchivio(const FontiIndice& fonti) {
   }
 }
 
-std::shared_ptr<const IndiceCopertura> FaiIndice(const FontiIndice& fonti, const Percorso& file) {
-  Letto letto = LeggiArchivio(fonti);
-  std::string byte = std::exchange(letto.indice, {}).Byte(letto.timbro);
-  if (!letto.timbro.empty() && !file.empty() && ScriviIndice(file, byte)) {
+std::shared_ptr<const IndiceCopertura> FaiIndice(const FontiIndice& fonti, const Percorso& file,
+                                                 const std::stop_token& ferma) {
+  std::optional<Letto> letto = LeggiArchivio(fonti, ferma);
+  if (!letto) return nullptr;
+  std::string byte = std::exchange(letto->indice, {}).Byte(letto->timbro);
+  if (!letto->timbro.empty() && !file.empty() && ScriviIndice(file, byte)) {
     // What is mapped takes no memory of the program's own.
-    if (auto scritto = LeggiIndice(file, letto.timbro)) return scritto;
+    if (auto scritto = LeggiIndice(file, letto->timbro)) return scritto;
   }
   return IndiceCopertura::Apri(std::move(byte));
 }
@@ -81,24 +87,27 @@ std::vector<std::uint64_t> Copertura::Insieme(
   return insieme;
 }
 
-std::shared_ptr<const Copertura> CoperturaDa(const FontiCopertura& fonti, std::string& causa) {
+std::shared_ptr<const Copertura> CoperturaDa(const FontiCopertura& fonti, std::string& causa,
+                                             const std::stop_token& ferma) {
   causa.clear();
   const FontiIndice fontiIndice = FontiDellIndice(fonti);
   const Percorso file = fonti.cache.empty() ? Percorso() : fonti.cache / NomeIndice(fontiIndice);
   std::shared_ptr<const IndiceCopertura> indice = LeggiIndice(file, TimbroDi(fontiIndice));
   try {
-    if (!indice) indice = FaiIndice(fontiIndice, file);
+    if (!indice) indice = FaiIndice(fontiIndice, file, ferma);
   } catch (const ErroreEnciclopedia& errore) {
     causa = errore.Descrizione();
     return nullptr;
   }
+  if (!indice && ferma.stop_requested()) return nullptr;
   return std::make_shared<const Copertura>(std::move(indice));
 }
 
-std::shared_ptr<const Copertura> CoperturaDi(const Percorso& enciclopedia, std::string& causa) {
+std::shared_ptr<const Copertura> CoperturaDi(const Percorso& enciclopedia, std::string& causa,
+                                             const std::stop_token& ferma) {
   return CoperturaDa(
       {.enciclopedia = enciclopedia, .corredo = ListaDelCorredo(), .cache = CartellaCacheUtente()},
-      causa);
+      causa, ferma);
 }
 
 }  // namespace telarium

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <span>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,11 +58,14 @@ struct FontiCopertura {
 /// The coverage of an encyclopedia, from its side index when that is of the store as it stands,
 /// else from the store, whose index is then written anew; where that cannot be, it is made in
 /// memory. A store that is held by another program is waited for, a second at most. A store that
-/// cannot be read gives none and its cause, a sentence in Italian. May be called in any thread.
-std::shared_ptr<const Copertura> CoperturaDa(const FontiCopertura& fonti, std::string& causa);
+/// cannot be read gives none and its cause, a sentence in Italian; a reading that `ferma` breaks
+/// off gives none and no cause. May be called in any thread.
+std::shared_ptr<const Copertura> CoperturaDa(const FontiCopertura& fonti, std::string& causa,
+                                             const std::stop_token& ferma = {});
 
 /// The same of the file of an encyclopedia with the installed kit, its index in the user's cache
 /// folder.
-std::shared_ptr<const Copertura> CoperturaDi(const Percorso& enciclopedia, std::string& causa);
+std::shared_ptr<const Copertura> CoperturaDi(const Percorso& enciclopedia, std::string& causa,
+                                             const std::stop_token& ferma = {});
 
 }  // namespace telarium

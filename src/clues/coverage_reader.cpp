@@ -68,8 +68,9 @@ class Lettura {
 
 }  // namespace
 
-ComposizioneIndice LeggiVociCopertura(const Percorso& archivio,
-                                      const DefinizioniDelCorredo& corredo) {
+std::optional<ComposizioneIndice> LeggiVociCopertura(const Percorso& archivio,
+                                                     const DefinizioniDelCorredo& corredo,
+                                                     const std::stop_token& ferma) {
   Lettura lettura(corredo);
   BaseDati base(archivio);
   {
@@ -77,8 +78,10 @@ ComposizioneIndice LeggiVociCopertura(const Percorso& archivio,
     Istruzione righe(base,
                      "SELECT PAROLA, DEFINIZ_FACILE, DEFINIZ_DIFFIC FROM Parole"
                      " WHERE typeof(PAROLA) = 'text' ORDER BY rowid");
-    while (righe.Passo())
+    while (righe.Passo()) {
+      if (ferma.stop_requested()) return std::nullopt;
       lettura.Riga(righe.VistaUtf8(0).value_or(""), righe.VistaUtf8(1), righe.VistaUtf8(2));
+    }
   }
   base.Attesa(0);
   base.RiponiRegistro();

@@ -19,7 +19,12 @@ const Opzione& Trova(const std::vector<Opzione>& ammesse, std::string_view nome)
 
 std::string Argomenti::Valore(std::string_view opzione, std::string_view altrimenti) const {
   const auto trovata = opzioni.find(opzione);
-  return trovata == opzioni.end() ? std::string(altrimenti) : trovata->second;
+  return trovata == opzioni.end() ? std::string(altrimenti) : trovata->second.back();
+}
+
+std::vector<std::string> Argomenti::Valori(std::string_view opzione) const {
+  const auto trovata = opzioni.find(opzione);
+  return trovata == opzioni.end() ? std::vector<std::string>() : trovata->second;
 }
 
 std::int64_t Argomenti::Numero(std::string_view opzione, std::int64_t minimo,
@@ -60,7 +65,7 @@ Argomenti Separa(const std::vector<std::string>& parole, const std::vector<Opzio
         throw ArgomentiErrati(std::string(opzione.nome) + " richiede un valore");
       valore = parole[i];
     }
-    argomenti.opzioni.insert_or_assign(std::string(opzione.nome), std::move(valore));
+    argomenti.opzioni[std::string(opzione.nome)].push_back(std::move(valore));
   }
   return argomenti;
 }

@@ -26,19 +26,22 @@ struct Opzione {
 
 /// What one command line holds: options wherever they stand, and the other arguments in order.
 struct Argomenti {
-  std::map<std::string, std::string, std::less<>> opzioni;
+  std::map<std::string, std::vector<std::string>, std::less<>> opzioni;  // as often as given
   std::vector<std::string> liberi;
 
   bool Ha(std::string_view opzione) const { return opzioni.contains(opzione); }
+  /// The value of an option, of one that was given twice the later one.
   std::string Valore(std::string_view opzione, std::string_view altrimenti = {}) const;
+  /// All values of an option that may be given more than once.
+  std::vector<std::string> Valori(std::string_view opzione) const;
 
   /// The value of an option as a whole number from `minimo` on; `altrimenti` without the option.
   /// Throws ArgomentiErrati for anything else.
   std::int64_t Numero(std::string_view opzione, std::int64_t minimo, std::int64_t altrimenti) const;
 };
 
-/// Sorts the words of a command line. "--nome=valore" and "--nome valore" are both taken, a later
-/// option wins over an earlier one, "--" ends the options. Throws ArgomentiErrati for an option
+/// Sorts the words of a command line. "--nome=valore" and "--nome valore" are both taken, "--"
+/// ends the options. Throws ArgomentiErrati for an option
 /// that `ammesse` does not hold, a value that is missing, or one too many.
 Argomenti Separa(const std::vector<std::string>& parole, const std::vector<Opzione>& ammesse);
 

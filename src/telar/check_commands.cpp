@@ -8,6 +8,7 @@
 #include "telar/files.h"
 #include "telar/json.h"
 #include "telar/output.h"
+#include "telar/watch.h"
 #include "telar/word_options.h"
 
 // The check that a crossword is fit for print.
@@ -87,12 +88,14 @@ void StampaJson(const Verdetto& verdetto) {
   std::puts(json.Tutto().c_str());
 }
 
-Stato Controlla(const Argomenti& argomenti, PiattaformaConsole&) {
+Stato Controlla(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
+  const Sorveglianza sorveglianza(piattaforma.ChiUsa());
   const auto scelta = LeggiSceltaParole(argomenti);
   if (!scelta || !Apri(argomenti.liberi[0])) return Stato::Fallito;
   const auto lessico = PreparaLessico(*scelta);
   if (!lessico) return Stato::Fallito;
-  const auto copertura = PreparaCopertura();
+  const auto copertura = PreparaCopertura(sorveglianza.Segnale());
+  if (sorveglianza.Fermata()) return Stato::Interrotto;
   if (!copertura && scelta->definizioni == UsoDefinizioni::Obbligatorie) return Stato::Fallito;
   DefinizioniDifficili difficili;
   Criteri criteri = CriteriDi(*scelta, *lessico, copertura.get());
@@ -100,6 +103,7 @@ Stato Controlla(const Argomenti& argomenti, PiattaformaConsole&) {
     return GradoDefinizione{.difficile = copertura && difficili.Ha(parola, definizione)};
   };
   const Verdetto verdetto = telarium::Controlla(CruciverbaCorrente(), criteri);
+  if (sorveglianza.Fermata()) return Stato::Interrotto;
   if (argomenti.Ha(OpzioneJson.nome)) {
     StampaJson(verdetto);
   } else {

@@ -4,6 +4,7 @@
 #include "platform/platform.h"
 #include "telar/command.h"
 #include "telar/output.h"
+#include "telar/watch.h"
 #include "telar/word_options.h"
 
 // What the lexicon knows of words.
@@ -30,10 +31,12 @@ void StampaVoce(const Parola& parola, const ConteggioDefinizioni& definizioni) {
   if (parola.letture.empty()) stampa({}, segni);
 }
 
-Stato StampaParole(const std::vector<std::string>& parole, const Lessico& lessico) {
-  const auto copertura = PreparaCopertura();
+Stato StampaParole(const std::vector<std::string>& parole, const Lessico& lessico,
+                   const Sorveglianza& sorveglianza) {
+  const auto copertura = PreparaCopertura(sorveglianza.Segnale());
   Stato stato = Stato::Fatto;
   for (const std::string& scritta : parole) {
+    if (sorveglianza.Fermata()) return Stato::Interrotto;
     const auto lettere = PiegaGrafiaUtf8(scritta);
     const auto parola = lettere ? lessico.Cerca(*lettere) : std::nullopt;
     if (parola) {
@@ -58,16 +61,17 @@ Stato StampaConteggi(const Lessico& lessico) {
   return Stato::Fatto;
 }
 
-Stato ComandoLessico(const Argomenti& argomenti, PiattaformaConsole&) {
+Stato ComandoLessico(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   const bool conta = argomenti.Ha(OpzioneConta.nome);
   if (conta && !argomenti.liberi.empty()) throw ArgomentiErrati("--conta non richiede parole");
   if (!conta && argomenti.liberi.empty())
     throw ArgomentiErrati("mancano argomenti, servono: PAROLA...");
+  const Sorveglianza sorveglianza(piattaforma.ChiUsa());
   SceltaParole scelta;
   scelta.lessici = LeggiLessici(argomenti);
   const auto lessico = PreparaLessico(scelta);
   if (!lessico) return Stato::Fallito;
-  return conta ? StampaConteggi(*lessico) : StampaParole(argomenti.liberi, *lessico);
+  return conta ? StampaConteggi(*lessico) : StampaParole(argomenti.liberi, *lessico, sorveglianza);
 }
 
 }  // namespace

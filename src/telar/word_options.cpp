@@ -8,6 +8,7 @@
 #include "platform/platform.h"
 #include "platform/program_folder.h"
 #include "platform/text.h"
+#include "telar/option_values.h"
 
 namespace telarium::telar {
 
@@ -29,58 +30,6 @@ constexpr Opzione OpzioneVietaDa = {"--vieta-da", "FILE", "le parole da non usar
 constexpr Opzione OpzioneAmmetti = {"--ammetti", "PAROLA[,...]",
                                     "parole vietate da ammettere lo stesso"};
 constexpr Opzione OpzioneForme = {"--forme", "si|no", "due forme della stessa parola (no)"};
-
-template <class Valore>
-using Scelte = std::initializer_list<std::pair<std::string_view, Valore>>;
-
-// The value of an option that has these; the first one without the option.
-template <class Valore>
-Valore Scelto(const Argomenti& argomenti, const Opzione& opzione, Valore altrimenti,
-              Scelte<Valore> scelte) {
-  if (!argomenti.Ha(opzione.nome)) return altrimenti;
-  const std::string valore = argomenti.Valore(opzione.nome);
-  std::string nomi;
-  for (const auto& [nome, scelta] : scelte) {
-    if (nome == valore) return scelta;
-    nomi += Unisci(nomi.empty() ? "" : ", ", nome);
-  }
-  throw ArgomentiErrati(Unisci(opzione.nome, " richiede uno di: ", nomi));
-}
-
-// The parts of a value that are divided by commas; none is empty.
-std::vector<std::string> Parti(const Argomenti& argomenti, const Opzione& opzione) {
-  std::vector<std::string> parti;
-  if (!argomenti.Ha(opzione.nome)) return parti;
-  const std::string valore = argomenti.Valore(opzione.nome);
-  std::size_t inizio = 0;
-  while (inizio <= valore.size()) {
-    const std::size_t fine = std::min(valore.find(',', inizio), valore.size());
-    parti.push_back(valore.substr(inizio, fine - inizio));
-    inizio = fine + 1;
-  }
-  if (std::ranges::any_of(parti, &std::string::empty))
-    throw ArgomentiErrati(Unisci(opzione.nome, " ha un valore vuoto"));
-  return parti;
-}
-
-InsiemeDiParole Parole(const Argomenti& argomenti, const Opzione& opzione) {
-  InsiemeDiParole parole;
-  for (const std::string& parte : Parti(argomenti, opzione)) {
-    auto parola = PiegaGrafiaUtf8(parte);
-    if (!parola) {
-      throw ArgomentiErrati(
-          Unisci(opzione.nome, ": \"", parte, "\" non è una parola da 2 a 53 lettere"));
-    }
-    parole.insert(std::move(*parola));
-  }
-  return parole;
-}
-
-int Limitato(std::string_view testo, int minimo, int massimo, const Opzione& opzione) {
-  const auto numero = NumeroIntero(testo);
-  if (numero && *numero >= minimo && *numero <= massimo) return static_cast<int>(*numero);
-  throw ArgomentiErrati(Unisci(opzione.nome, " richiede numeri da ", minimo, " a ", massimo));
-}
 
 void LeggiLivelli(const Argomenti& argomenti, SceltaParole& scelta) {
   if (argomenti.Ha(OpzioneLivello.nome)) {
@@ -167,10 +116,11 @@ LuoghiLessico LuoghiDeiLessici() {
   return {.lessici = CartellaLessici(), .programma = CartellaProgramma};
 }
 
-std::shared_ptr<const Copertura> PreparaCopertura() {
+std::shared_ptr<const Copertura> PreparaCopertura(const std::stop_token& ferma) {
   std::string causa;
-  auto copertura = CoperturaDi(PercorsoNellaCartella(CartellaProgramma, NomeEnciclopedia), causa);
-  if (!copertura) Avvisa(causa);
+  auto copertura =
+      CoperturaDi(PercorsoNellaCartella(CartellaProgramma, NomeEnciclopedia), causa, ferma);
+  AvvisaSeServe(causa);
   return copertura;
 }
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <vector>
 
 #include "clues/coverage.h"
@@ -28,8 +29,8 @@ std::vector<Percorso> LeggiLessici(const Argomenti& argomenti);
 LuoghiLessico LuoghiDeiLessici();
 
 /// Which words have clues in the encyclopedia of the program folder. None, told, when it cannot be
-/// read: then no word has one.
-std::shared_ptr<const Copertura> PreparaCopertura();
+/// read: then no word has one. None, not told, when `ferma` has broken the reading off.
+std::shared_ptr<const Copertura> PreparaCopertura(const std::stop_token& ferma);
 
 /// The lexicon of a choice. None, told, when a layer cannot be had; what a list has beside words is
 /// told too.
