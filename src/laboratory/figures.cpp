@@ -18,15 +18,6 @@ std::string UnDecimale(double valore) {
   return {cifre.data(), esito.ptr};
 }
 
-// The mean of what there is; without any, nothing.
-std::string Media(const std::vector<int>& valori) {
-  if (valori.empty()) return {};
-  double somma = 0;
-  for (const int valore : valori)
-    somma += valore;
-  return UnDecimale(somma / static_cast<double>(valori.size()));
-}
-
 std::vector<int> Lunghezze(const Voci& voci) {
   std::vector<int> lunghezze;
   for (const VoceDiGriglia& voce : voci)
@@ -72,20 +63,28 @@ void AggiungiLunghezze(const Derivati& griglia, std::vector<Cifra>& cifre) {
 
 }  // namespace
 
+std::string MediaConDecimale(const std::vector<int>& numeri) {
+  if (numeri.empty()) return {};
+  double somma = 0;
+  for (const int numero : numeri)
+    somma += numero;
+  return UnDecimale(somma / static_cast<double>(numeri.size()));
+}
+
 std::vector<Cifra> CifreDi(const Derivati& griglia, const Voci& voci, const Criteri& criteri) {
   const std::vector<int> punteggi = Punteggi(voci);
   const auto minimo = std::min_element(punteggi.begin(), punteggi.end());
   const Rettangolo piazza = Piazza(griglia);
   std::vector<Cifra> cifre = {
       {"nere", UnDecimale(PercentualeNere(griglia))},
-      {"media", Media(Lunghezze(voci))},
-      {"punteggio", Media(punteggi)},
+      {"media", MediaConDecimale(Lunghezze(voci))},
+      {"punteggio", MediaConDecimale(punteggi)},
       {"minimo", minimo == punteggi.end() ? std::string() : std::to_string(*minimo)},
       {"facili", Coperte(voci, criteri, &ConteggioDefinizioni::facili)},
       {"difficili", Coperte(voci, criteri, &ConteggioDefinizioni::difficili)},
       {"lettere", std::to_string(LettereUsate(griglia))},
       {"piazza", Unisci(piazza.colonne, 'x', piazza.righe)},
-      {"difficolta", Media(Difficolta(griglia, voci, criteri))},
+      {"difficolta", MediaConDecimale(Difficolta(griglia, voci, criteri))},
   };
   AggiungiLunghezze(griglia, cifre);
   return cifre;

@@ -18,6 +18,9 @@ struct Cifra {
   bool operator==(const Cifra&) const = default;
 };
 
+/// The mean of numbers with one decimal; empty when there are none.
+std::string MediaConDecimale(const std::vector<int>& numeri);
+
 /// All figures, in this order:
 ///   nere        black cells, in per cent with one decimal
 ///   media       mean length of the entries, one decimal

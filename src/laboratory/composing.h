@@ -1,0 +1,74 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "laboratory/composition.h"
+
+// A composition from the search to all that is told of it: the fill, its floor and its improvement;
+// or, where there is none, the guilty entries. Console and window run the same.
+namespace telarium {
+
+/// What is wanted beside the problem itself.
+struct RichiestaComposizione {
+  std::int64_t finestre = 5'000;  // of the improvement
+  bool soglia = false;            // first the highest least score, with its proof
+};
+
+enum class FaseComposizione { Ricerca, Soglia, Miglioramento, Colpevoli };
+
+struct AvanzamentoComposizione {
+  FaseComposizione fase;
+  std::int64_t finestre = 0;             // done, while it is improved
+  const std::string* lettere = nullptr;  // the best fill so far, by cell of the problem
+};
+/// Called now and then, and at the start of each phase, in the thread that composes.
+using SegueComposizione = std::function<void(const AvanzamentoComposizione&)>;
+
+/// The floor of a fill.
+struct SogliaTrovata {
+  int fino = 0;              // the lowest score of the fill is at least this
+  std::optional<int> oltre;  // with this as the least there is no fill; none: not proved
+};
+
+struct RisultatoComposizione {
+  Esito esito = Esito::Tempo;
+  /// By cell of the problem; when it is not Riempito the most whole entries that were met.
+  std::string lettere;
+  std::int64_t passi = 0;  // of all that was tried
+  /// When the first fill stood. A clock decides nothing: this is for telling alone.
+  std::chrono::steady_clock::time_point primo;
+  std::optional<SogliaTrovata> soglia;  // of a fill, when it was wanted
+  bool interrotta = false;              // a stop has cut the improvement, or the floor before it
+  /// When it is Impossibile, in reading order: the entries for which there are no words.
+  std::vector<Slot> colpevoli;
+};
+
+/// Composes a crossword. `limiti.passi` are those of all phases together: what one has taken the
+/// next one lacks. A stop ends it soon, with what there is by then: a fill that stands is Riempito,
+/// a proof that stands Impossibile. Any thread; the same composition, request, seed and steps give
+/// the same result, but for what a stop has cut.
+RisultatoComposizione ComponiCruciverba(const Composizione& composizione,
+                                        const RichiestaComposizione& richiesta,
+                                        const Limiti& limiti, const SegueComposizione& segui = {});
+
+/// What is told of a fill.
+struct CifreRiempimento {
+  int voci = 0;      // runs of two and more cells
+  int definite = 0;  // those that have a clue, of the wanted family in the store or of their own
+  // Of the scores that count: not those of the author's own words, nor of two letters where the
+  // rules take any. Empty where none counts.
+  std::string media;  // one decimal
+  std::string minimo;
+};
+
+/// `riempito` is what ConLettere has made of the composition. `copertura` may be null.
+CifreRiempimento CifreDi(const Composizione& composizione, const Cruciverba& riempito,
+                         const SceltaParole& scelta, const Lessico& lessico,
+                         const Copertura* copertura);
+
+}  // namespace telarium
