@@ -1,0 +1,52 @@
+#include "composer/start.h"
+
+#include "composer/block_kernels.h"
+
+namespace telarium {
+namespace {
+
+Lettere LetterePossibili(const Vocabolario& parole, int lunghezza, int posto,
+                         const std::vector<Blocco>& ammesse) {
+  Lettere possibili = 0;
+  for (int lettera = 0; lettera < LettereAlfabeto; ++lettera) {
+    const Blocco* insieme = parole.Insieme(lunghezza, posto, lettera);
+    if (nuclei::PrimoComune(ammesse.data(), insieme, 0, ammesse.size()) < ammesse.size())
+      possibili |= 1u << lettera;
+  }
+  return possibili;
+}
+
+}  // namespace
+
+Partenza::Partenza(const Problema& problema) : problema_(problema), reticolo_(problema) {
+  for (const std::string& parola : problema.altrove) {
+    if (const auto numero = Parole().Cerca(parola)) altrove_.push_back(*numero);
+    if (problema.ammetteForme) continue;
+    const auto parenti = Parole().Parenti(parola);
+    altrove_.insert(altrove_.end(), parenti.begin(), parenti.end());
+  }
+  for (int slot = 0; slot < problema.Slot(); ++slot) {
+    const int lunghezza = reticolo_.Lunghezza(slot);
+    const int minimo = problema.slot[static_cast<std::size_t>(slot)].minimo;
+    const auto [dove, nuova] = perMinimo_.try_emplace({lunghezza, minimo});
+    Base& base = dove->second;
+    if (nuova) {
+      base.parole = Parole().Ammesse(lunghezza, minimo, problema.soloDefinite);
+      TogliAltrove(lunghezza, base);
+      base.conta = nuclei::Conta(base.parole.data(), base.parole.size());
+      for (int posto = 0; posto < lunghezza; ++posto)
+        base.lettere.push_back(LetterePossibili(Parole(), lunghezza, posto, base.parole));
+    }
+    basi_.push_back(&base);
+  }
+}
+
+void Partenza::TogliAltrove(int lunghezza, Base& base) const {
+  for (const NumeroParola numero : altrove_) {
+    if (numero.lunghezza != lunghezza) continue;
+    base.parole[static_cast<std::size_t>(numero.numero / ParolePerBlocco)] &=
+        ~(Blocco{1} << (numero.numero % ParolePerBlocco));
+  }
+}
+
+}  // namespace telarium
