@@ -80,18 +80,38 @@ double Times::Median() const {
   return *middle;
 }
 
+double Times::Least() const {
+  return *std::min_element(all_.begin(), all_.end());
+}
+
 double Times::Worst() const {
   return *std::max_element(all_.begin(), all_.end());
 }
 
-std::string Told(double milliseconds) {
+std::string Told(double number) {
   char text[32];
-  std::snprintf(text, sizeof text, "%.*f", milliseconds < 10 ? 1 : 0, milliseconds);
+  std::snprintf(text, sizeof text, "%.*f", number < 10 ? 1 : 0, number);
   std::string told = text;
-  if (milliseconds < 10) return told;
+  if (number < 10) return told;
   for (std::size_t place = told.size(); place > 3; place -= 3)
-    told.insert(place - 3, 1, ',');
+    if (place - 3 > 0) told.insert(place - 3, 1, ',');
   return told;
+}
+
+std::string Spread(const std::vector<Times>& grids) {
+  Times medians, all;
+  for (const Times& grid : grids) {
+    if (grid.Empty()) continue;
+    medians.Add(grid.Median());
+    all.Add(grid);
+  }
+  if (all.Empty()) return "none";
+  const std::string least = Told(medians.Least()), greatest = Told(medians.Worst());
+  return (least == greatest ? least : least + "-" + greatest) + " / " + Told(all.Worst());
+}
+
+void Note(const std::string& line) {
+  std::fprintf(stderr, "    %s\n", line.c_str());
 }
 
 const char* NameOf(Esito outcome) {

@@ -6,8 +6,8 @@
 
 #include "composer/composer.h"
 
-// How the composer's work is timed: by the processor time of the thread that does it, which other
-// work on the machine disturbs little.
+// How the composer's work is timed and told: by the processor time of the thread that does it,
+// which other work on the machine disturbs little.
 namespace telarium {
 
 /// Milliseconds of processor time of the calling thread, or of the wall clock, since it was made.
@@ -45,15 +45,23 @@ class Times {
   void Add(const Times& other) { all_.insert(all_.end(), other.all_.begin(), other.all_.end()); }
   bool Empty() const { return all_.empty(); }
   std::size_t Count() const { return all_.size(); }
+  double Last() const { return all_.back(); }
   double Median() const;
+  double Least() const;
   double Worst() const;
 
  private:
   std::vector<double> all_;
 };
 
-/// A time with as many digits as it bears: "0.4", "12", "1,240".
-std::string Told(double milliseconds);
+/// A number with as many digits as it bears: "0.4", "12", "1,240".
+std::string Told(double number);
+
+/// Medians of each grid by itself, their least and greatest, and the worst of all: "1.2-3 / 15".
+std::string Spread(const std::vector<Times>& grids);
+
+/// A line of what lies behind a cell of the table, to standard error.
+void Note(const std::string& line);
 
 const char* NameOf(Esito outcome);
 

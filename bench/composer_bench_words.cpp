@@ -6,9 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "clues/coverage.h"
-#include "clues/encyclopedia.h"
 #include "composer_bench_measure.h"
+#include "composer_bench_severe.h"
 #include "lexicon/lexicon_file.h"
 
 namespace telarium {
@@ -32,19 +31,6 @@ const WordsByLength& List() {
     return words;
   }();
   return list;
-}
-
-const Copertura& Coverage() {
-  static const std::shared_ptr<const Copertura> coverage = [] {
-    std::string cause;
-    auto read = CoperturaDa({.enciclopedia = Percorso(TELARIUM_DATA_DIR) / NomeEnciclopedia,
-                             .corredo = {},
-                             .cache = {}},
-                            cause);
-    Demand(read && cause.empty(), "no coverage: " + cause);
-    return read;
-  }();
-  return *coverage;
 }
 
 // The most words of each length for which there are `cap` in all.
