@@ -1,5 +1,7 @@
 #include "clues/coverage.h"
 
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <utility>
 
@@ -82,8 +84,16 @@ std::vector<std::uint64_t> Copertura::Insieme(
     QualiDefinizioni quali) const {
   constexpr std::size_t Bit = 64;
   std::vector<std::uint64_t> insieme((quante + Bit - 1) / Bit);
-  for (std::size_t i = 0; i < quante; ++i)
-    insieme[i / Bit] |= std::uint64_t{Ha(parola(i), quali)} << (i % Bit);
+  std::array<std::string_view, Bit> parole;
+  std::array<ConteggioDefinizioni, Bit> conteggi;
+  for (std::size_t primo = 0; indice_ && primo < quante; primo += Bit) {
+    const std::size_t queste = std::min(Bit, quante - primo);
+    for (std::size_t k = 0; k < queste; ++k)
+      parole[k] = parola(primo + k);
+    indice_->CercaInsieme(std::span(parole).first(queste), conteggi);
+    for (std::size_t k = 0; k < queste; ++k)
+      insieme[primo / Bit] |= std::uint64_t{conteggi[k].Di(quali) > 0} << k;
+  }
   return insieme;
 }
 

@@ -39,7 +39,8 @@ class Copertura {
   void PerOgniParola(const IndiceCopertura::Visita& visita) const;
 
   /// Which of so many words have clues: bit k of number j is the (64j+k)th one. `parola` gives a
-  /// word by its number, from 0.
+  /// word by its number, from 0; it is asked once for each, and the text must stay a while. Several
+  /// times sooner than word by word.
   std::vector<std::uint64_t> Insieme(std::size_t quante,
                                      const std::function<std::string_view(std::size_t)>& parola,
                                      QualiDefinizioni quali) const;

@@ -1,6 +1,7 @@
 #include "clues/coverage_index.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
 #include <limits>
@@ -89,6 +90,11 @@ std::optional<VoceLetta> LeggiVoce(std::span<const std::byte> voci, std::size_t 
   return VoceLetta{ComeTesto(voci.subspan(posto + ByteTestaVoce, lunghezza)),
                    {.facili = Leggi<std::uint16_t>(voci, posto + 1),
                     .difficili = Leggi<std::uint16_t>(voci, posto + 3)}};
+}
+
+// Has memory come nearer that is soon read.
+void Richiama(const std::byte* dove) {
+  __builtin_prefetch(dove);
 }
 
 std::uint16_t Conteggio(int quante) {
@@ -199,19 +205,56 @@ bool IndiceCopertura::Riconosci() {
   return true;
 }
 
+std::uint64_t IndiceCopertura::CasellaDi(std::uint64_t impronta, std::size_t passo) const {
+  const std::size_t quante = caselle_.size() / sizeof(Casella);
+  return Leggi<Casella>(caselle_, ((impronta + passo) & (quante - 1)) * sizeof(Casella));
+}
+
 ConteggioDefinizioni IndiceCopertura::Cerca(std::string_view parola) const {
-  const std::uint64_t impronta = ImprontaDi(parola);
+  return Cerca(parola, ImprontaDi(parola));
+}
+
+ConteggioDefinizioni IndiceCopertura::Cerca(std::string_view parola, std::uint64_t impronta) const {
   const std::size_t quante = caselle_.size() / sizeof(Casella);
   // No more steps than slots: a full table would have no end.
   for (std::size_t passo = 0; passo < quante; ++passo) {
-    const auto casella =
-        Leggi<Casella>(caselle_, ((impronta + passo) & (quante - 1)) * sizeof(Casella));
+    const Casella casella = CasellaDi(impronta, passo);
     if (casella == 0) return {};
     if (!PuoEssere(casella, impronta)) continue;
     const auto voce = LeggiVoce(voci_, PostoVoce(casella));
     if (voce && voce->parola == parola) return voce->conteggio;
   }
   return {};
+}
+
+// Asks for the entry that the first slots of a digest lead to.
+void IndiceCopertura::ChiediVoce(std::uint64_t impronta) const {
+  constexpr std::size_t Passi = 4;
+  for (std::size_t passo = 0; passo < Passi; ++passo) {
+    const Casella casella = CasellaDi(impronta, passo);
+    if (casella == 0) return;
+    const std::size_t posto = PostoVoce(casella);
+    if (!PuoEssere(casella, impronta) || posto >= voci_.size()) continue;
+    return Richiama(voci_.data() + posto);
+  }
+}
+
+void IndiceCopertura::CercaInsieme(std::span<const std::string_view> parole,
+                                   std::span<ConteggioDefinizioni> conteggi) const {
+  constexpr std::size_t Gruppo = 32;
+  std::array<std::uint64_t, Gruppo> impronte;
+  for (std::size_t primo = 0; primo < parole.size(); primo += Gruppo) {
+    const auto queste = parole.subspan(primo, std::min(Gruppo, parole.size() - primo));
+    for (std::size_t k = 0; k < queste.size(); ++k) {
+      impronte[k] = ImprontaDi(queste[k]);
+      const std::size_t quante = caselle_.size() / sizeof(Casella);
+      Richiama(caselle_.data() + (impronte[k] & (quante - 1)) * sizeof(Casella));
+    }
+    for (std::size_t k = 0; k < queste.size(); ++k)
+      ChiediVoce(impronte[k]);
+    for (std::size_t k = 0; k < queste.size(); ++k)
+      conteggi[primo + k] = Cerca(queste[k], impronte[k]);
+  }
 }
 
 void IndiceCopertura::PerOgniParola(const Visita& visita) const {

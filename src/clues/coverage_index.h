@@ -99,6 +99,11 @@ class IndiceCopertura {
   /// The clues of a word; none for one that is not there.
   ConteggioDefinizioni Cerca(std::string_view parola) const;
 
+  /// The same of several words at once, in their order, into as many counts at least. The memory
+  /// where they lie is asked for ahead, which is what a look-up waits for.
+  void CercaInsieme(std::span<const std::string_view> parole,
+                    std::span<ConteggioDefinizioni> conteggi) const;
+
   using Visita = std::function<void(std::string_view parola, ConteggioDefinizioni conteggio)>;
   /// Calls `visita` with each word that has clues, in the order of ComponiIndice.
   void PerOgniParola(const Visita& visita) const;
@@ -106,6 +111,9 @@ class IndiceCopertura {
  private:
   explicit IndiceCopertura(Byte byte) : byte_(std::move(byte)) {}
   bool Riconosci();
+  std::uint64_t CasellaDi(std::uint64_t impronta, std::size_t passo) const;
+  ConteggioDefinizioni Cerca(std::string_view parola, std::uint64_t impronta) const;
+  void ChiediVoce(std::uint64_t impronta) const;
 
   Byte byte_;
   int parole_ = 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <numeric>
 #include <utility>
 
 #include "platform/check.h"
@@ -13,16 +14,6 @@ namespace {
 constexpr std::uint8_t SegnoDefinita = 1;
 constexpr std::uint8_t SegnoPropria = 2;
 
-bool Precede(const ParolaDaUsare* una, const ParolaDaUsare* altra) {
-  if (una->pregio != altra->pregio) return una->pregio > altra->pregio;
-  return una->lettere < altra->lettere;
-}
-
-void Ordina(std::vector<const ParolaDaUsare*>& parole) {
-  if (!std::is_sorted(parole.begin(), parole.end(), Precede))
-    std::sort(parole.begin(), parole.end(), Precede);
-}
-
 constexpr std::size_t BloccoDi(int numero) {
   return static_cast<std::size_t>(numero / ParolePerBlocco);
 }
@@ -31,53 +22,121 @@ constexpr Blocco BitDi(int numero) {
   return Blocco{1} << (numero % ParolePerBlocco);
 }
 
-}  // namespace
-
-Vocabolario::Vocabolario(std::span<const ParolaDaUsare> parole, Parentela parentela)
-    : parentela_(std::move(parentela)) {
-  std::array<std::vector<const ParolaDaUsare*>, MaxLunghezzaVoce + 1> perLunghezza;
+void Controlla(std::span<const ParolaDaUsare> parole, int lunghezza) {
   for (const ParolaDaUsare& parola : parole) {
-    Verifica(LunghezzaDiVoce(parola.lettere.size()), "lunghezza della parola");
-    perLunghezza[parola.lettere.size()].push_back(&parola);
-  }
-  for (int lunghezza = MinLunghezzaVoce; lunghezza <= MaxLunghezzaVoce; ++lunghezza) {
-    Riempi(fasce_[static_cast<std::size_t>(lunghezza - MinLunghezzaVoce)], lunghezza,
-           perLunghezza[static_cast<std::size_t>(lunghezza)]);
+    Verifica(parola.lettere.size() == static_cast<std::size_t>(lunghezza),
+             "lunghezza della parola");
+    Verifica(parola.pregio >= 0 && parola.pregio <= MaxPregio, "pregio della parola");
   }
 }
 
-void Vocabolario::Riempi(Fascia& fascia, int lunghezza, std::vector<const ParolaDaUsare*>& parole) {
-  Ordina(parole);
-  const std::size_t quante = parole.size();
-  fascia.quante = static_cast<int>(quante);
-  fascia.blocchi = (fascia.quante + ParolePerBlocco - 1) / ParolePerBlocco;
-  const auto blocchi = static_cast<std::size_t>(fascia.blocchi);
-  const auto lettere = static_cast<std::size_t>(lunghezza);
-  fascia.lettere.reserve(quante * lettere);
-  fascia.pregi.reserve(quante);
-  fascia.punteggi.reserve(quante);
-  fascia.segni.reserve(quante);
-  fascia.genie.reserve(quante);
-  fascia.insiemi.assign(lettere * LettereAlfabeto * blocchi, 0);
-  for (auto& insieme : fascia.perGenia)
-    insieme.assign(blocchi, 0);
-  for (int numero = 0; numero < fascia.quante; ++numero) {
-    const ParolaDaUsare& parola = *parole[static_cast<std::size_t>(numero)];
-    fascia.lettere.insert(fascia.lettere.end(), parola.lettere.begin(), parola.lettere.end());
-    fascia.pregi.push_back(static_cast<std::uint16_t>(parola.pregio));
-    fascia.punteggi.push_back(static_cast<std::uint8_t>(parola.punteggio));
-    fascia.segni.push_back(static_cast<std::uint8_t>((parola.definita ? SegnoDefinita : 0) |
-                                                     (parola.propria ? SegnoPropria : 0)));
-    fascia.genie.push_back(parola.genie);
-    for (std::size_t posto = 0; posto < lettere; ++posto) {
-      const auto lettera = static_cast<std::size_t>(parola.lettere[posto] - 'A');
+// The words in the order of a vocabulary, by where they stand. Layers come nearly in order: it is
+// enough to part the words by their worth, and to look whether each part is in order.
+std::vector<std::uint32_t> InOrdine(std::span<const ParolaDaUsare> parole) {
+  std::vector<std::uint32_t> fine(std::size_t{MaxPregio} + 2, 0);
+  const auto parte = [](const ParolaDaUsare& parola) {
+    return static_cast<std::size_t>(MaxPregio - parola.pregio);
+  };
+  for (const ParolaDaUsare& parola : parole)
+    ++fine[parte(parola) + 1];
+  std::partial_sum(fine.begin(), fine.end(), fine.begin());
+  std::vector<std::uint32_t> ordine(parole.size());
+  for (std::uint32_t i = 0; i < parole.size(); ++i)
+    ordine[fine[parte(parole[i])]++] = i;
+  const auto lettere = [&](std::uint32_t quale) { return parole[quale].lettere; };
+  for (std::size_t inizio = 0; inizio < ordine.size();) {
+    const std::size_t dopo = fine[parte(parole[ordine[inizio]])];
+    const auto questi = std::span(ordine).subspan(inizio, dopo - inizio);
+    if (!std::ranges::is_sorted(questi, {}, lettere)) std::ranges::sort(questi, {}, lettere);
+    inizio = dopo;
+  }
+  return ordine;
+}
+
+// Adds a block of words, the letters of at most 64 of them one behind the other, to the sets of
+// their letters. Set by set a block is written once, so that all that is in use stays near.
+void SegnaLettere(std::string_view lettere, std::size_t lunghezza, std::size_t blocco,
+                  std::size_t blocchi, std::vector<Blocco>& insiemi) {
+  for (std::size_t posto = 0; posto < lunghezza; ++posto) {
+    std::array<Blocco, LettereAlfabeto> parti{};
+    Blocco bit = 1;
+    for (std::size_t i = posto; i < lettere.size(); i += lunghezza, bit <<= 1) {
+      const auto lettera = static_cast<unsigned char>(lettere[i] - 'A');
       Verifica(lettera < LettereAlfabeto, "lettera della parola");
-      fascia.insiemi[(posto * LettereAlfabeto + lettera) * blocchi + BloccoDi(numero)] |=
-          BitDi(numero);
+      parti[lettera] |= bit;
     }
-    for (std::size_t genia = 0; genia < NumGenie; ++genia) {
-      if (parola.genie >> genia & 1) fascia.perGenia[genia][BloccoDi(numero)] |= BitDi(numero);
-    }
+    for (std::size_t lettera = 0; lettera < parti.size(); ++lettera)
+      insiemi[(posto * LettereAlfabeto + lettera) * blocchi + blocco] = parti[lettera];
+  }
+}
+
+}  // namespace
+
+std::vector<std::uint32_t> ComposizioneVocabolario::Metti(int lunghezza,
+                                                          std::span<const ParolaDaUsare> parole) {
+  Verifica(LunghezzaDiVoce(static_cast<std::size_t>(lunghezza)), "lunghezza delle parole");
+  Controlla(parole, lunghezza);
+  std::vector<std::uint32_t> ordine = InOrdine(parole);
+  vocabolario_.fasce_[static_cast<std::size_t>(lunghezza - MinLunghezzaVoce)].Riempi(
+      lunghezza, parole, ordine);
+  return ordine;
+}
+
+Vocabolario ComposizioneVocabolario::Chiudi(Vocabolario::ParentelaPerNumeri parenti) && {
+  vocabolario_.perNumeri_ = std::move(parenti);
+  return std::move(vocabolario_);
+}
+
+Vocabolario::Vocabolario(std::span<const ParolaDaUsare> parole, Parentela parentela) {
+  std::array<std::vector<ParolaDaUsare>, MaxLunghezzaVoce + 1> perLunghezza;
+  for (const ParolaDaUsare& parola : parole) {
+    Verifica(LunghezzaDiVoce(parola.lettere.size()), "lunghezza della parola");
+    perLunghezza[parola.lettere.size()].push_back(parola);
+  }
+  ComposizioneVocabolario composizione;
+  for (int lunghezza = MinLunghezzaVoce; lunghezza <= MaxLunghezzaVoce; ++lunghezza)
+    composizione.Metti(lunghezza, perLunghezza[static_cast<std::size_t>(lunghezza)]);
+  *this = std::move(composizione).Chiudi();
+  parentela_ = std::move(parentela);
+}
+
+void Vocabolario::Fascia::Riempi(int lunghezza, std::span<const ParolaDaUsare> parole,
+                                 std::span<const std::uint32_t> ordine) {
+  quante = static_cast<int>(ordine.size());
+  blocchi = (quante + ParolePerBlocco - 1) / ParolePerBlocco;
+  const auto quanteLettere = static_cast<std::size_t>(lunghezza);
+  lettere.reserve(ordine.size() * quanteLettere);
+  pregi.reserve(ordine.size());
+  punteggi.reserve(ordine.size());
+  segni.reserve(ordine.size());
+  genie.reserve(ordine.size());
+  for (auto& insieme : perGenia)
+    insieme.assign(static_cast<std::size_t>(blocchi), 0);
+  for (const std::uint32_t quale : ordine)
+    Aggiungi(parole[quale]);
+  SegnaInsiemi(quanteLettere);
+}
+
+void Vocabolario::Fascia::Aggiungi(const ParolaDaUsare& parola) {
+  const auto numero = static_cast<int>(pregi.size());
+  lettere.insert(lettere.end(), parola.lettere.begin(), parola.lettere.end());
+  pregi.push_back(static_cast<std::uint16_t>(parola.pregio));
+  punteggi.push_back(static_cast<std::uint8_t>(parola.punteggio));
+  segni.push_back(static_cast<std::uint8_t>((parola.definita ? SegnoDefinita : 0) |
+                                            (parola.propria ? SegnoPropria : 0)));
+  genie.push_back(parola.genie);
+  for (std::size_t genia = 0; parola.genie >> genia != 0; ++genia) {
+    if (parola.genie >> genia & 1) perGenia[genia][BloccoDi(numero)] |= BitDi(numero);
+  }
+}
+
+void Vocabolario::Fascia::SegnaInsiemi(std::size_t lunghezza) {
+  const auto quanti = static_cast<std::size_t>(blocchi);
+  insiemi.resize(lunghezza * LettereAlfabeto * quanti);
+  const std::string_view tutte(lettere.data(), lettere.size());
+  for (std::size_t blocco = 0; blocco < quanti; ++blocco) {
+    SegnaLettere(tutte.substr(blocco * ParolePerBlocco * lunghezza, ParolePerBlocco * lunghezza),
+                 lunghezza, blocco, quanti, insiemi);
   }
 }
 
@@ -128,6 +187,7 @@ Genie Vocabolario::GenieDi(NumeroParola parola) const {
 }
 
 std::vector<NumeroParola> Vocabolario::Parenti(std::string_view parola) const {
+  if (perNumeri_) return perNumeri_(parola);
   std::vector<NumeroParola> parenti;
   if (!parentela_) return parenti;
   for (const std::string& altra : parentela_(parola)) {

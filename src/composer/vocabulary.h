@@ -59,11 +59,12 @@ class Vocabolario {
   /// Gives the words that may not stand beside a word, as forms of one lemma, as letters; itself
   /// may be among them. Called in any thread.
   using Parentela = std::function<std::vector<std::string>(std::string_view parola)>;
+  /// The same as numbers of the vocabulary, itself not among them.
+  using ParentelaPerNumeri = std::function<std::vector<NumeroParola>(std::string_view parola)>;
 
   /// No words.
   Vocabolario() = default;
-  /// Takes different words, the sooner done the nearer they are to the order of a vocabulary.
-  /// `parentela` may be empty: no word is akin to another one.
+  /// Takes different words. `parentela` may be empty: no word is akin to another one.
   explicit Vocabolario(std::span<const ParolaDaUsare> parole, Parentela parentela = {});
 
   int Quante(int lunghezza) const { return Di(lunghezza).quante; }
@@ -81,7 +82,7 @@ class Vocabolario {
   Genie GenieDi(NumeroParola parola) const;
   /// The words akin to one that the vocabulary has, without itself.
   std::vector<NumeroParola> Parenti(std::string_view parola) const;
-  bool HaParentele() const { return static_cast<bool>(parentela_); }
+  bool HaParentele() const { return parentela_ || perNumeri_; }
 
   /// The words of a length with a letter (0 for A) at a place from 0.
   const Blocco* Insieme(int lunghezza, int posto, int lettera) const {
@@ -101,6 +102,11 @@ class Vocabolario {
 
  private:
   struct Fascia {
+    void Riempi(int lunghezza, std::span<const ParolaDaUsare> parole,
+                std::span<const std::uint32_t> ordine);
+    void Aggiungi(const ParolaDaUsare& parola);
+    void SegnaInsiemi(std::size_t lunghezza);
+
     int quante = 0;
     int blocchi = 0;
     std::vector<char> lettere;
@@ -115,10 +121,26 @@ class Vocabolario {
   const Fascia& Di(int lunghezza) const {
     return fasce_[static_cast<std::size_t>(lunghezza - MinLunghezzaVoce)];
   }
-  static void Riempi(Fascia& fascia, int lunghezza, std::vector<const ParolaDaUsare*>& parole);
+  friend class ComposizioneVocabolario;
 
   std::array<Fascia, MaxLunghezzaVoce - MinLunghezzaVoce + 1> fasce_;
   Parentela parentela_;
+  ParentelaPerNumeri perNumeri_;
+};
+
+/// A vocabulary in the making.
+class ComposizioneVocabolario {
+ public:
+  /// Takes all words of a length, different ones, the sooner the nearer they are to the order of a
+  /// vocabulary. Gives which of them, from 0, has each number. Several threads may do so at once,
+  /// each for another length.
+  std::vector<std::uint32_t> Metti(int lunghezza, std::span<const ParolaDaUsare> parole);
+
+  /// The vocabulary; nothing is left here.
+  Vocabolario Chiudi(Vocabolario::ParentelaPerNumeri parenti = {}) &&;
+
+ private:
+  Vocabolario vocabolario_;
 };
 
 }  // namespace telarium

@@ -12,21 +12,6 @@ using Specie = Rivelazione::Specie;
 // Who bans RE from a grid has nothing against kings in its clues.
 constexpr std::size_t MinLettereVietata = 3;
 
-bool ParolaPiena(Categoria categoria) {
-  switch (categoria) {
-    case Categoria::Ignota:
-    case Categoria::Sostantivo:
-    case Categoria::Aggettivo:
-    case Categoria::Verbo:
-    case Categoria::Avverbio:
-    case Categoria::Numerale:
-    case Categoria::NomeProprio:
-      return true;
-    default:
-      return false;
-  }
-}
-
 bool HannoComune(const std::vector<LemmaDiCategoria>& uni,
                  const std::vector<LemmaDiCategoria>& altri) {
   return std::find_first_of(uni.begin(), uni.end(), altri.begin(), altri.end()) != uni.end();
@@ -55,16 +40,6 @@ std::string_view Brano(const std::vector<ParolaDiDefinizione>& parole,
 }
 
 }  // namespace
-
-std::vector<LemmaDiCategoria> LemmiDi(const Parola& parola) {
-  std::vector<LemmaDiCategoria> lemmi;
-  for (const auto& [lemma, analisi] : parola.letture) {
-    if (!ParolaPiena(analisi.categoria) || lemma.empty() || tabelle::LemmaVuoto(lemma)) continue;
-    const LemmaDiCategoria uno{lemma, analisi.categoria};
-    if (std::find(lemmi.begin(), lemmi.end(), uno) == lemmi.end()) lemmi.push_back(uno);
-  }
-  return lemmi;
-}
 
 Rivelatore::Rivelatore(const Lessico& lessico, const ParoleVietate& vietate,
                        const std::vector<VoceDiGriglia>& voci)

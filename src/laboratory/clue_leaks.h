@@ -1,6 +1,5 @@
 #pragma once
 
-#include <compare>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -8,20 +7,10 @@
 
 #include "laboratory/clue_quality.h"
 #include "laboratory/entries.h"
+#include "laboratory/kinship.h"
 
 // What clues give away, and which of their words are banned.
 namespace telarium {
-
-/// A lemma as a part of speech: CORSO the noun is not the adjective of which CORSA is a form.
-struct LemmaDiCategoria {
-  std::string_view lemma;
-  Categoria categoria = Categoria::Ignota;
-  auto operator<=>(const LemmaDiCategoria&) const = default;
-};
-
-/// The lemmas by which a word may be akin to another one: those of its readings as a noun, an
-/// adjective, a verb or an adverb, the commonest first. Views into the layer of its readings.
-std::vector<LemmaDiCategoria> LemmiDi(const Parola& parola);
 
 /// What a clue says that it should not.
 struct Rivelazione {

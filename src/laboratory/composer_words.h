@@ -2,12 +2,11 @@
 
 #include <bitset>
 #include <memory>
-#include <string>
-#include <vector>
 
 #include "clues/coverage.h"
 #include "composer/vocabulary.h"
 #include "laboratory/word_selection.h"
+#include "model/laboratory_section.h"
 
 // The words of a choice as the composer wants them.
 namespace telarium {
@@ -19,16 +18,20 @@ using Lunghezze = std::bitset<MaxLunghezzaVoce + 1>;
 /// are preferred, one that has a clue before all that have none.
 int PregioDi(int punteggio, bool definita, UsoDefinizioni uso);
 
+/// What a crossword itself says of words, folded.
 struct ParoleDiCruciverba {
-  std::vector<std::string> proprie = {};  // the author's own words: they are words here
-  InsiemeDiParole vietate = {};           // banned in this crossword
+  InsiemeDiParole proprie = {};  // the author's own words: they are words here
+  InsiemeDiParole vietate = {};  // banned in this crossword
 };
+/// The words of its section; what stands there and is no word stands for nothing.
+ParoleDiCruciverba ParoleDi(const Laboratorio& laboratorio);
 
 /// The words of these lengths that a choice lets into a crossword: those of all layers that are not
-/// banned and that the rules allow at least in some number. Least scores and the demand of clues
-/// are the problem's: they take nothing away here. Under rules that take any two letters all pairs
-/// are words. `copertura` may be null: no word has a clue then. The lexicon must live as long as
-/// the vocabulary.
+/// banned and that the rules allow at least in some number, and the crossword's own. Least scores
+/// and the demand of clues are the problem's: they take nothing away here. Under rules that take
+/// any two letters all pairs are words, and marked as own ones, since nothing is demanded of them.
+/// Which words are akin follows from `scelta.ammetteForme`. `copertura` may be null: no word has a
+/// clue then. Uses two threads for what is long.
 std::shared_ptr<const Vocabolario> VocabolarioDi(const SceltaParole& scelta, const Lessico& lessico,
                                                  const Copertura* copertura,
                                                  const Lunghezze& lunghezze,

@@ -1,23 +1,19 @@
 #include "laboratory/entries.h"
 
+#include <utility>
+
 #include "platform/text.h"
 
 namespace telarium {
-namespace {
-
-using Insieme = std::unordered_set<std::string>;
-
-// Words of a crossword's own lists; one that is no word of letters stands for nothing.
-Insieme Piegate(const std::vector<std::string>& parole) {
-  Insieme insieme;
+InsiemeDiParole Piegate(const std::vector<std::string>& parole) {
+  InsiemeDiParole insieme;
   for (const std::string& parola : parole) {
     if (auto piegata = PiegaGrafia(parola)) insieme.insert(std::move(*piegata));
   }
   return insieme;
 }
 
-// The cells of an entry as a word; empty when one of them holds no letter.
-std::string LettereDi(std::string_view caselle) {
+std::string LettereDiCaselle(std::string_view caselle) {
   std::string lettere;
   for (const char carattere : caselle) {
     const auto lettera = LetteraDiCella(carattere);
@@ -26,8 +22,6 @@ std::string LettereDi(std::string_view caselle) {
   }
   return lettere;
 }
-
-}  // namespace
 
 std::optional<int> VoceDiGriglia::Punteggio() const {
   if (!parola || propria || libera) return std::nullopt;
@@ -49,16 +43,19 @@ std::string VoceDiGriglia::Nome() const {
 }
 
 ParoleVietate::ParoleVietate(const Lessico& lessico, const Cruciverba& cruciverba)
-    : lessico_(lessico), delCruciverba_(Piegate(cruciverba.laboratorio.vietate)) {}
+    : ParoleVietate(lessico, Piegate(cruciverba.laboratorio.vietate)) {}
+
+ParoleVietate::ParoleVietate(const Lessico& lessico, InsiemeDiParole delCruciverba)
+    : lessico_(lessico), delCruciverba_(std::move(delCruciverba)) {}
 
 bool ParoleVietate::Ha(std::string_view parola) const {
   if (lessico_.Ammesse().contains(parola)) return false;
-  return delCruciverba_.contains(std::string(parola)) || lessico_.Bandita(parola);
+  return delCruciverba_.contains(parola) || lessico_.Bandita(parola);
 }
 
 std::vector<VoceDiGriglia> VociDi(const Cruciverba& cruciverba, const Derivati& griglia,
                                   const Criteri& criteri) {
-  const Insieme proprie = Piegate(cruciverba.laboratorio.proprie);
+  const InsiemeDiParole proprie = Piegate(cruciverba.laboratorio.proprie);
   const ParoleVietate vietate(criteri.lessico, cruciverba);
   std::vector<VoceDiGriglia> voci;
   voci.reserve(griglia.Parole().size());
@@ -70,7 +67,7 @@ std::vector<VoceDiGriglia> VociDi(const Cruciverba& cruciverba, const Derivati& 
     voce.definizione =
         SenzaSpazi(cruciverba.definizioni(slot.inizio.colonna, slot.inizio.riga, slot.direzione));
     voce.libera = slot.lunghezza == MinLunghezzaVoce && criteri.regole.due == DueLettere::Tutte;
-    voce.lettere = LettereDi(voce.caselle);
+    voce.lettere = LettereDiCaselle(voce.caselle);
     if (!voce.Intera()) continue;
     voce.parola = criteri.lessico.Cerca(voce.lettere);
     voce.propria = proprie.contains(voce.lettere);

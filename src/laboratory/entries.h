@@ -5,7 +5,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include "clues/coverage.h"
@@ -56,17 +55,24 @@ struct VoceDiGriglia {
   std::string Luogo() const;
 };
 
+/// The words of a crossword's own list, folded; one that is no word of letters stands for nothing.
+InsiemeDiParole Piegate(const std::vector<std::string>& parole);
+
 /// The words that a crossword must not have: bans and marks of the lexicon, and those that stand in
 /// the crossword itself; the lexicon's admissions lift them. Holds a reference to the lexicon.
 class ParoleVietate {
  public:
   ParoleVietate(const Lessico& lessico, const Cruciverba& cruciverba);
+  ParoleVietate(const Lessico& lessico, InsiemeDiParole delCruciverba);
   bool Ha(std::string_view parola) const;
 
  private:
   const Lessico& lessico_;
-  std::unordered_set<std::string> delCruciverba_;
+  InsiemeDiParole delCruciverba_;
 };
+
+/// The cells of an entry as a word; empty when one of them holds no letter.
+std::string LettereDiCaselle(std::string_view caselle);
 
 /// All runs of two and more white cells, in reading order, at a cell the horizontal one first.
 std::vector<VoceDiGriglia> VociDi(const Cruciverba& cruciverba, const Derivati& griglia,

@@ -128,8 +128,7 @@ void Rare(Esame& esame) {
   }
 }
 
-// Tells entries that are forms of a word of which an earlier one is a form too. Words meet by many
-// readings: the lemma must be that of the commonest one of at least one of the two.
+// Tells entries that are akin to an earlier one.
 class FormeDiLemmi {
  public:
   explicit FormeDiLemmi(Esame& esame) : esame_(esame) {}
@@ -137,32 +136,36 @@ class FormeDiLemmi {
   void Aggiungi(const VoceDiGriglia& voce) {
     const auto lemmi = LemmiDi(*voce.parola);
     for (std::size_t i = 0; i < lemmi.size(); ++i) {
-      const Forme& forme = perLemma_[lemmi[i]];
-      const VoceDiGriglia* altra = i == 0 ? forme.prima : forme.primaComune;
-      if (!altra || altra->lettere == voce.lettere) continue;
+      const VoceDiGriglia* const altra = PrimaAffine(lemmi[i], i, voce);
+      if (!altra) continue;
       esame_.Rileva(Codice::LemmaRipetuto, voce,
                     Unisci(voce.Nome(), " e ", altra->Nome(), " sono forme della stessa parola, ",
                            TraVirgolette(lemmi[i].lemma), '.'));
       break;
     }
     for (std::size_t i = 0; i < lemmi.size(); ++i)
-      Segna(perLemma_[lemmi[i]], voce, i == 0);
+      perLemma_[lemmi[i]].push_back({&voce, i});
   }
 
  private:
-  // The first entries that can be a form of a lemma, and that are one in their commonest reading.
-  struct Forme {
-    const VoceDiGriglia* prima = nullptr;
-    const VoceDiGriglia* primaComune = nullptr;
+  // An entry that can be a form of a lemma, and where that stands among its lemmas.
+  struct Forma {
+    const VoceDiGriglia* voce;
+    std::size_t posto;
   };
 
-  static void Segna(Forme& forme, const VoceDiGriglia& voce, bool comune) {
-    if (!forme.prima) forme.prima = &voce;
-    if (comune && !forme.primaComune) forme.primaComune = &voce;
+  const VoceDiGriglia* PrimaAffine(const LemmaDiCategoria& lemma, std::size_t posto,
+                                   const VoceDiGriglia& voce) const {
+    const auto forme = perLemma_.find(lemma);
+    if (forme == perLemma_.end()) return nullptr;
+    const auto affine = std::ranges::find_if(forme->second, [&](const Forma& altra) {
+      return Lega(posto, altra.posto) && altra.voce->lettere != voce.lettere;
+    });
+    return affine == forme->second.end() ? nullptr : affine->voce;
   }
 
   Esame& esame_;
-  std::map<LemmaDiCategoria, Forme> perLemma_;
+  std::map<LemmaDiCategoria, std::vector<Forma>> perLemma_;
 };
 
 void Lemmi(Esame& esame) {

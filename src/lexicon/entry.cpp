@@ -151,18 +151,29 @@ constexpr Parte Prendi(std::uint32_t bit, Inizio inizio, Inizio seguente) {
   return static_cast<Parte>(bit >> inizio & ((1u << (seguente - inizio)) - 1));
 }
 
+// What may follow a mood and a tense; nothing where no form has the two.
+using SeguitiVerbali = std::array<std::array<std::optional<Seguito>, 8>, 16>;
+
+constexpr SeguitiVerbali TabellaDeiSeguiti() {
+  SeguitiVerbali seguiti{};
+  for (const FormaVerbale& forma : FormeVerbali)
+    seguiti[static_cast<std::size_t>(forma.modo)][static_cast<std::size_t>(forma.tempo)] =
+        forma.seguito;
+  return seguiti;
+}
+
 // Whether the parts go together, as they do in every analysis that a code gives.
 bool Coerente(const Analisi& analisi) {
+  static constexpr SeguitiVerbali seguiti = TabellaDeiSeguiti();
   if (analisi.categoria > Categoria::Abbreviazione || analisi.genere > Genere::Femminile ||
       analisi.numero > Numero::Plurale || analisi.persona > 3) {
     return false;
   }
-  const auto* const forma = std::ranges::find_if(FormeVerbali, [&](const FormaVerbale& una) {
-    return una.modo == analisi.modo && una.tempo == analisi.tempo;
-  });
-  if (forma == std::end(FormeVerbali)) return false;
+  const auto seguito =
+      seguiti[static_cast<std::size_t>(analisi.modo)][static_cast<std::size_t>(analisi.tempo)];
+  if (!seguito) return false;
   if (analisi.categoria != Categoria::Verbo && analisi.modo != Modo::Nessuno) return false;
-  return (analisi.persona > 0) == (forma->seguito == Seguito::Persona);
+  return (analisi.persona > 0) == (*seguito == Seguito::Persona);
 }
 
 // Adds a name to a list of names.

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "lexicon/entry.h"
 
@@ -11,6 +12,16 @@ namespace telarium {
 
 /// The number of an entry in its layer, from 0: by length.
 using NumeroVoce = std::uint32_t;
+
+class FileLessico;
+
+/// What orders and filters look at of an entry.
+struct TrattiDiVoce {
+  std::string_view parola;  // folded
+  std::uint8_t punteggio = 0;
+  bool soloFinita = false;  // see SoloFinita
+  Segni segni;
+};
 
 /// Words from one place: the lexicon of a language, the kit of short entries, a dictionary, a list.
 /// A layer never changes, so that threads share it.
@@ -38,6 +49,11 @@ class Strato {
   virtual bool HaPunteggio(NumeroVoce) const { return true; }
   /// The marks of an entry, for those who need no more of it.
   virtual Segni LeggiSegni(NumeroVoce numero) const { return Leggi(numero).segni; }
+  /// All entries of a length, by number, for those who go through them: sooner done than entry by
+  /// entry. One that a damaged layer cannot tell has no word.
+  virtual void LeggiTratti(int lunghezza, std::vector<TrattiDiVoce>& tratti) const;
+  /// The layer as a lexicon file, which alone has readings; null for any other.
+  virtual const FileLessico* ComeFile() const { return nullptr; }
 
  protected:
   explicit Strato(std::string nome) : nome_(std::move(nome)) {}

@@ -27,9 +27,13 @@ constexpr bool SenzaSegni(Origine origine) {
 }
 
 // A score of 0 in the user's own list is no score but a ban.
+bool Vieta(Origine origine, int punteggio, Segni segni) {
+  return (origine == Origine::Mio && punteggio == 0) || segni.Ha(Segno::Bandita);
+}
+
 bool BanditaDa(const Lessico::Livello& livello, NumeroVoce numero) {
-  if (livello.origine == Origine::Mio && livello.strato->Punteggio(numero) == 0) return true;
-  return livello.strato->LeggiSegni(numero).Ha(Segno::Bandita);
+  return Vieta(livello.origine, livello.strato->Punteggio(numero),
+               livello.strato->LeggiSegni(numero));
 }
 
 // Puts together what layers say of one word, from the lowest on.
@@ -82,6 +86,26 @@ class Raccolta {
 
 }  // namespace
 
+TrattiDiParola TrattiDi(const Parola& parola) {
+  return {.lettere = parola.lettere.size(),
+          .segni = parola.segni,
+          .soloFinita = SoloFinita(parola.letture),
+          .nelCorredo = parola.nelCorredo,
+          .propria = parola.propria};
+}
+
+TrattiDiParola TrattiDiUnica(const TrattiDiVoce& voce, Origine origine) {
+  TrattiDiParola tratti = {.lettere = voce.parola.size(),
+                           .segni = SenzaSegni(origine) ? Segni() : voce.segni,
+                           .soloFinita = voce.soloFinita,
+                           .nelCorredo = origine == Origine::Sigle,
+                           .propria = DellUtente(origine)};
+  if (origine == Origine::Straniera) tratti.segni.Metti(Segno::Straniera);
+  tratti.segni.Togli(Segno::Bandita);
+  if (Vieta(origine, voce.punteggio, voce.segni)) tratti.segni.Metti(Segno::Bandita);
+  return tratti;
+}
+
 void Lessico::Aggiungi(std::shared_ptr<const Strato> strato, Origine origine) {
   livelli_.push_back({std::move(strato), origine});
 }
@@ -125,6 +149,22 @@ bool Lessico::Bandita(std::string_view parola) const {
     const auto numero = livello.strato->Cerca(parola);
     return numero && BanditaDa(livello, *numero);
   });
+}
+
+std::optional<Lessico::Fonte> Lessico::FonteDelleLetture(std::string_view parola) const {
+  for (const bool straniere : {false, true}) {
+    bool trovata = false;
+    for (std::size_t i = 0; i < livelli_.size(); ++i) {
+      const auto& [strato, origine] = livelli_[i];
+      if ((origine == Origine::Straniera) != straniere) continue;
+      const auto numero = strato->Cerca(parola);
+      if (!numero) continue;
+      if (!strato->Leggi(*numero).letture.empty()) return Fonte{i, *numero};
+      trovata = true;
+    }
+    if (trovata) break;
+  }
+  return std::nullopt;
 }
 
 }  // namespace telarium

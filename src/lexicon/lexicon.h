@@ -35,6 +35,20 @@ struct Parola {
   bool propria = false;               // whether a list or the user's own one has it
 };
 
+/// What rules look at of a word.
+struct TrattiDiParola {
+  std::size_t lettere = 0;
+  Segni segni;              // as of Parola, and so the others
+  bool soloFinita = false;  // of its readings, see SoloFinita
+  bool nelCorredo = false;
+  bool propria = false;
+};
+TrattiDiParola TrattiDi(const Parola& parola);
+
+/// The same of an entry that one layer alone has, for those who go through whole layers. Bans and
+/// admissions by name are not looked at.
+TrattiDiParola TrattiDiUnica(const TrattiDiVoce& voce, Origine origine);
+
 /// Words by their letters.
 using InsiemeDiParole = std::set<std::string, std::less<>>;
 
@@ -60,6 +74,14 @@ class Lessico {
   std::optional<Parola> Cerca(std::string_view parola) const;
   bool Contiene(std::string_view parola) const;
   bool Bandita(std::string_view parola) const;
+
+  /// Where a word has its readings from: the number of a layer, from 0, and the entry there. None
+  /// for a word that has none.
+  struct Fonte {
+    std::size_t livello = 0;
+    NumeroVoce numero = 0;
+  };
+  std::optional<Fonte> FonteDelleLetture(std::string_view parola) const;
 
   const std::vector<Livello>& Livelli() const { return livelli_; }
   const InsiemeDiParole& Vietate() const { return vietate_; }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <ranges>
 
 #include "platform/codepage.h"
 #include "platform/digest.h"
@@ -164,6 +165,31 @@ Segni FileLessico::LeggiSegni(NumeroVoce numero) const {
   return numero < segni_.size() ? Segni(segni_[numero]) : Segni();
 }
 
+void FileLessico::LeggiTratti(int lunghezza, std::vector<TrattiDiVoce>& tratti) const {
+  tratti.clear();
+  const Riga* const riga = RigaDi(lunghezza);
+  if (!riga) return;
+  tratti.resize(riga->voci);
+  for (std::size_t i = 0; i < tratti.size(); ++i) {
+    const auto numero = static_cast<NumeroVoce>(riga->prima + i);
+    const std::string_view parola = LettereDi(*riga, numero);
+    tratti[i] = {.parola = DiLettere(parola) ? parola : std::string_view(),
+                 .punteggio = std::min(punteggi_[numero], std::uint8_t{MaxPunteggio}),
+                 .soloFinita = SoloFinita(numero),
+                 .segni = Segni(segni_[numero])};
+  }
+}
+
+// As of what Leggi gives, without making it.
+bool FileLessico::SoloFinita(NumeroVoce numero) const {
+  bool finita = false;
+  PerOgniLettura(numero, [&](NumeroLemma, std::string_view, const Analisi& analisi) {
+    finita = analisi.Finita();
+    return finita;
+  });
+  return finita;
+}
+
 std::string_view FileLessico::Testo(std::span<const std::uint32_t> inizi,
                                     std::uint32_t numero) const {
   if (numero + std::size_t{1} >= inizi.size()) return {};
@@ -174,6 +200,15 @@ std::string_view FileLessico::Testo(std::span<const std::uint32_t> inizi,
 std::span<const LetturaScritta> FileLessico::LettureDi(NumeroVoce numero) const {
   if (numero >= testata_.voci) return {};
   return Fra(letture_, capiVoce_[numero], capiVoce_[numero + 1], MaxLetture);
+}
+
+template <class Visita>
+void FileLessico::PerOgniLettura(NumeroVoce numero, Visita visita) const {
+  for (const LetturaScritta& scritta : LettureDi(numero)) {
+    const std::string_view lemma = Testo(lemmi_, scritta.lemma);
+    const auto analisi = AnalisiDaBit(scritta.analisi);
+    if (!lemma.empty() && analisi && !visita(scritta.lemma, lemma, *analisi)) return;
+  }
 }
 
 std::span<const NumeroVoce> FileLessico::FamigliaDi(std::uint32_t lemma) const {
@@ -189,12 +224,27 @@ Voce FileLessico::Leggi(NumeroVoce numero) const {
   if (voce.grafia.empty()) voce.grafia = voce.parola;
   voce.punteggio = Punteggio(numero);
   voce.segni = LeggiSegni(numero);
-  for (const LetturaScritta& scritta : LettureDi(numero)) {
-    const std::string_view lemma = Testo(lemmi_, scritta.lemma);
-    const auto analisi = AnalisiDaBit(scritta.analisi);
-    if (!lemma.empty() && analisi) voce.letture.push_back({lemma, *analisi});
-  }
+  PerOgniLettura(numero, [&](NumeroLemma, std::string_view lemma, const Analisi& analisi) {
+    voce.letture.push_back({lemma, analisi});
+    return true;
+  });
   return voce;
+}
+
+void FileLessico::LeggiLetture(NumeroVoce numero, std::vector<LetturaNumerata>& letture) const {
+  letture.clear();
+  PerOgniLettura(numero, [&](NumeroLemma lemma, std::string_view, const Analisi& analisi) {
+    letture.push_back({lemma, analisi});
+    return true;
+  });
+}
+
+std::optional<NumeroLemma> FileLessico::CercaLemma(std::string_view lemma) const {
+  const auto numeri = std::views::iota(NumeroLemma{0}, NumeroLemma{testata_.lemmi});
+  const auto trovato = std::ranges::lower_bound(
+      numeri, lemma, {}, [this](NumeroLemma numero) { return Lemma(numero); });
+  if (trovato == numeri.end() || Lemma(*trovato) != lemma) return std::nullopt;
+  return *trovato;
 }
 
 std::span<const std::uint64_t> FileLessico::Insieme(int lunghezza, int posto, int lettera) const {

@@ -54,6 +54,15 @@
 //                entry 64j+k of the length; as many words as all entries of the length need
 namespace telarium {
 
+/// The number of a lemma in a lexicon file, from 0 in the order of the bytes.
+using NumeroLemma = std::uint32_t;
+
+/// A reading with its lemma by number.
+struct LetturaNumerata {
+  NumeroLemma lemma = 0;
+  Analisi analisi;
+};
+
 class FileLessico final : public Strato {
  public:
   /// Opens a lexicon file and checks its header, lengths and the bounds of its sections; what lies
@@ -73,6 +82,8 @@ class FileLessico final : public Strato {
   int Punteggio(NumeroVoce numero) const override;
   Voce Leggi(NumeroVoce numero) const override;
   Segni LeggiSegni(NumeroVoce numero) const override;
+  void LeggiTratti(int lunghezza, std::vector<TrattiDiVoce>& tratti) const override;
+  const FileLessico* ComeFile() const override { return this; }
 
   /// The set of the words of a length that have a letter (0 for A) at a place from 0, as the file
   /// holds it; bit k of word j is the (64j+k)th best of the length, from 0. Empty outside the
@@ -82,6 +93,16 @@ class FileLessico final : public Strato {
 
   /// The entries that share a lemma with one, itself too, rising. Empty without readings.
   std::vector<NumeroVoce> Famiglia(NumeroVoce numero) const;
+
+  // The readings and families by the numbers of lemmas, for those who follow many of them.
+
+  std::optional<NumeroLemma> CercaLemma(std::string_view lemma) const;
+  /// As spelled; empty for a number that no lemma has.
+  std::string_view Lemma(NumeroLemma numero) const { return Testo(lemmi_, numero); }
+  /// The entries that have a reading of a lemma, rising; in a damaged file some may be none.
+  std::span<const NumeroVoce> FormeDi(NumeroLemma lemma) const { return FamigliaDi(lemma); }
+  /// The readings of an entry that Leggi gives, into a list that is emptied first.
+  void LeggiLetture(NumeroVoce numero, std::vector<LetturaNumerata>& letture) const;
 
   /// Whether the digest is that of the contents, and whatever lies in them is sound: for the build
   /// and the tests, since it reads everything. `causa` as above.
@@ -107,6 +128,10 @@ class FileLessico final : public Strato {
   const Riga* RigaDellaVoce(NumeroVoce numero) const;
 
   std::string_view LettereDi(const Riga& riga, NumeroVoce numero) const;
+  bool SoloFinita(NumeroVoce numero) const;
+  // Calls `visita` with each sound reading, its lemma as a text too, as long as it gives true.
+  template <class Visita>
+  void PerOgniLettura(NumeroVoce numero, Visita visita) const;
   std::string_view Testo(std::span<const std::uint32_t> inizi, std::uint32_t numero) const;
   std::span<const lessico_interno::LetturaScritta> LettureDi(NumeroVoce numero) const;
   std::span<const NumeroVoce> FamigliaDi(std::uint32_t lemma) const;

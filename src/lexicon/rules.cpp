@@ -30,22 +30,22 @@ constexpr std::string_view NomiDiGenia[NumGenie] = {"è una forma finita di un v
 constexpr std::string_view NonDelCorredo = "non è una delle voci di due lettere riconosciute"_cp;
 constexpr std::string_view SoloGioco = "si spiega solo come gioco di lettere";
 
-bool DueLettereVietate(const Parola& parola, DueLettere due) {
-  const bool riconosciuta = parola.nelCorredo || parola.propria;
-  return parola.lettere.size() == 2 && due == DueLettere::Corredo && !riconosciuta;
+bool DueLettereVietate(const TrattiDiParola& tratti, DueLettere due) {
+  const bool riconosciuta = tratti.nelCorredo || tratti.propria;
+  return tratti.lettere == 2 && due == DueLettere::Corredo && !riconosciuta;
 }
 
-bool GiocoVietato(const Parola& parola, TreLettere tre) {
-  return parola.lettere.size() > 2 && tre == TreLettere::Parole && parola.segni.Ha(Segno::Gioco);
+bool GiocoVietato(const TrattiDiParola& tratti, TreLettere tre) {
+  return tratti.lettere > 2 && tre == TreLettere::Parole && tratti.segni.Ha(Segno::Gioco);
 }
 
 // The reason why a word is refused, as a predicate; empty for none.
-std::string_view Motivo(const Parola& parola, const Regolamento& regole) {
-  if (DueLettereVietate(parola, regole.due)) return NonDelCorredo;
-  if (GiocoVietato(parola, regole.tre)) return SoloGioco;
+std::string_view Motivo(const TrattiDiParola& tratti, const Regolamento& regole) {
+  if (DueLettereVietate(tratti, regole.due)) return NonDelCorredo;
+  if (GiocoVietato(tratti, regole.tre)) return SoloGioco;
   for (int i = 0; i < NumGenie; ++i) {
     const auto genia = static_cast<Genia>(i);
-    if (regole.Di(genia) == No && Appartiene(parola, genia)) return CheCosaE(genia);
+    if (regole.Di(genia) == No && Appartiene(tratti, genia)) return CheCosaE(genia);
   }
   return {};
 }
@@ -69,20 +69,24 @@ const Regolamento* RegolamentoDiNome(std::string_view nome) {
   return trovato == Regolamenti().end() ? nullptr : &*trovato;
 }
 
-bool Appartiene(const Parola& parola, Genia genia) {
+bool Appartiene(const TrattiDiParola& tratti, Genia genia) {
   switch (genia) {
     case Genia::Finita:
-      return !parola.nelCorredo && SoloFinita(parola.letture);
+      return !tratti.nelCorredo && tratti.soloFinita;
     case Genia::Tronca:
-      return parola.segni.Ha(Segno::Tronca);
+      return tratti.segni.Ha(Segno::Tronca);
     case Genia::Nome:
-      return parola.segni.Ha(Segno::Nome);
+      return tratti.segni.Ha(Segno::Nome);
     case Genia::Sigla:
-      return parola.segni.Ha(Segno::Sigla);
+      return tratti.segni.Ha(Segno::Sigla);
     case Genia::Straniera:
-      return parola.segni.Ha(Segno::Straniera);
+      return tratti.segni.Ha(Segno::Straniera);
   }
   return false;
+}
+
+bool Appartiene(const Parola& parola, Genia genia) {
+  return Appartiene(TrattiDi(parola), genia);
 }
 
 std::string_view CheCosaE(Genia genia) {
@@ -91,10 +95,14 @@ std::string_view CheCosaE(Genia genia) {
 
 std::optional<std::string> Divieto(const Parola& parola, const Regolamento& regole,
                                    std::string_view chiamata) {
-  const std::string_view motivo = Motivo(parola, regole);
+  const std::string_view motivo = Motivo(TrattiDi(parola), regole);
   if (motivo.empty()) return std::nullopt;
   if (chiamata.empty()) chiamata = parola.lettere;
   return Unisci(chiamata, ' ', motivo, ": le regole «"_cp, regole.nome, "» non l'ammettono."_cp);
+}
+
+bool Ammessa(const TrattiDiParola& tratti, const Regolamento& regole) {
+  return Motivo(tratti, regole).empty();
 }
 
 }  // namespace telarium

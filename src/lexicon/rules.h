@@ -61,6 +61,7 @@ std::optional<Regolamento> InterpretaRegolamento(std::string_view testo, std::st
 
 /// Whether a word is of a limited kind. HA and its like in the kit count as no finite forms: the
 /// kit is what an editor takes in two letters.
+bool Appartiene(const TrattiDiParola& tratti, Genia genia);
 bool Appartiene(const Parola& parola, Genia genia);
 
 /// What an entry of a kind is, as a predicate: "è una sigla".
@@ -71,5 +72,7 @@ std::string_view CheCosaE(Genia genia);
 /// may. Bans are not looked at.
 std::optional<std::string> Divieto(const Parola& parola, const Regolamento& regole,
                                    std::string_view chiamata = {});
+/// Whether it may, for those who ask for many.
+bool Ammessa(const TrattiDiParola& tratti, const Regolamento& regole);
 
 }  // namespace telarium

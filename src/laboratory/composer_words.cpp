@@ -1,0 +1,289 @@
+#include "laboratory/composer_words.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <optional>
+#include <span>
+#include <thread>
+#include <utility>
+
+#include "laboratory/entries.h"
+#include "laboratory/kinship.h"
+
+namespace telarium {
+namespace {
+
+// What rules say of a word: whether they allow it, and of which limited kinds it is.
+struct Giudizio {
+  bool ammessa = false;
+  Genie genie = 0;
+};
+
+Giudizio Giudica(const TrattiDiParola& tratti, const Regolamento& regole) {
+  Giudizio giudizio{.ammessa = Ammessa(tratti, regole)};
+  for (int i = 0; i < NumGenie; ++i) {
+    const auto genia = static_cast<Genia>(i);
+    if (Appartiene(tratti, genia)) giudizio.genie |= SolaGenia(genia);
+  }
+  return giudizio;
+}
+
+// The judgements of all that an entry of one layer can be, so that whole layers are gone through.
+// Entries of two letters have rules of their own, all longer ones share theirs.
+class GiudiziDelLivello {
+ public:
+  GiudiziDelLivello(Origine origine, const Regolamento& regole) {
+    for (const std::string_view parola : {"AA", "AAA"}) {
+      for (std::uint16_t segni = 0; segni < TuttiISegni; ++segni) {
+        for (const bool finita : {false, true}) {
+          for (const std::uint8_t punteggio : {0, 1}) {
+            const TrattiDiVoce voce = {parola, punteggio, finita, Segni(segni)};
+            const TrattiDiParola tratti = TrattiDiUnica(voce, origine);
+            if (!tratti.segni.Ha(Segno::Bandita)) giudizi_[Posto(voce)] = Giudica(tratti, regole);
+          }
+        }
+      }
+    }
+  }
+
+  const Giudizio& Di(const TrattiDiVoce& voce) const { return giudizi_[Posto(voce)]; }
+
+ private:
+  static constexpr std::size_t TuttiISegni = 128;
+
+  static std::size_t Posto(const TrattiDiVoce& voce) {
+    const bool lunga = voce.parola.size() > MinLunghezzaVoce;
+    return voce.segni.Bit() +
+           TuttiISegni * (4 * lunga + 2 * voce.soloFinita + (voce.punteggio > 0));
+  }
+
+  std::array<Giudizio, TuttiISegni * 8> giudizi_{};
+};
+
+// What all lengths share.
+struct Fondo {
+  Fondo(const SceltaParole& scelta, const Lessico& lessico, const Copertura* copertura,
+        const ParoleDiCruciverba& delCruciverba)
+      : scelta(scelta),
+        lessico(lessico),
+        copertura(copertura),
+        delCruciverba(delCruciverba),
+        vietate(lessico, delCruciverba.vietate) {
+    for (const Lessico::Livello& livello : lessico.Livelli())
+      giudizi.emplace_back(livello.origine, scelta.regole);
+  }
+
+  // Entries of two letters of which nothing is demanded.
+  bool Libere(int lunghezza) const {
+    return lunghezza == MinLunghezzaVoce && scelta.regole.due == DueLettere::Tutte;
+  }
+
+  const SceltaParole& scelta;
+  const Lessico& lessico;
+  const Copertura* copertura;
+  const ParoleDiCruciverba& delCruciverba;
+  ParoleVietate vietate;
+  std::vector<GiudiziDelLivello> giudizi;
+};
+
+constexpr std::array<std::array<char, 2>, LettereAlfabeto* LettereAlfabeto> TutteLeCoppie = [] {
+  std::array<std::array<char, 2>, LettereAlfabeto * LettereAlfabeto> coppie{};
+  for (std::size_t i = 0; i < coppie.size(); ++i)
+    coppie[i] = {static_cast<char>('A' + i / LettereAlfabeto),
+                 static_cast<char>('A' + i % LettereAlfabeto)};
+  return coppie;
+}();
+
+// The words of one length. Nearly all of them stand in one layer alone, and nobody has named them:
+// those are taken layer by layer. The others go the long way, through all layers.
+class ParoleDiUnaLunghezza {
+ public:
+  ParoleDiUnaLunghezza(const Fondo& fondo, int lunghezza) : fondo_(fondo), lunghezza_(lunghezza) {}
+
+  void Raccogli() {
+    if (fondo_.Libere(lunghezza_)) {
+      for (const auto& coppia : TutteLeCoppie)
+        particolari_.emplace_back(coppia.data(), coppia.size());
+    } else {
+      TrovaParticolari();
+      for (std::size_t livello = 0; livello < Livelli().size(); ++livello)
+        PrendiLivello(livello);
+    }
+    for (const std::string_view parola : particolari_)
+      PrendiParticolare(parola);
+    SegnaDefinite();
+  }
+
+  void Metti(ComposizioneVocabolario& composizione, Parentele* parentele) const {
+    const auto ordine = composizione.Metti(lunghezza_, parole_);
+    if (!parentele) return;
+    for (std::size_t numero = 0; numero < ordine.size(); ++numero) {
+      if (const auto& fonte = fonti_[ordine[numero]])
+        parentele->Metti(*fonte, {lunghezza_, static_cast<int>(numero)});
+    }
+  }
+
+ private:
+  const std::vector<Lessico::Livello>& Livelli() const { return fondo_.lessico.Livelli(); }
+
+  void TrovaParticolari() {
+    for (const InsiemeDiParole* nominate :
+         {&fondo_.lessico.Vietate(), &fondo_.lessico.Ammesse(), &fondo_.delCruciverba.vietate,
+          &fondo_.delCruciverba.proprie}) {
+      for (const std::string& parola : *nominate) {
+        if (static_cast<int>(parola.size()) == lunghezza_) particolari_.emplace_back(parola);
+      }
+    }
+    for (std::size_t uno = 0; uno < Livelli().size(); ++uno) {
+      for (std::size_t altro = 0; altro < uno; ++altro)
+        TrovaComuni(*Livelli()[uno].strato, *Livelli()[altro].strato);
+    }
+    std::ranges::sort(particolari_);
+    const auto doppie = std::ranges::unique(particolari_);
+    particolari_.erase(doppie.begin(), doppie.end());
+  }
+
+  // The words that two layers have: those of the smaller one are looked for in the other one.
+  void TrovaComuni(const Strato& uno, const Strato& altro) {
+    const bool minore = uno.Conta(lunghezza_) < altro.Conta(lunghezza_);
+    const Strato& piccolo = minore ? uno : altro;
+    const Strato& grande = minore ? altro : uno;
+    const auto voci = static_cast<NumeroVoce>(piccolo.Conta(lunghezza_));
+    for (NumeroVoce i = 0; i < voci; ++i) {
+      const std::string_view parola = piccolo.Parola(piccolo.Prima(lunghezza_) + i);
+      if (grande.Cerca(parola)) particolari_.push_back(parola);
+    }
+  }
+
+  // The entries of a layer that go the long way, by their place in the length.
+  std::vector<bool> Saltate(const Strato& strato) const {
+    std::vector<bool> saltate(static_cast<std::size_t>(strato.Conta(lunghezza_)), false);
+    for (const std::string_view parola : particolari_) {
+      if (const auto numero = strato.Cerca(parola))
+        saltate[*numero - strato.Prima(lunghezza_)] = true;
+    }
+    return saltate;
+  }
+
+  void PrendiLivello(std::size_t livello) {
+    const Strato& strato = *Livelli()[livello].strato;
+    const GiudiziDelLivello& giudizi = fondo_.giudizi[livello];
+    const std::vector<bool> saltate = Saltate(strato);
+    std::vector<TrattiDiVoce> voci;
+    strato.LeggiTratti(lunghezza_, voci);
+    for (std::size_t i = 0; i < voci.size(); ++i) {
+      const Giudizio& giudizio = giudizi.Di(voci[i]);
+      if (!giudizio.ammessa || saltate[i] || voci[i].parola.empty()) continue;
+      const auto numero = static_cast<NumeroVoce>(strato.Prima(lunghezza_) + i);
+      parole_.push_back(
+          {.lettere = voci[i].parola, .punteggio = voci[i].punteggio, .genie = giudizio.genie});
+      fonti_.push_back(Lessico::Fonte{livello, numero});
+    }
+  }
+
+  // Whether nothing is demanded of a word.
+  bool Esente(std::string_view parola) const {
+    return fondo_.Libere(lunghezza_) || fondo_.delCruciverba.proprie.contains(parola);
+  }
+
+  void PrendiParticolare(std::string_view lettere) {
+    if (fondo_.vietate.Ha(lettere)) return;
+    const auto parola = fondo_.lessico.Cerca(lettere);
+    const bool esente = Esente(lettere);
+    if (!parola && !esente) return;
+    const Giudizio giudizio =
+        esente ? Giudizio{.ammessa = true} : Giudica(TrattiDi(*parola), fondo_.scelta.regole);
+    if (!giudizio.ammessa) return;
+    parole_.push_back({.lettere = lettere,
+                       .punteggio = parola ? parola->punteggio : PunteggioSenzaElenco(lettere),
+                       .propria = esente,
+                       .genie = giudizio.genie});
+    fonti_.push_back(fondo_.lessico.FonteDelleLetture(lettere));
+  }
+
+  // An own word is as welcome as one of which nobody has told how common it is; any two letters are
+  // not.
+  int PunteggioSenzaElenco(std::string_view lettere) const {
+    return fondo_.delCruciverba.proprie.contains(lettere) ? PunteggioIgnoto : 0;
+  }
+
+  void SegnaDefinite() {
+    const auto lettere = [this](std::size_t i) { return parole_[i].lettere; };
+    std::vector<std::uint64_t> definite;
+    if (fondo_.copertura)
+      definite = fondo_.copertura->Insieme(parole_.size(), lettere, fondo_.scelta.quali);
+    for (std::size_t i = 0; i < parole_.size(); ++i) {
+      ParolaDaUsare& parola = parole_[i];
+      parola.definita = !definite.empty() && (definite[i / 64] >> i % 64 & 1) != 0;
+      parola.pregio = PregioDi(parola.punteggio, parola.definita, fondo_.scelta.definizioni);
+    }
+  }
+
+  const Fondo& fondo_;
+  int lunghezza_;
+  std::vector<std::string_view> particolari_;
+  std::vector<ParolaDaUsare> parole_;
+  std::vector<std::optional<Lessico::Fonte>> fonti_;  // of the readings, by word
+};
+
+// The lengths that are wanted, those of the most words first.
+std::vector<int> InOrdine(const Lunghezze& lunghezze, const Lessico& lessico) {
+  std::vector<std::pair<int, int>> perParole;
+  for (int lunghezza = MinLunghezzaVoce; lunghezza <= MaxLunghezzaVoce; ++lunghezza) {
+    if (!lunghezze[static_cast<std::size_t>(lunghezza)]) continue;
+    int lettere = 0;
+    for (const Lessico::Livello& livello : lessico.Livelli())
+      lettere += livello.strato->Conta(lunghezza) * lunghezza;
+    perParole.emplace_back(-lettere, lunghezza);
+  }
+  std::ranges::sort(perParole);
+  std::vector<int> ordine;
+  for (const auto& [lettere, lunghezza] : perParole)
+    ordine.push_back(lunghezza);
+  return ordine;
+}
+
+}  // namespace
+
+int PregioDi(int punteggio, bool definita, UsoDefinizioni uso) {
+  constexpr int PerPunto = MaxPregio / MaxPunteggio;
+  if (uso != UsoDefinizioni::Preferite) return PerPunto * punteggio;
+  constexpr int PerPuntoConDefinizione = 4;
+  const int perPunteggio = PerPuntoConDefinizione * punteggio;
+  return definita ? MaxPregio - PerPuntoConDefinizione * MaxPunteggio + perPunteggio : perPunteggio;
+}
+
+ParoleDiCruciverba ParoleDi(const Laboratorio& laboratorio) {
+  return {.proprie = Piegate(laboratorio.proprie), .vietate = Piegate(laboratorio.vietate)};
+}
+
+std::shared_ptr<const Vocabolario> VocabolarioDi(const SceltaParole& scelta, const Lessico& lessico,
+                                                 const Copertura* copertura,
+                                                 const Lunghezze& lunghezze,
+                                                 const ParoleDiCruciverba& delCruciverba) {
+  const Fondo fondo(scelta, lessico, copertura, delCruciverba);
+  const std::vector<int> ordine = InOrdine(lunghezze, lessico);
+  std::shared_ptr<Parentele> parentele;
+  if (!scelta.ammetteForme) {
+    parentele = std::make_shared<Parentele>(lessico, scelta.regole.due == DueLettere::Tutte);
+  }
+  ComposizioneVocabolario composizione;
+  std::atomic<std::size_t> prossima = 0;
+  const auto lavora = [&] {
+    for (std::size_t i = prossima++; i < ordine.size(); i = prossima++) {
+      ParoleDiUnaLunghezza parole(fondo, ordine[i]);
+      parole.Raccogli();
+      parole.Metti(composizione, parentele.get());
+    }
+  };
+  {
+    const std::jthread altro(lavora);
+    lavora();
+  }
+  Vocabolario::ParentelaPerNumeri parenti;
+  if (parentele) parenti = [parentele](std::string_view parola) { return parentele->Di(parola); };
+  return std::make_shared<const Vocabolario>(std::move(composizione).Chiudi(std::move(parenti)));
+}
+
+}  // namespace telarium
