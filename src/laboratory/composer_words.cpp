@@ -113,6 +113,7 @@ class ParoleDiUnaLunghezza {
     for (const std::string_view parola : particolari_)
       PrendiParticolare(parola);
     SegnaDefinite();
+    if (fondo_.scelta.definizioni == UsoDefinizioni::Obbligatorie) TieniDefinite();
   }
 
   void Metti(ComposizioneVocabolario& composizione, Parentele* parentele) const {
@@ -218,6 +219,18 @@ class ParoleDiUnaLunghezza {
       parola.definita = !definite.empty() && (definite[i / 64] >> i % 64 & 1) != 0;
       parola.pregio = PregioDi(parola.punteggio, parola.definita, fondo_.scelta.definizioni);
     }
+  }
+
+  void TieniDefinite() {
+    std::size_t tenute = 0;
+    for (std::size_t i = 0; i < parole_.size(); ++i) {
+      if (!parole_[i].definita && !parole_[i].propria) continue;
+      parole_[tenute] = parole_[i];
+      fonti_[tenute] = fonti_[i];
+      ++tenute;
+    }
+    parole_.resize(tenute);
+    fonti_.resize(tenute);
   }
 
   const Fondo& fondo_;

@@ -27,11 +27,11 @@ struct ParoleDiCruciverba {
 ParoleDiCruciverba ParoleDi(const Laboratorio& laboratorio);
 
 /// The words of these lengths that a choice lets into a crossword: those of all layers that are not
-/// banned and that the rules allow at least in some number, and the crossword's own. Least scores
-/// and the demand of clues are the problem's: they take nothing away here. Under rules that take
-/// any two letters all pairs are words, and marked as own ones, since nothing is demanded of them.
-/// Which words are akin follows from `scelta.ammetteForme`. `copertura` may be null: no word has a
-/// clue then. Uses two threads for what is long.
+/// banned and that the rules allow at least in some number, and the crossword's own. Where clues
+/// are demanded words without one are left out; least scores are the problem's. Under rules that
+/// take any two letters all pairs are words, and marked as own ones, since nothing is demanded of
+/// them. Which words are akin follows from `scelta.ammetteForme`. `copertura` may be null: no word
+/// has a clue then. Uses two threads for what is long.
 std::shared_ptr<const Vocabolario> VocabolarioDi(const SceltaParole& scelta, const Lessico& lessico,
                                                  const Copertura* copertura,
                                                  const Lunghezze& lunghezze,

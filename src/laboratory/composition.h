@@ -37,7 +37,7 @@ struct SceltaComposizione {
   std::optional<int> due = {};        // the most entries of two letters
 };
 
-/// A crossword as a problem, and how the two hang together. The lexicon must outlive it.
+/// A crossword as a problem, and how the two hang together.
 struct Composizione {
   Cruciverba cruciverba;  // as it is to be filled: without its letters when they are dropped
   Derivati griglia;

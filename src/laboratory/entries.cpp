@@ -24,7 +24,7 @@ std::string LettereDiCaselle(std::string_view caselle) {
 }
 
 std::optional<int> VoceDiGriglia::Punteggio() const {
-  if (!parola || propria || libera) return std::nullopt;
+  if (!Giudicata()) return std::nullopt;
   return parola->punteggio;
 }
 

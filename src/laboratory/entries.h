@@ -48,6 +48,8 @@ struct VoceDiGriglia {
   /// Its score as far as it is judged: none for a word that no layer has, an own one, a free one.
   std::optional<int> Punteggio() const;
   bool Rara() const;
+  /// Whether rules judge it.
+  bool Giudicata() const { return parola && !propria && !libera; }
 
   /// "SEGUO (5 verticale)", and "5 verticale" alone, which is the name of an entry without letters
   /// too.

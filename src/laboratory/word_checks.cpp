@@ -51,14 +51,9 @@ void Vietate(Esame& esame) {
   }
 }
 
-// An entry that rules judge: the author's own word is not questioned.
-bool Giudicata(const VoceDiGriglia& voce) {
-  return voce.parola && !voce.propria && !voce.libera;
-}
-
 void Divieti(Esame& esame) {
   for (const VoceDiGriglia& voce : esame.voci) {
-    if (!Giudicata(voce)) continue;
+    if (!voce.Giudicata()) continue;
     if (auto divieto = Divieto(*voce.parola, esame.criteri.regole, voce.Nome()))
       esame.Rileva(Codice::Regola, voce, std::move(*divieto));
   }
@@ -105,7 +100,7 @@ void Quote(Esame& esame) {
     const Quota& quota = esame.criteri.regole.Di(genia);
     if (quota.unaSu == Quota::Nessuna || quota.unaSu == Quota::Libera) continue;
     const auto voci = Scelte(esame, [genia](const VoceDiGriglia& voce) {
-      return Giudicata(voce) && Appartiene(*voce.parola, genia);
+      return voce.Giudicata() && Appartiene(*voce.parola, genia);
     });
     const int ammesse = quota.Ammesse(esame.QuanteVoci());
     for (const VoceDiGriglia* voce : Eccedenti(voci, ammesse)) {
