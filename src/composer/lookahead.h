@@ -6,8 +6,7 @@
 
 #include "composer/composer.h"
 
-// What may still stand in a partly filled grid: for one slot what would become of each word, and
-// for each cell the letters that are left.
+// What would become of each word in one slot of a partly filled grid.
 namespace telarium {
 
 enum class Sorte {
@@ -19,20 +18,19 @@ enum class Sorte {
 struct Candidato {
   NumeroParola parola;
   Sorte sorte = Sorte::Aperta;
-  /// Of a dead one: the slot that has no word left with it, if its letters alone tell; else -1.
+  /// Of a dead one: a slot that has no word left by the given letters and those of the candidate
+  /// alone; -1 where no single slot tells.
   int incrocio = -1;
-  std::string maschera;  // of that slot, "." free
+  std::string maschera = {};  // these letters of that slot, "." free
 };
 
-/// Judges the words that fit a slot, best first (those with a clue before the others when
-/// `primaDefinite`), and hands each to `ricevi` as soon as it is known; that ends it by giving
-/// false. With `passi` of the limits at 0 none is proven: dead or open. At the most `quanti` are
-/// judged. False when `limiti.ferma` broke it off. Any thread.
+/// Judges the words of a slot that fit the letters of its cells, in the order of the vocabulary and
+/// `quanti` at the most, and hands each to `ricevi` as soon as it is known; that ends it by giving
+/// false. Words that stand whole in another slot are left out; those that the rest of the grid
+/// excludes are dead. `limiti.passi` are for each word; with 0 none is proven: dead or open. Any
+/// thread, one worker; the same problem, seed and steps give the same verdicts. False when
+/// `limiti.ferma` broke it off.
 bool VagliaCandidati(const Problema& problema, int slot, int quanti, const Limiti& limiti,
                      const std::function<bool(const Candidato&)>& ricevi);
-
-/// The letters that each cell may still have, by cell: what consistency leaves, and with `passi`
-/// over 0 also what trying each letter leaves. None in some cell: the problem is impossible.
-std::vector<Lettere> LettereRimaste(const Problema& problema, const Limiti& limiti);
 
 }  // namespace telarium

@@ -40,19 +40,42 @@ Ricerca::Ricerca(const Partenza& partenza, const Maniera& maniera)
   }
 }
 
-Ricerca::Fine Ricerca::Continua(std::int64_t passi, const std::stop_token& ferma) {
-  if (!cominciata_) {
-    cominciata_ = true;
-    for (const std::string& parola : Di().volute) {
-      const auto numero = partenza_.Parole().Cerca(parola);
-      if (!numero) return Fine::Impossibile;
-      volute_.push_back(*numero);
-    }
-    if (!stato_.Propaga()) {
-      Pesa(stato_.Conflitto().slot);
-      return Fine::Impossibile;
-    }
+bool Ricerca::Comincia() {
+  if (cominciata_) return possibile_;
+  cominciata_ = true;
+  for (const std::string& parola : Di().volute) {
+    const auto numero = partenza_.Parole().Cerca(parola);
+    if (!numero) return possibile_ = false;
+    volute_.push_back(*numero);
   }
+  possibile_ = stato_.Propaga();
+  if (!possibile_) Pesa(stato_.Conflitto().slot);
+  return possibile_;
+}
+
+bool Ricerca::Presumi(std::span<const Decisione> decisioni) {
+  Rinuncia(presunti_);
+  stato_.Avanza();
+  decisioni_.emplace_back();
+  ++presunti_;
+  const bool riuscita = std::all_of(decisioni.begin(), decisioni.end(),
+                                    [&](const Decisione& una) { return Assegna(una); });
+  return riuscita && stato_.Propaga();
+}
+
+void Ricerca::Rinuncia(int livelli) {
+  presunti_ = std::min(presunti_, livelli);
+  stato_.Torna(presunti_);
+  decisioni_.resize(S(presunti_));
+  fallite_ = 0;
+  attesa_ = maniera_.primaRipresa;
+  prossimaRipresa_ = attesa_;
+  piuPosati_ = 0;
+  riempita_ = false;
+}
+
+Ricerca::Fine Ricerca::Continua(std::int64_t passi, const std::stop_token& ferma) {
+  if (!Comincia()) return Fine::Impossibile;
   while (passi_ < passi && !ferma.stop_requested()) {
     Annota();
     Decisione decisione;
@@ -158,6 +181,10 @@ int Ricerca::ScegliSlot() {
 }
 
 Ricerca::Decisione Ricerca::ScegliParola(int slot) {
+  if (!guida_.empty()) {
+    const int parola = guida_[S(slot)];
+    if (parola >= 0 && stato_.Ha(slot, parola)) return {.slot = slot, .valore = parola};
+  }
   stato_.Prime(slot, ParoleProvate, prime_);
   const int quale = caso_.Fino(static_cast<int>(prime_.size()));
   return {.slot = slot, .valore = prime_[S(quale)]};
@@ -200,21 +227,22 @@ Ricerca::Decisione Ricerca::ScegliLettera(int slot) {
 bool Ricerca::Decidi(const Decisione& decisione) {
   stato_.Avanza();
   decisioni_.push_back(decisione);
-  const bool riuscita =
-      decisione.slot >= 0
-          ? stato_.Assegna(decisione.slot, {Griglia().Lunghezza(decisione.slot), decisione.valore})
-          : stato_.Assegna(decisione.casella, decisione.valore);
-  return riuscita && stato_.Propaga();
+  return Assegna(decisione) && stato_.Propaga();
+}
+
+bool Ricerca::Assegna(const Decisione& decisione) {
+  if (decisione.slot < 0) return stato_.Assegna(decisione.casella, decisione.valore);
+  return stato_.Assegna(decisione.slot, {Griglia().Lunghezza(decisione.slot), decisione.valore});
 }
 
 // Goes back from the present conflict and takes out what led to it, as often as that is one in
-// turn. False when no decision has a part in it.
+// turn. False when no decision has a part in it but what is presumed.
 bool Ricerca::Ritratta() {
   for (;;) {
     ++passi_;
     ++fallite_;
     const int livello = stato_.Ultimo(ragione_);
-    if (livello == 0) return false;
+    if (livello <= presunti_) return false;
     const Decisione decisione = decisioni_[S(livello - 1)];
     stato_.TogliUltimo(ragione_);
     stato_.Torna(livello - 1);
@@ -241,8 +269,8 @@ void Ricerca::Pesa(int slot) {
 }
 
 void Ricerca::Riprendi() {
-  stato_.Torna(0);
-  decisioni_.clear();
+  stato_.Torna(presunti_);
+  decisioni_.resize(S(presunti_));
   attesa_ += attesa_ * CrescitaPercento / 100;
   prossimaRipresa_ = fallite_ + attesa_;
 }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <stop_token>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "composer/random.h"
@@ -18,6 +20,8 @@
 //     cell is decided at a time, that which leaves both slots most words, with some chance.
 //   - A conflict goes back to the last level that has a part in it, and what was decided there is
 //     taken out, for the reason of the others (conflict-directed backjumping: Prosser, 1993).
+//   - Decisions can be presumed below all others, to be dropped by hand only: what is then found
+//     impossible is so together with them.
 //   - A lane that looks for fills begins anew after so many failures, each time more, and keeps
 //     weights and what is refuted for good.
 namespace telarium {
@@ -38,20 +42,34 @@ class Ricerca {
 
   enum class Fine { Riempito, Impossibile, Sospesa };
 
-  /// Searches on until it ends or has done so many steps since it began, or is stopped.
-  Fine Continua(std::int64_t passi, const std::stop_token& ferma);
-
-  std::int64_t Passi() const { return passi_; }
-  /// By cell: of a fill all letters, else the most whole entries that were met.
-  std::string LettereTrovate() const;
-  const std::vector<std::uint32_t>& Pesi() const { return pesi_; }
-
- private:
   struct Decisione {
     int slot = -1;  // of a word; -1: of a letter
     int casella = -1;
     int valore = 0;  // number of the word, or letter
   };
+
+  /// Root consistency. False when nothing can fill the problem.
+  bool Comincia();
+
+  /// Drops the search so far and presumes these decisions too, all in one level above what was
+  /// presumed before. False on a conflict; they are to be dropped then. After Comincia has given
+  /// true.
+  bool Presumi(std::span<const Decisione> decisioni);
+  /// Drops the search so far and all levels of presumptions but the first so many.
+  void Rinuncia(int livelli);
+  /// Words that are tried first from now on where they may still stand, by slot; -1: none.
+  void Segui(std::vector<int> parole) { guida_ = std::move(parole); }
+
+  /// Searches on until it ends or has done so many steps since it began, or is stopped.
+  Fine Continua(std::int64_t passi, const std::stop_token& ferma);
+
+  std::int64_t Passi() const { return passi_; }
+  const Stato& Ora() const { return stato_; }
+  /// By cell: of a fill all letters, else the most whole entries that were met.
+  std::string LettereTrovate() const;
+  const std::vector<std::uint32_t>& Pesi() const { return pesi_; }
+
+ private:
   enum class Scelta { Fatta, Nessuna, Vicolo };
 
   static constexpr std::size_t S(int numero) { return static_cast<std::size_t>(numero); }
@@ -65,6 +83,7 @@ class Ricerca {
   Decisione ScegliParola(int slot);
   Decisione ScegliLettera(int slot);
   bool Decidi(const Decisione& decisione);
+  bool Assegna(const Decisione& decisione);
   bool Ritratta();
   bool Togli(const Decisione& decisione, const Ragione& perche);
   void Pesa(int slot);
@@ -76,6 +95,9 @@ class Ricerca {
   Stato stato_;
   Caso caso_;
   bool cominciata_ = false;
+  bool possibile_ = true;   // as far as root consistency tells
+  int presunti_ = 0;        // levels of presumptions
+  std::vector<int> guida_;  // words to be tried first, by slot; empty: none
   bool riempita_ = false;
   std::vector<Decisione> decisioni_;       // of each level
   std::vector<NumeroParola> volute_;       // wanted words
