@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <optional>
-#include <span>
+#include <limits>
 #include <thread>
 #include <utility>
 
@@ -34,31 +33,30 @@ Giudizio Giudica(const TrattiDiParola& tratti, const Regolamento& regole) {
 class GiudiziDelLivello {
  public:
   GiudiziDelLivello(Origine origine, const Regolamento& regole) {
-    for (const std::string_view parola : {"AA", "AAA"}) {
-      for (std::uint16_t segni = 0; segni < TuttiISegni; ++segni) {
-        for (const bool finita : {false, true}) {
-          for (const std::uint8_t punteggio : {0, 1}) {
-            const TrattiDiVoce voce = {parola, punteggio, finita, Segni(segni)};
-            const TrattiDiParola tratti = TrattiDiUnica(voce, origine);
-            if (!tratti.segni.Ha(Segno::Bandita)) giudizi_[Posto(voce)] = Giudica(tratti, regole);
-          }
+    for (std::size_t lettere = MinLunghezzaVoce; lettere <= MinLunghezzaVoce + 1; ++lettere) {
+      for (int punteggio = 0; punteggio <= 1; ++punteggio) {
+        for (std::uint16_t segni = 0; segni < QuantiSegni; ++segni) {
+          const TrattiDiParola tratti = TrattiDiUnica(origine, lettere, punteggio, segni);
+          if (tratti.segni.Ha(Segno::Bandita)) continue;
+          giudizi_[Posto(lettere, punteggio) + segni] = Giudica(tratti, regole);
         }
       }
     }
   }
 
-  const Giudizio& Di(const TrattiDiVoce& voce) const { return giudizi_[Posto(voce)]; }
-
- private:
-  static constexpr std::size_t TuttiISegni = 128;
-
-  static std::size_t Posto(const TrattiDiVoce& voce) {
-    const bool lunga = voce.parola.size() > MinLunghezzaVoce;
-    return voce.segni.Bit() +
-           TuttiISegni * (4 * lunga + 2 * voce.soloFinita + (voce.punteggio > 0));
+  const Giudizio& Di(std::size_t lettere, int punteggio, std::uint16_t segni) const {
+    return giudizi_[Posto(lettere, punteggio) + segni % QuantiSegni];
   }
 
-  std::array<Giudizio, TuttiISegni * 8> giudizi_{};
+ private:
+  static constexpr std::size_t QuantiSegni = 2 * BitSoloFinita;
+
+  // A score of 0 may be a ban; any other one says nothing here.
+  static std::size_t Posto(std::size_t lettere, int punteggio) {
+    return QuantiSegni * (2 * (lettere > MinLunghezzaVoce) + (punteggio > 0));
+  }
+
+  std::array<Giudizio, QuantiSegni * 4> giudizi_{};
 };
 
 // What all lengths share.
@@ -95,19 +93,35 @@ constexpr std::array<std::array<char, 2>, LettereAlfabeto* LettereAlfabeto> Tutt
   return coppie;
 }();
 
-// The words of one length. Nearly all of them stand in one layer alone, and nobody has named them:
-// those are taken layer by layer. The others go the long way, through all layers.
-class ParoleDiUnaLunghezza {
- public:
-  ParoleDiUnaLunghezza(const Fondo& fondo, int lunghezza) : fondo_(fondo), lunghezza_(lunghezza) {}
+// Of a word without readings.
+constexpr Lessico::Fonte SenzaFonte = {std::numeric_limits<std::uint32_t>::max(), 0};
 
-  void Raccogli() {
+// Without an early end, so that many letters are looked at at once.
+bool DiLettere(std::string_view lettere) {
+  bool altre = false;
+  for (const char lettera : lettere)
+    altre |= lettera < 'A' || lettera > 'Z';
+  return !altre;
+}
+
+// Gathers the words of one length after the other. Nearly all of them stand in one layer alone, and
+// nobody has named them: those are taken layer by layer. The others go the long way, through all
+// layers.
+class Raccolta {
+ public:
+  explicit Raccolta(const Fondo& fondo) : fondo_(fondo) {}
+
+  void Raccogli(int lunghezza) {
+    lunghezza_ = lunghezza;
+    particolari_.clear();
+    parole_.clear();
+    fonti_.clear();
     if (fondo_.Libere(lunghezza_)) {
       for (const auto& coppia : TutteLeCoppie)
         particolari_.emplace_back(coppia.data(), coppia.size());
     } else {
       TrovaParticolari();
-      for (std::size_t livello = 0; livello < Livelli().size(); ++livello)
+      for (std::uint32_t livello = 0; livello < Livelli().size(); ++livello)
         PrendiLivello(livello);
     }
     for (const std::string_view parola : particolari_)
@@ -120,8 +134,8 @@ class ParoleDiUnaLunghezza {
     const auto ordine = composizione.Metti(lunghezza_, parole_);
     if (!parentele) return;
     for (std::size_t numero = 0; numero < ordine.size(); ++numero) {
-      if (const auto& fonte = fonti_[ordine[numero]])
-        parentele->Metti(*fonte, {lunghezza_, static_cast<int>(numero)});
+      if (const Lessico::Fonte& fonte = fonti_[ordine[numero]]; fonte.livello != SenzaFonte.livello)
+        parentele->Metti(fonte, {lunghezza_, static_cast<int>(numero)});
     }
   }
 
@@ -167,19 +181,21 @@ class ParoleDiUnaLunghezza {
     return saltate;
   }
 
-  void PrendiLivello(std::size_t livello) {
+  void PrendiLivello(std::uint32_t livello) {
     const Strato& strato = *Livelli()[livello].strato;
-    const GiudiziDelLivello& giudizi = fondo_.giudizi[livello];
     const std::vector<bool> saltate = Saltate(strato);
-    std::vector<TrattiDiVoce> voci;
-    strato.LeggiTratti(lunghezza_, voci);
-    for (std::size_t i = 0; i < voci.size(); ++i) {
-      const Giudizio& giudizio = giudizi.Di(voci[i]);
-      if (!giudizio.ammessa || saltate[i] || voci[i].parola.empty()) continue;
-      const auto numero = static_cast<NumeroVoce>(strato.Prima(lunghezza_) + i);
-      parole_.push_back(
-          {.lettere = voci[i].parola, .punteggio = voci[i].punteggio, .genie = giudizio.genie});
-      fonti_.push_back(Lessico::Fonte{livello, numero});
+    const auto [tutte, punteggi, segni] = strato.Colonne(lunghezza_, memoria_);
+    const auto lettere = static_cast<std::size_t>(lunghezza_);
+    const bool sane = DiLettere(tutte);
+    for (std::size_t i = 0; i < punteggi.size(); ++i) {
+      const Giudizio& giudizio = fondo_.giudizi[livello].Di(lettere, punteggi[i], segni[i]);
+      if (!giudizio.ammessa || saltate[i]) continue;
+      const std::string_view parola = tutte.substr(i * lettere, lettere);
+      if (!sane && !DiLettere(parola)) continue;
+      parole_.push_back({.lettere = parola,
+                         .punteggio = std::min<int>(punteggi[i], MaxPunteggio),
+                         .genie = giudizio.genie});
+      fonti_.push_back({livello, strato.Prima(lunghezza_) + static_cast<NumeroVoce>(i)});
     }
   }
 
@@ -200,7 +216,7 @@ class ParoleDiUnaLunghezza {
                        .punteggio = parola ? parola->punteggio : PunteggioSenzaElenco(lettere),
                        .propria = esente,
                        .genie = giudizio.genie});
-    fonti_.push_back(fondo_.lessico.FonteDelleLetture(lettere));
+    fonti_.push_back(fondo_.lessico.FonteDelleLetture(lettere).value_or(SenzaFonte));
   }
 
   // An own word is as welcome as one of which nobody has told how common it is; any two letters are
@@ -234,10 +250,11 @@ class ParoleDiUnaLunghezza {
   }
 
   const Fondo& fondo_;
-  int lunghezza_;
+  int lunghezza_ = 0;
   std::vector<std::string_view> particolari_;
   std::vector<ParolaDaUsare> parole_;
-  std::vector<std::optional<Lessico::Fonte>> fonti_;  // of the readings, by word
+  std::vector<Lessico::Fonte> fonti_;  // of the readings, by word
+  MemoriaDiColonne memoria_;
 };
 
 // The lengths that are wanted, those of the most words first.
@@ -284,10 +301,10 @@ std::shared_ptr<const Vocabolario> VocabolarioDi(const SceltaParole& scelta, con
   ComposizioneVocabolario composizione;
   std::atomic<std::size_t> prossima = 0;
   const auto lavora = [&] {
+    Raccolta raccolta(fondo);
     for (std::size_t i = prossima++; i < ordine.size(); i = prossima++) {
-      ParoleDiUnaLunghezza parole(fondo, ordine[i]);
-      parole.Raccogli();
-      parole.Metti(composizione, parentele.get());
+      raccolta.Raccogli(ordine[i]);
+      raccolta.Metti(composizione, parentele.get());
     }
   };
   {

@@ -33,6 +33,9 @@ void MettiSeNuovo(std::vector<Lemma>& lemmi, const Lemma& lemma) {
   if (std::find(lemmi.begin(), lemmi.end(), lemma) == lemmi.end()) lemmi.push_back(lemma);
 }
 
+// Of a word's place in 32 bits; the length has the others. No layer has so many entries.
+constexpr unsigned BitDelNumero = 24;
+
 std::size_t QuanteVoci(const Strato& strato) {
   return strato.Prima(MaxLunghezzaVoce) + static_cast<std::size_t>(strato.Conta(MaxLunghezzaVoce));
 }
@@ -62,7 +65,19 @@ Parentele::Parentele(Lessico lessico, bool dueLibere)
 }
 
 void Parentele::Metti(const Lessico::Fonte& fonte, NumeroParola parola) {
-  if (file_[fonte.livello]) parole_[fonte.livello][fonte.numero] = parola;
+  if (!file_[fonte.livello]) return;
+  parole_[fonte.livello][fonte.numero] = static_cast<std::uint32_t>(parola.lunghezza)
+                                             << BitDelNumero |
+                                         static_cast<std::uint32_t>(parola.numero);
+}
+
+std::optional<NumeroParola> Parentele::ParolaDi(std::size_t livello, NumeroVoce voce) const {
+  // A damaged file may name entries that it does not have.
+  const std::uint32_t parola = voce < parole_[livello].size() ? parole_[livello][voce] : 0;
+  if (parola == 0) return std::nullopt;
+  constexpr std::uint32_t maschera = (1u << BitDelNumero) - 1;
+  return NumeroParola{static_cast<int>(parola >> BitDelNumero),
+                      static_cast<int>(parola & maschera)};
 }
 
 std::vector<NumeroParola> Parentele::Di(std::string_view parola) const {
@@ -86,7 +101,7 @@ std::vector<NumeroParola> Parentele::Di(std::string_view parola) const {
   std::ranges::sort(parenti, Precede);
   const auto doppi = std::ranges::unique(parenti);
   parenti.erase(doppi.begin(), doppi.end());
-  std::erase(parenti, parole_[fonte->livello][fonte->numero]);
+  if (const auto stessa = ParolaDi(fonte->livello, fonte->numero)) std::erase(parenti, *stessa);
   return parenti;
 }
 
@@ -94,15 +109,15 @@ std::vector<NumeroParola> Parentele::Di(std::string_view parola) const {
 void Parentele::AggiungiParenti(std::size_t livello, const LemmaNumerato& lemma, std::size_t posto,
                                 std::vector<NumeroParola>& parenti) const {
   const FileLessico& file = *file_[livello];
-  const std::vector<NumeroParola>& parole = parole_[livello];
   Lemmi lemmi;
   std::vector<LetturaNumerata> letture;
   for (const NumeroVoce voce : file.FormeDi(lemma.lemma)) {
-    if (voce >= parole.size() || parole[voce].lunghezza == 0) continue;
+    const auto parola = ParolaDi(livello, voce);
+    if (!parola) continue;
     LeggiLemmi(file, voce, letture, lemmi);
     const auto dove = std::find(lemmi.begin(), lemmi.end(), lemma);
     if (dove != lemmi.end() && Lega(posto, static_cast<std::size_t>(dove - lemmi.begin())))
-      parenti.push_back(parole[voce]);
+      parenti.push_back(*parola);
   }
 }
 

@@ -2,7 +2,7 @@
 
 #include <compare>
 #include <cstdint>
-#include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -54,6 +54,7 @@ class Parentele {
 
   static void LeggiLemmi(const FileLessico& file, NumeroVoce voce,
                          std::vector<LetturaNumerata>& letture, Lemmi& lemmi);
+  std::optional<NumeroParola> ParolaDi(std::size_t livello, NumeroVoce voce) const;
   void AggiungiParenti(std::size_t livello, const LemmaNumerato& lemma, std::size_t posto,
                        std::vector<NumeroParola>& parenti) const;
 
@@ -61,7 +62,7 @@ class Parentele {
   bool dueLibere_;
   // By layer: its file, null when it has no readings, and the words of its entries.
   std::vector<const FileLessico*> file_;
-  std::vector<std::vector<NumeroParola>> parole_;
+  std::vector<std::vector<std::uint32_t>> parole_;  // length and number in one; 0 for none
 };
 
 }  // namespace telarium

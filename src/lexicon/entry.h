@@ -62,6 +62,10 @@ class Segni {
   std::uint16_t bit_ = 0;
 };
 
+/// Beside the marks of an entry, where they stand as a number: it can be nothing but a finite verb
+/// form (see SoloFinita).
+inline constexpr std::uint16_t BitSoloFinita = 128;
+
 // Parts of an analysis. The numbers stand in lexicon files; 0 is "not known" or "none" in each.
 enum class Categoria : std::uint8_t {
   Ignota,

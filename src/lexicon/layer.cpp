@@ -2,16 +2,16 @@
 
 namespace telarium {
 
-void Strato::LeggiTratti(int lunghezza, std::vector<TrattiDiVoce>& tratti) const {
-  tratti.clear();
-  const auto voci = static_cast<NumeroVoce>(Conta(lunghezza));
-  for (NumeroVoce numero = Prima(lunghezza); tratti.size() < voci; ++numero) {
-    const Voce voce = Leggi(numero);
-    tratti.push_back({.parola = voce.parola,
-                      .punteggio = static_cast<std::uint8_t>(voce.punteggio),
-                      .soloFinita = SoloFinita(voce.letture),
-                      .segni = voce.segni});
+ColonneDiVoci Strato::Colonne(int lunghezza, MemoriaDiColonne& memoria) const {
+  memoria = {};
+  for (int i = 0; i < Conta(lunghezza); ++i) {
+    const Voce voce = Leggi(Prima(lunghezza) + static_cast<NumeroVoce>(i));
+    memoria.lettere += voce.parola;
+    memoria.punteggi.push_back(static_cast<std::uint8_t>(voce.punteggio));
+    memoria.segni.push_back(static_cast<std::uint16_t>(
+        voce.segni.Bit() | (SoloFinita(voce.letture) ? BitSoloFinita : 0)));
   }
+  return {memoria.lettere, memoria.punteggi, memoria.segni};
 }
 
 }  // namespace telarium

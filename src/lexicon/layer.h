@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,12 +16,17 @@ using NumeroVoce = std::uint32_t;
 
 class FileLessico;
 
-/// What orders and filters look at of an entry.
-struct TrattiDiVoce {
-  std::string_view parola;  // folded
-  std::uint8_t punteggio = 0;
-  bool soloFinita = false;  // see SoloFinita
-  Segni segni;
+/// The entries of a length by number, what filters and orders look at of them in columns. Views
+/// that are valid as long as the layer and the memory are that they were made with.
+struct ColonneDiVoci {
+  std::string_view lettere;  // one word behind the other; in a damaged layer some are no letters
+  std::span<const std::uint8_t> punteggi;
+  std::span<const std::uint16_t> segni;  // their bits, and BitSoloFinita
+};
+struct MemoriaDiColonne {
+  std::string lettere;
+  std::vector<std::uint8_t> punteggi;
+  std::vector<std::uint16_t> segni;
 };
 
 /// Words from one place: the lexicon of a language, the kit of short entries, a dictionary, a list.
@@ -49,9 +55,9 @@ class Strato {
   virtual bool HaPunteggio(NumeroVoce) const { return true; }
   /// The marks of an entry, for those who need no more of it.
   virtual Segni LeggiSegni(NumeroVoce numero) const { return Leggi(numero).segni; }
-  /// All entries of a length, by number, for those who go through them: sooner done than entry by
-  /// entry. One that a damaged layer cannot tell has no word.
-  virtual void LeggiTratti(int lunghezza, std::vector<TrattiDiVoce>& tratti) const;
+  /// All entries of a length, for those who go through them. A layer that does not have them in
+  /// columns writes them into `memoria`.
+  virtual ColonneDiVoci Colonne(int lunghezza, MemoriaDiColonne& memoria) const;
   /// The layer as a lexicon file, which alone has readings; null for any other.
   virtual const FileLessico* ComeFile() const { return nullptr; }
 

@@ -94,15 +94,16 @@ TrattiDiParola TrattiDi(const Parola& parola) {
           .propria = parola.propria};
 }
 
-TrattiDiParola TrattiDiUnica(const TrattiDiVoce& voce, Origine origine) {
-  TrattiDiParola tratti = {.lettere = voce.parola.size(),
-                           .segni = SenzaSegni(origine) ? Segni() : voce.segni,
-                           .soloFinita = voce.soloFinita,
+TrattiDiParola TrattiDiUnica(Origine origine, std::size_t lettere, int punteggio,
+                             std::uint16_t segni) {
+  TrattiDiParola tratti = {.lettere = lettere,
+                           .segni = SenzaSegni(origine) ? Segni() : Segni(segni),
+                           .soloFinita = (segni & BitSoloFinita) != 0,
                            .nelCorredo = origine == Origine::Sigle,
                            .propria = DellUtente(origine)};
   if (origine == Origine::Straniera) tratti.segni.Metti(Segno::Straniera);
   tratti.segni.Togli(Segno::Bandita);
-  if (Vieta(origine, voce.punteggio, voce.segni)) tratti.segni.Metti(Segno::Bandita);
+  if (Vieta(origine, punteggio, Segni(segni))) tratti.segni.Metti(Segno::Bandita);
   return tratti;
 }
 
@@ -154,7 +155,7 @@ bool Lessico::Bandita(std::string_view parola) const {
 std::optional<Lessico::Fonte> Lessico::FonteDelleLetture(std::string_view parola) const {
   for (const bool straniere : {false, true}) {
     bool trovata = false;
-    for (std::size_t i = 0; i < livelli_.size(); ++i) {
+    for (std::uint32_t i = 0; i < livelli_.size(); ++i) {
       const auto& [strato, origine] = livelli_[i];
       if ((origine == Origine::Straniera) != straniere) continue;
       const auto numero = strato->Cerca(parola);

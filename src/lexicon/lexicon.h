@@ -45,9 +45,11 @@ struct TrattiDiParola {
 };
 TrattiDiParola TrattiDi(const Parola& parola);
 
-/// The same of an entry that one layer alone has, for those who go through whole layers. Bans and
-/// admissions by name are not looked at.
-TrattiDiParola TrattiDiUnica(const TrattiDiVoce& voce, Origine origine);
+/// The same of a word that one layer alone has, for those who go through whole layers: an entry
+/// there of so many letters, with that score and marks (BitSoloFinita too). Bans and admissions by
+/// name are not looked at.
+TrattiDiParola TrattiDiUnica(Origine origine, std::size_t lettere, int punteggio,
+                             std::uint16_t segni);
 
 /// Words by their letters.
 using InsiemeDiParole = std::set<std::string, std::less<>>;
@@ -78,7 +80,7 @@ class Lessico {
   /// Where a word has its readings from: the number of a layer, from 0, and the entry there. None
   /// for a word that has none.
   struct Fonte {
-    std::size_t livello = 0;
+    std::uint32_t livello = 0;
     NumeroVoce numero = 0;
   };
   std::optional<Fonte> FonteDelleLetture(std::string_view parola) const;

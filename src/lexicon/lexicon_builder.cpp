@@ -129,6 +129,7 @@ std::string_view Raccolta::Aggiungi(std::string_view riga) {
 std::string_view Raccolta::AggiungiLetture(std::string_view codici, const std::string& grafia) {
   capiVoce.push_back(static_cast<std::uint32_t>(letture.size()));
   if (codici.ends_with(';')) return "manca una lettura";
+  bool soloFinita = !codici.empty();
   while (!codici.empty()) {
     std::string_view lemmaUtf8 = Stacca(codici, ';');
     const bool proprio = lemmaUtf8.find('=') == std::string_view::npos;
@@ -137,7 +138,9 @@ std::string_view Raccolta::AggiungiLetture(std::string_view codici, const std::s
     const auto lemma = proprio ? grafia : DaUtf8Esatto(lemmaUtf8);
     if (!lemma || lemma->empty()) return "un lemma manca o ha un carattere che la code page non ha";
     letture.push_back({lemmi_.NumeroDi(*lemma), BitDi(*analisi)});
+    soloFinita &= analisi->Finita();
   }
+  if (soloFinita) segni.back() |= BitSoloFinita;
   if (letture.size() - capiVoce.back() > MaxLetture) return "le letture sono troppe";
   return {};
 }

@@ -41,7 +41,8 @@ std::string FileLessico::DifettoDelleParole() const {
     const std::string_view parola = Parola(numero);
     if (Cerca(parola) != numero) return Unisci("parola ", numero);
     if (punteggi_[numero] > MaxPunteggio) return Unisci("punteggio di ", parola);
-    if (Segni(segni_[numero]).Bit() != segni_[numero]) return Unisci("segni di ", parola);
+    if ((Segni(segni_[numero]).Bit() | BitSoloFinita) != (segni_[numero] | BitSoloFinita))
+      return Unisci("segni di ", parola);
     const bool prima = numero == Prima(static_cast<int>(parola.size()));
     if (!prima && std::pair(-punteggi_[numero - 1], Parola(numero - 1)) >=
                       std::pair(-punteggi_[numero], parola)) {
@@ -58,8 +59,10 @@ std::string FileLessico::DifettoDelleLetture() const {
   for (NumeroVoce numero = 0; numero < testata_.voci; ++numero) {
     const Voce voce = Leggi(numero);
     if (PiegaGrafia(voce.grafia) != voce.parola) return Unisci("grafia di ", voce.parola);
-    if (voce.letture.size() != capiVoce_[numero + 1] - capiVoce_[numero])
+    if (voce.letture.size() != capiVoce_[numero + 1] - capiVoce_[numero] ||
+        SoloFinita(voce.letture) != ((segni_[numero] & BitSoloFinita) != 0)) {
       return Unisci("letture di ", voce.parola);
+    }
     for (const LetturaScritta& lettura : LettureDi(numero)) {
       if (!std::ranges::binary_search(FamigliaDi(lettura.lemma), numero))
         return Unisci("famiglia di ", voce.parola);

@@ -165,29 +165,13 @@ Segni FileLessico::LeggiSegni(NumeroVoce numero) const {
   return numero < segni_.size() ? Segni(segni_[numero]) : Segni();
 }
 
-void FileLessico::LeggiTratti(int lunghezza, std::vector<TrattiDiVoce>& tratti) const {
-  tratti.clear();
+ColonneDiVoci FileLessico::Colonne(int lunghezza, MemoriaDiColonne&) const {
   const Riga* const riga = RigaDi(lunghezza);
-  if (!riga) return;
-  tratti.resize(riga->voci);
-  for (std::size_t i = 0; i < tratti.size(); ++i) {
-    const auto numero = static_cast<NumeroVoce>(riga->prima + i);
-    const std::string_view parola = LettereDi(*riga, numero);
-    tratti[i] = {.parola = DiLettere(parola) ? parola : std::string_view(),
-                 .punteggio = std::min(punteggi_[numero], std::uint8_t{MaxPunteggio}),
-                 .soloFinita = SoloFinita(numero),
-                 .segni = Segni(segni_[numero])};
-  }
-}
-
-// As of what Leggi gives, without making it.
-bool FileLessico::SoloFinita(NumeroVoce numero) const {
-  bool finita = false;
-  PerOgniLettura(numero, [&](NumeroLemma, std::string_view, const Analisi& analisi) {
-    finita = analisi.Finita();
-    return finita;
-  });
-  return finita;
+  if (!riga) return {};
+  const std::string_view lettere(parole_.data(), parole_.size());
+  return {.lettere = lettere.substr(riga->parole, riga->voci * static_cast<std::size_t>(lunghezza)),
+          .punteggi = punteggi_.subspan(riga->prima, riga->voci),
+          .segni = segni_.subspan(riga->prima, riga->voci)};
 }
 
 std::string_view FileLessico::Testo(std::span<const std::uint32_t> inizi,
@@ -207,7 +191,7 @@ void FileLessico::PerOgniLettura(NumeroVoce numero, Visita visita) const {
   for (const LetturaScritta& scritta : LettureDi(numero)) {
     const std::string_view lemma = Testo(lemmi_, scritta.lemma);
     const auto analisi = AnalisiDaBit(scritta.analisi);
-    if (!lemma.empty() && analisi && !visita(scritta.lemma, lemma, *analisi)) return;
+    if (!lemma.empty() && analisi) visita(scritta.lemma, lemma, *analisi);
   }
 }
 
@@ -226,7 +210,6 @@ Voce FileLessico::Leggi(NumeroVoce numero) const {
   voce.segni = LeggiSegni(numero);
   PerOgniLettura(numero, [&](NumeroLemma, std::string_view lemma, const Analisi& analisi) {
     voce.letture.push_back({lemma, analisi});
-    return true;
   });
   return voce;
 }
@@ -235,7 +218,6 @@ void FileLessico::LeggiLetture(NumeroVoce numero, std::vector<LetturaNumerata>& 
   letture.clear();
   PerOgniLettura(numero, [&](NumeroLemma lemma, std::string_view, const Analisi& analisi) {
     letture.push_back({lemma, analisi});
-    return true;
   });
 }
 

@@ -24,7 +24,7 @@
 //
 //   header      bytes  content
 //   0           8      "TELARLEX"
-//   8           4      version: 1
+//   8           4      version: 2
 //   12          4      01020304 hexadecimal, which tells the byte order
 //   16          8      length of the file
 //   24          8      digest of all bytes from 32 on (see ImprontaDi)
@@ -39,7 +39,7 @@
 //                its words in their section (8), offset of its sets in theirs (8)
 //   words        the letters of the entries, one behind the other
 //   scores       N bytes
-//   marks        N times 2 bytes, the bits of Segno
+//   marks        N times 2 bytes, the bits of Segno, and BitSoloFinita
 //   spellings    N+1 times 4 bytes: where the spelled form of an entry begins in the texts; one of
 //                no bytes is the word itself
 //   entry heads  N+1 times 4 bytes: the first reading of an entry
@@ -82,7 +82,7 @@ class FileLessico final : public Strato {
   int Punteggio(NumeroVoce numero) const override;
   Voce Leggi(NumeroVoce numero) const override;
   Segni LeggiSegni(NumeroVoce numero) const override;
-  void LeggiTratti(int lunghezza, std::vector<TrattiDiVoce>& tratti) const override;
+  ColonneDiVoci Colonne(int lunghezza, MemoriaDiColonne& memoria) const override;
   const FileLessico* ComeFile() const override { return this; }
 
   /// The set of the words of a length that have a letter (0 for A) at a place from 0, as the file
@@ -128,8 +128,7 @@ class FileLessico final : public Strato {
   const Riga* RigaDellaVoce(NumeroVoce numero) const;
 
   std::string_view LettereDi(const Riga& riga, NumeroVoce numero) const;
-  bool SoloFinita(NumeroVoce numero) const;
-  // Calls `visita` with each sound reading, its lemma as a text too, as long as it gives true.
+  // Calls `visita` with each sound reading, its lemma as a text too.
   template <class Visita>
   void PerOgniLettura(NumeroVoce numero, Visita visita) const;
   std::string_view Testo(std::span<const std::uint32_t> inizi, std::uint32_t numero) const;

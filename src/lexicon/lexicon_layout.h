@@ -11,7 +11,7 @@
 namespace telarium::lessico_interno {
 
 inline constexpr std::array<char, 8> SiglaFile = {'T', 'E', 'L', 'A', 'R', 'L', 'E', 'X'};
-inline constexpr std::uint32_t VersioneFile = 1;
+inline constexpr std::uint32_t VersioneFile = 2;
 inline constexpr std::uint32_t OrdineDeiByte = 0x01020304;
 inline constexpr std::size_t Allineamento = 8;
 

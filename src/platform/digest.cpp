@@ -13,12 +13,34 @@ constexpr std::uint64_t Secondo = 0xC2B2AE3D27D4EB4F;
 constexpr std::size_t Corsie = 4;  // which the processor works on at once
 constexpr std::size_t BytePerParola = sizeof(std::uint64_t);
 
+std::uint64_t Numero32(const std::byte* byte) {
+  std::uint32_t numero;
+  std::memcpy(&numero, byte, sizeof numero);
+  return numero;
+}
+
+// Less than eight bytes as a little-endian number, on a machine of that order: of two pieces that
+// overlap, or of single bytes, which is sooner done than a copy of an unknown length.
+std::uint64_t PochiByte(std::span<const std::byte> byte) {
+  const std::size_t quanti = byte.size();
+  if (quanti >= sizeof(std::uint32_t)) {
+    const std::size_t resto = quanti - sizeof(std::uint32_t);
+    return Numero32(byte.data()) | Numero32(byte.data() + resto) << (8 * resto);
+  }
+  std::uint64_t numero = 0;
+  for (std::size_t i = 0; i < quanti; ++i)
+    numero |= std::to_integer<std::uint64_t>(byte[i]) << (8 * i);
+  return numero;
+}
+
 // The next bytes, eight at most, as a little-endian number.
 std::uint64_t Prendi(std::span<const std::byte>& byte) {
   const std::size_t quanti = std::min(byte.size(), BytePerParola);
   std::uint64_t parola = 0;
-  if (std::endian::native == std::endian::little) {
-    std::memcpy(&parola, byte.data(), quanti);
+  if (std::endian::native == std::endian::little && quanti == BytePerParola) {
+    std::memcpy(&parola, byte.data(), BytePerParola);
+  } else if (std::endian::native == std::endian::little) {
+    parola = PochiByte(byte);
   } else {
     for (std::size_t i = 0; i < quanti; ++i)
       parola |= std::to_integer<std::uint64_t>(byte[i]) << (8 * i);

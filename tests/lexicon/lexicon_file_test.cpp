@@ -135,7 +135,7 @@ TEST_F(LexiconFileTest, WhatIsNoLexiconIsRefusedWithItsCause) {
   const std::pair<std::string, std::string_view> rows[] = {
       {"", "non è un lessico"_cp},
       {"FI\t60\tsigla\tsig=Firenze\n", "non è un lessico"_cp},
-      {with(8, std::string_view("\2\0\0\0", 4)), "è di un'altra versione del programma"_cp},
+      {with(8, std::string_view("\1\0\0\0", 4)), "è di un'altra versione del programma"_cp},
       {with(12, "\1\2\3\4"), "è fatto per una macchina con un altro ordine dei byte"_cp},
       {sound + '\0', "è troncato o ha byte in più"_cp},
       {with(32, "\7"), "è danneggiato (sezioni)"_cp},
