@@ -6,7 +6,7 @@
 // Sanitizers start after the loader has already asked which version fits.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && \
     !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-#define TELARIUM_PIU_VERSIONI __attribute__((target_clones("arch=haswell", "default")))
+#define TELARIUM_PIU_VERSIONI __attribute__((target_clones("arch=x86-64-v3", "default")))
 #else
 #define TELARIUM_PIU_VERSIONI
 #endif

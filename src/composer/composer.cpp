@@ -13,15 +13,15 @@ namespace telarium {
 namespace {
 
 constexpr int NumCorsie = 2;
-constexpr std::int64_t PassiDaSola = 2000;   // of the first lane before the others join
+constexpr std::int64_t PassiDaSola = 1000;   // of the first lane before the others join
 constexpr std::int64_t PassiPerTurno = 500;  // of each lane, then
 
 Maniera ManieraDi(int corsia, std::uint64_t seme) {
   Caso caso(seme * NumCorsie + static_cast<std::uint64_t>(corsia));
   Maniera maniera{.seme = caso.Prossimo()};
   if (corsia == 0) {
-    maniera.falliteAParole = 200;
-    maniera.primaRipresa = 500;
+    maniera.falliteAParole = 30;
+    maniera.primaRipresa = 70;
   }
   return maniera;
 }
@@ -58,8 +58,11 @@ class Corsie {
 
  private:
   void Apri(int quante) {
-    for (auto numero = static_cast<int>(corsie_.size()); numero < quante; ++numero)
+    for (auto numero = static_cast<int>(corsie_.size()); numero < quante; ++numero) {
       corsie_.push_back(std::make_unique<Corsia>(partenza_, numero, limiti_.seme));
+      // What the first lane has learnt of hard places is what a proof wants to begin with.
+      if (numero > 0) corsie_.back()->ricerca.PrendiPesi(corsie_.front()->ricerca.Pesi());
+    }
   }
 
   // Each lane searches on until it has done so many steps. Threads take every so manieth one.

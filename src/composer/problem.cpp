@@ -84,8 +84,7 @@ class Lettore {
     for (std::size_t genia = 0; genia < NumGenie; ++genia) {
       const int massimo = problema_.alMassimo[genia];
       const auto quante = std::count_if(numeri_.begin(), numeri_.end(), [&](NumeroParola numero) {
-        return !problema_.vocabolario->Propria(numero) &&
-               (problema_.vocabolario->GenieDi(numero) >> genia & 1) != 0;
+        return (problema_.vocabolario->GenieDi(numero) >> genia & 1) != 0;
       });
       if (massimo != SenzaLimite && quante > massimo)
         difetti_.push_back("too many words of kind " + std::to_string(genia));

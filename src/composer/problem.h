@@ -16,7 +16,8 @@ namespace telarium {
 struct SlotDaRiempire {
   std::vector<int> caselle;  // two or more, by their numbers
   int minimo = 0;            // the least score of its word
-  /// Some cell of it is left empty: some word must fit, and none is placed.
+  /// Some cell of it is left empty: some word must fit that could stand beside all that are placed,
+  /// and none is placed.
   bool aperto = false;
 };
 

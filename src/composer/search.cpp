@@ -10,7 +10,7 @@ namespace telarium {
 namespace {
 
 constexpr int ParoleProvate = 8;      // of the best ones from which one is drawn
-constexpr int RumoreLettera = 160;    // of a letter's worth, in 1/256 of a logarithm
+constexpr int RumoreLettera = 64;     // of a letter's worth, in 1/256 of a logarithm
 constexpr int CrescitaPercento = 15;  // of the failures between two beginnings
 
 }  // namespace
@@ -196,7 +196,7 @@ Ricerca::Decisione Ricerca::ScegliLettera(int slot) {
   int poche = LettereAlfabeto + 1;
   for (int k = 0; k < static_cast<int>(caselle.size()); ++k) {
     const int casella = caselle[S(k)];
-    const int quante = std::popcount(stato_.LettereDi(casella));
+    const int quante = QuanteLettere(stato_.LettereDi(casella));
     if (quante < 2 || quante >= poche || Di().Lasciata(casella)) continue;
     posto = k;
     poche = quante;
@@ -265,6 +265,15 @@ void Ricerca::Pesa(int slot) {
   ++pesiVicini_[S(slot)];
   for (const PostoDiSlot& incrocio : Griglia().IncrociDi(slot)) {
     if (incrocio.slot >= 0) ++pesiVicini_[S(incrocio.slot)];
+  }
+}
+
+void Ricerca::PrendiPesi(const std::vector<std::uint32_t>& pesi) {
+  pesi_ = pesi;
+  for (int slot = 0; slot < Griglia().Slot(); ++slot) {
+    pesiVicini_[S(slot)] = pesi_[S(slot)];
+    for (const PostoDiSlot& incrocio : Griglia().IncrociDi(slot))
+      pesiVicini_[S(slot)] += incrocio.slot >= 0 ? pesi_[S(incrocio.slot)] : 0;
   }
 }
 

@@ -67,6 +67,7 @@ class Ricerca {
   const Stato& Ora() const { return stato_; }
   /// By cell: of a fill all letters, else the most whole entries that were met.
   std::string LettereTrovate() const;
+  void PrendiPesi(const std::vector<std::uint32_t>& pesi);
   const std::vector<std::uint32_t>& Pesi() const { return pesi_; }
 
  private:

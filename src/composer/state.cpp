@@ -12,7 +12,7 @@ namespace {
 constexpr int BitPerBlocco = 64;
 
 constexpr bool UnaSola(Lettere lettere) {
-  return std::has_single_bit(lettere);
+  return lettere != 0 && (lettere & (lettere - 1)) == 0;  // quicker than a count of bits
 }
 
 constexpr Lettere BitDellaLettera(char lettera) {
@@ -226,28 +226,41 @@ bool Stato::Togli(int slot, NumeroParola parola, const Ragione& perche) {
 void Stato::Accoda(int slot) {
   if (inCoda_[S(slot)]) return;
   inCoda_[S(slot)] = 1;
-  coda_.push_back(slot);
+  (slot_[S(slot)].dominio.elenco ? coda_ : codaLunga_).push_back(slot);
 }
 
 bool Stato::Urta(int slot, const Blocco* perche, const Blocco* anche) {
   urto_.slot = slot;
   urto_.ragione.assign(perche, perche + blocchiRagione_);
   if (anche) Unisci(urto_.ragione.data(), anche);
-  for (const int accodato : coda_)
-    inCoda_[S(accodato)] = 0;
-  coda_.clear();
-  testa_ = 0;
+  SvuotaCode();
   return false;
 }
 
+void Stato::SvuotaCode() {
+  for (const int accodato : coda_)
+    inCoda_[S(accodato)] = 0;
+  for (const int accodato : codaLunga_)
+    inCoda_[S(accodato)] = 0;
+  coda_.clear();
+  codaLunga_.clear();
+  testa_ = testaLunga_ = 0;
+}
+
 bool Stato::Propaga() {
-  while (testa_ < coda_.size()) {
-    const int slot = coda_[testa_++];
+  for (;;) {
+    int slot = -1;
+    if (testa_ < coda_.size()) {
+      slot = coda_[testa_++];
+    } else if (testaLunga_ < codaLunga_.size()) {
+      slot = codaLunga_[testaLunga_++];
+    } else {
+      break;
+    }
     inCoda_[S(slot)] = 0;
     if (!Rivedi(slot)) return false;
   }
-  coda_.clear();
-  testa_ = 0;
+  SvuotaCode();
   return true;
 }
 
@@ -274,6 +287,8 @@ bool Stato::Rivedi(int slot, int tolta) {
   const bool primaVolta = stato.bolloParole == BolloBase;
   if (conta == prima.conta && !primaVolta) return true;
   ConservaLavoro(slot, stato, conta);
+  if (!elencato_ && !primaVolta && conta > stato.sostenute / 10 * 9) return true;
+  stato.sostenute = conta;
   if (!Sostieni(slot, stato)) return false;
   return conta > 1 || Di().slot[S(slot)].aperto || Posa(slot, stato);
 }
@@ -331,7 +346,7 @@ void Stato::FiltraBlocchi(int lunghezza, const Dominio& dominio) {
   const auto blocchi = S(Parole().Blocchi(lunghezza));
   const Blocco* da = dominio.blocchi;
   for (const Cambio& cambio : cambiati_) {
-    const bool tolti = std::popcount(cambio.perse) < std::popcount(cambio.rimaste);
+    const bool tolti = QuanteLettere(cambio.perse) < QuanteLettere(cambio.rimaste);
     insiemi_.clear();
     for (Lettere resto = tolti ? cambio.perse : cambio.rimaste; resto != 0; resto &= resto - 1)
       insiemi_.push_back(Parole().Insieme(lunghezza, cambio.posto, std::countr_zero(resto)));
@@ -434,20 +449,22 @@ void Stato::UnisciLettere(int lunghezza, const Dominio& dominio) {
 Lettere Stato::LettereSostenute(int slot, int posto, Lettere chieste) {
   // Only crossings want to know; a fixed letter is in each word that is left.
   if (UnaSola(chieste) || Griglia().IncrociDi(slot)[S(posto)].slot < 0) return chieste;
-  const int lunghezza = Griglia().Lunghezza(slot);
+  const std::size_t blocchi = Blocchi(slot);
   const Blocco* dominio = slot_[S(slot)].dominio.blocchi;
+  const Blocco* insiemi = Parole().Insieme(Griglia().Lunghezza(slot), posto, 0);
   std::uint16_t* residui = residui_.data() + S(primoPosto_[S(slot)] + posto) * LettereAlfabeto;
-  Lettere sostenute = 0;
+  Lettere sostenute = chieste;
   for (Lettere resto = chieste; resto != 0; resto &= resto - 1) {
-    const int lettera = std::countr_zero(resto);
-    const Blocco* insieme = Parole().Insieme(lunghezza, posto, lettera);
-    std::uint16_t& residuo = residui[lettera];
-    if ((dominio[residuo] & insieme[residuo]) == 0) {
-      const std::size_t trovato = nuclei::PrimoComune(dominio, insieme, 0, Blocchi(slot));
-      if (trovato == Blocchi(slot)) continue;
-      residuo = static_cast<std::uint16_t>(trovato);
+    const auto lettera = S(std::countr_zero(resto));
+    const Blocco* insieme = insiemi + lettera * blocchi;
+    const std::size_t residuo = residui[lettera];
+    if ((dominio[residuo] & insieme[residuo]) != 0) continue;
+    const std::size_t trovato = nuclei::PrimoComune(dominio, insieme, 0, blocchi);
+    if (trovato == blocchi) {
+      sostenute &= ~(1u << lettera);
+    } else {
+      residui[lettera] = static_cast<std::uint16_t>(trovato);
     }
-    sostenute |= 1u << lettera;
   }
   return sostenute;
 }

@@ -14,7 +14,8 @@
 // Each cell has the letters, each slot the words that are left. Invariants, whenever Propaga has
 // given true:
 //   - a word of a slot has in each place a letter of the cell, and a letter of a crossed cell is
-//     that of some word of either slot (domain consistency, by way of the cells' letters);
+//     that of some word of either slot (domain consistency, by way of the cells' letters; where
+//     words are many, letters are looked at anew when a tenth of the words has gone);
 //   - a slot with one word left has it placed: no other slot has that word, or one akin to it,
 //     unless its words are too many to be listed;
 //   - where as many entries of a kind are placed as there may be, the same holds for that kind.
@@ -115,6 +116,7 @@ class Stato {
     Blocco* ragione;
     std::uint32_t bollo;        // of the level that owns viste, ragione and the flags
     std::uint32_t bolloParole;  // of the level that owns the arrays of the words
+    int sostenute;              // words that were left when the letters were last supported
     int escluse;                // of the exclusions of its length those that were looked at
     Genie genie;                // kinds that were taken out of the words
     bool posato;
@@ -153,6 +155,7 @@ class Stato {
   void UnisciLivello(Blocco* ragione, int livello) const;
 
   void Accoda(int slot);
+  void SvuotaCode();
   bool Urta(int slot, const Blocco* perche, const Blocco* anche = nullptr);
 
   // A letter that a place of a slot has lost.
@@ -205,8 +208,12 @@ class Stato {
   std::vector<std::pair<Genie, int>> posatiDiGenia_;  // slots with a limited kind
   Parentele parentele_;
 
+  // Slots to be revised, listed ones first: they cost little and find the conflicts, and the sets
+  // of blocks then take in all changes at once.
   std::vector<int> coda_;
   std::size_t testa_ = 0;
+  std::vector<int> codaLunga_;
+  std::size_t testaLunga_ = 0;
   std::vector<char> inCoda_;
 
   std::vector<std::uint16_t> residui_;  // by slot's first place, place and letter

@@ -124,9 +124,10 @@ void Vocabolario::Fascia::Aggiungi(const ParolaDaUsare& parola) {
   punteggi.push_back(static_cast<std::uint8_t>(parola.punteggio));
   segni.push_back(static_cast<std::uint8_t>((parola.definita ? SegnoDefinita : 0) |
                                             (parola.propria ? SegnoPropria : 0)));
-  genie.push_back(parola.genie);
-  for (std::size_t genia = 0; parola.genie >> genia != 0; ++genia) {
-    if (parola.genie >> genia & 1) perGenia[genia][BloccoDi(numero)] |= BitDi(numero);
+  const Genie limitate = parola.propria ? Genie{0} : parola.genie;
+  genie.push_back(limitate);
+  for (std::size_t genia = 0; limitate >> genia != 0; ++genia) {
+    if (limitate >> genia & 1) perGenia[genia][BloccoDi(numero)] |= BitDi(numero);
   }
 }
 

@@ -28,6 +28,13 @@ constexpr Lettere SolaLettera(char lettera) {
   return 1u << (lettera - 'A');
 }
 
+/// How many letters there are: without a call, which a count of bits is on plain processors.
+constexpr int QuanteLettere(Lettere lettere) {
+  lettere -= lettere >> 1 & 0x55555555u;
+  lettere = (lettere & 0x33333333u) + (lettere >> 2 & 0x33333333u);
+  return static_cast<int>(((lettere + (lettere >> 4)) & 0x0f0f0f0fu) * 0x01010101u >> 24);
+}
+
 /// The kinds of an entry of which a grid may have only so many, as bits by Genia.
 using Genie = std::uint8_t;
 constexpr Genie SolaGenia(Genia genia) {
@@ -47,7 +54,7 @@ struct ParolaDaUsare {
   int pregio = 0;            // how welcome it is, 0 to MaxPregio: their order, and what is improved
   int punteggio = 0;         // 0 to 100, which a least score is compared with
   bool definita = false;     // it has a clue
-  bool propria = false;      // the author's own, which no least score or demand of clues binds
+  bool propria = false;      // the author's own: no least score, demand of clues or kind binds it
   Genie genie = 0;
 };
 inline constexpr int MaxPregio = 1000;
