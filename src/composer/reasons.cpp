@@ -2,16 +2,20 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <utility>
 
+#include "composer/outward.h"
+#include "composer/search.h"
 #include "composer/witness.h"
 #include "platform/check.h"
 
 // Slots and wanted words are left out as long as the rest stays impossible. That is monotone: what
 // holds an impossible part is impossible, so the shortest impossible beginning of a sequence can be
 // halved for, and what was needed once is needed for ever. A search of the region comes first since
-// proofs and fills of small parts are cheap and those of the whole are not. A trial that its limit
-// of steps ends counts as possible: then the set is not known to be minimal, and still impossible.
+// proofs and fills of small parts are cheap and those of the whole are not. A trial is one search
+// that never begins anew, since hard ones are proofs. One that its limit of steps ends counts as
+// possible: then the set is not known to be minimal, and still impossible.
 //
 // Sources: U. Junker, QuickXplain (2004) for bites and for what is needed first; J. Marques-Silva,
 // Minimal unsatisfiability (2010) for deletion by what the last proof used; witness.h for fills.
@@ -24,6 +28,12 @@ constexpr std::int64_t PassiPerTentativo = 500;
 // All trials together, by the proof of the whole.
 constexpr std::int64_t ProveInTutto = 10;
 constexpr std::int64_t PassiInTutto = 100'000;
+// Regions that are tried unless one is so small, how exactly they are measured, and how long each
+// but the first is tried, by the proof of that.
+constexpr int Centri = 8;
+constexpr std::size_t RegionePiccola = 10;
+constexpr std::size_t GranaDiRegione = 8;
+constexpr std::int64_t ProvePerAltraRegione = 1;
 // A region is narrowed anew as long as it loses one slot in so many.
 constexpr std::size_t GuadagnoDiRegione = 4;
 // The first bite of slots to be left out at once: one in so many of the set. Of words the half.
@@ -45,17 +55,20 @@ Elementi Senza(const Elementi& elementi, const Elementi& tolti) {
   return resto;
 }
 
-class Ricerca {
+Elementi Comuni(const Elementi& elementi, const Elementi& altri) {
+  return Senza(elementi, Senza(elementi, altri));
+}
+
+class Indagine {
  public:
-  Ricerca(const Problema& problema, const Riempimento& prova, const Limiti& limiti)
+  Indagine(const Problema& problema, const Riempimento& prova, const Limiti& limiti)
       : problema_(problema),
         limiti_(limiti),
         ultimaProva_(prova.passi),
         necessario_(problema.slot.size() + problema.volute.size()),
-        incroci_(problema.slot.size()) {
+        reticolo_(problema) {
     const std::int64_t inTutto = ProveInTutto * prova.passi + PassiInTutto;
     limiti_.passi = std::min(limiti.passi, inTutto);
-    Incrocia();
     for (std::size_t slot = 0; slot < problema.slot.size(); ++slot)
       pesi_.push_back(slot < prova.pesi.size() ? prova.pesi[slot] : 1);
     for (std::size_t k = 0; k < necessario_.size(); ++k)
@@ -64,6 +77,7 @@ class Ricerca {
 
   Colpevoli Trova() {
     TogliVolute();
+    if (Volute(insieme_).empty()) ScegliRegione();
     std::size_t prima = 0;
     do {
       prima = insieme_.size();
@@ -74,24 +88,16 @@ class Ricerca {
   }
 
  private:
+  struct Riempito {  // a fill of the set without some elements
+    Elementi senza;
+    std::string lettere;  // by cell of the whole
+  };
+
   bool Parola(int elemento) const { return elemento >= problema_.Slot(); }
   const std::string& Voluta(int elemento) const {
     return problema_.volute[Indice(elemento - problema_.Slot())];
   }
   bool Finito() const { return passi_ >= limiti_.passi || limiti_.ferma.stop_requested(); }
-
-  void Incrocia() {
-    std::vector<Elementi> perCasella(problema_.lettere.size());
-    for (int slot = 0; slot < problema_.Slot(); ++slot) {
-      for (const int casella : problema_.slot[Indice(slot)].caselle)
-        perCasella[Indice(casella)].push_back(slot);
-    }
-    for (const Elementi& qui : perCasella) {
-      if (qui.size() < 2) continue;
-      incroci_[Indice(qui[0])].push_back(qui[1]);
-      incroci_[Indice(qui[1])].push_back(qui[0]);
-    }
-  }
 
   Elementi Slot(const Elementi& elementi) const {
     Elementi slot;
@@ -108,40 +114,58 @@ class Ricerca {
   }
 
   // Whether the set is still impossible without some of its elements, which then are left out.
-  bool Togli(const Elementi& tolti) {
+  bool Togli(const Elementi& tolti, std::int64_t prove = ProvePerTentativo) {
     Elementi resto = Senza(insieme_, tolti);
     const Elementi slot = Slot(resto);
-    Limiti limiti = limiti_;
-    limiti.passi =
-        std::min(limiti_.passi - passi_, ProvePerTentativo * ultimaProva_ + PassiPerTentativo);
-    Riempimento prova = Componi(ParteDi(problema_, slot, Volute(resto)), limiti);
-    passi_ += prova.passi;
-    if (prova.esito != Esito::Impossibile) {
-      const bool deciso = prova.esito == Esito::Riempito;
-      senza_ = deciso ? NelTutto(problema_, slot, prova.lettere) : std::string();
-      return false;
+    const std::int64_t passi =
+        std::min(limiti_.passi - passi_, prove * ultimaProva_ + PassiPerTentativo);
+    const Problema parte = ParteDi(problema_, slot, Volute(resto));
+    const Partenza partenza(parte);
+    Ricerca ricerca(partenza, {.seme = limiti_.seme});
+    const Ricerca::Fine fine = ricerca.Continua(passi, limiti_.ferma);
+    passi_ += ricerca.Passi();
+    switch (fine) {
+      case Ricerca::Fine::Impossibile:
+        insieme_ = std::move(resto);
+        Impara(slot, ricerca);
+        break;
+      case Ricerca::Fine::Riempito:
+        riempiti_.push_back({tolti, NelTutto(problema_, slot, ricerca.LettereTrovate())});
+        break;
+      case Ricerca::Fine::Sospesa:
+        if (tolti.size() == 1) Tieni(tolti.front(), false);
+        return false;
     }
-    insieme_ = std::move(resto);
-    Impara(slot, prova);
-    return true;
+    Rileggi();
+    return fine == Ricerca::Fine::Impossibile;
   }
 
-  void Impara(const Elementi& slot, const Riempimento& prova) {
-    ultimaProva_ = prova.passi;
+  void Impara(const Elementi& slot, const Ricerca& prova) {
+    ultimaProva_ = prova.Passi();
     for (std::size_t k = 0; k < slot.size(); ++k)
-      pesi_[Indice(slot[k])] = prova.pesi[k];
+      pesi_[Indice(slot[k])] = prova.Pesi()[k];
   }
 
-  // An element stays: the last trial was that of the set without it.
-  void Tieni(int elemento) {
-    necessario_[Indice(elemento)] = true;
-    if (senza_.empty()) {
-      dubbio_ = true;
-    } else if (!Parola(elemento)) {
+  // What fills now lack one element of the set alone, which therefore is needed.
+  void Rileggi() {
+    for (Riempito& uno : riempiti_) {
+      uno.senza = Comuni(insieme_, uno.senza);
+      if (uno.senza.size() != 1) continue;
+      const int elemento = uno.senza.front();
+      Tieni(elemento, true);
+      if (Parola(elemento)) continue;
       for (const int slot :
-           AltriNecessari(problema_, Slot(insieme_), Volute(insieme_), elemento, senza_))
-        necessario_[Indice(slot)] = true;
+           AltriNecessari(problema_, Slot(insieme_), Volute(insieme_), elemento, uno.lettere))
+        Tieni(slot, true);
     }
+
+    std::erase_if(riempiti_, [](const Riempito& uno) { return uno.senza.size() < 2; });
+  }
+
+  // An element stays: the set without it was filled, or not decided.
+  void Tieni(int elemento, bool riempito) {
+    necessario_[Indice(elemento)] = true;
+    dubbio_ |= !riempito;
   }
 
   // Which wanted words are to blame, if any. All slots that may hold one of those stay: one that is
@@ -183,55 +207,69 @@ class Ricerca {
     return peso != altroPeso ? peso > altroPeso : uno < altro;
   }
 
-  // The slots of the set by their distance in crossings from those that are known to be needed and
-  // from the heaviest one; `quante` says how many of the former there are.
-  Elementi PerDistanza(std::size_t& quante) const {
-    const auto piuPesante = [&](int uno, int altro) { return PiuPesante(uno, altro); };
-    Elementi rimasti = Slot(insieme_);
-    std::sort(rimasti.begin(), rimasti.end(), piuPesante);
-    Elementi strato;
-    std::copy_if(rimasti.begin(), rimasti.end(), std::back_inserter(strato),
-                 [&](int slot) { return necessario_[Indice(slot)]; });
-    quante = strato.size();
-    Elementi ordine;
-    while (!rimasti.empty()) {
-      if (strato.empty()) strato.push_back(rimasti.front());
-      ordine.insert(ordine.end(), strato.begin(), strato.end());
-      rimasti = Senza(rimasti, strato);
-      strato = Vicini(rimasti, strato);
-    }
-    return ordine;
+  int PiuPesante(const Elementi& slot) const {
+    return *std::min_element(slot.begin(), slot.end(),
+                             [&](int uno, int altro) { return PiuPesante(uno, altro); });
   }
 
-  // Those of some slots that cross one of others.
-  Elementi Vicini(const Elementi& slot, const Elementi& altri) const {
-    std::vector<bool> vicino(incroci_.size());
-    for (const int altro : altri) {
-      for (const int incrocio : incroci_[Indice(altro)])
-        vicino[Indice(incrocio)] = true;
+  // The smallest of the regions round several slots, each of them the heaviest that is in none
+  // yet: the first one need not be the hardest.
+  void ScegliRegione() {
+    const Elementi tutti = insieme_;
+    Elementi migliore = insieme_;
+    Elementi liberi = Slot(insieme_);
+    for (int k = 0; k < Centri && !liberi.empty() && !Finito(); ++k) {
+      if (migliore.size() <= RegionePiccola) break;
+      const Elementi ordine = VersoFuori(reticolo_, Slot(tutti), {PiuPesante(liberi)});
+      Ricomincia(tutti);
+      const std::size_t meta = std::min(migliore.size() - 1, ordine.size());
+      const bool minore = k == 0 || (meta > 0 && Accorcia(ordine, meta, ProvePerAltraRegione));
+      liberi = Senza(liberi, {ordine.begin(), ordine.begin() + static_cast<std::ptrdiff_t>(meta)});
+      if (!minore) continue;
+      Restringi(ordine, 0, k == 0 ? ordine.size() : meta, GranaDiRegione);
+      migliore = insieme_;
+      if (k == 0) liberi = Senza(tutti, migliore);
     }
-    Elementi vicini;
-    std::copy_if(slot.begin(), slot.end(), std::back_inserter(vicini),
-                 [&](int uno) { return vicino[Indice(uno)]; });
-    return vicini;
+    Ricomincia(migliore);
   }
 
-  // The shortest impossible beginning of the slots by their distance, with longer and longer steps
-  // first; its last slot is needed.
+  // Takes another set, of which nothing is known but that it is impossible.
+  void Ricomincia(Elementi insieme) {
+    insieme_ = std::move(insieme);
+    std::fill(necessario_.begin(), necessario_.end(), false);
+    riempiti_.clear();
+    dubbio_ = false;
+  }
+
+  // The region round all slots that are known to be needed, or the heaviest.
   void RestringiRegione() {
-    std::size_t possibile = 0;
-    const Elementi ordine = PerDistanza(possibile);
-    std::size_t impossibile = ordine.size();
-    const auto accorcia = [&](std::size_t quanti) {
-      return Togli({ordine.begin() + static_cast<std::ptrdiff_t>(quanti), ordine.end()});
-    };
-    if (possibile == impossibile || (possibile > 0 && accorcia(possibile))) return;
-    for (std::size_t passo = 1; impossibile - possibile > 1; passo *= 2) {
-      if (Finito()) return;
+    Elementi slot = Slot(insieme_);
+    Elementi centro;
+    std::copy_if(slot.begin(), slot.end(), std::back_inserter(centro),
+                 [&](int uno) { return necessario_[Indice(uno)]; });
+    if (centro.size() == slot.size()) return;
+    const std::size_t necessari = centro.size();
+    if (centro.empty()) centro.push_back(PiuPesante(slot));
+    const Elementi ordine = VersoFuori(reticolo_, slot, centro);
+    if (necessari == 0 || !Accorcia(ordine, necessari)) Restringi(ordine, necessari, ordine.size());
+  }
+
+  // Whether the first slots of a sequence are impossible, which then are all of the set.
+  bool Accorcia(const Elementi& ordine, std::size_t quanti,
+                std::int64_t prove = ProvePerTentativo) {
+    return Togli({ordine.begin() + static_cast<std::ptrdiff_t>(quanti), ordine.end()}, prove);
+  }
+
+  // The shortest impossible beginning of a sequence, of which so many slots are possible and so
+  // many impossible, with longer and longer steps first: but for one slot in `grana`. Where it is
+  // the very shortest its last slot is needed.
+  void Restringi(const Elementi& ordine, std::size_t possibile, std::size_t impossibile,
+                 std::size_t grana = std::numeric_limits<std::size_t>::max()) {
+    const auto abbastanza = [&] { return impossibile - possibile <= 1 + impossibile / grana; };
+    for (std::size_t passo = 1; !abbastanza() && !Finito(); passo *= 2) {
       const std::size_t mezzo = possibile + std::min(passo, (impossibile - possibile) / 2);
-      (accorcia(mezzo) ? impossibile : possibile) = mezzo;
+      (Accorcia(ordine, mezzo) ? impossibile : possibile) = mezzo;
     }
-    if (possibile > 0 && !senza_.empty()) Tieni(ordine[possibile]);
   }
 
   // Leaves out elements of a range in bites, the lightest first; a bite that is too big is halved.
@@ -245,7 +283,6 @@ class Ricerca {
       morso = std::min(morso, incerti.size());
       incerti.resize(morso);
       if (Togli(incerti)) continue;
-      if (morso == 1) Tieni(incerti.front());
       morso = (morso + 1) / 2;
     }
   }
@@ -268,19 +305,19 @@ class Ricerca {
   Limiti limiti_;
   std::int64_t passi_ = 0;
   std::int64_t ultimaProva_;
-  Elementi insieme_;               // impossible, rising
-  std::vector<bool> necessario_;   // by element: not to be left out of any part of the set
-  std::vector<Elementi> incroci_;  // by slot
+  Elementi insieme_;              // impossible, rising
+  std::vector<bool> necessario_;  // by element: not to be left out of any part of the set
+  Reticolo reticolo_;
   std::vector<std::uint32_t> pesi_;
-  std::string senza_;    // the fill that the last trial met; empty when it was broken off
-  bool dubbio_ = false;  // some element was kept undecided
+  std::vector<Riempito> riempiti_;  // those that lack several elements of the set
+  bool dubbio_ = false;             // some element was kept undecided
 };
 
 }  // namespace
 
 Colpevoli TrovaColpevoli(const Problema& problema, const Riempimento& prova, const Limiti& limiti) {
   Verifica(prova.esito == Esito::Impossibile, "colpevoli di un problema non impossibile");
-  return Ricerca(problema, prova, limiti).Trova();
+  return Indagine(problema, prova, limiti).Trova();
 }
 
 }  // namespace telarium

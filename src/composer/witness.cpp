@@ -5,6 +5,8 @@
 #include <map>
 #include <utility>
 
+#include "composer/lattice.h"
+
 namespace telarium {
 namespace {
 
@@ -31,12 +33,10 @@ class Rotazione {
         insieme_(insieme),
         volute_(volute),
         noto_(problema.slot.size()),
-        perCasella_(problema.lettere.size()) {
-    for (const int slot : insieme_) {
-      const auto& caselle = problema_.slot[Indice(slot)].caselle;
-      for (std::size_t posto = 0; posto < caselle.size(); ++posto)
-        perCasella_[Indice(caselle[posto])].push_back({slot, posto});
-    }
+        nellInsieme_(problema.slot.size()),
+        reticolo_(problema) {
+    for (const int slot : insieme_)
+      nellInsieme_[Indice(slot)] = true;
   }
 
   std::vector<int> Da(int tolto, const std::string& lettere) {
@@ -55,11 +55,6 @@ class Rotazione {
     int tolto;
     std::string lettere;
   };
-  struct Posto {
-    int slot;
-    std::size_t posto;
-  };
-
   const std::vector<int>& Caselle(int slot) const { return problema_.slot[Indice(slot)].caselle; }
 
   const Parole& Ammesse(int slot) {
@@ -97,29 +92,27 @@ class Rotazione {
   }
 
   // The letters with which a crossing stays a word when one of its places changes.
-  Lettere LettereBuone(const Posto& incrocio, const std::string& lettere) {
+  Lettere LettereBuone(const PostoDiSlot& incrocio, const std::string& lettere) {
     const auto& caselle = Caselle(incrocio.slot);
     Parole parole = Ammesse(incrocio.slot);
+    const std::size_t libero = Indice(incrocio.posto);
     for (std::size_t posto = 0; posto < caselle.size(); ++posto) {
       const char lettera = lettere[Indice(caselle[posto])];
-      if (posto != incrocio.posto)
-        Interseca(parole, Con(incrocio.slot, posto, SolaLettera(lettera)));
+      if (posto != libero) Interseca(parole, Con(incrocio.slot, posto, SolaLettera(lettera)));
     }
     Lettere buone = 0;
     const char* testo = problema_.vocabolario->LettereDi(static_cast<int>(caselle.size()));
     PerOgniParola(parole, [&](int parola) {
-      buone |= SolaLettera(testo[Indice(parola) * caselle.size() + incrocio.posto]);
+      buone |= SolaLettera(testo[Indice(parola) * caselle.size() + libero]);
       return true;
     });
     return buone;
   }
 
-  // The slot that crosses another one at a place of it; none where it runs alone.
-  const Posto* Incrocio(int slot, std::size_t posto) const {
-    for (const Posto& uno : perCasella_[Indice(Caselle(slot)[posto])]) {
-      if (uno.slot != slot) return &uno;
-    }
-    return nullptr;
+  // The slot of the set that crosses another one at a place of it; none where it runs alone.
+  const PostoDiSlot* Incrocio(int slot, std::size_t posto) const {
+    const PostoDiSlot& incrocio = reticolo_.IncrociDi(slot)[posto];
+    return incrocio.slot >= 0 && nellInsieme_[Indice(incrocio.slot)] ? &incrocio : nullptr;
   }
 
   // Whether letters may be put in other places of a slot: not where cells are left as they are.
@@ -148,7 +141,7 @@ class Rotazione {
 
   Lettere Buone(const Riempito& uno, std::size_t posto) {
     const int casella = Caselle(uno.tolto)[posto];
-    const Posto* incrocio = Incrocio(uno.tolto, posto);
+    const PostoDiSlot* incrocio = Incrocio(uno.tolto, posto);
     if (incrocio == nullptr) return problema_.lettere[Indice(casella)];
     if (!Mobile(incrocio->slot)) return SolaLettera(uno.lettere[Indice(casella)]);
     return LettereBuone(*incrocio, uno.lettere) & problema_.lettere[Indice(casella)];
@@ -156,7 +149,7 @@ class Rotazione {
 
   // Puts words in the slot that was left out which at most break its crossing at one place.
   void RompiSolo(const Riempito& uno, std::size_t posto, Parole parole) {
-    const Posto* incrocio = Incrocio(uno.tolto, posto);
+    const PostoDiSlot* incrocio = Incrocio(uno.tolto, posto);
     if (incrocio == nullptr || noto_[Indice(incrocio->slot)]) return;
     const auto& caselle = Caselle(uno.tolto);
     Interseca(parole, Con(uno.tolto, posto, problema_.lettere[Indice(caselle[posto])]));
@@ -187,8 +180,9 @@ class Rotazione {
   const Problema& problema_;
   const std::vector<int>& insieme_;
   const std::vector<std::string>& volute_;
-  std::vector<bool> noto_;                         // by slot
-  std::vector<std::vector<Posto>> perCasella_;     // slots of the set
+  std::vector<bool> noto_;  // by slot, as the next one
+  std::vector<bool> nellInsieme_;
+  Reticolo reticolo_;
   std::map<std::pair<int, int>, Parole> ammesse_;  // by length and least score
   std::vector<Riempito> daRuotare_;
   std::vector<int> trovati_;
