@@ -61,9 +61,7 @@ void SegnaLettere(std::string_view lettere, std::size_t lunghezza, std::size_t b
     std::array<Blocco, LettereAlfabeto> parti{};
     Blocco bit = 1;
     for (std::size_t i = posto; i < lettere.size(); i += lunghezza, bit <<= 1) {
-      const auto lettera = static_cast<unsigned char>(lettere[i] - 'A');
-      Verifica(lettera < LettereAlfabeto, "lettera della parola");
-      parti[lettera] |= bit;
+      parti[static_cast<std::size_t>(lettere[i] - 'A')] |= bit;
     }
     for (std::size_t lettera = 0; lettera < parti.size(); ++lettera)
       insiemi[(posto * LettereAlfabeto + lettera) * blocchi + blocco] = parti[lettera];
@@ -135,6 +133,7 @@ void Vocabolario::Fascia::SegnaInsiemi(std::size_t lunghezza) {
   const auto quanti = static_cast<std::size_t>(blocchi);
   insiemi.resize(lunghezza * LettereAlfabeto * quanti);
   const std::string_view tutte(lettere.data(), lettere.size());
+  Verifica(DiLettere(tutte), "lettere delle parole");
   for (std::size_t blocco = 0; blocco < quanti; ++blocco) {
     SegnaLettere(tutte.substr(blocco * ParolePerBlocco * lunghezza, ParolePerBlocco * lunghezza),
                  lunghezza, blocco, quanti, insiemi);

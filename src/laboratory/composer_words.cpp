@@ -96,20 +96,12 @@ constexpr std::array<std::array<char, 2>, LettereAlfabeto* LettereAlfabeto> Tutt
 // Of a word without readings.
 constexpr Lessico::Fonte SenzaFonte = {std::numeric_limits<std::uint32_t>::max(), 0};
 
-// Without an early end, so that many letters are looked at at once.
-bool DiLettere(std::string_view lettere) {
-  bool altre = false;
-  for (const char lettera : lettere)
-    altre |= lettera < 'A' || lettera > 'Z';
-  return !altre;
-}
-
 // Gathers the words of one length after the other. Nearly all of them stand in one layer alone, and
 // nobody has named them: those are taken layer by layer. The others go the long way, through all
 // layers.
 class Raccolta {
  public:
-  explicit Raccolta(const Fondo& fondo) : fondo_(fondo) {}
+  explicit Raccolta(const Fondo& fondo) : fondo_(fondo), memorie_(fondo.giudizi.size()) {}
 
   void Raccogli(int lunghezza) {
     lunghezza_ = lunghezza;
@@ -184,8 +176,10 @@ class Raccolta {
   void PrendiLivello(std::uint32_t livello) {
     const Strato& strato = *Livelli()[livello].strato;
     const std::vector<bool> saltate = Saltate(strato);
-    const auto [tutte, punteggi, segni] = strato.Colonne(lunghezza_, memoria_);
+    const auto [tutte, punteggi, segni] = strato.Colonne(lunghezza_, memorie_[livello]);
     const auto lettere = static_cast<std::size_t>(lunghezza_);
+    parole_.reserve(parole_.size() + punteggi.size());
+    fonti_.reserve(fonti_.size() + punteggi.size());
     const bool sane = DiLettere(tutte);
     for (std::size_t i = 0; i < punteggi.size(); ++i) {
       const Giudizio& giudizio = fondo_.giudizi[livello].Di(lettere, punteggi[i], segni[i]);
@@ -253,8 +247,8 @@ class Raccolta {
   int lunghezza_ = 0;
   std::vector<std::string_view> particolari_;
   std::vector<ParolaDaUsare> parole_;
-  std::vector<Lessico::Fonte> fonti_;  // of the readings, by word
-  MemoriaDiColonne memoria_;
+  std::vector<Lessico::Fonte> fonti_;      // of the readings, by word
+  std::vector<MemoriaDiColonne> memorie_;  // by layer
 };
 
 // The lengths that are wanted, those of the most words first.

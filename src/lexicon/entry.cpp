@@ -214,6 +214,14 @@ std::optional<std::string> SeDiVoce(std::string parola) {
 
 }  // namespace
 
+bool DiLettere(std::string_view testo) {
+  // Without an early end and a byte each, so that many are looked at at once.
+  std::uint8_t altri = 0;
+  for (const char carattere : testo)
+    altri |= static_cast<unsigned char>(carattere - 'A') >= LettereAlfabeto ? 1 : 0;
+  return altri == 0;
+}
+
 std::optional<Analisi> InterpretaAnalisi(std::string_view codice) {
   if (codice.ends_with('.')) return std::nullopt;
   const NomeCategoria* const categoria = Trova(Categorie, Stacca(codice));

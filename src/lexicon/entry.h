@@ -20,6 +20,9 @@ constexpr bool LunghezzaDiVoce(std::size_t lunghezza) {
   return lunghezza >= MinLunghezzaVoce && lunghezza <= MaxLunghezzaVoce;
 }
 
+/// Whether there are letters from A to Z alone. As quick for many words one behind the other.
+bool DiLettere(std::string_view testo);
+
 /// Scores: commonness of the word and of its lemma, from 0 to 100.
 inline constexpr int MaxPunteggio = 100;
 /// The least that most solvers know.

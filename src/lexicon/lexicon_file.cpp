@@ -22,10 +22,6 @@ std::span<const Elemento> Fra(std::span<const Elemento> elementi, std::size_t in
   return elementi.subspan(inizio, fine - inizio);
 }
 
-bool DiLettere(std::string_view parola) {
-  return std::ranges::all_of(parola, [](char c) { return c >= 'A' && c <= 'Z'; });
-}
-
 }  // namespace
 
 std::shared_ptr<const FileLessico> FileLessico::Apri(const Percorso& file, std::string nome,
