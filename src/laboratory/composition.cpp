@@ -309,7 +309,9 @@ class Preparazione {
 
   void PrendiVocabolario() {
     ParoleDiCruciverba delCruciverba = delCruciverba_;
-    delCruciverba.proprie.insert(composizione_.proprie.begin(), composizione_.proprie.end());
+    for (const std::string& parola : problema_.volute) {
+      if (!lessico_.Contiene(parola)) delCruciverba.proprie.insert(parola);
+    }
     problema_.vocabolario =
         VocabolarioDi(scelta_.parole, lessico_, copertura_, lunghezze_, delCruciverba);
   }
