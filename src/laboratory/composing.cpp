@@ -23,6 +23,7 @@ class Lavoro {
   RisultatoComposizione Esegui() {
     if (!composizione_.dueDiTroppo.empty() && !Fermato()) {
       risultato_.esito = Esito::Impossibile;
+      risultato_.lettere = std::string(composizione_.caselle.size(), SenzaLettera);
       risultato_.colpevoli = composizione_.dueDiTroppo;
       return std::move(risultato_);
     }
@@ -86,8 +87,9 @@ class Lavoro {
 
   void Incolpa(const Riempimento& prova) {
     Segui(FaseComposizione::Colpevoli, 0, risultato_.lettere);
-    const Colpevoli colpevoli = TrovaColpevoli(composizione_.problema, prova, Resto());
+    Colpevoli colpevoli = TrovaColpevoli(composizione_.problema, prova, Resto());
     risultato_.passi += colpevoli.passi;
+    risultato_.volute = std::move(colpevoli.volute);
     for (const int slot : colpevoli.slot)
       risultato_.colpevoli.push_back(composizione_.slot[static_cast<std::size_t>(slot)]);
     std::ranges::sort(risultato_.colpevoli, {}, [](const Slot& slot) {

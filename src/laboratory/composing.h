@@ -44,8 +44,10 @@ struct RisultatoComposizione {
   std::chrono::steady_clock::time_point primo;
   std::optional<SogliaTrovata> soglia;  // of a fill, when it was wanted
   bool interrotta = false;              // a stop has cut the improvement, or the floor before it
-  /// When it is Impossibile, in reading order: the entries for which there are no words.
+  /// When it is Impossibile, in reading order: the entries for which there are no words, whatever
+  /// stands in the others.
   std::vector<Slot> colpevoli;
+  std::vector<std::string> volute;  // the wanted words for which they have no place
 };
 
 /// Composes a crossword. `limiti.passi` are those of all phases together: what one has taken the

@@ -17,21 +17,10 @@ namespace {
 
 constexpr Opzione OpzioneJson = {"--json", "", "un solo oggetto JSON al posto delle righe"};
 
-std::string_view Direzione(const Rilievo& rilievo) {
-  switch (rilievo.direzione) {
-    case Orizzontale:
-      return "O";
-    case Verticale:
-      return "V";
-    default:
-      return "";
-  }
-}
-
 void StampaRilievi(std::string_view specie, const std::vector<Rilievo>& rilievi) {
   for (const Rilievo& rilievo : rilievi) {
     StampaCampi({specie, NomeDi(rilievo.codice), std::to_string(rilievo.inizio.colonna),
-                 std::to_string(rilievo.inizio.riga), Direzione(rilievo), rilievo.testo});
+                 std::to_string(rilievo.inizio.riga), Sigla(rilievo.direzione), rilievo.testo});
   }
 }
 
@@ -54,7 +43,7 @@ void AggiungiRilievi(Json& json, std::string_view nome, const std::vector<Riliev
     json.Nome("riga");
     json.Numero(rilievo.inizio.riga);
     json.Nome("direzione");
-    json.Testo(Direzione(rilievo));
+    json.Testo(Sigla(rilievo.direzione));
     json.Nome("testo");
     json.Testo(rilievo.testo);
     json.Chiudi();

@@ -46,5 +46,7 @@ std::vector<Comando> ComandiDefinizioni();
 std::vector<Comando> ComandiUscita();
 std::vector<Comando> ComandiLessico();
 std::vector<Comando> ComandiControllo();
+std::vector<Comando> ComandiComposizione();
+std::vector<Comando> ComandiCandidati();
 
 }  // namespace telarium::telar

@@ -37,8 +37,8 @@ Stato Parole(const Argomenti& argomenti, PiattaformaConsole&) {
   if (!Apri(argomenti.liberi[0])) return Stato::Fallito;
   PerOgniParola([](const Slot& slot) {
     const auto [c, r] = slot.inizio;
-    StampaCampi({std::to_string(NumeroCasella(c, r)), slot.direzione == Orizzontale ? "O" : "V",
-                 std::to_string(c), std::to_string(r), std::to_string(slot.lunghezza),
+    StampaCampi({std::to_string(NumeroCasella(c, r)), Sigla(slot.direzione), std::to_string(c),
+                 std::to_string(r), std::to_string(slot.lunghezza),
                  ParolaCasella(c, r, slot.direzione), Definizione(c, r, slot.direzione)});
   });
   return Stato::Fatto;

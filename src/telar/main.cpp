@@ -174,7 +174,7 @@ const std::vector<Comando>& Comandi() {
   static const std::vector<Comando> comandi = [] {
     std::vector<Comando> tutti = ComandiCruciverba();
     for (const auto& altri : {ComandiDizionario(), ComandiDefinizioni(), ComandiUscita(),
-                              ComandiLessico(), ComandiControllo()})
+                              ComandiLessico(), ComandiControllo(), ComandiCandidati()})
       tutti.insert(tutti.end(), altri.begin(), altri.end());
     return tutti;
   }();

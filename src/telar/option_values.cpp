@@ -35,10 +35,18 @@ InsiemeDiParole Parole(const Argomenti& argomenti, const Opzione& opzione) {
   return parole;
 }
 
-int Limitato(std::string_view testo, int minimo, int massimo, const Opzione& opzione) {
+int Limitato(std::string_view testo, int minimo, int massimo, std::string_view nome) {
   const auto numero = NumeroIntero(testo);
   if (numero && *numero >= minimo && *numero <= massimo) return static_cast<int>(*numero);
-  throw ArgomentiErrati(Unisci(opzione.nome, " richiede numeri da ", minimo, " a ", massimo));
+  throw ArgomentiErrati(Unisci(nome, " richiede numeri da ", minimo, " a ", massimo));
+}
+
+InizioDiParola LeggiInizio(std::string_view colonna, std::string_view riga,
+                           std::string_view direzione, std::string_view nome) {
+  const Casella casella{Limitato(colonna, 1, MaxColonne, nome), Limitato(riga, 1, MaxRighe, nome)};
+  if (direzione == "O" || direzione == "o") return {casella, Orizzontale};
+  if (direzione == "V" || direzione == "v") return {casella, Verticale};
+  throw ArgomentiErrati(Unisci(nome, " richiede O o V per la direzione"));
 }
 
 std::chrono::nanoseconds Secondi(const Argomenti& argomenti, const Opzione& opzione,

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "lexicon/lexicon.h"
+#include "model/laboratory_section.h"
 #include "platform/text.h"
 #include "telar/arguments.h"
 
@@ -42,7 +43,11 @@ std::vector<std::string> Parti(const Argomenti& argomenti, const Opzione& opzion
 InsiemeDiParole Parole(const Argomenti& argomenti, const Opzione& opzione);
 
 /// A whole number from `minimo` to `massimo`.
-int Limitato(std::string_view testo, int minimo, int massimo, const Opzione& opzione);
+int Limitato(std::string_view testo, int minimo, int massimo, std::string_view nome);
+
+/// Where a word starts: column, row, and O or V in any case. `nome` is what a message calls it.
+InizioDiParola LeggiInizio(std::string_view colonna, std::string_view riga,
+                           std::string_view direzione, std::string_view nome);
 
 /// A number of seconds, whole or decimal with a point, from 0 on. What is longer than a year is a
 /// year.

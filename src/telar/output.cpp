@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string>
 
+#include "model/cells.h"
 #include "platform/codepage.h"
 
 namespace telarium::telar {
@@ -26,6 +27,11 @@ void StampaCampi(std::initializer_list<std::string_view> campi) {
   }
   riga.back() = '\n';
   std::fwrite(riga.data(), 1, riga.size(), stdout);
+}
+
+std::string_view Sigla(int direzione) {
+  if (direzione == Orizzontale) return "O";
+  return direzione == Verticale ? "V" : "";
 }
 
 }  // namespace telarium::telar

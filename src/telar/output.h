@@ -9,4 +9,7 @@ namespace telarium::telar {
 /// by TAB. A TAB or a character of a line break inside a field becomes a blank.
 void StampaCampi(std::initializer_list<std::string_view> campi);
 
+/// "O" or "V"; nothing for no direction.
+std::string_view Sigla(int direzione);
+
 }  // namespace telarium::telar

@@ -34,17 +34,17 @@ constexpr Opzione OpzioneForme = {"--forme", "si|no", "due forme della stessa pa
 void LeggiLivelli(const Argomenti& argomenti, SceltaParole& scelta) {
   if (argomenti.Ha(OpzioneLivello.nome)) {
     scelta.livelli.fill(
-        Limitato(argomenti.Valore(OpzioneLivello.nome), 0, MaxPunteggio, OpzioneLivello));
+        Limitato(argomenti.Valore(OpzioneLivello.nome), 0, MaxPunteggio, OpzioneLivello.nome));
   }
   for (const std::string& parte : Parti(argomenti, OpzioneLivelli)) {
     const std::size_t duePunti = parte.find(':');
     if (duePunti == std::string::npos)
       throw ArgomentiErrati(Unisci(OpzioneLivelli.nome, " richiede L:N[,L:N...]"));
     const std::string_view tutto = parte;
-    const int lunghezza =
-        Limitato(tutto.substr(0, duePunti), MinLunghezzaVoce, MaxLunghezzaVoce, OpzioneLivelli);
+    const int lunghezza = Limitato(tutto.substr(0, duePunti), MinLunghezzaVoce, MaxLunghezzaVoce,
+                                   OpzioneLivelli.nome);
     scelta.livelli[static_cast<std::size_t>(lunghezza)] =
-        Limitato(tutto.substr(duePunti + 1), 0, MaxPunteggio, OpzioneLivelli);
+        Limitato(tutto.substr(duePunti + 1), 0, MaxPunteggio, OpzioneLivelli.nome);
   }
 }
 

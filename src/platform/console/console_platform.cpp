@@ -1,5 +1,6 @@
 #include "platform/console/console_platform.h"
 
+#include <atomic>
 #include <cstdio>
 
 #include "platform/codepage.h"
@@ -8,16 +9,18 @@
 namespace telarium {
 namespace {
 
-volatile std::sig_atomic_t interruzione = 0;
+// Signal handlers write it, other threads read it.
+std::atomic<bool> interruzione = false;
+static_assert(std::atomic<bool>::is_always_lock_free);
 
 void SegnaInterruzione(int) {
-  interruzione = 1;
+  interruzione = true;
 }
 
 class AttesaConsole : public Attesa {
  public:
-  bool Prosegue(std::size_t) override { return interruzione == 0; }
-  bool ProsegueFino(double) override { return interruzione == 0; }
+  bool Prosegue(std::size_t) override { return !interruzione; }
+  bool ProsegueFino(double) override { return !interruzione; }
 };
 
 }  // namespace
@@ -44,7 +47,7 @@ std::unique_ptr<Attesa> UtenteConsole::IniziaAttesa(const std::string&) {
 }
 
 bool UtenteConsole::Interrotto() const {
-  return interruzione != 0;
+  return interruzione;
 }
 
 bool UtenteConsole::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) {
