@@ -136,7 +136,6 @@ class Drawing {
   SmallCase::Word DrawWord() {
     SmallCase::Word word{
         .score = Below(101, chance_), .clued = !OneIn(8, chance_), .own = OneIn(30, chance_)};
-    if (word.own) return word;
     for (int kind = 0; kind < NumGenie; ++kind) {
       if (OneIn(8, chance_)) word.kinds |= SolaGenia(static_cast<Genia>(kind));
     }
