@@ -110,9 +110,12 @@ bool ParolaVuota(std::string_view parola) {
   return std::binary_search(ElencoVuote.begin(), ElencoVuote.end(), parola);
 }
 
+std::span<const std::string_view> LemmiVuoti() {
+  return ElencoLemmiVuoti;
+}
+
 bool LemmaVuoto(std::string_view lemma) {
-  return std::find(std::begin(ElencoLemmiVuoti), std::end(ElencoLemmiVuoti), lemma) !=
-         std::end(ElencoLemmiVuoti);
+  return std::ranges::find(LemmiVuoti(), lemma) != LemmiVuoti().end();
 }
 
 }  // namespace telarium::tabelle

@@ -203,7 +203,7 @@ class Preparazione {
     const auto quale = griglia_.ParolaPer(inizio.casella, inizio.direzione);
     const Slot& slot = griglia_.Parole()[static_cast<std::size_t>(quale)];
     if (maschera.size() != static_cast<std::size_t>(slot.lunghezza))
-      return Unisci(nome, " ha ", maschera.size(), " caselle, la parola ", slot.lunghezza, '.');
+      return Unisci(nome, " è lunga "_cp, maschera.size(), ", la parola ", slot.lunghezza, '.');
     for (int k = 1; k <= slot.lunghezza; ++k) {
       const char carattere = maschera[static_cast<std::size_t>(k) - 1];
       if (carattere == CellaVuota) continue;

@@ -45,24 +45,24 @@ class Parentele {
   std::vector<NumeroParola> Di(std::string_view parola) const;
 
  private:
-  struct LemmaNumerato {
-    NumeroLemma lemma = 0;
-    Categoria categoria = Categoria::Ignota;
-    bool operator==(const LemmaNumerato&) const = default;
-  };
-  using Lemmi = std::vector<LemmaNumerato>;
+  // A layer with readings.
+  struct Lemmario {
+    std::uint32_t livello = 0;  // in the lexicon
+    const FileLessico* file = nullptr;
+    std::vector<NumeroLemma> vuoti;     // its lemmas by which no words are akin
+    std::vector<std::uint32_t> parole;  // by entry its word, length and number in one; 0 for none
 
-  static void LeggiLemmi(const FileLessico& file, NumeroVoce voce,
-                         std::vector<LetturaNumerata>& letture, Lemmi& lemmi);
-  std::optional<NumeroParola> ParolaDi(std::size_t livello, NumeroVoce voce) const;
-  void AggiungiParenti(std::size_t livello, const LemmaNumerato& lemma, std::size_t posto,
+    bool Conta(const LetturaNumerata& lettura) const;
+    std::optional<NumeroParola> ParolaDi(NumeroVoce voce) const;
+  };
+
+  const Lemmario* LemmarioDi(std::uint32_t livello) const;
+  void AggiungiParenti(const Lemmario& lemmario, const LetturaNumerata& lettura, std::size_t posto,
                        std::vector<NumeroParola>& parenti) const;
 
   Lessico lessico_;
   bool dueLibere_;
-  // By layer: its file, null when it has no readings, and the words of its entries.
-  std::vector<const FileLessico*> file_;
-  std::vector<std::vector<std::uint32_t>> parole_;  // length and number in one; 0 for none
+  std::vector<Lemmario> lemmari_;
 };
 
 }  // namespace telarium

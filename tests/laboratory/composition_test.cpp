@@ -192,7 +192,7 @@ TEST(CrosswordToProblem, DemandsThatContradictEachOtherAreTold) {
        Masked({{{{2, 1}, Orizzontale}, "..A.."}})},
       {"La maschera ..A.. in 60,1 verticale: lì non comincia nessuna parola.",
        Masked({{{{60, 1}, Verticale}, "..A.."}})},
-      {"La maschera A in 1,1 verticale ha 1 caselle, la parola 4.",
+      {"La maschera A in 1,1 verticale è lunga 1, la parola 4.",
        Masked({{{{1, 1}, Verticale}, "A"}})},
       {"La maschera B.... in 1,1 orizzontale: la casella 1,1 ha già un'altra lettera, C.",
        Masked({{{{1, 1}, Orizzontale}, "B...."}})},
