@@ -22,6 +22,7 @@ int PregioDi(int punteggio, bool definita, UsoDefinizioni uso);
 struct ParoleDiCruciverba {
   InsiemeDiParole proprie = {};  // the author's own words: they are words here
   InsiemeDiParole vietate = {};  // banned in this crossword
+  bool operator==(const ParoleDiCruciverba&) const = default;
 };
 /// The words of its section; what stands there and is no word stands for nothing.
 ParoleDiCruciverba ParoleDi(const Laboratorio& laboratorio);
@@ -36,5 +37,12 @@ std::shared_ptr<const Vocabolario> VocabolarioDi(const SceltaParole& scelta, con
                                                  const Copertura* copertura,
                                                  const Lunghezze& lunghezze,
                                                  const ParoleDiCruciverba& delCruciverba);
+
+/// A vocabulary with what it was made for, so that crosswords that differ in little share it.
+struct VocabolarioPronto {
+  std::shared_ptr<const Vocabolario> vocabolario;
+  Lunghezze lunghezze;
+  ParoleDiCruciverba delCruciverba;
+};
 
 }  // namespace telarium

@@ -18,11 +18,6 @@ std::string Luogo(const InizioDiParola& inizio) {
                 inizio.direzione == Orizzontale ? " orizzontale" : " verticale");
 }
 
-bool Dentro(const Regione& regione, Casella casella) {
-  return casella.colonna >= regione.prima.colonna && casella.colonna <= regione.ultima.colonna &&
-         casella.riga >= regione.prima.riga && casella.riga <= regione.ultima.riga;
-}
-
 void TogliDefinizione(Cruciverba& cruciverba, const Slot& slot) {
   cruciverba.definizioni.Imposta({}, slot.inizio.colonna, slot.inizio.riga, slot.direzione);
 }
@@ -75,15 +70,25 @@ void TogliLettere(Cruciverba& cruciverba, Riempibile riempibile) {
   }
 }
 
+// With the wanted words that no layer has, which are the author's own.
+ParoleDiCruciverba ConVolute(ParoleDiCruciverba parole, const Problema& problema,
+                             const Lessico& lessico) {
+  for (const std::string& parola : problema.volute) {
+    if (!lessico.Contiene(parola)) parole.proprie.insert(parola);
+  }
+  return parole;
+}
+
 // Makes a problem of a crossword. Each step gives what contradicts itself, as a sentence; empty for
 // nothing.
 class Preparazione {
  public:
   Preparazione(const Cruciverba& cruciverba, const SceltaComposizione& scelta,
-               const Lessico& lessico, const Copertura* copertura)
+               const Lessico& lessico, const Copertura* copertura, const VocabolarioPronto* pronto)
       : scelta_(scelta),
         lessico_(lessico),
         copertura_(copertura),
+        pronto_(pronto),
         delCruciverba_(ParoleDi(cruciverba.laboratorio)),
         vietate_(lessico, delCruciverba_.vietate) {
     composizione_.cruciverba = cruciverba;
@@ -107,7 +112,7 @@ class Preparazione {
 
  private:
   bool DaRiempire(Casella casella) const {
-    return !scelta_.regione || Dentro(*scelta_.regione, casella);
+    return !scelta_.regione || scelta_.regione->Contiene(casella);
   }
 
   std::string ContrastoDellaRegione() const {
@@ -308,17 +313,18 @@ class Preparazione {
   }
 
   void PrendiVocabolario() {
-    ParoleDiCruciverba delCruciverba = delCruciverba_;
-    for (const std::string& parola : problema_.volute) {
-      if (!lessico_.Contiene(parola)) delCruciverba.proprie.insert(parola);
-    }
+    const ParoleDiCruciverba delCruciverba = ConVolute(delCruciverba_, problema_, lessico_);
+    const bool basta = pronto_ && (lunghezze_ & ~pronto_->lunghezze).none() &&
+                       pronto_->delCruciverba == delCruciverba;
     problema_.vocabolario =
-        VocabolarioDi(scelta_.parole, lessico_, copertura_, lunghezze_, delCruciverba);
+        basta ? pronto_->vocabolario
+              : VocabolarioDi(scelta_.parole, lessico_, copertura_, lunghezze_, delCruciverba);
   }
 
   const SceltaComposizione& scelta_;
   const Lessico& lessico_;
   const Copertura* copertura_;
+  const VocabolarioPronto* pronto_;
   const ParoleDiCruciverba delCruciverba_;
   const ParoleVietate vietate_;
   Composizione composizione_;
@@ -345,11 +351,28 @@ void AggiungiProprie(Cruciverba& cruciverba, const Derivati& griglia,
 std::optional<Composizione> PreparaComposizione(const Cruciverba& cruciverba,
                                                 const SceltaComposizione& scelta,
                                                 const Lessico& lessico, const Copertura* copertura,
-                                                std::string& messaggio) {
-  Preparazione preparazione(cruciverba, scelta, lessico, copertura);
+                                                std::string& messaggio,
+                                                const VocabolarioPronto* pronto) {
+  Preparazione preparazione(cruciverba, scelta, lessico, copertura, pronto);
   messaggio = preparazione.Esegui();
   if (!messaggio.empty()) return std::nullopt;
   return std::move(preparazione).Composta();
+}
+
+VocabolarioPronto VocabolarioPerVarianti(const Composizione& composizione,
+                                         const SceltaParole& scelta, const Lessico& lessico,
+                                         const Copertura* copertura) {
+  int massima = 0;
+  for (const Slot& slot : composizione.griglia.Parole())
+    massima = std::max(massima, slot.lunghezza);
+  VocabolarioPronto pronto;
+  for (int lunghezza = MinLunghezzaVoce; lunghezza <= massima; ++lunghezza)
+    pronto.lunghezze.set(static_cast<std::size_t>(lunghezza));
+  pronto.delCruciverba =
+      ConVolute(ParoleDi(composizione.cruciverba.laboratorio), composizione.problema, lessico);
+  pronto.vocabolario =
+      VocabolarioDi(scelta, lessico, copertura, pronto.lunghezze, pronto.delCruciverba);
+  return pronto;
 }
 
 Cruciverba ConLettere(const Composizione& composizione, const std::string& lettere) {

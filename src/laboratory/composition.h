@@ -18,6 +18,11 @@ namespace telarium {
 struct Regione {
   Casella prima;
   Casella ultima;
+
+  bool Contiene(Casella casella) const {
+    return casella.colonna >= prima.colonna && casella.colonna <= ultima.colonna &&
+           casella.riga >= prima.riga && casella.riga <= ultima.riga;
+  }
 };
 
 /// Letters that the word beginning at a place must have: one a cell, '.' for any.
@@ -51,11 +56,19 @@ struct Composizione {
 };
 
 /// The problem of a crossword. None when demands contradict each other on their face: `messaggio`
-/// says which, in one Italian sentence. `copertura` may be null.
+/// says which, in one Italian sentence. `copertura` may be null. `pronto` is a vocabulary of the
+/// same choice of words, lexicon and coverage, which is taken if it will do; null: none.
 std::optional<Composizione> PreparaComposizione(const Cruciverba& cruciverba,
                                                 const SceltaComposizione& scelta,
                                                 const Lessico& lessico, const Copertura* copertura,
-                                                std::string& messaggio);
+                                                std::string& messaggio,
+                                                const VocabolarioPronto* pronto = nullptr);
+
+/// The vocabulary of a composition's choice with the words of all lengths that its grid, and one
+/// with other blacks in it, may have.
+VocabolarioPronto VocabolarioPerVarianti(const Composizione& composizione,
+                                         const SceltaParole& scelta, const Lessico& lessico,
+                                         const Copertura* copertura);
 
 /// The crossword with the letters of an answer, CellaVuota where it has none. A word that stays
 /// keeps its clue, the others lose theirs; the author's own words of the fill are among its own

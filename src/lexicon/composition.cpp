@@ -13,7 +13,6 @@ namespace telarium {
 namespace {
 
 constexpr const char* EstensioneLessico = ".lexicon";
-constexpr std::string_view Lingue[] = {LessicoIniziale, "inglese", "latino", "francese"};
 
 enum class Specie { Lingua, Corredo, Dizionario, Elenco, Mio };
 
@@ -25,7 +24,8 @@ std::string Estensione(const Percorso& nome) {
 }
 
 Specie SpecieDi(const Percorso& nome) {
-  if (std::ranges::find(Lingue, nome.native()) != std::end(Lingue)) return Specie::Lingua;
+  if (std::ranges::find(LingueDeiLessici, nome.native()) != LingueDeiLessici.end())
+    return Specie::Lingua;
   if (nome == NomeCorredo) return Specie::Corredo;
   if (nome == NomeParoleMie) return Specie::Mio;
   const std::string estensione = Estensione(nome);
@@ -85,7 +85,7 @@ std::string SeNomeErrato(const Percorso& nome, std::string_view quali, std::stri
 
 std::string NomiDelleLingue() {
   std::string nomi;
-  for (const std::string_view lingua : Lingue)
+  for (const std::string_view lingua : LingueDeiLessici)
     nomi += Unisci(nomi.empty() ? "" : ", ", lingua);
   return nomi;
 }

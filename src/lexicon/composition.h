@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "lexicon/lexicon.h"
@@ -15,6 +17,8 @@ namespace telarium {
 
 // Names of layers that are no files of the user's: languages, the kit, the user's own list.
 inline constexpr const char* LessicoIniziale = "italiano";
+inline constexpr std::array<std::string_view, 4> LingueDeiLessici = {LessicoIniziale, "inglese",
+                                                                     "latino", "francese"};
 inline constexpr const char* NomeCorredo = "sigle";
 inline constexpr const char* NomeParoleMie = "mio";
 
