@@ -47,7 +47,7 @@ Times MeasureWorkers(const NamedProblem& named, const Seeds& seeds, int workers,
 
 Figures CompareWorkers(const Seeds& seeds) {
   std::vector<Times> one, two;
-  auto problems = ProblemsOf({"g2", "g4", "g5"}, {.cap = 120'000});
+  const auto problems = ProblemsOf({"g2", "g4", "g5"}, {.cap = 120'000});
   for (const NamedProblem& named : problems) {
     std::vector<std::string> alone, together;
     one.push_back(MeasureWorkers(named, seeds, 1, alone));
@@ -55,7 +55,8 @@ Figures CompareWorkers(const Seeds& seeds) {
     Demand(alone == together, "other fills with two workers in " + named.name);
     Note(named.name + ": " + Spread({one.back()}) + " ms, with two " + Spread({two.back()}));
   }
-  return {Spread(one) + " ms alone, " + Spread(two) + " ms with two", ""};
+  return {Spread(one) + " ms alone, " + Spread(two) + " ms with two",
+          MeasurePlainly(problems.front().problem)};
 }
 
 }  // namespace
