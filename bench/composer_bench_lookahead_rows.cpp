@@ -3,6 +3,7 @@
 #include <random>
 
 #include "composer/lookahead.h"
+#include "composer/remaining_letters.h"
 #include "composer_bench_grids.h"
 #include "composer_bench_plain.h"
 #include "composer_bench_rows.h"
@@ -32,6 +33,45 @@ std::vector<NumeroParola> Candidates(const HalfFilled& half) {
   return FittingWords(half.problem, half.slot, GivenLetters(half.problem));
 }
 
+// How many words of a slot the letters allow that are left in its cells.
+std::size_t WordsLeft(const Problema& problem, int slot, const std::vector<Lettere>& left) {
+  const auto& cells = problem.slot[static_cast<std::size_t>(slot)].caselle;
+  const auto words = FittingWords(problem, slot, GivenLetters(problem));
+  return static_cast<std::size_t>(
+      std::count_if(words.begin(), words.end(), [&](NumeroParola number) {
+        const std::string_view word = problem.vocabolario->Parola(number);
+        for (std::size_t place = 0; place < word.size(); ++place)
+          if ((left[static_cast<std::size_t>(cells[place])] & SolaLettera(word[place])) == 0)
+            return false;
+        return true;
+      }));
+}
+
+int SlotWithMostWords(const Problema& problem) {
+  const std::vector<Lettere> left = LettereRimaste(problem, {.passi = 0});
+  int best = 0;
+  std::size_t most = 0;
+  for (int slot = 0; slot < problem.Slot(); ++slot) {
+    const std::size_t many = WordsLeft(problem, slot, left);
+    if (many <= most) continue;
+    most = many;
+    best = slot;
+  }
+  return best;
+}
+
+// The next word in some order that has letters already, and cells without.
+int NextCrossing(const Problema& problem, const std::vector<int>& order) {
+  const std::string letters = GivenLetters(problem);
+  for (const int slot : order) {
+    const std::string mask = Maschera(problem, slot, letters);
+    const auto empty = static_cast<std::size_t>(std::count(mask.begin(), mask.end(), '.'));
+    if (empty > 0 && empty < mask.size()) return slot;
+  }
+  return order.front();
+}
+
+// As an author would: one word, then such as cross those that stand.
 HalfFilled HalfFill(const Problema& empty, std::uint64_t seed) {
   const Riempimento fill = Componi(empty, {.seme = seed});
   Demand(fill.esito == Esito::Riempito, "a 13x13 is not filled");
@@ -43,13 +83,11 @@ HalfFilled HalfFill(const Problema& empty, std::uint64_t seed) {
     const std::string letters = GivenLetters(half.problem);
     return empty.Caselle() - std::count(letters.begin(), letters.end(), SenzaLettera);
   };
-  for (std::size_t k = 0; given() * 2 < empty.Caselle(); ++k)
-    Give(half.problem, order[k], Maschera(empty, order[k], fill.lettere));
-  const std::string letters = GivenLetters(half.problem);
-  half.slot = *std::max_element(order.begin(), order.end(), [&](int one, int other) {
-    return FittingWords(half.problem, one, letters).size() <
-           FittingWords(half.problem, other, letters).size();
-  });
+  while (given() * 2 < empty.Caselle()) {
+    const int slot = NextCrossing(half.problem, order);
+    Give(half.problem, slot, Maschera(empty, slot, fill.lettere));
+  }
+  half.slot = SlotWithMostWords(half.problem);
   return half;
 }
 
