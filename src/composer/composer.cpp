@@ -21,7 +21,7 @@ Maniera ManieraDi(int corsia, std::uint64_t seme) {
   Maniera maniera{.seme = caso.Prossimo()};
   if (corsia == 0) {
     maniera.falliteAParole = 30;
-    maniera.primaRipresa = 70;
+    maniera.primaRipresa = 40;
   }
   return maniera;
 }

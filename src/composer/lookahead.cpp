@@ -135,7 +135,7 @@ class Incroci {
 std::vector<int> ParoleDi(const Ricerca& riempita, int quantiSlot) {
   std::vector<int> parole;
   for (int slot = 0; slot < quantiSlot; ++slot)
-    parole.push_back(riempita.Ora().Posato(slot) ? riempita.Ora().Migliore(slot) : -1);
+    parole.push_back(riempita.Ora().Posato(slot) ? riempita.Ora().DominioDi(slot).Migliore() : -1);
   return parole;
 }
 
@@ -186,7 +186,7 @@ class Vicinanze {
   bool Riempi(int numero, std::int64_t passi, const std::stop_token& ferma) {
     if (!pronta_) return false;
     ricerca_.Rinuncia(1);
-    if (!ricerca_.Ora().Ha(slot_, numero)) return false;
+    if (!ricerca_.Ora().DominioDi(slot_).Ha(numero)) return false;
     const Ricerca::Decisione parola = {.slot = slot_, .valore = numero};
     if (!ricerca_.Presumi({&parola, 1})) return false;
     passi = ricerca_.Passi() + std::min(passi, PassiVicini);
@@ -269,7 +269,7 @@ class Vaglio {
   std::optional<Sorte> SorteDi(int numero) {
     if (limiti_.ferma.stop_requested()) return std::nullopt;
     ricerca_.Rinuncia(0);
-    if (!possibile_ || !ricerca_.Ora().Ha(slot_, numero) || MuoreDiUnaLettera(numero))
+    if (!possibile_ || !ricerca_.Ora().DominioDi(slot_).Ha(numero) || MuoreDiUnaLettera(numero))
       return Sorte::Morta;
     if (vicinanze_ && vicinanze_->Riempi(numero, limiti_.passi, limiti_.ferma)) {
       Segui(vicinanze_->Riempita());
@@ -339,7 +339,8 @@ class Vaglio {
     const Ricerca::Decisione sola = {.casella = casella, .valore = lettera};
     if (ricerca_.Presumi({&sola, 1})) {
       std::vector<int> rimaste;
-      ricerca_.Ora().Prime(slot_, ricerca_.Ora().DominioDi(slot_).conta, rimaste);
+      const Dominio& dominio = ricerca_.Ora().DominioDi(slot_);
+      dominio.Prime(dominio.conta, rimaste);
       for (const int parola : rimaste)
         una.parole[S(parola / ParolePerBlocco)] |= Blocco{1} << (parola % ParolePerBlocco);
     }

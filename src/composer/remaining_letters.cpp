@@ -13,10 +13,6 @@ constexpr std::size_t S(int numero) {
   return static_cast<std::size_t>(numero);
 }
 
-bool UnaSola(Lettere lettere) {
-  return std::has_single_bit(lettere);
-}
-
 // Only crossings keep the letters of a cell exact; those of others are read from the words.
 Lettere LettereDi(const Stato& stato, const Reticolo& griglia, int casella) {
   Lettere lettere = stato.LettereDi(casella);

@@ -136,7 +136,7 @@ Ricerca::Scelta Ricerca::ScegliVoluta(Decisione& decisione) {
     int scelto = -1;
     bool posata = false;
     for (const int slot : Griglia().DiLunghezza(parola.lunghezza)) {
-      if (Di().slot[S(slot)].aperto || !stato_.Ha(slot, parola.numero)) continue;
+      if (Di().slot[S(slot)].aperto || !stato_.DominioDi(slot).Ha(parola.numero)) continue;
       posata |= stato_.Posato(slot);
       if (caso_.Fino(++quanti) == 0) scelto = slot;
     }
@@ -183,9 +183,9 @@ int Ricerca::ScegliSlot() {
 Ricerca::Decisione Ricerca::ScegliParola(int slot) {
   if (!guida_.empty()) {
     const int parola = guida_[S(slot)];
-    if (parola >= 0 && stato_.Ha(slot, parola)) return {.slot = slot, .valore = parola};
+    if (parola >= 0 && stato_.DominioDi(slot).Ha(parola)) return {.slot = slot, .valore = parola};
   }
-  stato_.Prime(slot, ParoleProvate, prime_);
+  stato_.DominioDi(slot).Prime(ParoleProvate, prime_);
   const int quale = caso_.Fino(static_cast<int>(prime_.size()));
   return {.slot = slot, .valore = prime_[S(quale)]};
 }
@@ -204,8 +204,8 @@ Ricerca::Decisione Ricerca::ScegliLettera(int slot) {
   VerificaInvariante(posto >= 0, "uno slot aperto ha una casella da decidere");
   const int casella = caselle[S(posto)];
   const PostoDiSlot incrocio = Griglia().IncrociDi(slot)[S(posto)];
-  std::array<int, LettereAlfabeto> qui{};
-  std::array<int, LettereAlfabeto> la{};
+  LettereContate qui{};
+  LettereContate la{};
   stato_.ContaLettere(slot, posto, qui);
   if (incrocio.slot >= 0) stato_.ContaLettere(incrocio.slot, incrocio.posto, la);
   int scelta = -1;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "composer/arena.h"
+#include "composer/domain.h"
 #include "composer/start.h"
 
 // The state of a search and its propagation.
@@ -21,21 +22,13 @@
 //   - where as many entries of a kind are placed as there may be, the same holds for that kind.
 // Letters and words only get fewer, but for going back a level.
 //
-// Words of a slot are kept as a set of blocks while they are many, then as a list. A change at a
-// new level makes new arrays and never touches those of older levels, so that going back restores
-// pointers (compare the reversible sparse bit sets of Demeulenaere et al., "Compact-Table", 2016).
-// For each place and letter a block is remembered in which a word supported it last.
+// A change at a new level makes new values and never touches those of older levels, so that going
+// back restores pointers. For each place and letter a block is remembered in which a word supported
+// it last.
 //
 // Each slot and cell has a reason: the set of levels whose decisions have made it what it is. A
 // conflict's reason is that of the slot without words; without any level the problem is impossible.
 namespace telarium {
-
-/// The words left in a slot.
-struct Dominio {
-  const Blocco* blocchi = nullptr;       // null when they are listed
-  const std::int32_t* elenco = nullptr;  // their numbers, rising
-  int conta = 0;
-};
 
 /// Words akin to each word that was asked for. For one thread.
 class Parentele {
@@ -92,19 +85,14 @@ class Stato {
 
   const Partenza& Inizio() const { return partenza_; }
   Lettere LettereDi(int casella) const { return caselle_[S(casella)].lettere; }
-  bool Fissa(int casella) const;
+  bool Fissa(int casella) const { return UnaSola(LettereDi(casella)); }
   /// The letter of a fixed cell, else SenzaLettera.
   char Lettera(int casella) const;
   const Dominio& DominioDi(int slot) const { return slot_[S(slot)].dominio; }
   bool Posato(int slot) const { return slot_[S(slot)].posato; }
   int Posati() const { return posati_; }
-  bool Ha(int slot, int numero) const;
-  /// The number of the best word left.
-  int Migliore(int slot) const;
-  /// The best `quante` words left, at the most, best first.
-  void Prime(int slot, int quante, std::vector<int>& parole) const;
   /// How many words of a slot have each letter at a place.
-  void ContaLettere(int slot, int posto, std::array<int, LettereAlfabeto>& quante) const;
+  void ContaLettere(int slot, int posto, LettereContate& quante) const;
 
  private:
   static constexpr std::uint32_t BolloBase = ~0u;  // of words that are still those of the base
@@ -158,29 +146,14 @@ class Stato {
   void SvuotaCode();
   bool Urta(int slot, const Blocco* perche, const Blocco* anche = nullptr);
 
-  // A letter that a place of a slot has lost.
-  struct Cambio {
-    int posto;
-    Lettere perse;
-    Lettere rimaste;
-  };
-
-  std::size_t Blocchi(int slot) const;
-  int SogliaElenco(int slot) const;
-
-  // The steps of a revision, on the words in lavoro_ or, when elencato_, in lavoroElenco_. `tolta`
-  // is a word to be taken out besides, -1 for none.
+  // The steps of a revision. `tolta` is a word to be taken out besides, -1 for none.
   bool Rivedi(int slot, int tolta = -1);
   bool DaRivedere(int slot) const;
-  void FiltraLettere(int slot, StatoSlot& stato);
-  void FiltraElenco(int lunghezza, const Dominio& dominio);
-  void FiltraBlocchi(int lunghezza, const Dominio& dominio);
-  void FiltraEscluse(int slot, StatoSlot& stato);
-  void FiltraGenie(int slot, StatoSlot& stato);
-  bool TogliDalLavoro(int numero);
-  void ConservaLavoro(int slot, StatoSlot& stato, int conta);
+  static bool BastanoLeLettere(const StatoSlot& stato);
+  void RaccogliCambi(int slot, StatoSlot& stato);
+  void TogliEscluse(int slot, StatoSlot& stato);
+  void TogliGenie(int slot, StatoSlot& stato);
   bool Sostieni(int slot, StatoSlot& stato);
-  void UnisciLettere(int lunghezza, const Dominio& dominio);
   Lettere LettereSostenute(int slot, int posto, Lettere chieste);
   bool Riduci(int casella, Lettere lettere, int slot);
   bool Posa(int slot, StatoSlot& stato);
@@ -188,6 +161,10 @@ class Stato {
   bool ContaGenie(int slot, Genie genie);
   void Esaurisci(int genia);
   bool UrtaPerGenia(int slot, int genia);
+
+  // The invariants, where they are checked.
+  void VerificaSlot(int slot) const;
+  void VerificaStato() const;
 
   const Partenza& partenza_;
   std::size_t blocchiRagione_ = 1;
@@ -218,11 +195,8 @@ class Stato {
 
   std::vector<std::uint16_t> residui_;  // by slot's first place, place and letter
   std::vector<int> primoPosto_;         // of each slot in residui_
-  std::vector<Blocco> lavoro_;
-  std::vector<std::int32_t> lavoroElenco_;
-  bool elencato_ = false;
-  std::vector<Cambio> cambiati_;
-  std::vector<const Blocco*> insiemi_;
+  Revisione revisione_;
+  std::vector<Cambio> cambi_;
   std::array<Lettere, MaxLunghezzaVoce> unione_{};
   Urto urto_;
 };

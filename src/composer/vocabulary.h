@@ -28,6 +28,9 @@ constexpr Lettere SolaLettera(char lettera) {
   return 1u << (lettera - 'A');
 }
 
+constexpr bool UnaSola(Lettere lettere) {
+  return lettere != 0 && (lettere & (lettere - 1)) == 0;
+}
 /// How many letters there are: without a call, which a count of bits is on plain processors.
 constexpr int QuanteLettere(Lettere lettere) {
   lettere -= lettere >> 1 & 0x55555555u;
