@@ -16,15 +16,21 @@ namespace {
 // One run through the phases.
 class Lavoro {
  public:
-  Lavoro(const Composizione& composizione, const RichiestaComposizione& richiesta,
-         const Limiti& limiti, const SegueComposizione& segui)
-      : composizione_(composizione), richiesta_(richiesta), limiti_(limiti), segui_(segui) {}
+  Lavoro(const Composizione& composizione, const FontiComposizione& fonti,
+         const RichiestaComposizione& richiesta, const Limiti& limiti,
+         const SegueComposizione& segui)
+      : composizione_(composizione),
+        fonti_(fonti),
+        richiesta_(richiesta),
+        limiti_(limiti),
+        segui_(segui) {}
 
   RisultatoComposizione Esegui() {
     if (!composizione_.dueDiTroppo.empty() && !Fermato()) {
       risultato_.esito = Esito::Impossibile;
       risultato_.lettere = std::string(composizione_.caselle.size(), SenzaLettera);
       risultato_.colpevoli = composizione_.dueDiTroppo;
+      CercaRimedi();
       return std::move(risultato_);
     }
     const Riempimento trovato = Cerca();
@@ -33,6 +39,7 @@ class Lavoro {
       MiglioraRiempimento(problema);
     } else if (trovato.esito == Esito::Impossibile) {
       Incolpa(trovato);
+      CercaRimedi();
     }
     return std::move(risultato_);
   }
@@ -97,7 +104,14 @@ class Lavoro {
     });
   }
 
+  void CercaRimedi() {
+    Segui(FaseComposizione::Rimedi, 0, risultato_.lettere);
+    risultato_.rimedi = TrovaRimedi(composizione_, fonti_.scelta, risultato_.colpevoli,
+                                    fonti_.lessico, fonti_.copertura, fonti_.luoghi, Resto());
+  }
+
   const Composizione& composizione_;
+  const FontiComposizione& fonti_;
   const RichiestaComposizione& richiesta_;
   const Limiti& limiti_;
   const SegueComposizione& segui_;
@@ -111,19 +125,21 @@ bool TuttaData(const Derivati& griglia, const Slot& slot) {
 }  // namespace
 
 RisultatoComposizione ComponiCruciverba(const Composizione& composizione,
+                                        const FontiComposizione& fonti,
                                         const RichiestaComposizione& richiesta,
                                         const Limiti& limiti, const SegueComposizione& segui) {
-  return Lavoro(composizione, richiesta, limiti, segui).Esegui();
+  return Lavoro(composizione, fonti, richiesta, limiti, segui).Esegui();
 }
 
 CifreRiempimento CifreDi(const Composizione& composizione, const Cruciverba& riempito,
-                         const SceltaParole& scelta, const Lessico& lessico,
-                         const Copertura* copertura) {
+                         const FontiComposizione& fonti) {
+  const auto& [scelta, lessico, copertura, luoghi] = fonti;
   CifreRiempimento cifre;
   std::vector<int> punteggi;
   for (const VoceDiGriglia& voce :
-       VociDi(riempito, Deriva(riempito), CriteriDi(scelta, lessico, copertura))) {
-    const bool nelloStore = copertura && voce.Intera() && copertura->Ha(voce.lettere, scelta.quali);
+       VociDi(riempito, Deriva(riempito), CriteriDi(scelta.parole, lessico, copertura))) {
+    const bool nelloStore =
+        copertura && voce.Intera() && copertura->Ha(voce.lettere, scelta.parole.quali);
     ++cifre.voci;
     cifre.definite += nelloStore || !voce.definizione.empty() ? 1 : 0;
     const auto punteggio = voce.Punteggio();

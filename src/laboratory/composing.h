@@ -8,10 +8,19 @@
 #include <vector>
 
 #include "laboratory/composition.h"
+#include "laboratory/remedies.h"
 
 // A composition from the search to all that is told of it: the fill, its floor and its improvement;
-// or, where there is none, the guilty entries. Console and window run the same.
+// or, where there is none, the guilty entries and what would help. Console and window run the same.
 namespace telarium {
+
+/// What a composition was made from. All of it must outlive what uses it.
+struct FontiComposizione {
+  const SceltaComposizione& scelta;
+  const Lessico& lessico;
+  const Copertura* copertura;  // null: no word has a clue
+  LuoghiLessico luoghi;        // where further languages lie
+};
 
 /// What is wanted beside the problem itself.
 struct RichiestaComposizione {
@@ -19,7 +28,7 @@ struct RichiestaComposizione {
   bool soglia = false;            // first the highest least score, with its proof
 };
 
-enum class FaseComposizione { Ricerca, Soglia, Miglioramento, Colpevoli };
+enum class FaseComposizione { Ricerca, Soglia, Miglioramento, Colpevoli, Rimedi };
 
 struct AvanzamentoComposizione {
   FaseComposizione fase;
@@ -48,6 +57,7 @@ struct RisultatoComposizione {
   /// stands in the others.
   std::vector<Slot> colpevoli;
   std::vector<std::string> volute;  // the wanted words for which they have no place
+  std::vector<Rimedio> rimedi;      // each tried
 };
 
 /// Composes a crossword. `limiti.passi` are those of all phases together: what one has taken the
@@ -55,6 +65,7 @@ struct RisultatoComposizione {
 /// a proof that stands Impossibile. Any thread; the same composition, request, seed and steps give
 /// the same result, but for what a stop has cut.
 RisultatoComposizione ComponiCruciverba(const Composizione& composizione,
+                                        const FontiComposizione& fonti,
                                         const RichiestaComposizione& richiesta,
                                         const Limiti& limiti, const SegueComposizione& segui = {});
 
@@ -68,9 +79,8 @@ struct CifreRiempimento {
   std::string minimo;
 };
 
-/// `riempito` is what ConLettere has made of the composition. `copertura` may be null.
+/// `riempito` is what ConLettere has made of the composition.
 CifreRiempimento CifreDi(const Composizione& composizione, const Cruciverba& riempito,
-                         const SceltaParole& scelta, const Lessico& lessico,
-                         const Copertura* copertura);
+                         const FontiComposizione& fonti);
 
 }  // namespace telarium
