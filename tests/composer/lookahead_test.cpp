@@ -169,8 +169,11 @@ Problema WithWord(Problema problem, int slot, const std::string& word) {
 Problema Masked(Problema problem, int slot, const std::string& mask) {
   problem.slot = {problem.slot.at(static_cast<std::size_t>(slot))};
   problem.volute.clear();
-  for (std::size_t place = 0; place < mask.size(); ++place)
-    LettersOf(problem, 0, place) = mask[place] == '.' ? TutteLeLettere : SolaLettera(mask[place]);
+  for (std::size_t place = 0; place < mask.size(); ++place) {
+    Lettere& letters = LettersOf(problem, 0, place);
+    // A sign that is no letter stays one.
+    if (letters != 0) letters = mask[place] == '.' ? TutteLeLettere : SolaLettera(mask[place]);
+  }
   return problem;
 }
 
