@@ -91,7 +91,7 @@ std::optional<NumeroParola> Parentele::Lemmario::ParolaDi(NumeroVoce voce) const
 
 void Parentele::Metti(const Lessico::Fonte& fonte, NumeroParola parola) {
   const Lemmario* const lemmario = LemmarioDi(fonte.livello);
-  if (!lemmario) return;
+  if (!lemmario || NonParola(parola.lunghezza)) return;
   lemmari_[static_cast<std::size_t>(lemmario - lemmari_.data())].parole[fonte.numero] =
       static_cast<std::uint32_t>(parola.lunghezza) << BitDelNumero |
       static_cast<std::uint32_t>(parola.numero);
@@ -101,7 +101,7 @@ std::vector<NumeroParola> Parentele::Di(std::string_view parola) const {
   std::vector<NumeroParola> parenti;
   const auto fonte = lessico_.FonteDelleLetture(parola);
   const Lemmario* const suo = fonte ? LemmarioDi(fonte->livello) : nullptr;
-  if (!suo || (dueLibere_ && parola.size() == MinLunghezzaVoce)) return parenti;
+  if (!suo || NonParola(static_cast<int>(parola.size()))) return parenti;
   std::vector<LetturaNumerata> lemmi;
   suo->file->LeggiLetture(fonte->numero, lemmi);
   std::erase_if(lemmi, [suo](const LetturaNumerata& lettura) { return !suo->Conta(lettura); });

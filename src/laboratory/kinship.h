@@ -56,6 +56,7 @@ class Parentele {
     std::optional<NumeroParola> ParolaDi(NumeroVoce voce) const;
   };
 
+  bool NonParola(int lunghezza) const { return dueLibere_ && lunghezza == MinLunghezzaVoce; }
   const Lemmario* LemmarioDi(std::uint32_t livello) const;
   void AggiungiParenti(const Lemmario& lemmario, const LetturaNumerata& lettura, std::size_t posto,
                        std::vector<NumeroParola>& parenti) const;
