@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds Telarium and starts the desktop with FILE. Without a display it shows the program's main job in the
-# terminal instead: takes FILE, or a new crossword from the first model, fills it from the Italian
-# dictionary and prints it. Installs what is missing.
+# terminal instead: takes FILE, or a new crossword from the first model, fills it whole with common
+# Italian words and prints it. Installs what is missing.
 #   ./run.sh [FILE]
 set -euo pipefail
 
@@ -28,24 +28,30 @@ export TELARIUM_CARTELLA="$PWD/build/release/share/telarium"
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   exec build/release/bin/telarium ${crossword:+"$crossword"}
 fi
-echo "Nessuno schermo (DISPLAY e WAYLAND_DISPLAY mancano): ecco l'estrazione automatica nel terminale."
+echo "Nessuno schermo (DISPLAY e WAYLAND_DISPLAY mancano): ecco un cruciverba composto nel terminale."
 
 telar=build/release/bin/telar
 trap 'exit 130' INT  # telar ends in order on Ctrl+C; what follows shall not run
-output="$PWD/build/estratto.tlrm"
+output="$PWD/build/composto.tlrm"
 
 if [ -z "$crossword" ]; then
   crossword="$PWD/build/nuovo.tlrm"
   "$telar" nuovo "$crossword" --modello 1
 fi
 
-# First a fill without any dead end, for a few seconds at the most; then whatever comes.
-if ! "$telar" estrai "$crossword" "$output" --infinito --tentativi 4000 2>build/estrai.log; then
-  if ! "$telar" estrai "$crossword" "$output" 2>build/estrai.log; then
-    cat build/estrai.log >&2
-    exit 1
-  fi
-  echo "$(wc -l <build/estrai.log) vicoli ciechi accettati: alcune parole non sono nel dizionario."
+# As a reader likes it best: every word with a clue, as long as that is possible.
+status=0
+for clues in obbligatorie preferite; do
+  status=0
+  report=$("$telar" componi "$crossword" "$output" --definizioni "$clues" 2>build/componi.log) || status=$?
+  [ "$status" -eq 3 ] || [ "$status" -eq 1 ] || break
+done
+if [ "$status" -ne 0 ]; then
+  cat build/componi.log >&2
+  awk -F'\t' '
+    $1 == "colpevole" { printf "  senza parole: %d %s, %s\n", $2, ($3 == "O" ? "orizzontale" : "verticale"), $7 }
+    $1 == "rimedio" { printf "  rimedio provato: %s %s %s\n", $2, $3, $4 }' <<<"$report" >&2
+  exit "$status"
 fi
 
 echo
@@ -55,4 +61,10 @@ echo "  N.  Parola"
 "$telar" parole "$output" |
   awk -F'\t' '{ printf "%4d %s %s\n", $1, ($2 == "O" ? "orizz." : "vert. "), $6 }'
 echo
+awk -F'\t' '
+  $1 == "voci" { entries = $2 }
+  $1 == "punteggio" { mean = $2 }
+  $1 == "definite" { clued = $2 }
+  $1 == "in tutto" { printf "%d voci, %d con definizione, punteggio medio %s, in %s secondi\n", entries, clued, mean, $2 }' \
+  <<<"$report"
 echo "Cruciverba scritto in $output"

@@ -4,8 +4,6 @@
 #include <tuple>
 #include <utility>
 
-#include "composer/floor.h"
-#include "composer/improvement.h"
 #include "composer/reasons.h"
 #include "laboratory/checks.h"
 #include "laboratory/figures.h"
@@ -34,10 +32,7 @@ class Lavoro {
       return std::move(risultato_);
     }
     const Riempimento trovato = Cerca();
-    if (trovato.esito == Esito::Riempito) {
-      Problema problema = richiesta_.soglia ? AllaSoglia() : composizione_.problema;
-      MiglioraRiempimento(problema);
-    } else if (trovato.esito == Esito::Impossibile) {
+    if (trovato.esito == Esito::Impossibile) {
       Incolpa(trovato);
       CercaRimedi();
     }
@@ -66,30 +61,6 @@ class Lavoro {
     risultato_.lettere = trovato.lettere;
     risultato_.passi += trovato.passi;
     return trovato;
-  }
-
-  // The problem with the floor that was found as its least score.
-  Problema AllaSoglia() {
-    Segui(FaseComposizione::Soglia, 0, risultato_.lettere);
-    Soglia soglia = TrovaSoglia(composizione_.problema, Resto());
-    risultato_.passi += soglia.riempimento.passi;
-    risultato_.soglia = {.fino = 0, .oltre = {}};
-    if (soglia.riempimento.esito != Esito::Riempito) return composizione_.problema;
-    risultato_.lettere = std::move(soglia.riempimento.lettere);
-    risultato_.soglia = {.fino = soglia.fino, .oltre = soglia.oltre};
-    return ConMinimo(composizione_.problema, soglia.fino);
-  }
-
-  void MiglioraRiempimento(const Problema& problema) {
-    if (richiesta_.finestre == 0) return;
-    Segui(FaseComposizione::Miglioramento, 0, risultato_.lettere);
-    Riempimento migliore = Migliora(problema, risultato_.lettere, richiesta_.finestre, Resto(),
-                                    [this](std::int64_t finestre, const std::string& lettere) {
-                                      Segui(FaseComposizione::Miglioramento, finestre, lettere);
-                                    });
-    risultato_.lettere = std::move(migliore.lettere);
-    risultato_.passi += migliore.passi;
-    risultato_.interrotta = Fermato() && migliore.esito == Esito::Tempo;
   }
 
   void Incolpa(const Riempimento& prova) {

@@ -173,8 +173,9 @@ Stato EseguiRigaDiComando(std::vector<std::string> parole, PiattaformaConsole& p
 const std::vector<Comando>& Comandi() {
   static const std::vector<Comando> comandi = [] {
     std::vector<Comando> tutti = ComandiCruciverba();
-    for (const auto& altri : {ComandiDizionario(), ComandiDefinizioni(), ComandiUscita(),
-                              ComandiLessico(), ComandiControllo(), ComandiCandidati()})
+    for (const auto& altri :
+         {ComandiDizionario(), ComandiDefinizioni(), ComandiUscita(), ComandiLessico(),
+          ComandiControllo(), ComandiComposizione(), ComandiCandidati()})
       tutti.insert(tutti.end(), altri.begin(), altri.end());
     return tutti;
   }();

@@ -1,0 +1,226 @@
+#include <algorithm>
+#include <charconv>
+#include <random>
+#include <thread>
+
+#include "laboratory/composing.h"
+#include "model/current_crossword.h"
+#include "platform/codepage.h"
+#include "platform/platform.h"
+#include "platform/text.h"
+#include "telar/command.h"
+#include "telar/demand_options.h"
+#include "telar/files.h"
+#include "telar/option_values.h"
+#include "telar/output.h"
+#include "telar/watch.h"
+#include "telar/word_options.h"
+
+// The complete fill of a crossword.
+namespace telarium::telar {
+namespace {
+
+using Istante = Sorveglianza::Istante;
+
+constexpr Opzione OpzioneSeme = {"--seme", "N", "il seme del caso (estratto)"};
+constexpr Opzione OpzionePassi = {"--passi", "N", "rinuncia dopo N passi (100000000)"};
+constexpr Opzione OpzioneSecondi = {"--secondi", "S", "rinuncia dopo S secondi (20)"};
+constexpr Opzione OpzioneLavoratori = {"--lavoratori", "N", "quanti lavorano insieme (i nuclei)"};
+constexpr Opzione OpzioneParziale = {"--parziale", "",
+                                     "senza riempimento scrive il più che si è trovato"};
+
+constexpr std::int64_t SemeMassimo = 999'999'999;  // of drawn ones: short to type again
+constexpr std::int64_t MaxLavoratori = 64;
+
+std::uint64_t LeggiSeme(const Argomenti& argomenti) {
+  if (argomenti.Ha(OpzioneSeme.nome))
+    return static_cast<std::uint64_t>(argomenti.Numero(OpzioneSeme.nome, 0, 0));
+  std::random_device caso;
+  return std::uniform_int_distribution<std::uint64_t>(1, SemeMassimo)(caso);
+}
+
+int LeggiLavoratori(const Argomenti& argomenti) {
+  const std::int64_t nuclei = std::max(1u, std::thread::hardware_concurrency());
+  return static_cast<int>(
+      std::min(argomenti.Numero(OpzioneLavoratori.nome, 1, nuclei), MaxLavoratori));
+}
+
+std::string ConMillesimi(std::chrono::nanoseconds durata) {
+  std::array<char, 32> cifre;
+  const double secondi = std::chrono::duration<double>(durata).count();
+  const auto esito = std::to_chars(cifre.data(), cifre.data() + cifre.size(), secondi,
+                                   std::chars_format::fixed, 3);
+  return {cifre.data(), esito.ptr};
+}
+
+void StampaIntero(std::string_view nome, std::uint64_t numero) {
+  StampaCampi({nome, std::to_string(numero)});
+}
+
+std::string_view NomeDi(Esito esito) {
+  switch (esito) {
+    case Esito::Riempito:
+      return "riempito";
+    case Esito::Impossibile:
+      return "impossibile";
+    default:
+      return "tempo";
+  }
+}
+
+void AvvisaVolute(const std::vector<std::string>& volute) {
+  std::string elenco;
+  for (const std::string& parola : volute)
+    elenco += Unisci(elenco.empty() ? "" : ", ", parola);
+  if (!elenco.empty()) Avvisa(Unisci("Parole volute che non trovano posto: ", elenco, '.'));
+}
+
+void StampaRimedio(const Rimedio& rimedio) {
+  const auto stampaCasella = [&](std::string_view nome) {
+    const auto [colonna, riga] = rimedio.casella;
+    StampaCampi({"rimedio", nome, std::to_string(colonna), std::to_string(riga)});
+  };
+  switch (rimedio.genere) {
+    case GenereRimedio::Libera:
+      return stampaCasella("libera");
+    case GenereRimedio::Nera:
+      return stampaCasella("nera");
+    case GenereRimedio::Livello:
+      return StampaCampi({"rimedio", "livello", std::to_string(rimedio.livello)});
+    case GenereRimedio::Regole:
+      return StampaCampi({"rimedio", "regole", rimedio.nome});
+    case GenereRimedio::Lessico:
+      return StampaCampi({"rimedio", "lessico", rimedio.nome});
+  }
+}
+
+// One run of the command.
+class Esecuzione {
+ public:
+  Esecuzione(const Argomenti& argomenti, const UtenteConsole& utente)
+      : limiti_{.seme = LeggiSeme(argomenti),
+                .passi = argomenti.Numero(OpzionePassi.nome, 0, Limiti().passi),
+                .lavoratori = LeggiLavoratori(argomenti)},
+        uscita_(argomenti.liberi[1]),
+        parziale_(argomenti.Ha(OpzioneParziale.nome)),
+        sorveglianza_(utente,
+                      inizio_ + Secondi(argomenti, OpzioneSecondi, std::chrono::seconds(20))) {
+    limiti_.ferma = sorveglianza_.Segnale();
+  }
+
+  // False when there is nothing to compose, which has been told.
+  bool Prepara(const SceltaComposizione& scelta) {
+    scelta_ = scelta;
+    lessico_ = PreparaLessico(scelta_.parole);
+    if (!lessico_) return false;
+    copertura_ = PreparaCopertura(limiti_.ferma);
+    const bool vuoleDefinizioni = scelta_.parole.definizioni == UsoDefinizioni::Obbligatorie;
+    if (!copertura_ && vuoleDefinizioni && !sorveglianza_.Fermata()) return false;
+    std::string messaggio;
+    composizione_ =
+        PreparaComposizione(CruciverbaCorrente(), scelta_, *lessico_, copertura_.get(), messaggio);
+    if (!messaggio.empty()) Avvisa(messaggio);
+    return composizione_.has_value();
+  }
+
+  Stato Componi() {
+    const RisultatoComposizione risultato = ComponiCruciverba(*composizione_, Fonti(), {}, limiti_);
+    const Cruciverba composto = ConLettere(*composizione_, risultato.lettere);
+    if (risultato.esito == Esito::Riempito || parziale_) {
+      PrendiCruciverba(composto);
+      if (Scrivi(uscita_) != Stato::Fatto) return Stato::Fallito;
+    }
+    Stampa(risultato, composto);
+    switch (risultato.esito) {
+      case Esito::Riempito:
+        return Stato::Fatto;
+      case Esito::Impossibile:
+        Avvisa("Con queste parole e queste richieste lo schema non si può riempire."_cp);
+        AvvisaVolute(risultato.volute);
+        return Stato::Negativo;
+      default:
+        Avvisa(Unisci("Interrotto prima di una risposta: ", PercheFermo(), '.'));
+        return Stato::Interrotto;
+    }
+  }
+
+ private:
+  FontiComposizione Fonti() const {
+    return {scelta_, *lessico_, copertura_.get(), LuoghiDeiLessici()};
+  }
+
+  std::string_view PercheFermo() const {
+    if (!sorveglianza_.Fermata()) return "i passi sono finiti";
+    return sorveglianza_.DaChiUsa() ? "richiesta di fermarsi" : "il tempo è scaduto"_cp;
+  }
+
+  void Stampa(const RisultatoComposizione& risultato, const Cruciverba& composto) const {
+    StampaCampi({"esito", NomeDi(risultato.esito)});
+    StampaIntero("seme", limiti_.seme);
+    if (risultato.esito == Esito::Riempito) StampaCifre(risultato, composto);
+    StampaColpevoli(risultato);
+    for (const Rimedio& rimedio : risultato.rimedi)
+      StampaRimedio(rimedio);
+    StampaIntero("passi", static_cast<std::uint64_t>(risultato.passi));
+    if (risultato.esito == Esito::Riempito)
+      StampaCampi({"primo", ConMillesimi(risultato.primo - inizio_)});
+    StampaCampi({"in tutto", ConMillesimi(std::chrono::steady_clock::now() - inizio_)});
+    if (risultato.interrotta) StampaCampi({"interrotto"});
+  }
+
+  void StampaCifre(const RisultatoComposizione& risultato, const Cruciverba& composto) const {
+    const CifreRiempimento cifre = CifreDi(*composizione_, composto, Fonti());
+    StampaIntero("voci", static_cast<std::uint64_t>(cifre.voci));
+    StampaCampi({"punteggio", cifre.media, cifre.minimo});
+    if (risultato.soglia) {
+      const auto& [fino, oltre] = *risultato.soglia;
+      StampaCampi({"provato", std::to_string(fino), oltre ? std::to_string(*oltre) : ""});
+    }
+    StampaIntero("definite", static_cast<std::uint64_t>(cifre.definite));
+  }
+
+  void StampaColpevoli(const RisultatoComposizione& risultato) const {
+    for (const Slot& slot : risultato.colpevoli) {
+      const auto [colonna, riga] = slot.inizio;
+      StampaCampi({"colpevole", std::to_string(composizione_->griglia.Numero(slot.inizio)),
+                   Sigla(slot.direzione), std::to_string(colonna), std::to_string(riga),
+                   std::to_string(slot.lunghezza), composizione_->griglia.Lettere(slot)});
+    }
+  }
+
+  const Istante inizio_ = std::chrono::steady_clock::now();
+  Limiti limiti_;
+  const std::string uscita_;
+  const bool parziale_;
+  const Sorveglianza sorveglianza_;
+  SceltaComposizione scelta_;
+  std::optional<Lessico> lessico_;  // the next ones refer to it
+  std::shared_ptr<const Copertura> copertura_;
+  std::optional<Composizione> composizione_;
+};
+
+Stato ComponiFile(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
+  Esecuzione esecuzione(argomenti, piattaforma.ChiUsa());
+  const auto scelta = LeggiSceltaComposizione(argomenti);
+  if (!scelta || !Apri(argomenti.liberi[0]) || !esecuzione.Prepara(*scelta)) return Stato::Fallito;
+  return esecuzione.Componi();
+}
+
+std::vector<Opzione> OpzioniComponi() {
+  std::vector<Opzione> opzioni = OpzioniDomanda();
+  opzioni.insert(opzioni.end(),
+                 {OpzioneSeme, OpzionePassi, OpzioneSecondi, OpzioneLavoratori, OpzioneParziale});
+  return ConOpzioniParole(std::move(opzioni));
+}
+
+}  // namespace
+
+std::vector<Comando> ComandiComposizione() {
+  return {
+      {"componi", "FILE USCITA", "", 2, 2, OpzioniComponi(),
+       "Riempie tutto lo schema con parole del lessico, o dice perché non si può.", ComponiFile,
+       true, Stato::Interrotto},
+  };
+}
+
+}  // namespace telarium::telar
