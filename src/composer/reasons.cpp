@@ -25,9 +25,8 @@ namespace {
 // A trial may take so many times the steps of the last proof, and these besides.
 constexpr std::int64_t ProvePerTentativo = 3;
 constexpr std::int64_t PassiPerTentativo = 500;
-// All trials together, by the proof of the whole.
-constexpr std::int64_t ProveInTutto = 10;
-constexpr std::int64_t PassiInTutto = 100'000;
+// All trials together, some seconds of them: what is gained later is small.
+constexpr std::int64_t PassiInTutto = 250'000;
 // Regions that are tried unless one is so small, how exactly they are measured, and how long each
 // but the first is tried, by the proof of that.
 constexpr int Centri = 8;
@@ -67,8 +66,7 @@ class Indagine {
         ultimaProva_(prova.passi),
         necessario_(problema.slot.size() + problema.volute.size()),
         reticolo_(problema) {
-    const std::int64_t inTutto = ProveInTutto * prova.passi + PassiInTutto;
-    limiti_.passi = std::min(limiti.passi, inTutto);
+    limiti_.passi = std::min(limiti.passi, PassiInTutto);
     for (std::size_t slot = 0; slot < problema.slot.size(); ++slot)
       pesi_.push_back(slot < prova.pesi.size() ? prova.pesi[slot] : 1);
     for (std::size_t k = 0; k < necessario_.size(); ++k)

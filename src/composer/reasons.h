@@ -21,8 +21,8 @@ struct Colpevoli {
 };
 
 /// The guilty slots of a problem that Componi has proved impossible; `prova` is its answer. What is
-/// left when `limiti`, or some ten times the work of the proof, breaks off is impossible all the
-/// same. Problem, proof, seed and limit of steps decide, never the clock.
+/// left when `limiti` breaks off, or 250,000 steps, is impossible all the same. Problem, proof,
+/// seed and limit of steps decide, never the clock.
 Colpevoli TrovaColpevoli(const Problema& problema, const Riempimento& prova, const Limiti& limiti);
 
 }  // namespace telarium

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "composer/reasons.h"
 #include "laboratory/black_effects.h"
 #include "lexicon/composition.h"
 
@@ -12,9 +13,13 @@ namespace {
 // Steps of a trial: a grid that fills at all mostly does so at once, and there are many cells.
 constexpr std::int64_t PassiPerCasella = 1'500;
 constexpr std::int64_t PassiPerSlot = 5;  // of it besides, since each is to be decided
-constexpr std::int64_t PassiPerScelta = 15'000;
-// Of all trials of cells together.
-constexpr std::int64_t PassiDelleCaselle = 60'000;
+constexpr std::int64_t PassiPerScelta = 4'000;
+// Of all trials of cells of one kind together.
+constexpr std::int64_t PassiDelleCaselle = 30'000;
+// What may be spent on the reason why a cell is no remedy, which can speak against others too, and
+// for how many cells.
+constexpr std::int64_t PassiPerNucleo = 500;
+constexpr int CelleDaSpiegare = 6;
 
 // The sets of rules from the strictest on.
 constexpr std::array<std::string_view, 3> DalSevero = {"severe", "settimanali", "libere"};
@@ -36,10 +41,25 @@ std::vector<Casella> CaselleDi(const std::vector<Slot>& voci) {
   return caselle;
 }
 
+bool Attraversa(const Slot& voce, Casella casella) {
+  return voce.direzione == Orizzontale
+             ? casella.riga == voce.inizio.riga && casella.colonna >= voce.inizio.colonna &&
+                   casella.colonna < voce.inizio.colonna + voce.lunghezza
+             : casella.colonna == voce.inizio.colonna && casella.riga >= voce.inizio.riga &&
+                   casella.riga < voce.inizio.riga + voce.lunghezza;
+}
+
+// Entries that are impossible together, whatever stands in the others.
+using Nucleo = std::vector<Slot>;
+
+bool Attraversa(const Nucleo& nucleo, Casella casella) {
+  return std::ranges::any_of(nucleo, [&](const Slot& voce) { return Attraversa(voce, casella); });
+}
+
 class Tentativi {
  public:
   Tentativi(const Composizione& composizione, const SceltaComposizione& scelta,
-           const Lessico& lessico, const Copertura* copertura, const Limiti& limiti)
+            const Lessico& lessico, const Copertura* copertura, const Limiti& limiti)
       : composizione_(composizione),
         scelta_(scelta),
         lessico_(lessico),
@@ -61,13 +81,21 @@ class Tentativi {
  private:
   bool Fermo() const { return limiti_.ferma.stop_requested() || passi_ >= limiti_.passi; }
 
-  bool SiRiempie(const Problema& problema, std::int64_t passi) {
+  Limiti Entro(std::int64_t passi) const {
     Limiti limiti = limiti_;
     limiti.passi = std::min(passi, limiti_.passi - passi_);
-    if (limiti.passi <= 0 || Fermo()) return false;
-    const Riempimento prova = Componi(problema, limiti);
+    return limiti;
+  }
+
+  Riempimento Prova(const Problema& problema, std::int64_t passi) {
+    if (Fermo()) return {};
+    Riempimento prova = Componi(problema, Entro(passi));
     passi_ += prova.passi;
-    return prova.esito == Esito::Riempito;
+    return prova;
+  }
+
+  bool SiRiempie(const Problema& problema, std::int64_t passi) {
+    return Prova(problema, passi).esito == Esito::Riempito;
   }
 
   // --- What is demanded of all words ---
@@ -131,11 +159,9 @@ class Tentativi {
 
   std::vector<Rimedio> DiCasella(const std::vector<Casella>& caselle, std::size_t quanti) {
     pronto_ = VocabolarioPerVarianti(composizione_, scelta_.parole, lessico_, copertura_);
-    passiDelleCaselle_ = passi_ + PassiDelleCaselle;
     auto libere = Tentate(GenereRimedio::Libera, Date(caselle), quanti);
     // Half of the room is for blacks, as far as there are some.
     const std::size_t perNere = quanti - std::min(libere.size(), quanti / 2);
-    passiDelleCaselle_ = passi_ + PassiDelleCaselle;
     const auto nere = Tentate(GenereRimedio::Nera, DaAnnerire(caselle), perNere);
     libere.resize(std::min(libere.size(), quanti - nere.size()));
     libere.insert(libere.end(), nere.begin(), nere.end());
@@ -170,13 +196,21 @@ class Tentativi {
     return ordinate;
   }
 
+  // A cell that some impossible entries do not run through leaves them impossible.
+  bool PuoServire(Casella casella) const {
+    return std::ranges::all_of(nuclei_,
+                               [&](const Nucleo& nucleo) { return Attraversa(nucleo, casella); });
+  }
+
   std::vector<Rimedio> Tentate(GenereRimedio genere, const std::vector<Casella>& caselle,
                                std::size_t quanti) {
     const char carattere = genere == GenereRimedio::Nera ? CellaNera : CellaVuota;
+    const std::int64_t fino = passi_ + PassiDelleCaselle;
     std::vector<Rimedio> rimedi;
     for (const Casella casella : caselle) {
-      if (rimedi.size() == quanti || Fermo() || passi_ >= passiDelleCaselle_) break;
-      if (SiRiempieCon(casella, carattere)) rimedi.push_back({genere, casella});
+      if (rimedi.size() == quanti || Fermo() || passi_ >= fino) break;
+      if (PuoServire(casella) && SiRiempieCon(casella, carattere))
+        rimedi.push_back({genere, casella});
     }
     return rimedi;
   }
@@ -188,7 +222,30 @@ class Tentativi {
     const auto altra =
         PreparaComposizione(cruciverba, scelta_, lessico_, copertura_, contrasto, &pronto_);
     if (!altra || !altra->dueDiTroppo.empty()) return false;
-    return SiRiempie(altra->problema, PassiPerCasella + PassiPerSlot * altra->problema.Slot());
+    const Riempimento prova =
+        Prova(altra->problema, PassiPerCasella + PassiPerSlot * altra->problema.Slot());
+    if (prova.esito == Esito::Impossibile) ImparaNucleo(*altra, prova, casella);
+    return prova.esito == Esito::Riempito;
+  }
+
+  // The reason why a grid with another cell is impossible is one of this grid too, if all of it is
+  // there.
+  void ImparaNucleo(const Composizione& altra, const Riempimento& prova, Casella casella) {
+    const Problema& problema = composizione_.problema;
+    if (altra.problema.alMassimo != problema.alMassimo ||
+        altra.problema.altrove != problema.altrove || spiegate_ == CelleDaSpiegare || Fermo())
+      return;
+    ++spiegate_;
+    const Colpevoli colpevoli = TrovaColpevoli(altra.problema, prova, Entro(PassiPerNucleo));
+    passi_ += colpevoli.passi;
+    Nucleo nucleo;
+    for (const int slot : colpevoli.slot)
+      nucleo.push_back(altra.slot[static_cast<std::size_t>(slot)]);
+    const bool tuttoQui = std::ranges::all_of(nucleo, [&](const Slot& voce) {
+      return std::ranges::find(composizione_.slot, voce) != composizione_.slot.end();
+    });
+    if (tuttoQui && colpevoli.volute.empty() && !Attraversa(nucleo, casella))
+      nuclei_.push_back(std::move(nucleo));
   }
 
   const Composizione& composizione_;
@@ -198,7 +255,8 @@ class Tentativi {
   const Limiti& limiti_;
   VocabolarioPronto pronto_;
   std::int64_t passi_ = 0;
-  std::int64_t passiDelleCaselle_ = 0;  // passi_ at which no more cells are tried
+  std::vector<Nucleo> nuclei_;  // beside the guilty set
+  int spiegate_ = 0;            // cells for which such a one was looked for
 };
 
 }  // namespace
