@@ -10,16 +10,16 @@
 namespace telarium {
 namespace {
 
-// Bits of the marks that a vocabulary keeps of a word.
-constexpr std::uint8_t SegnoDefinita = 1;
-constexpr std::uint8_t SegnoPropria = 2;
-
 constexpr std::size_t BloccoDi(int numero) {
   return static_cast<std::size_t>(numero / ParolePerBlocco);
 }
 
 constexpr Blocco BitDi(int numero) {
   return Blocco{1} << (numero % ParolePerBlocco);
+}
+
+bool Contiene(const std::vector<Blocco>& insieme, int numero) {
+  return (insieme[BloccoDi(numero)] & BitDi(numero)) != 0;
 }
 
 void Controlla(std::span<const ParolaDaUsare> parole, int lunghezza) {
@@ -106,10 +106,13 @@ void Vocabolario::Fascia::Riempi(int lunghezza, std::span<const ParolaDaUsare> p
   lettere.reserve(ordine.size() * quanteLettere);
   pregi.reserve(ordine.size());
   punteggi.reserve(ordine.size());
-  segni.reserve(ordine.size());
   genie.reserve(ordine.size());
+  const auto quantiBlocchi = static_cast<std::size_t>(blocchi);
+  definite.assign(quantiBlocchi, 0);
+  proprie.assign(quantiBlocchi, 0);
+  estremi.assign(quantiBlocchi, {});
   for (auto& insieme : perGenia)
-    insieme.assign(static_cast<std::size_t>(blocchi), 0);
+    insieme.assign(quantiBlocchi, 0);
   for (const std::uint32_t quale : ordine)
     Aggiungi(parole[quale]);
   SegnaInsiemi(quanteLettere);
@@ -120,8 +123,11 @@ void Vocabolario::Fascia::Aggiungi(const ParolaDaUsare& parola) {
   lettere.insert(lettere.end(), parola.lettere.begin(), parola.lettere.end());
   pregi.push_back(static_cast<std::uint16_t>(parola.pregio));
   punteggi.push_back(static_cast<std::uint8_t>(parola.punteggio));
-  segni.push_back(static_cast<std::uint8_t>((parola.definita ? SegnoDefinita : 0) |
-                                            (parola.propria ? SegnoPropria : 0)));
+  if (parola.definita) definite[BloccoDi(numero)] |= BitDi(numero);
+  if (parola.propria) proprie[BloccoDi(numero)] |= BitDi(numero);
+  Estremi& estremo = estremi[BloccoDi(numero)];
+  estremo.minimo = std::min(estremo.minimo, punteggi.back());
+  estremo.massimo = std::max(estremo.massimo, punteggi.back());
   const Genie limitate = parola.propria ? Genie{0} : parola.genie;
   genie.push_back(limitate);
   for (std::size_t genia = 0; limitate >> genia != 0; ++genia) {
@@ -175,11 +181,11 @@ int Vocabolario::Punteggio(NumeroParola parola) const {
 }
 
 bool Vocabolario::Definita(NumeroParola parola) const {
-  return (Di(parola.lunghezza).segni[static_cast<std::size_t>(parola.numero)] & SegnoDefinita) != 0;
+  return Contiene(Di(parola.lunghezza).definite, parola.numero);
 }
 
 bool Vocabolario::Propria(NumeroParola parola) const {
-  return (Di(parola.lunghezza).segni[static_cast<std::size_t>(parola.numero)] & SegnoPropria) != 0;
+  return Contiene(Di(parola.lunghezza).proprie, parola.numero);
 }
 
 Genie Vocabolario::GenieDi(NumeroParola parola) const {
@@ -200,14 +206,22 @@ std::vector<NumeroParola> Vocabolario::Parenti(std::string_view parola) const {
 std::vector<Blocco> Vocabolario::Ammesse(int lunghezza, int minimo, bool definite) const {
   const Fascia& fascia = Di(lunghezza);
   std::vector<Blocco> ammesse(static_cast<std::size_t>(fascia.blocchi), 0);
-  for (int numero = 0; numero < fascia.quante; ++numero) {
-    const auto parola = static_cast<std::size_t>(numero);
-    const bool propria = (fascia.segni[parola] & SegnoPropria) != 0;
-    const bool definita = (fascia.segni[parola] & SegnoDefinita) != 0;
-    if (propria || (fascia.punteggi[parola] >= minimo && (definita || !definite)))
-      ammesse[BloccoDi(numero)] |= BitDi(numero);
+  for (std::size_t k = 0; k < ammesse.size(); ++k) {
+    const Blocco possibili = definite ? fascia.definite[k] : ~Blocco{0};
+    ammesse[k] = (fascia.DalPunteggio(k, minimo) & possibili) | fascia.proprie[k];
   }
   return ammesse;
+}
+
+Blocco Vocabolario::Fascia::DalPunteggio(std::size_t blocco, int minimo) const {
+  if (estremi[blocco].massimo < minimo) return 0;
+  const std::size_t prima = blocco * ParolePerBlocco;
+  const std::size_t parole = std::min<std::size_t>(ParolePerBlocco, punteggi.size() - prima);
+  if (estremi[blocco].minimo >= minimo) return ~Blocco{0} >> (ParolePerBlocco - parole);
+  Blocco bastano = 0;
+  for (std::size_t k = 0; k < parole; ++k)
+    bastano |= Blocco{punteggi[prima + k] >= minimo} << k;
+  return bastano;
 }
 
 std::span<const Blocco> Vocabolario::DellaGenia(int lunghezza, Genia genia) const {

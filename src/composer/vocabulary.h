@@ -111,19 +111,27 @@ class Vocabolario {
   std::span<const Blocco> DellaGenia(int lunghezza, Genia genia) const;
 
  private:
+  // Words that stand near each other have nearly the same score.
+  struct Estremi {
+    std::uint8_t minimo = 255;
+    std::uint8_t massimo = 0;
+  };
   struct Fascia {
     void Riempi(int lunghezza, std::span<const ParolaDaUsare> parole,
                 std::span<const std::uint32_t> ordine);
     void Aggiungi(const ParolaDaUsare& parola);
     void SegnaInsiemi(std::size_t lunghezza);
+    Blocco DalPunteggio(std::size_t blocco, int minimo) const;
 
     int quante = 0;
     int blocchi = 0;
     std::vector<char> lettere;
     std::vector<std::uint16_t> pregi;
     std::vector<std::uint8_t> punteggi;
-    std::vector<std::uint8_t> segni;  // clue, own
     std::vector<Genie> genie;
+    std::vector<Blocco> definite;
+    std::vector<Blocco> proprie;
+    std::vector<Estremi> estremi;  // of the scores, by block
     std::vector<Blocco> insiemi;
     std::array<std::vector<Blocco>, NumGenie> perGenia;
   };
