@@ -33,6 +33,13 @@ inline void UseEntry(const FileLessico& lexicon, NumeroVoce number, int length) 
   for (const Lettura& reading : entry.letture)
     bytes += reading.lemma.size() + NomiDelleForme(reading, entry.grafia).size();
   Verifica(bytes < std::size_t{1} << 30, "texts past the file");
+  std::vector<LetturaNumerata> readings;
+  lexicon.LeggiLetture(number, readings);
+  Verifica(word.empty() || readings.size() == entry.letture.size(), "other readings by numbers");
+  for (const LetturaNumerata& reading : readings) {
+    lexicon.CercaLemma(lexicon.Lemma(reading.lemma));
+    lexicon.FormeDi(reading.lemma);
+  }
   if (const auto found = lexicon.Cerca(word)) {
     Verifica(lexicon.Parola(*found) == word, "another word was found");
   }
