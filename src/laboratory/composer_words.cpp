@@ -268,14 +268,30 @@ std::vector<int> InOrdine(const Lunghezze& lunghezze, const Lessico& lessico) {
   return ordine;
 }
 
+// Two threads take one length after the other, each as soon as it is done with the one before.
+void RaccogliTutte(const Fondo& fondo, const std::vector<int>& lunghezze,
+                   ComposizioneVocabolario& composizione, Parentele* parentele) {
+  std::atomic<std::size_t> prossima = 0;
+  const auto lavora = [&] {
+    Raccolta raccolta(fondo);
+    for (std::size_t i = prossima++; i < lunghezze.size(); i = prossima++) {
+      raccolta.Raccogli(lunghezze[i]);
+      raccolta.Metti(composizione, parentele);
+    }
+  };
+  const std::jthread altro(lavora);
+  lavora();
+}
+
 }  // namespace
 
 int PregioDi(int punteggio, bool definita, UsoDefinizioni uso) {
   constexpr int PerPunto = MaxPregio / MaxPunteggio;
   if (uso != UsoDefinizioni::Preferite) return PerPunto * punteggio;
-  constexpr int PerPuntoConDefinizione = 4;
-  const int perPunteggio = PerPuntoConDefinizione * punteggio;
-  return definita ? MaxPregio - PerPuntoConDefinizione * MaxPunteggio + perPunteggio : perPunteggio;
+  // Less than half, so that the worst word with a clue comes before the best one without.
+  constexpr int PerPuntoFraDue = 4;
+  return definita ? MaxPregio - PerPuntoFraDue * (MaxPunteggio - punteggio)
+                  : PerPuntoFraDue * punteggio;
 }
 
 ParoleDiCruciverba ParoleDi(const Laboratorio& laboratorio) {
@@ -287,24 +303,11 @@ std::shared_ptr<const Vocabolario> VocabolarioDi(const SceltaParole& scelta, con
                                                  const Lunghezze& lunghezze,
                                                  const ParoleDiCruciverba& delCruciverba) {
   const Fondo fondo(scelta, lessico, copertura, delCruciverba);
-  const std::vector<int> ordine = InOrdine(lunghezze, lessico);
   std::shared_ptr<Parentele> parentele;
-  if (!scelta.ammetteForme) {
+  if (!scelta.ammetteForme)
     parentele = std::make_shared<Parentele>(lessico, scelta.regole.due == DueLettere::Tutte);
-  }
   ComposizioneVocabolario composizione;
-  std::atomic<std::size_t> prossima = 0;
-  const auto lavora = [&] {
-    Raccolta raccolta(fondo);
-    for (std::size_t i = prossima++; i < ordine.size(); i = prossima++) {
-      raccolta.Raccogli(ordine[i]);
-      raccolta.Metti(composizione, parentele.get());
-    }
-  };
-  {
-    const std::jthread altro(lavora);
-    lavora();
-  }
+  RaccogliTutte(fondo, InOrdine(lunghezze, lessico), composizione, parentele.get());
   Vocabolario::ParentelaPerNumeri parenti;
   if (parentele) parenti = [parentele](std::string_view parola) { return parentele->Di(parola); };
   return std::make_shared<const Vocabolario>(std::move(composizione).Chiudi(std::move(parenti)));
