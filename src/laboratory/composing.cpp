@@ -4,6 +4,7 @@
 #include <tuple>
 #include <utility>
 
+#include "composer/improvement.h"
 #include "composer/reasons.h"
 #include "laboratory/checks.h"
 #include "laboratory/figures.h"
@@ -32,7 +33,9 @@ class Lavoro {
       return std::move(risultato_);
     }
     const Riempimento trovato = Cerca();
-    if (trovato.esito == Esito::Impossibile) {
+    if (trovato.esito == Esito::Riempito) {
+      MiglioraRiempimento(composizione_.problema);
+    } else if (trovato.esito == Esito::Impossibile) {
       Incolpa(trovato);
       CercaRimedi();
     }
@@ -61,6 +64,18 @@ class Lavoro {
     risultato_.lettere = trovato.lettere;
     risultato_.passi += trovato.passi;
     return trovato;
+  }
+
+  void MiglioraRiempimento(const Problema& problema) {
+    if (richiesta_.finestre == 0) return;
+    Segui(FaseComposizione::Miglioramento, 0, risultato_.lettere);
+    Riempimento migliore = Migliora(problema, risultato_.lettere, richiesta_.finestre, Resto(),
+                                    [this](std::int64_t finestre, const std::string& lettere) {
+                                      Segui(FaseComposizione::Miglioramento, finestre, lettere);
+                                    });
+    risultato_.lettere = std::move(migliore.lettere);
+    risultato_.passi += migliore.passi;
+    risultato_.interrotta = Fermato() && migliore.esito == Esito::Tempo;
   }
 
   void Incolpa(const Riempimento& prova) {

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <charconv>
+#include <limits>
 #include <random>
 #include <thread>
 
@@ -23,6 +24,8 @@ namespace {
 using Istante = Sorveglianza::Istante;
 
 constexpr Opzione OpzioneSeme = {"--seme", "N", "il seme del caso (estratto)"};
+constexpr Opzione OpzioneOttimizza = {"--ottimizza", "N",
+                                      "quanto migliorare: migliaia di ritocchi (5)"};
 constexpr Opzione OpzionePassi = {"--passi", "N", "rinuncia dopo N passi (100000000)"};
 constexpr Opzione OpzioneSecondi = {"--secondi", "S", "rinuncia dopo S secondi (20)"};
 constexpr Opzione OpzioneLavoratori = {"--lavoratori", "N", "quanti lavorano insieme (i nuclei)"};
@@ -43,6 +46,16 @@ int LeggiLavoratori(const Argomenti& argomenti) {
   const std::int64_t nuclei = std::max(1u, std::thread::hardware_concurrency());
   return static_cast<int>(
       std::min(argomenti.Numero(OpzioneLavoratori.nome, 1, nuclei), MaxLavoratori));
+}
+
+RichiestaComposizione LeggiRichiesta(const Argomenti& argomenti) {
+  constexpr std::int64_t migliaia = 1000;
+  const std::int64_t finestre =
+      std::min(
+          argomenti.Numero(OpzioneOttimizza.nome, 0, RichiestaComposizione().finestre / migliaia),
+          std::numeric_limits<std::int64_t>::max() / migliaia) *
+      migliaia;
+  return {.finestre = finestre};
 }
 
 std::string ConMillesimi(std::chrono::nanoseconds durata) {
@@ -98,7 +111,8 @@ void StampaRimedio(const Rimedio& rimedio) {
 class Esecuzione {
  public:
   Esecuzione(const Argomenti& argomenti, const UtenteConsole& utente)
-      : limiti_{.seme = LeggiSeme(argomenti),
+      : richiesta_(LeggiRichiesta(argomenti)),
+        limiti_{.seme = LeggiSeme(argomenti),
                 .passi = argomenti.Numero(OpzionePassi.nome, 0, Limiti().passi),
                 .lavoratori = LeggiLavoratori(argomenti)},
         uscita_(argomenti.liberi[1]),
@@ -124,7 +138,8 @@ class Esecuzione {
   }
 
   Stato Componi() {
-    const RisultatoComposizione risultato = ComponiCruciverba(*composizione_, Fonti(), {}, limiti_);
+    const RisultatoComposizione risultato =
+        ComponiCruciverba(*composizione_, Fonti(), richiesta_, limiti_);
     const Cruciverba composto = ConLettere(*composizione_, risultato.lettere);
     if (risultato.esito == Esito::Riempito || parziale_) {
       PrendiCruciverba(composto);
@@ -189,6 +204,7 @@ class Esecuzione {
   }
 
   const Istante inizio_ = std::chrono::steady_clock::now();
+  const RichiestaComposizione richiesta_;
   Limiti limiti_;
   const std::string uscita_;
   const bool parziale_;
@@ -208,8 +224,8 @@ Stato ComponiFile(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
 
 std::vector<Opzione> OpzioniComponi() {
   std::vector<Opzione> opzioni = OpzioniDomanda();
-  opzioni.insert(opzioni.end(),
-                 {OpzioneSeme, OpzionePassi, OpzioneSecondi, OpzioneLavoratori, OpzioneParziale});
+  opzioni.insert(opzioni.end(), {OpzioneSeme, OpzioneOttimizza, OpzionePassi, OpzioneSecondi,
+                                 OpzioneLavoratori, OpzioneParziale});
   return ConOpzioniParole(std::move(opzioni));
 }
 

@@ -113,6 +113,8 @@ TEST_F(TelarCompose, ControlCEndsASearchAndKeepsAFill) {
     const char* result;
   } calls[] = {
       {"componi places old --lessico triples --secondi 50", 4, "esito\ttempo\n"},
+      {"componi square out --lessico words --secondi 50 --ottimizza 999999999", 0,
+       "esito\triempito\n"},
   };
   for (const auto& [line, status, first] : calls) {
     fs::remove_all(InFolder("cache"));
