@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bitset>
+#include <utility>
 #include <vector>
 
 #include "composer/search.h"
@@ -31,6 +32,11 @@ class RicercaSoglia {
     soglia_.riempimento = Componi(problema_, Resto(limiti_.passi));
     passi_ = soglia_.riempimento.passi;
     if (soglia_.riempimento.esito != Esito::Riempito) return std::move(soglia_);
+    return TrovaDa(std::move(soglia_.riempimento));
+  }
+
+  Soglia TrovaDa(Riempimento primo) {
+    soglia_.riempimento = std::move(primo);
     RaccogliLivelli();
     soglia_.fino = LivelloDi(soglia_.riempimento.lettere);
     primaPossibile_ = PrimaSopra(soglia_.fino);
@@ -151,6 +157,10 @@ class RicercaSoglia {
 
 Soglia TrovaSoglia(const Problema& problema, const Limiti& limiti) {
   return RicercaSoglia(problema, limiti).Trova();
+}
+
+Soglia TrovaSoglia(const Problema& problema, Riempimento primo, const Limiti& limiti) {
+  return RicercaSoglia(problema, limiti).TrovaDa(std::move(primo));
 }
 
 Problema ConMinimo(Problema problema, int minimo) {

@@ -21,6 +21,8 @@ struct Soglia {
 
 /// Finds the floor of a problem: each slot's own least score holds besides.
 Soglia TrovaSoglia(const Problema& problema, const Limiti& limiti);
+/// The same from a fill that Componi has found, whose steps do not count.
+Soglia TrovaSoglia(const Problema& problema, Riempimento primo, const Limiti& limiti);
 
 /// The same problem with a least score for all slots.
 Problema ConMinimo(Problema problema, int minimo);

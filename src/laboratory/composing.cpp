@@ -4,6 +4,7 @@
 #include <tuple>
 #include <utility>
 
+#include "composer/floor.h"
 #include "composer/improvement.h"
 #include "composer/reasons.h"
 #include "laboratory/checks.h"
@@ -34,7 +35,7 @@ class Lavoro {
     }
     const Riempimento trovato = Cerca();
     if (trovato.esito == Esito::Riempito) {
-      MiglioraRiempimento(composizione_.problema);
+      MiglioraRiempimento(richiesta_.soglia ? AllaSoglia(trovato) : composizione_.problema);
     } else if (trovato.esito == Esito::Impossibile) {
       Incolpa(trovato);
       CercaRimedi();
@@ -64,6 +65,18 @@ class Lavoro {
     risultato_.lettere = trovato.lettere;
     risultato_.passi += trovato.passi;
     return trovato;
+  }
+
+  // The problem with the floor that was found as its least score.
+  Problema AllaSoglia(const Riempimento& trovato) {
+    Segui(FaseComposizione::Soglia, 0, risultato_.lettere);
+    Soglia soglia = TrovaSoglia(composizione_.problema, trovato, Resto());
+    risultato_.passi += soglia.riempimento.passi;
+    risultato_.lettere = std::move(soglia.riempimento.lettere);
+    risultato_.soglia = {.fino = soglia.fino, .oltre = soglia.oltre};
+    // No word has a higher score.
+    if (soglia.provata && !soglia.oltre) risultato_.soglia->oltre = soglia.fino + 1;
+    return ConMinimo(composizione_.problema, soglia.fino);
   }
 
   void MiglioraRiempimento(const Problema& problema) {

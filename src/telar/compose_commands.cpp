@@ -26,6 +26,8 @@ using Istante = Sorveglianza::Istante;
 constexpr Opzione OpzioneSeme = {"--seme", "N", "il seme del caso (estratto)"};
 constexpr Opzione OpzioneOttimizza = {"--ottimizza", "N",
                                       "quanto migliorare: migliaia di ritocchi (5)"};
+constexpr Opzione OpzioneOttimo = {"--ottimo", "",
+                                   "prima il più alto punteggio minimo possibile, con la prova"};
 constexpr Opzione OpzionePassi = {"--passi", "N", "rinuncia dopo N passi (100000000)"};
 constexpr Opzione OpzioneSecondi = {"--secondi", "S", "rinuncia dopo S secondi (20)"};
 constexpr Opzione OpzioneLavoratori = {"--lavoratori", "N", "quanti lavorano insieme (i nuclei)"};
@@ -55,7 +57,7 @@ RichiestaComposizione LeggiRichiesta(const Argomenti& argomenti) {
           argomenti.Numero(OpzioneOttimizza.nome, 0, RichiestaComposizione().finestre / migliaia),
           std::numeric_limits<std::int64_t>::max() / migliaia) *
       migliaia;
-  return {.finestre = finestre};
+  return {.finestre = finestre, .soglia = argomenti.Ha(OpzioneOttimo.nome)};
 }
 
 std::string ConMillesimi(std::chrono::nanoseconds durata) {
@@ -224,8 +226,8 @@ Stato ComponiFile(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
 
 std::vector<Opzione> OpzioniComponi() {
   std::vector<Opzione> opzioni = OpzioniDomanda();
-  opzioni.insert(opzioni.end(), {OpzioneSeme, OpzioneOttimizza, OpzionePassi, OpzioneSecondi,
-                                 OpzioneLavoratori, OpzioneParziale});
+  opzioni.insert(opzioni.end(), {OpzioneSeme, OpzioneOttimizza, OpzioneOttimo, OpzionePassi,
+                                 OpzioneSecondi, OpzioneLavoratori, OpzioneParziale});
   return ConOpzioniParole(std::move(opzioni));
 }
 
