@@ -1,5 +1,6 @@
 #include "lexicon/lexicon_file.h"
 
+#include <algorithm>
 #include <cstring>
 #include <sys/stat.h>
 
@@ -105,6 +106,14 @@ TEST_F(LexiconFileTest, EntriesComeBackAsTheSourceHasThem) {
   EXPECT_EQ(lexicon->Famiglia(3), (std::vector<NumeroVoce>{3, 4}));  // AMAI, AMARE
   EXPECT_EQ(lexicon->Famiglia(2), (std::vector<NumeroVoce>{2}));
   EXPECT_EQ(lexicon->Famiglia(7), std::vector<NumeroVoce>());
+  const auto lemma = lexicon->CercaLemma("amare");
+  ASSERT_TRUE(lemma);
+  EXPECT_EQ(lexicon->Lemma(*lemma), "amare");
+  EXPECT_TRUE(std::ranges::equal(lexicon->FormeDi(*lemma), std::vector<NumeroVoce>{3, 4}));
+  EXPECT_FALSE(lexicon->CercaLemma("amar"));
+  MemoriaDiColonne memory;
+  EXPECT_EQ(lexicon->Colonne(4, memory).segni.front(), BitSoloFinita);  // AMAI
+  EXPECT_EQ(lexicon->Colonne(5, memory).lettere, "AMARECITTA");
 }
 
 TEST_F(LexiconFileTest, EntriesOfEveryLengthAndSetsOfMoreThanOneWordFit) {
