@@ -30,7 +30,7 @@ constexpr std::int64_t PassiInTutto = 250'000;
 // Regions that are tried unless one is so small, how exactly they are measured, and how long each
 // but the first is tried, by the proof of that.
 constexpr int Centri = 8;
-constexpr std::size_t RegionePiccola = 10;
+constexpr std::size_t RegionePiccola = 16;
 constexpr std::size_t GranaDiRegione = 8;
 constexpr std::int64_t ProvePerAltraRegione = 1;
 // A region is narrowed anew as long as it loses one slot in so many.

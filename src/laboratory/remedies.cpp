@@ -13,7 +13,8 @@ namespace {
 // Steps of a trial: a grid that fills at all mostly does so at once, and there are many cells.
 constexpr std::int64_t PassiPerCasella = 1'500;
 constexpr std::int64_t PassiPerSlot = 5;  // of it besides, since each is to be decided
-constexpr std::int64_t PassiPerScelta = 4'000;
+constexpr std::int64_t PassiPerScelta = 10'000;
+constexpr std::int64_t PassiPerLivello = 3'000;  // where it is known that a lower one will do
 // Of all trials of cells of one kind together.
 constexpr std::int64_t PassiDelleCaselle = 30'000;
 // What may be spent on the reason why a cell is no remedy, which can speak against others too, and
@@ -108,11 +109,11 @@ class Tentativi {
     return altra && altra->dueDiTroppo.empty() && SiRiempie(altra->problema, PassiPerScelta);
   }
 
-  bool SiRiempieAlLivello(int livello) {
+  bool SiRiempieAlLivello(int livello, std::int64_t passi) {
     Problema problema = composizione_.problema;
     for (SlotDaRiempire& slot : problema.slot)
       slot.minimo = std::min(slot.minimo, livello);
-    return composizione_.dueDiTroppo.empty() && SiRiempie(problema, PassiPerScelta);
+    return composizione_.dueDiTroppo.empty() && SiRiempie(problema, passi);
   }
 
   // The lower the level the more words there are, so that the highest one is halved for.
@@ -121,10 +122,10 @@ class Tentativi {
     for (const SlotDaRiempire& slot : composizione_.problema.slot)
       alto = std::max(alto, slot.minimo);
     int basso = 0;
-    if (alto == 0 || !SiRiempieAlLivello(basso)) return;
+    if (alto == 0 || !SiRiempieAlLivello(basso, PassiPerScelta)) return;
     while (alto - basso > 1) {
       const int mezzo = basso + (alto - basso) / 2;
-      (SiRiempieAlLivello(mezzo) ? basso : alto) = mezzo;
+      (SiRiempieAlLivello(mezzo, PassiPerLivello) ? basso : alto) = mezzo;
     }
     rimedi.push_back({.genere = GenereRimedio::Livello, .livello = basso});
   }
@@ -221,7 +222,7 @@ class Tentativi {
     std::string contrasto;
     const auto altra =
         PreparaComposizione(cruciverba, scelta_, lessico_, copertura_, contrasto, &pronto_);
-    if (!altra || !altra->dueDiTroppo.empty()) return false;
+    if (!altra || !altra->dueDiTroppo.empty() || altra->griglia.Parole().empty()) return false;
     const Riempimento prova =
         Prova(altra->problema, PassiPerCasella + PassiPerSlot * altra->problema.Slot());
     if (prova.esito == Esito::Impossibile) ImparaNucleo(*altra, prova, casella);
