@@ -59,10 +59,28 @@ class Lavoro {
 
   Riempimento Cerca() {
     Segui(FaseComposizione::Ricerca, 0, risultato_.lettere);
-    Riempimento trovato = Componi(composizione_.problema, Resto());
+    Riempimento trovato = CercaConDefinizioni();
+    if (trovato.esito != Esito::Riempito) {
+      trovato = Componi(composizione_.problema, Resto());
+      risultato_.passi += trovato.passi;
+    }
     risultato_.primo = std::chrono::steady_clock::now();
     risultato_.esito = trovato.esito;
     risultato_.lettere = trovato.lettere;
+    return trovato;
+  }
+
+  // Where clues are preferred a fill of words that all have one is looked for first, but not for
+  // long: most grids have one.
+  Riempimento CercaConDefinizioni() {
+    constexpr std::int64_t bastano = 3'000;  // steps
+    const bool preferite = fonti_.scelta.parole.definizioni == UsoDefinizioni::Preferite;
+    if (!preferite || !fonti_.copertura) return {};
+    Problema problema = composizione_.problema;
+    problema.soloDefinite = true;
+    Limiti limiti = Resto();
+    limiti.passi = std::min(limiti.passi, bastano);
+    Riempimento trovato = Componi(problema, limiti);
     risultato_.passi += trovato.passi;
     return trovato;
   }
