@@ -115,7 +115,7 @@ class Crossword:
     def __init__(self, rows):
         self.rows = rows
         self.clues = {}
-        self.own, self.banned = [], []
+        self.own, self.banned, self.locked = [], [], []
 
     def words(self):
         return [(c, r, d, "".join(self.rows[y][x] for y, x in cells)) for c, r, d, cells in runs(self.rows)]
@@ -136,7 +136,7 @@ class Crossword:
             lines.append(b"%3d%3d%d-" % (c, r, "OV".index(d) + 1) + clue.encode("cp1252"))
         lines.append(b"[Colori caselle]")
         lines += [b" 0 " * height] * width
-        section = [(b"proprie", self.own), (b"vietate", self.banned)]
+        section = [(b"proprie", self.own), (b"vietate", self.banned), (b"bloccate", self.locked)]
         if any(words for _, words in section):
             lines.append(b"[Laboratorio]")
             lines += [name + b" = " + " ".join(words).encode("cp1252") for name, words in section if words]
