@@ -1,6 +1,7 @@
 #include "composer/floor.h"
 
 #include <algorithm>
+#include <bit>
 #include <bitset>
 #include <utility>
 #include <vector>
@@ -12,16 +13,23 @@
 // fills and from which it does not, and each answer moves an end of the stretch where it lies: a
 // fill raises the lower end to the lowest score that it has, which may be far above what it was
 // asked for; a proof lowers the upper one. Consistency alone lowers that a good deal at once.
-// Levels near the turning point are hard from both sides: so all are tried with few steps first,
-// those that stay open with more.
+// Levels near the turning point are hard from both sides, and how long one takes hangs on chance:
+// so each trial has a seed of its own, and those that stay open get few steps mostly, sometimes
+// more.
 //
 // Invariant: `riempimento` keeps the level `fino`; every level from `primaImpossibile_` on is
 // proved impossible; what is between is open.
 namespace telarium {
 namespace {
 
-constexpr std::int64_t PrimiPassi = 500;  // for a level
-constexpr std::int64_t CrescitaPassi = 4;
+constexpr std::int64_t PrimiPassi = 2400;  // for a level
+
+// 1 1 2 1 1 2 4 1 1 2 1 1 2 4 8 ... from the first one on (Luby, Sinclair and Zuckerman, 1993).
+std::int64_t Luby(std::uint64_t quale) {
+  while (!std::has_single_bit(quale + 1))
+    quale -= std::bit_floor(quale + 1) - 1;
+  return static_cast<std::int64_t>((quale + 1) / 2);
+}
 
 class RicercaSoglia {
  public:
@@ -42,8 +50,8 @@ class RicercaSoglia {
     primaPossibile_ = PrimaSopra(soglia_.fino);
     primaImpossibile_ = Livelli();
     ScartaPerCoerenza();
-    for (std::int64_t passi = PrimiPassi; Aperta() && !Finita(); passi *= CrescitaPassi)
-      Stringi(passi);
+    for (std::uint64_t giro = 1; Aperta() && !Finita(); ++giro)
+      Stringi(PrimiPassi * Luby(giro));
     Concludi();
     return std::move(soglia_);
   }
@@ -125,7 +133,9 @@ class RicercaSoglia {
   }
 
   Esito Prova(int livello, std::int64_t passi) {
-    Riempimento risposta = Componi(ConMinimo(problema_, livelli_[S(livello)]), Resto(passi));
+    Limiti resto = Resto(passi);
+    resto.seme += static_cast<std::uint64_t>(++prove_);
+    Riempimento risposta = Componi(ConMinimo(problema_, livelli_[S(livello)]), resto);
     passi_ += risposta.passi;
     const Esito esito = risposta.esito;
     if (esito == Esito::Impossibile) primaImpossibile_ = std::min(primaImpossibile_, livello);
@@ -151,6 +161,7 @@ class RicercaSoglia {
   int primaPossibile_ = 0;  // by number of livelli_: the lowest one that is open
   int primaImpossibile_ = 0;
   std::int64_t passi_ = 0;
+  int prove_ = 0;
 };
 
 }  // namespace
