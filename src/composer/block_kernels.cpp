@@ -74,4 +74,20 @@ std::size_t PrimoComune(const Blocco* uno, const Blocco* altro, std::size_t da,
   return da;
 }
 
+TELARIUM_PIU_VERSIONI
+void UnisciLettere(const char* lettere, std::span<const std::int32_t> elenco, std::size_t lunghezza,
+                   Lettere* unione) {
+  // A register of places at once; what is read behind the end of a word is left out.
+  constexpr std::size_t posti = Vocabolario::Margine;
+  for (std::size_t da = 0; da < lunghezza; da += posti) {
+    Lettere parte[posti] = {};
+    for (const std::int32_t numero : elenco) {
+      const char* parola = lettere + static_cast<std::size_t>(numero) * lunghezza + da;
+      for (std::size_t posto = 0; posto < posti; ++posto)
+        parte[posto] |= Lettere{1} << (static_cast<unsigned>(parola[posto] - 'A') % 32);
+    }
+    std::copy_n(parte, std::min(posti, lunghezza - da), unione + da);
+  }
+}
+
 }  // namespace telarium::nuclei

@@ -25,4 +25,9 @@ int ContaComuni(const Blocco* uno, const Blocco* altro, std::size_t blocchi);
 std::size_t PrimoComune(const Blocco* uno, const Blocco* altro, std::size_t da,
                         std::size_t blocchi);
 
+/// The letters that listed words have at each place, into `unione`; `lettere` are those of all
+/// words of the length, as a vocabulary has them.
+void UnisciLettere(const char* lettere, std::span<const std::int32_t> elenco, std::size_t lunghezza,
+                   Lettere* unione);
+
 }  // namespace telarium::nuclei

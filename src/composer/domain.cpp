@@ -72,14 +72,9 @@ void ContaLettere(const Vocabolario& vocabolario, int lunghezza, const Dominio& 
 
 void UnisciLettere(const Vocabolario& vocabolario, int lunghezza, const Dominio& dominio,
                    std::span<Lettere> unione) {
-  const char* lettere = vocabolario.LettereDi(lunghezza);
-  const auto posti = static_cast<std::size_t>(lunghezza);
-  std::fill_n(unione.begin(), posti, 0);
-  for (int k = 0; k < dominio.conta; ++k) {
-    const char* parola = LettereDi(lettere, dominio.elenco[k], lunghezza);
-    for (std::size_t posto = 0; posto < posti; ++posto)
-      unione[posto] |= SolaLettera(parola[posto]);
-  }
+  nuclei::UnisciLettere(vocabolario.LettereDi(lunghezza),
+                        {dominio.elenco, static_cast<std::size_t>(dominio.conta)},
+                        static_cast<std::size_t>(lunghezza), unione.data());
 }
 
 void Revisione::Comincia(int lunghezza, const Dominio& dominio, std::span<const Cambio> cambi) {

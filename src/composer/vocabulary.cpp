@@ -103,7 +103,7 @@ void Vocabolario::Fascia::Riempi(int lunghezza, std::span<const ParolaDaUsare> p
   quante = static_cast<int>(ordine.size());
   blocchi = (quante + ParolePerBlocco - 1) / ParolePerBlocco;
   const auto quanteLettere = static_cast<std::size_t>(lunghezza);
-  lettere.reserve(ordine.size() * quanteLettere);
+  lettere.reserve(ordine.size() * quanteLettere + Margine);
   pregi.reserve(ordine.size());
   punteggi.reserve(ordine.size());
   genie.reserve(ordine.size());
@@ -116,6 +116,7 @@ void Vocabolario::Fascia::Riempi(int lunghezza, std::span<const ParolaDaUsare> p
   for (const std::uint32_t quale : ordine)
     Aggiungi(parole[quale]);
   SegnaInsiemi(quanteLettere);
+  lettere.resize(lettere.size() + Margine);
 }
 
 void Vocabolario::Fascia::Aggiungi(const ParolaDaUsare& parola) {

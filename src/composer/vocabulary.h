@@ -100,8 +100,10 @@ class Vocabolario {
     return fascia.insiemi.data() +
            static_cast<std::size_t>((posto * LettereAlfabeto + lettera) * fascia.blocchi);
   }
-  /// The letters of the words of a length, one word behind the other.
+  /// The letters of the words of a length, one word behind the other; `Margine` more bytes may be
+  /// read.
   const char* LettereDi(int lunghezza) const { return Di(lunghezza).lettere.data(); }
+  static constexpr std::size_t Margine = 8;
   const std::uint16_t* Pregi(int lunghezza) const { return Di(lunghezza).pregi.data(); }
 
   /// The words of a length with a score of at least `minimo`, own ones too; with `definite` only
