@@ -1,11 +1,13 @@
 #include "laboratory/composing.h"
 
 #include <algorithm>
+#include <map>
 #include <tuple>
 #include <utility>
 
 #include "composer/floor.h"
 #include "composer/improvement.h"
+#include "composer/proposals.h"
 #include "composer/reasons.h"
 #include "laboratory/checks.h"
 #include "laboratory/figures.h"
@@ -33,11 +35,20 @@ class Lavoro {
       CercaRimedi();
       return std::move(risultato_);
     }
-    const Riempimento trovato = Cerca();
-    if (trovato.esito == Esito::Riempito) {
-      MiglioraRiempimento(richiesta_.soglia ? AllaSoglia(trovato) : composizione_.problema);
-    } else if (trovato.esito == Esito::Impossibile) {
-      Incolpa(trovato);
+    std::vector<Riempimento> fatti =
+        Proponi(composizione_.problema, richiesta_.proposte, limiti_,
+                [this](const Problema& problema, const Limiti& limiti) {
+                  return FaProposta(problema, limiti);
+                });
+    risultato_.esito = fatti.front().esito;
+    if (risultato_.esito == Esito::Riempito) {
+      for (const Riempimento& fatto : fatti)
+        risultato_.proposte.push_back(std::move(fatte_[fatto.lettere]));
+    } else {
+      risultato_.lettere = fatti.front().lettere;
+    }
+    if (risultato_.esito == Esito::Impossibile) {
+      Incolpa();
       CercaRimedi();
     }
     return std::move(risultato_);
@@ -46,72 +57,85 @@ class Lavoro {
  private:
   bool Fermato() const { return limiti_.ferma.stop_requested(); }
 
-  // What is left of the limits.
-  Limiti Resto() const {
-    Limiti resto = limiti_;
-    resto.passi = std::max<std::int64_t>(0, limiti_.passi - risultato_.passi);
-    return resto;
+  // What is left of limits.
+  static Limiti Resto(Limiti limiti, std::int64_t passi) {
+    limiti.passi = std::max<std::int64_t>(0, limiti.passi - passi);
+    return limiti;
   }
 
   void Segui(FaseComposizione fase, std::int64_t finestre, const std::string& lettere) const {
     if (segui_) segui_({.fase = fase, .finestre = finestre, .lettere = &lettere});
   }
 
-  Riempimento Cerca() {
-    Segui(FaseComposizione::Ricerca, 0, risultato_.lettere);
-    Riempimento trovato = CercaConDefinizioni();
-    if (trovato.esito != Esito::Riempito) {
-      trovato = Componi(composizione_.problema, Resto());
-      risultato_.passi += trovato.passi;
+  // A fill of the problem, or of one that asks more, as good as is wanted. All are kept with what
+  // is told of them: whoever asked for it takes some of them.
+  Riempimento FaProposta(const Problema& problema, const Limiti& limiti) {
+    Segui(FaseComposizione::Ricerca, 0, {});
+    const bool conSoglia = risultato_.soglia.has_value();
+    Riempimento fatto =
+        Cerca(conSoglia ? ConMinimo(problema, risultato_.soglia->fino) : problema, limiti);
+    if (fatto.esito == Esito::Riempito) {
+      Proposta proposta = {.primo = std::chrono::steady_clock::now()};
+      if (richiesta_.soglia && !conSoglia) PortaAllaSoglia(problema, fatto, limiti);
+      proposta.interrotta = MiglioraRiempimento(problema, fatto, limiti);
+      proposta.lettere = fatto.lettere;
+      proposta.passi = fatto.passi;
+      fatte_[fatto.lettere] = std::move(proposta);
     }
-    risultato_.primo = std::chrono::steady_clock::now();
-    risultato_.esito = trovato.esito;
-    risultato_.lettere = trovato.lettere;
+    risultato_.passi += fatto.passi;
+    return fatto;
+  }
+
+  Riempimento Cerca(const Problema& problema, const Limiti& limiti) {
+    Riempimento trovato = CercaConDefinizioni(problema, limiti);
+    if (trovato.esito == Esito::Riempito) return trovato;
+    const std::int64_t invano = trovato.passi;
+    trovato = Componi(problema, Resto(limiti, invano));
+    if (trovato.esito == Esito::Impossibile) prova_ = trovato;
+    trovato.passi += invano;
     return trovato;
   }
 
   // Where clues are preferred a fill of words that all have one is looked for first, but not for
   // long: most grids have one.
-  Riempimento CercaConDefinizioni() {
+  Riempimento CercaConDefinizioni(Problema problema, Limiti limiti) const {
     constexpr std::int64_t bastano = 3'000;  // steps
     const bool preferite = fonti_.scelta.parole.definizioni == UsoDefinizioni::Preferite;
     if (!preferite || !fonti_.copertura) return {};
-    Problema problema = composizione_.problema;
     problema.soloDefinite = true;
-    Limiti limiti = Resto();
     limiti.passi = std::min(limiti.passi, bastano);
-    Riempimento trovato = Componi(problema, limiti);
-    risultato_.passi += trovato.passi;
-    return trovato;
+    return Componi(problema, limiti);
   }
 
-  // The problem with the floor that was found as its least score.
-  Problema AllaSoglia(const Riempimento& trovato) {
-    Segui(FaseComposizione::Soglia, 0, risultato_.lettere);
-    Soglia soglia = TrovaSoglia(composizione_.problema, trovato, Resto());
-    risultato_.passi += soglia.riempimento.passi;
-    risultato_.lettere = std::move(soglia.riempimento.lettere);
+  void PortaAllaSoglia(const Problema& problema, Riempimento& fatto, const Limiti& limiti) {
+    Segui(FaseComposizione::Soglia, 0, fatto.lettere);
+    Soglia soglia = TrovaSoglia(problema, fatto, Resto(limiti, fatto.passi));
+    fatto.passi += soglia.riempimento.passi;
+    fatto.lettere = std::move(soglia.riempimento.lettere);
     risultato_.soglia = {.fino = soglia.fino, .oltre = soglia.oltre};
     // No word has a higher score.
     if (soglia.provata && !soglia.oltre) risultato_.soglia->oltre = soglia.fino + 1;
-    return ConMinimo(composizione_.problema, soglia.fino);
   }
 
-  void MiglioraRiempimento(const Problema& problema) {
-    if (richiesta_.finestre == 0) return;
-    Segui(FaseComposizione::Miglioramento, 0, risultato_.lettere);
-    Riempimento migliore = Migliora(problema, risultato_.lettere, richiesta_.finestre, Resto(),
-                                    [this](std::int64_t finestre, const std::string& lettere) {
-                                      Segui(FaseComposizione::Miglioramento, finestre, lettere);
-                                    });
-    risultato_.lettere = std::move(migliore.lettere);
-    risultato_.passi += migliore.passi;
-    risultato_.interrotta = Fermato() && migliore.esito == Esito::Tempo;
+  // Whether a stop has cut it.
+  bool MiglioraRiempimento(const Problema& problema, Riempimento& fatto, const Limiti& limiti) {
+    if (richiesta_.finestre == 0) return false;
+    Segui(FaseComposizione::Miglioramento, 0, fatto.lettere);
+    Riempimento migliore =
+        Migliora(risultato_.soglia ? ConMinimo(problema, risultato_.soglia->fino) : problema,
+                 fatto.lettere, richiesta_.finestre, Resto(limiti, fatto.passi),
+                 [this](std::int64_t finestre, const std::string& lettere) {
+                   Segui(FaseComposizione::Miglioramento, finestre, lettere);
+                 });
+    fatto.lettere = std::move(migliore.lettere);
+    fatto.passi += migliore.passi;
+    return migliore.esito == Esito::Tempo;
   }
 
-  void Incolpa(const Riempimento& prova) {
+  void Incolpa() {
     Segui(FaseComposizione::Colpevoli, 0, risultato_.lettere);
-    Colpevoli colpevoli = TrovaColpevoli(composizione_.problema, prova, Resto());
+    Colpevoli colpevoli =
+        TrovaColpevoli(composizione_.problema, prova_, Resto(limiti_, risultato_.passi));
     risultato_.passi += colpevoli.passi;
     risultato_.volute = std::move(colpevoli.volute);
     for (const int slot : colpevoli.slot)
@@ -123,8 +147,9 @@ class Lavoro {
 
   void CercaRimedi() {
     Segui(FaseComposizione::Rimedi, 0, risultato_.lettere);
-    risultato_.rimedi = TrovaRimedi(composizione_, fonti_.scelta, risultato_.colpevoli,
-                                    fonti_.lessico, fonti_.copertura, fonti_.luoghi, Resto());
+    risultato_.rimedi =
+        TrovaRimedi(composizione_, fonti_.scelta, risultato_.colpevoli, fonti_.lessico,
+                    fonti_.copertura, fonti_.luoghi, Resto(limiti_, risultato_.passi));
   }
 
   const Composizione& composizione_;
@@ -132,6 +157,8 @@ class Lavoro {
   const RichiestaComposizione& richiesta_;
   const Limiti& limiti_;
   const SegueComposizione& segui_;
+  Riempimento prova_;                      // when it is Impossibile
+  std::map<std::string, Proposta> fatte_;  // by their letters
   RisultatoComposizione risultato_;
 };
 

@@ -10,8 +10,8 @@
 #include "laboratory/composition.h"
 #include "laboratory/remedies.h"
 
-// A composition from the search to all that is told of it: the fill, its floor and its improvement;
-// or, where there is none, the guilty entries and what would help. Console and window run the same.
+// A composition from the search to all that is told of it: fills, their floor and improvement; or,
+// where there is none, the guilty entries and what would help. Console and window run the same.
 namespace telarium {
 
 /// What a composition was made from. All of it must outlive what uses it.
@@ -26,6 +26,7 @@ struct FontiComposizione {
 struct RichiestaComposizione {
   std::int64_t finestre = 5'000;  // of the improvement
   bool soglia = false;            // first the highest least score, with its proof
+  int proposte = 1;               // fills that differ in at least half of their entries
 };
 
 enum class FaseComposizione { Ricerca, Soglia, Miglioramento, Colpevoli, Rimedi };
@@ -38,21 +39,29 @@ struct AvanzamentoComposizione {
 /// Called now and then, and at the start of each phase, in the thread that composes.
 using SegueComposizione = std::function<void(const AvanzamentoComposizione&)>;
 
-/// The floor of a fill.
+/// A fill.
+struct Proposta {
+  std::string lettere = {};  // by cell of the problem
+  std::int64_t passi = 0;    // of all that was tried for it
+  /// When the first fill stood that it was made from. A clock decides nothing: this is for telling
+  /// alone.
+  std::chrono::steady_clock::time_point primo = {};
+  bool interrotta = false;  // a stop has cut its improvement
+};
+
+/// The floor of the fills.
 struct SogliaTrovata {
-  int fino = 0;              // the lowest score of the fill is at least this
+  int fino = 0;              // no score of theirs is lower
   std::optional<int> oltre;  // with this as the least there is no fill; none: not proved
 };
 
 struct RisultatoComposizione {
   Esito esito = Esito::Tempo;
-  /// By cell of the problem; when it is not Riempito the most whole entries that were met.
+  std::vector<Proposta> proposte;       // Riempito: one or more, up to as many as were wanted
+  std::optional<SogliaTrovata> soglia;  // Riempito, when it was wanted
+  /// When it is not Riempito: by cell of the problem, the most whole entries that were met.
   std::string lettere;
   std::int64_t passi = 0;  // of all that was tried
-  /// When the first fill stood. A clock decides nothing: this is for telling alone.
-  std::chrono::steady_clock::time_point primo;
-  std::optional<SogliaTrovata> soglia;  // of a fill, when it was wanted
-  bool interrotta = false;              // a stop has cut the improvement, or the floor before it
   /// When it is Impossibile, in reading order: the entries for which there are no words, whatever
   /// stands in the others.
   std::vector<Slot> colpevoli;

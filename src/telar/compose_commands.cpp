@@ -31,6 +31,8 @@ constexpr Opzione OpzioneOttimo = {"--ottimo", "",
 constexpr Opzione OpzionePassi = {"--passi", "N", "rinuncia dopo N passi (100000000)"};
 constexpr Opzione OpzioneSecondi = {"--secondi", "S", "rinuncia dopo S secondi (20)"};
 constexpr Opzione OpzioneLavoratori = {"--lavoratori", "N", "quanti lavorano insieme (i nuclei)"};
+constexpr Opzione OpzioneProposte = {
+    "--proposte", "K", "K riempimenti diversi: USCITA con -1, -2 ... prima dell'estensione"};
 constexpr Opzione OpzioneParziale = {"--parziale", "",
                                      "senza riempimento scrive il più che si è trovato"};
 
@@ -50,6 +52,11 @@ int LeggiLavoratori(const Argomenti& argomenti) {
       std::min(argomenti.Numero(OpzioneLavoratori.nome, 1, nuclei), MaxLavoratori));
 }
 
+int LeggiProposte(const Argomenti& argomenti) {
+  return static_cast<int>(std::min<std::int64_t>(argomenti.Numero(OpzioneProposte.nome, 1, 1),
+                                                 std::numeric_limits<int>::max()));
+}
+
 RichiestaComposizione LeggiRichiesta(const Argomenti& argomenti) {
   constexpr std::int64_t migliaia = 1000;
   const std::int64_t finestre =
@@ -57,7 +64,9 @@ RichiestaComposizione LeggiRichiesta(const Argomenti& argomenti) {
           argomenti.Numero(OpzioneOttimizza.nome, 0, RichiestaComposizione().finestre / migliaia),
           std::numeric_limits<std::int64_t>::max() / migliaia) *
       migliaia;
-  return {.finestre = finestre, .soglia = argomenti.Ha(OpzioneOttimo.nome)};
+  return {.finestre = finestre,
+          .soglia = argomenti.Ha(OpzioneOttimo.nome),
+          .proposte = LeggiProposte(argomenti)};
 }
 
 std::string ConMillesimi(std::chrono::nanoseconds durata) {
@@ -81,6 +90,12 @@ std::string_view NomeDi(Esito esito) {
     default:
       return "tempo";
   }
+}
+
+// "out.tlrm" as "out-1.tlrm".
+std::string ConNumero(const Percorso& uscita, std::size_t numero) {
+  return uscita.parent_path() /
+         Unisci(uscita.stem().string(), '-', numero, uscita.extension().string());
 }
 
 void AvvisaVolute(const std::vector<std::string>& volute) {
@@ -118,6 +133,7 @@ class Esecuzione {
                 .passi = argomenti.Numero(OpzionePassi.nome, 0, Limiti().passi),
                 .lavoratori = LeggiLavoratori(argomenti)},
         uscita_(argomenti.liberi[1]),
+        numerate_(argomenti.Ha(OpzioneProposte.nome)),
         parziale_(argomenti.Ha(OpzioneParziale.nome)),
         sorveglianza_(utente,
                       inizio_ + Secondi(argomenti, OpzioneSecondi, std::chrono::seconds(20))) {
@@ -142,20 +158,16 @@ class Esecuzione {
   Stato Componi() {
     const RisultatoComposizione risultato =
         ComponiCruciverba(*composizione_, Fonti(), richiesta_, limiti_);
-    const Cruciverba composto = ConLettere(*composizione_, risultato.lettere);
-    if (risultato.esito == Esito::Riempito || parziale_) {
-      PrendiCruciverba(composto);
-      if (Scrivi(uscita_) != Stato::Fatto) return Stato::Fallito;
-    }
-    Stampa(risultato, composto);
     switch (risultato.esito) {
       case Esito::Riempito:
-        return Stato::Fatto;
+        return Consegna(risultato) ? Stato::Fatto : Stato::Fallito;
       case Esito::Impossibile:
+        if (!ConsegnaParziale(risultato)) return Stato::Fallito;
         Avvisa("Con queste parole e queste richieste lo schema non si può riempire."_cp);
         AvvisaVolute(risultato.volute);
         return Stato::Negativo;
       default:
+        if (!ConsegnaParziale(risultato)) return Stato::Fallito;
         Avvisa(Unisci("Interrotto prima di una risposta: ", PercheFermo(), '.'));
         return Stato::Interrotto;
     }
@@ -171,22 +183,55 @@ class Esecuzione {
     return sorveglianza_.DaChiUsa() ? "richiesta di fermarsi" : "il tempo è scaduto"_cp;
   }
 
-  void Stampa(const RisultatoComposizione& risultato, const Cruciverba& composto) const {
-    StampaCampi({"esito", NomeDi(risultato.esito)});
-    StampaIntero("seme", limiti_.seme);
-    if (risultato.esito == Esito::Riempito) StampaCifre(risultato, composto);
+  // Writes and prints all fills. False when one cannot be written: then nothing is printed.
+  bool Consegna(const RisultatoComposizione& risultato) const {
+    std::vector<Cruciverba> composti;
+    for (const Proposta& proposta : risultato.proposte)
+      composti.push_back(ConLettere(*composizione_, proposta.lettere));
+    for (std::size_t i = 0; i < composti.size(); ++i) {
+      if (!ScriviComposto(composti[i], i)) return false;
+    }
+    for (std::size_t i = 0; i < composti.size(); ++i) {
+      if (i > 0) std::fputc('\n', stdout);
+      StampaProposta(risultato, risultato.proposte[i], composti[i]);
+    }
+    if (const auto trovate = static_cast<int>(composti.size()); trovate < richiesta_.proposte)
+      Avvisa(Unisci("Proposte trovate: ", trovate, " su ", richiesta_.proposte, '.'));
+    return true;
+  }
+
+  // The same of what there is without a fill.
+  bool ConsegnaParziale(const RisultatoComposizione& risultato) const {
+    if (parziale_ && !ScriviComposto(ConLettere(*composizione_, risultato.lettere), 0))
+      return false;
+    StampaEsito(risultato.esito);
     StampaColpevoli(risultato);
     for (const Rimedio& rimedio : risultato.rimedi)
       StampaRimedio(rimedio);
     StampaIntero("passi", static_cast<std::uint64_t>(risultato.passi));
-    if (risultato.esito == Esito::Riempito)
-      StampaCampi({"primo", ConMillesimi(risultato.primo - inizio_)});
-    StampaCampi({"in tutto", ConMillesimi(std::chrono::steady_clock::now() - inizio_)});
-    if (risultato.interrotta) StampaCampi({"interrotto"});
+    StampaDurata("in tutto", std::chrono::steady_clock::now());
+    return true;
   }
 
-  void StampaCifre(const RisultatoComposizione& risultato, const Cruciverba& composto) const {
+  // Of several proposals each has a file of its own, by its number.
+  bool ScriviComposto(const Cruciverba& composto, std::size_t numero) const {
+    PrendiCruciverba(composto);
+    return Scrivi(numerate_ ? ConNumero(uscita_, numero + 1) : uscita_) == Stato::Fatto;
+  }
+
+  void StampaEsito(Esito esito) const {
+    StampaCampi({"esito", NomeDi(esito)});
+    StampaIntero("seme", limiti_.seme);
+  }
+
+  void StampaDurata(std::string_view nome, Istante fine) const {
+    StampaCampi({nome, ConMillesimi(fine - inizio_)});
+  }
+
+  void StampaProposta(const RisultatoComposizione& risultato, const Proposta& proposta,
+                      const Cruciverba& composto) const {
     const CifreRiempimento cifre = CifreDi(*composizione_, composto, Fonti());
+    StampaEsito(risultato.esito);
     StampaIntero("voci", static_cast<std::uint64_t>(cifre.voci));
     StampaCampi({"punteggio", cifre.media, cifre.minimo});
     if (risultato.soglia) {
@@ -194,6 +239,10 @@ class Esecuzione {
       StampaCampi({"provato", std::to_string(fino), oltre ? std::to_string(*oltre) : ""});
     }
     StampaIntero("definite", static_cast<std::uint64_t>(cifre.definite));
+    StampaIntero("passi", static_cast<std::uint64_t>(proposta.passi));
+    StampaDurata("primo", proposta.primo);
+    StampaDurata("in tutto", std::chrono::steady_clock::now());
+    if (proposta.interrotta) StampaCampi({"interrotto"});
   }
 
   void StampaColpevoli(const RisultatoComposizione& risultato) const {
@@ -209,6 +258,7 @@ class Esecuzione {
   const RichiestaComposizione richiesta_;
   Limiti limiti_;
   const std::string uscita_;
+  const bool numerate_;
   const bool parziale_;
   const Sorveglianza sorveglianza_;
   SceltaComposizione scelta_;
@@ -226,8 +276,9 @@ Stato ComponiFile(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
 
 std::vector<Opzione> OpzioniComponi() {
   std::vector<Opzione> opzioni = OpzioniDomanda();
-  opzioni.insert(opzioni.end(), {OpzioneSeme, OpzioneOttimizza, OpzioneOttimo, OpzionePassi,
-                                 OpzioneSecondi, OpzioneLavoratori, OpzioneParziale});
+  opzioni.insert(opzioni.end(),
+                 {OpzioneSeme, OpzioneOttimizza, OpzioneOttimo, OpzionePassi, OpzioneSecondi,
+                  OpzioneLavoratori, OpzioneProposte, OpzioneParziale});
   return ConOpzioniParole(std::move(opzioni));
 }
 

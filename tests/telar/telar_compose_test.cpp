@@ -47,6 +47,17 @@ TEST_F(TelarCompose, PrintsAFillAndWritesIt) {
       << best;
 }
 
+TEST_F(TelarCompose, SeveralProposalsHaveABlockAndAFileEach) {
+  const TelarResult some = Run("componi square one.tlrm --lessico words --seme 3 --proposte 3");
+  EXPECT_EQ(some.status, 0);
+  EXPECT_EQ(some.err, "Proposte trovate: 2 su 3.\n");
+  const std::size_t second = some.out.find("\n\nesito\triempito\nseme\t3\n");
+  ASSERT_NE(second, std::string::npos) << some.out;
+  EXPECT_EQ(some.out.find("esito", second + 8), std::string::npos) << some.out;
+  EXPECT_NE(Grid("one-1.tlrm"), Grid("one-2.tlrm"));
+  EXPECT_FALSE(fs::exists(InFolder("work/one.tlrm")));
+}
+
 TEST_F(TelarCompose, TellsWhyThereIsNoFillAndLeavesTheOutputAsItWas) {
   const TelarResult none = Run("componi square old --lessico few --seme 7");
   EXPECT_EQ(none.status, 3);
