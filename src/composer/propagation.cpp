@@ -7,6 +7,19 @@
 
 // What follows from a change: slots are revised one after the other until nothing changes any more.
 namespace telarium {
+namespace {
+
+// A block in which two sets have a word in common, `blocchi` for none. Blocks before `residuo` come
+// last: most of them were looked at when it was found.
+std::size_t ComuneDopo(const Blocco* uno, const Blocco* altro, std::size_t residuo,
+                       std::size_t blocchi) {
+  const std::size_t dopo = nuclei::PrimoComune(uno, altro, residuo + 1, blocchi);
+  if (dopo < blocchi) return dopo;
+  const std::size_t prima = nuclei::PrimoComune(uno, altro, 0, residuo);
+  return prima < residuo ? prima : blocchi;
+}
+
+}  // namespace
 
 void Stato::Accoda(int slot) {
   if (inCoda_[S(slot)]) return;
@@ -157,7 +170,7 @@ Lettere Stato::LettereSostenute(int slot, int posto, Lettere chieste) {
     const Blocco* insieme = insiemi + lettera * blocchi;
     const std::size_t residuo = residui[lettera];
     if ((dominio[residuo] & insieme[residuo]) != 0) continue;
-    const std::size_t trovato = nuclei::PrimoComune(dominio, insieme, 0, blocchi);
+    const std::size_t trovato = ComuneDopo(dominio, insieme, residuo, blocchi);
     if (trovato == blocchi) {
       sostenute &= ~(1u << lettera);
     } else {

@@ -5,15 +5,18 @@
 namespace telarium {
 namespace {
 
-Lettere LetterePossibili(const Vocabolario& parole, int lunghezza, int posto,
-                         const std::vector<Blocco>& ammesse) {
+// Finds the letters that the words of a base have at a place, and for each of them a block.
+void CercaLettere(const Vocabolario& parole, int lunghezza, int posto, Base& base) {
   Lettere possibili = 0;
   for (int lettera = 0; lettera < LettereAlfabeto; ++lettera) {
     const Blocco* insieme = parole.Insieme(lunghezza, posto, lettera);
-    if (nuclei::PrimoComune(ammesse.data(), insieme, 0, ammesse.size()) < ammesse.size())
-      possibili |= 1u << lettera;
+    const std::size_t trovato =
+        nuclei::PrimoComune(base.parole.data(), insieme, 0, base.parole.size());
+    const bool possibile = trovato < base.parole.size();
+    if (possibile) possibili |= 1u << lettera;
+    base.sostegni.push_back(possibile ? static_cast<std::uint16_t>(trovato) : 0);
   }
-  return possibili;
+  base.lettere.push_back(possibili);
 }
 
 }  // namespace
@@ -35,7 +38,7 @@ Partenza::Partenza(const Problema& problema) : problema_(problema), reticolo_(pr
       TogliAltrove(lunghezza, base);
       base.conta = nuclei::Conta(base.parole.data(), base.parole.size());
       for (int posto = 0; posto < lunghezza; ++posto)
-        base.lettere.push_back(LetterePossibili(Parole(), lunghezza, posto, base.parole));
+        CercaLettere(Parole(), lunghezza, posto, base);
     }
     basi_.push_back(&base);
   }

@@ -13,7 +13,8 @@ namespace telarium {
 /// The words that slots of one length and one least score may have before anything stands in them.
 struct Base {
   std::vector<Blocco> parole;
-  std::vector<Lettere> lettere;  // that they have, by place
+  std::vector<Lettere> lettere;         // that they have, by place
+  std::vector<std::uint16_t> sostegni;  // by place and letter, a block in which some word has it
   int conta = 0;
 };
 

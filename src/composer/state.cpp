@@ -45,9 +45,9 @@ void Stato::Prepara() {
     stato.bolloParole = BolloBase;
     slot_.push_back(stato);
     primoPosto_.push_back(posti);
+    residui_.insert(residui_.end(), base.sostegni.begin(), base.sostegni.end());
     posti += lunghezza;
   }
-  residui_.assign(S(posti) * LettereAlfabeto, 0);
   inCoda_.assign(S(quantiSlot), 0);
   for (int genia = 0; genia < NumGenie; ++genia) {
     if (Di().alMassimo[S(genia)] == 0) esaurite_ |= SolaGenia(static_cast<Genia>(genia));
