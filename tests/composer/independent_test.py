@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Holds the fills of `telar componi` against lists and encyclopedia, which this program reads by itself: random
-patterns with random demands.
+patterns with random demands, and what it says to bad ones.
 
 Arguments: TELAR, the folder of the sources' data, the folder of the built data, and how many fills (150)."""
 import lzma
@@ -16,6 +16,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).parent.parent / "laboratory"))
 
+from bad_input import bad_input_faults
 from demands import Demands, Pools
 from known_words import SHARES, akin
 from planted import runs
@@ -268,6 +269,8 @@ def main():
     with tempfile.TemporaryDirectory() as folder, ThreadPoolExecutor(os.cpu_count()) as pool:
         os.environ["XDG_CACHE_HOME"] = folder + "/cache"
         number = 0
+        (Path(folder) / "odd").mkdir()
+        faults += bad_input_faults(TELAR, BUILT, Path(folder) / "odd")
         while results["riempito"] < FILLS and len(faults) < 20 and number < 3 * FILLS + 100:
             jobs = [(n, Demands(random.Random(n), REFERENCE, ENGLISH, pools)) for n in range(number, number + 50)]
             number += len(jobs)
