@@ -22,7 +22,10 @@ Stesura::Stesura(const Partenza& partenza, const std::string& lettere)
     if (Di().alMassimo[S(genia)] != SenzaLimite) limitate_ |= SolaGenia(static_cast<Genia>(genia));
   }
   for (int slot = 0; slot < Griglia().Slot(); ++slot) {
-    if (Di().slot[S(slot)].aperto) continue;
+    if (Di().slot[S(slot)].aperto) {
+      aperti_.push_back(slot);
+      continue;
+    }
     const auto numero = Parole().Cerca(Maschera(Di(), slot, lettere_));
     if (!numero) continue;
     parole_[S(slot)] = numero->numero;
@@ -97,6 +100,41 @@ std::span<const NumeroParola> Stesura::ParentiDi(NumeroParola parola) const {
 Genie Stesura::Limitate(NumeroParola parola) const {
   if (limitate_ == 0 || Parole().Propria(parola)) return 0;
   return Parole().GenieDi(parola) & limitate_;
+}
+
+Genie Stesura::Esaurite() const {
+  Genie esaurite = 0;
+  for (int genia = 0; genia < NumGenie; ++genia) {
+    const Genie sola = SolaGenia(static_cast<Genia>(genia));
+    if ((limitate_ & sola) != 0 && Restano(genia) <= 0) esaurite |= sola;
+  }
+  return esaurite;
+}
+
+bool Stesura::LasciaAperti() const {
+  return std::ranges::all_of(aperti_, [&](int slot) { return HaParola(slot); });
+}
+
+bool Stesura::HaParola(int slot) const {
+  const auto caselle = Griglia().CaselleDi(slot);
+  const int lunghezza = Griglia().Lunghezza(slot);
+  std::vector<const Blocco*> insiemi = {partenza_.BaseDi(slot).parole.data()};
+  for (int posto = 0; posto < lunghezza; ++posto) {
+    const char lettera = Lettera(caselle[S(posto)]);
+    if (lettera != SenzaLettera)
+      insiemi.push_back(Parole().Insieme(lunghezza, posto, lettera - 'A'));
+  }
+  const Genie esaurite = Esaurite();
+  for (int k = 0; k < Parole().Blocchi(lunghezza); ++k) {
+    Blocco restano = ~Vietate(lunghezza)[k];
+    for (const Blocco* insieme : insiemi)
+      restano &= insieme[k];
+    for (; restano != 0; restano &= restano - 1) {
+      const int numero = k * ParolePerBlocco + std::countr_zero(restano);
+      if ((Limitate({lunghezza, numero}) & esaurite) == 0) return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace telarium

@@ -39,6 +39,10 @@ class Stesura {
   std::span<const NumeroParola> ParentiDi(NumeroParola parola) const;
   /// The limited kinds that a word counts as.
   Genie Limitate(NumeroParola parola) const;
+  /// The kinds of which there may be no more entries.
+  Genie Esaurite() const;
+  /// Whether each open slot has a word left that may stand beside those that do.
+  bool LasciaAperti() const;
   /// How many more entries of a limited kind there may be.
   int Restano(int genia) const { return Di().alMassimo[S(genia)] - conteggi_[S(genia)]; }
 
@@ -52,10 +56,12 @@ class Stesura {
   void FermaCaselle(int slot);
   void Conta(int slot, int segno);
   void Vieta(NumeroParola parola, int segno);
+  bool HaParola(int slot) const;
 
   const Partenza& partenza_;
   std::string lettere_;
   std::vector<int> parole_;
+  std::vector<int> aperti_;  // slots
   std::vector<bool> mutabili_;
   // By length: how many words that stand forbid each word, and those that any does.
   std::array<std::vector<std::uint16_t>, MaxLunghezzaVoce + 1> divieti_;

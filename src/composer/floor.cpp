@@ -175,8 +175,9 @@ Soglia TrovaSoglia(const Problema& problema, Riempimento primo, const Limiti& li
 }
 
 Problema ConMinimo(Problema problema, int minimo) {
-  for (SlotDaRiempire& slot : problema.slot)
-    slot.minimo = std::max(slot.minimo, minimo);
+  for (SlotDaRiempire& slot : problema.slot) {
+    if (!slot.aperto) slot.minimo = std::max(slot.minimo, minimo);
+  }
   return problema;
 }
 

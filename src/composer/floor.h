@@ -24,7 +24,7 @@ Soglia TrovaSoglia(const Problema& problema, const Limiti& limiti);
 /// The same from a fill that Componi has found, whose steps do not count.
 Soglia TrovaSoglia(const Problema& problema, Riempimento primo, const Limiti& limiti);
 
-/// The same problem with a least score for all slots.
+/// The same problem with a least score for all slots but the open ones, where no word is placed.
 Problema ConMinimo(Problema problema, int minimo);
 
 }  // namespace telarium

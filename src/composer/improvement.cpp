@@ -76,31 +76,37 @@ class Miglioramento {
 
   // Fills the free cells with what is worth most, unless it is worth less by that much.
   void Rifai(const Rifacimento::Parola& evitata, Valore perdita) {
-    const Valore presente = Togli();
+    const std::int64_t prima = guadagno_;
+    Togli(tolte_);
+    const auto presente = static_cast<Valore>(prima - guadagno_);
     const auto risposta = rifacimento_.Cerca(libere_, presente - perdita, evitata);
     passi_ += risposta.passi;
-    for (const auto& [slot, numero] : risposta.trovato ? rifacimento_.Trovate() : tolte_) {
+    Posa(risposta.trovato ? rifacimento_.Trovate() : tolte_);
+    if (!risposta.trovato || stesura_.LasciaAperti()) return;
+    Togli(respinte_);
+    Posa(tolte_);
+  }
+
+  // Takes the words through the free cells out.
+  void Togli(std::vector<Rifacimento::Parola>& parole) {
+    parole.clear();
+    for (const int casella : libere_) {
+      for (const PostoDiSlot& posto : Griglia().SlotDi(casella)) {
+        if (posto.slot < 0 || stesura_.Parola(posto.slot) == Stesura::SenzaParola) continue;
+        guadagno_ -= Vale(posto.slot);
+        diPregio_ -= Pregio(posto.slot);
+        parole.push_back({posto.slot, stesura_.Parola(posto.slot)});
+        stesura_.Togli(posto.slot);
+      }
+    }
+  }
+
+  void Posa(const std::vector<Rifacimento::Parola>& parole) {
+    for (const auto& [slot, numero] : parole) {
       stesura_.Posa(slot, numero);
       guadagno_ += Vale(slot);
       diPregio_ += Pregio(slot);
     }
-    guadagno_ -= presente;
-  }
-
-  // Takes the words through the free cells out. Gives their worth.
-  Valore Togli() {
-    Valore presente = 0;
-    tolte_.clear();
-    for (const int casella : libere_) {
-      for (const PostoDiSlot& posto : Griglia().SlotDi(casella)) {
-        if (posto.slot < 0 || stesura_.Parola(posto.slot) == Stesura::SenzaParola) continue;
-        presente += Vale(posto.slot);
-        diPregio_ -= Pregio(posto.slot);
-        tolte_.push_back({posto.slot, stesura_.Parola(posto.slot)});
-        stesura_.Togli(posto.slot);
-      }
-    }
-    return presente;
   }
 
   Partenza partenza_;
@@ -111,6 +117,7 @@ class Miglioramento {
   std::vector<int> mutabili_;  // slots
   std::vector<int> libere_;
   std::vector<Rifacimento::Parola> tolte_;
+  std::vector<Rifacimento::Parola> respinte_;
   std::int64_t guadagno_ = 0;  // of worth since the beginning
   std::int64_t massimo_ = 0;   // the most that it has been
   std::int64_t diPregio_ = 0;  // the same as `guadagno_`, in the sum that PregioDi gives

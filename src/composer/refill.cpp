@@ -42,10 +42,7 @@ Rifacimento::Risposta Rifacimento::Cerca(std::span<const int> libere, Valore daB
   trovato_ = false;
   passi_ = 1;
   fallite_ = 0;
-  esaurite_ = 0;
-  for (int genia = 0; genia < NumGenie; ++genia) {
-    if (stesura_.Restano(genia) <= 0) esaurite_ |= SolaGenia(static_cast<Genia>(genia));
-  }
+  esaurite_ = stesura_.Esaurite();
   Disponi(libere);
   if (Elenca() && Diffondi()) {
     Prepara();
