@@ -25,6 +25,7 @@ namespace {
 // A trial may take so many times the steps of the last proof, and these besides.
 constexpr std::int64_t ProvePerTentativo = 3;
 constexpr std::int64_t PassiPerTentativo = 500;
+constexpr std::int64_t ProvePerRipresa = 20;  // at the end, for what was not decided
 // All trials together, some seconds of them: what is gained later is small.
 constexpr std::int64_t PassiInTutto = 250'000;
 // Regions that are tried unless one is so small, how exactly they are measured, and how long each
@@ -65,7 +66,8 @@ class Indagine {
         limiti_(limiti),
         ultimaProva_(prova.passi),
         necessario_(problema.slot.size() + problema.volute.size()),
-        reticolo_(problema) {
+        reticolo_(problema),
+        dubbio_(necessario_.size()) {
     limiti_.passi = std::min(limiti.passi, PassiInTutto);
     for (std::size_t slot = 0; slot < problema.slot.size(); ++slot)
       pesi_.push_back(slot < prova.pesi.size() ? prova.pesi[slot] : 1);
@@ -82,6 +84,7 @@ class Indagine {
       RestringiRegione();
     } while (prima - insieme_.size() >= prima / GuadagnoDiRegione && prima > insieme_.size());
     Sfoltisci(0, problema_.Slot(), MorsoDiSlot);
+    Riprova();
     return Risultato();
   }
 
@@ -163,7 +166,7 @@ class Indagine {
   // An element stays: the set without it was filled, or not decided.
   void Tieni(int elemento, bool riempito) {
     necessario_[Indice(elemento)] = true;
-    dubbio_ |= !riempito;
+    dubbio_[Indice(elemento)] = !riempito;
   }
 
   // Which wanted words are to blame, if any. All slots that may hold one of those stay: one that is
@@ -235,8 +238,8 @@ class Indagine {
   void Ricomincia(Elementi insieme) {
     insieme_ = std::move(insieme);
     std::fill(necessario_.begin(), necessario_.end(), false);
+    std::fill(dubbio_.begin(), dubbio_.end(), false);
     riempiti_.clear();
-    dubbio_ = false;
   }
 
   // The region round all slots that are known to be needed, or the heaviest.
@@ -271,18 +274,29 @@ class Indagine {
   }
 
   // Leaves out elements of a range in bites, the lightest first; a bite that is too big is halved.
-  void Sfoltisci(int da, int a, std::size_t frazione) {
-    std::size_t morso = std::max<std::size_t>(1, insieme_.size() / frazione);
+  void Sfoltisci(int da, int a, std::size_t frazione, std::int64_t prove = ProvePerTentativo) {
+    std::size_t morso =
+        std::max<std::size_t>(1, insieme_.size() / std::max<std::size_t>(1, frazione));
     for (Elementi incerti = Incerti(da, a); !incerti.empty(); incerti = Incerti(da, a)) {
       if (Finito()) {
-        dubbio_ = true;
+        for (const int elemento : incerti)
+          Tieni(elemento, false);
         return;
       }
       morso = std::min(morso, incerti.size());
       incerti.resize(morso);
-      if (Togli(incerti)) continue;
+      if (Togli(incerti, prove)) continue;
       morso = (morso + 1) / 2;
     }
+  }
+
+  // What was kept undecided gets more steps, now that the set is small.
+  void Riprova() {
+    for (const int elemento : insieme_) {
+      if (dubbio_[Indice(elemento)]) necessario_[Indice(elemento)] = false;
+      dubbio_[Indice(elemento)] = false;
+    }
+    Sfoltisci(0, static_cast<int>(necessario_.size()), insieme_.size(), ProvePerRipresa);
   }
 
   Elementi Incerti(int da, int a) const {
@@ -297,7 +311,11 @@ class Indagine {
     return incerti;
   }
 
-  Colpevoli Risultato() const { return {Slot(insieme_), Volute(insieme_), !dubbio_, passi_}; }
+  Colpevoli Risultato() const {
+    const bool minimo = std::none_of(insieme_.begin(), insieme_.end(),
+                                     [&](int elemento) { return dubbio_[Indice(elemento)]; });
+    return {Slot(insieme_), Volute(insieme_), minimo, passi_};
+  }
 
   const Problema& problema_;
   Limiti limiti_;
@@ -308,7 +326,7 @@ class Indagine {
   Reticolo reticolo_;
   std::vector<std::uint32_t> pesi_;
   std::vector<Riempito> riempiti_;  // those that lack several elements of the set
-  bool dubbio_ = false;             // some element was kept undecided
+  std::vector<bool> dubbio_;        // by element: kept undecided
 };
 
 }  // namespace
