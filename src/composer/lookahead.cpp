@@ -22,12 +22,15 @@ namespace {
 // Words that die of some unknown letter of theirs before each of their letters is looked at alone.
 constexpr int MortiPerLettera = 4;
 // Entries at least so many crossings away keep their words while the neighbourhood is filled: the
-// nearer, the sooner done, and the more often in vain.
-constexpr int CrociLontane = 5;
+// nearer, the sooner done, and the more often in vain. It grows by one each time that so many
+// candidates had to be filled from far away.
+constexpr int CrociVicine = 4;
+constexpr int CrociLontane = 8;
+constexpr int RiempitiDaLontano = 8;
 constexpr std::int64_t PassiVicini = 100;
 
 Maniera ManieraDi(std::uint64_t seme) {
-  return {.seme = seme, .falliteAParole = 200, .primaRipresa = 500};
+  return {.seme = seme, .falliteAParole = 30, .primaRipresa = 40};
 }
 
 constexpr std::size_t S(int numero) {
@@ -139,8 +142,9 @@ std::vector<int> ParoleDi(const Ricerca& riempita, int quantiSlot) {
   return parole;
 }
 
-// The slots that are at least so many crossings away from one, over cells that are not fixed.
-std::vector<int> Lontani(const Partenza& partenza, const Stato& stato, int slot) {
+// How many crossings the slots are away from one, over cells that are not fixed; CrociLontane for
+// more than that.
+std::vector<int> Distanze(const Partenza& partenza, const Stato& stato, int slot) {
   const Reticolo& griglia = partenza.Griglia();
   std::vector<int> distanze(S(griglia.Slot()), CrociLontane);
   std::vector<int> coda = {slot};
@@ -155,11 +159,7 @@ std::vector<int> Lontani(const Partenza& partenza, const Stato& stato, int slot)
       coda.push_back(vicino);
     }
   }
-  std::vector<int> lontani;
-  for (int altro = 0; altro < griglia.Slot(); ++altro) {
-    if (distanze[S(altro)] >= CrociLontane && !stato.Posato(altro)) lontani.push_back(altro);
-  }
-  return lontani;
+  return distanze;
 }
 
 // Fills the neighbourhood of a slot inside the last fill.
@@ -168,16 +168,18 @@ class Vicinanze {
   Vicinanze(const Partenza& partenza, int slot, const Maniera& maniera)
       : ricerca_(partenza, maniera), slot_(slot) {
     ricerca_.Comincia();
-    lontani_ = Lontani(partenza, ricerca_.Ora(), slot);
+    distanze_ = Distanze(partenza, ricerca_.Ora(), slot);
   }
 
   /// From now on entries far away are those of this fill.
   void Parti(const std::vector<int>& parole) {
     ricerca_.Rinuncia(0);
     ricerca_.Segui(parole);
+    const int croci = std::min(CrociVicine + partenze_++ / RiempitiDaLontano, CrociLontane);
     std::vector<Ricerca::Decisione> lontane;
-    for (const int slot : lontani_) {
-      if (parole[S(slot)] >= 0) lontane.push_back({.slot = slot, .valore = parole[S(slot)]});
+    for (int slot = 0; slot < static_cast<int>(parole.size()); ++slot) {
+      if (distanze_[S(slot)] >= croci && parole[S(slot)] >= 0 && !ricerca_.Ora().Posato(slot))
+        lontane.push_back({.slot = slot, .valore = parole[S(slot)]});
     }
     pronta_ = !lontane.empty() && ricerca_.Presumi(lontane);
   }
@@ -199,7 +201,8 @@ class Vicinanze {
  private:
   Ricerca ricerca_;
   int slot_;
-  std::vector<int> lontani_;
+  std::vector<int> distanze_;
+  int partenze_ = 0;
   bool pronta_ = false;
 };
 

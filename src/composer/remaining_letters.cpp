@@ -1,6 +1,5 @@
 #include "composer/remaining_letters.h"
 
-#include <array>
 #include <bit>
 
 #include "composer/state.h"
@@ -13,15 +12,17 @@ constexpr std::size_t S(int numero) {
   return static_cast<std::size_t>(numero);
 }
 
-// Only crossings keep the letters of a cell exact; those of others are read from the words.
+// Those of the words in all slots of a cell: where they are many, consistency looks at them anew
+// only now and then, and at those of cells without a crossing never.
 Lettere LettereDi(const Stato& stato, const Reticolo& griglia, int casella) {
   Lettere lettere = stato.LettereDi(casella);
-  const auto& [primo, secondo] = griglia.SlotDi(casella);
-  if (primo.slot < 0 || secondo.slot >= 0) return lettere;
-  std::array<int, LettereAlfabeto> quante{};
-  stato.ContaLettere(primo.slot, primo.posto, quante);
-  for (int lettera = 0; lettera < LettereAlfabeto; ++lettera) {
-    if (quante[S(lettera)] == 0) lettere &= ~(1u << lettera);
+  for (const PostoDiSlot& posto : griglia.SlotDi(casella)) {
+    if (posto.slot < 0) continue;
+    LettereContate quante{};
+    stato.ContaLettere(posto.slot, posto.posto, quante);
+    for (int lettera = 0; lettera < LettereAlfabeto; ++lettera) {
+      if (quante[S(lettera)] == 0) lettere &= ~(1u << lettera);
+    }
   }
   return lettere;
 }
