@@ -290,13 +290,14 @@ class Indagine {
     }
   }
 
-  // What was kept undecided gets more steps, now that the set is small.
+  // Slots that were kept undecided get more steps, now that the set is small. Words do not: slots
+  // are kept for them.
   void Riprova() {
-    for (const int elemento : insieme_) {
-      if (dubbio_[Indice(elemento)]) necessario_[Indice(elemento)] = false;
-      dubbio_[Indice(elemento)] = false;
+    for (const int slot : Slot(insieme_)) {
+      if (dubbio_[Indice(slot)]) necessario_[Indice(slot)] = false;
+      dubbio_[Indice(slot)] = false;
     }
-    Sfoltisci(0, static_cast<int>(necessario_.size()), insieme_.size(), ProvePerRipresa);
+    Sfoltisci(0, problema_.Slot(), insieme_.size(), ProvePerRipresa);
   }
 
   Elementi Incerti(int da, int a) const {
