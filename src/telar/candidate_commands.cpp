@@ -82,9 +82,9 @@ Stato Candidati(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
                                             argomenti.liberi[3], "l'inizio della parola");
   const int quanti = static_cast<int>(std::min<std::int64_t>(
       argomenti.Numero(OpzionePrimi.nome, 1, 50), std::numeric_limits<int>::max()));
+  const std::int64_t passi = argomenti.Numero(OpzionePassi.nome, 0, 100'000);
   const Sorveglianza sorveglianza(piattaforma.ChiUsa());
-  const Limiti limiti = {.passi = argomenti.Numero(OpzionePassi.nome, 0, 100'000),
-                         .ferma = sorveglianza.Segnale()};
+  const Limiti limiti = {.passi = passi, .ferma = sorveglianza.Segnale()};
   auto parole = LeggiSceltaParole(argomenti);
   if (!parole || !Apri(argomenti.liberi[0])) return Stato::Fallito;
   const auto lessico = PreparaLessico(*parole);

@@ -129,14 +129,14 @@ class Esecuzione {
  public:
   Esecuzione(const Argomenti& argomenti, const UtenteConsole& utente)
       : richiesta_(LeggiRichiesta(argomenti)),
-        limiti_{.seme = LeggiSeme(argomenti),
-                .passi = argomenti.Numero(OpzionePassi.nome, 0, Limiti().passi),
-                .lavoratori = LeggiLavoratori(argomenti)},
         uscita_(argomenti.liberi[1]),
         numerate_(argomenti.Ha(OpzioneProposte.nome)),
         parziale_(argomenti.Ha(OpzioneParziale.nome)),
         sorveglianza_(utente,
                       inizio_ + Secondi(argomenti, OpzioneSecondi, std::chrono::seconds(20))) {
+    limiti_.seme = LeggiSeme(argomenti);
+    limiti_.passi = argomenti.Numero(OpzionePassi.nome, 0, limiti_.passi);
+    limiti_.lavoratori = LeggiLavoratori(argomenti);
     limiti_.ferma = sorveglianza_.Segnale();
   }
 
