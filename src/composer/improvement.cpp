@@ -13,10 +13,10 @@ namespace {
 
 constexpr std::int64_t FinestrePerAvviso = 16;
 constexpr int LatoMinimo = 5;  // of a window
-constexpr int LatoMassimo = 6;
+constexpr int LatoMassimo = 8;
 constexpr int SlotPerScelta = 3;         // drawn, of which the poorest is taken
 constexpr int PercentoSenzaParola = 90;  // windows in which the poor word may not come back
-constexpr int MaxPerdita = 400;          // of worth that such a window may lose
+constexpr int MaxPerdita = 150;          // of worth that such a window may lose
 
 // The fill that is changed window by window, and the best one that it has been.
 class Miglioramento {
