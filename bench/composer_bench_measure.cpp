@@ -2,12 +2,9 @@
 
 #include <algorithm>
 #include <chrono>
-#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
-#include <mutex>
 #include <optional>
-#include <thread>
 #include <time.h>
 
 namespace telarium {
@@ -19,26 +16,14 @@ double Now(clockid_t clock) {
   return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
-// Asks for a stop when its time is up, unless it is gone before.
-class Deadline {
- public:
-  explicit Deadline(double seconds)
-      : thread_([this, seconds](const std::stop_token& gone) {
-          std::unique_lock lock(mutex_);
-          never_.wait_for(lock, gone, std::chrono::duration<double>(seconds), [] { return false; });
-          if (!gone.stop_requested()) source_.request_stop();
-        }) {}
-
-  std::stop_token Token() const { return source_.get_token(); }
-
- private:
-  std::stop_source source_;
-  std::mutex mutex_;
-  std::condition_variable_any never_;
-  std::jthread thread_;
-};
-
 }  // namespace
+
+Deadline::Deadline(double seconds)
+    : thread_([this, seconds](const std::stop_token& gone) {
+        std::unique_lock lock(mutex_);
+        never_.wait_for(lock, gone, std::chrono::duration<double>(seconds), [] { return false; });
+        if (!gone.stop_requested()) source_.request_stop();
+      }) {}
 
 Stopwatch::Stopwatch() : thread_(Now(CLOCK_THREAD_CPUTIME_ID)), wall_(Now(CLOCK_MONOTONIC)) {}
 

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <condition_variable>
 #include <cstdint>
+#include <mutex>
+#include <stop_token>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "composer/composer.h"
@@ -19,6 +23,19 @@ class Stopwatch {
 
  private:
   double thread_, wall_;
+};
+
+/// Asks for a stop when its seconds of the wall clock are up, unless it is gone before.
+class Deadline {
+ public:
+  explicit Deadline(double seconds);
+  std::stop_token Token() const { return source_.get_token(); }
+
+ private:
+  std::stop_source source_;
+  std::mutex mutex_;
+  std::condition_variable_any never_;
+  std::jthread thread_;
 };
 
 /// Fails the whole run, with what was wrong.
