@@ -65,7 +65,13 @@ class Lettore {
     const Vocabolario& vocabolario = *problema_.vocabolario;
     if (vocabolario.Propria(numero)) return;
     if (vocabolario.Punteggio(numero) < uno.minimo) Nota(slot, "under its least score");
-    if (problema_.soloDefinite && !vocabolario.Definita(numero)) Nota(slot, "without a clue");
+    if (problema_.soloDefinite && !vocabolario.Definita(numero) && !Voluta(numero))
+      Nota(slot, "without a clue");
+  }
+
+  bool Voluta(NumeroParola numero) const {
+    const std::string_view parola = problema_.vocabolario->Parola(numero);
+    return std::ranges::find(problema_.volute, parola) != problema_.volute.end();
   }
 
   void ConfrontaConAltrove() {

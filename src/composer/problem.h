@@ -42,7 +42,7 @@ struct Problema {
   /// The most entries of each kind, by Genia.
   std::array<int, NumGenie> alMassimo = {SenzaLimite, SenzaLimite, SenzaLimite, SenzaLimite,
                                          SenzaLimite};
-  bool soloDefinite = false;  // words without a clue are no words
+  bool soloDefinite = false;  // words without a clue are no words, but wanted ones are
   bool ammetteForme = false;  // words akin to each other may stand together
 
   int Caselle() const { return static_cast<int>(lettere.size()); }

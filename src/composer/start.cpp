@@ -35,12 +35,24 @@ Partenza::Partenza(const Problema& problema) : problema_(problema), reticolo_(pr
     Base& base = dove->second;
     if (nuova) {
       base.parole = Parole().Ammesse(lunghezza, minimo, problema.soloDefinite);
+      AmmettiVolute(lunghezza, minimo, base);
       TogliAltrove(lunghezza, base);
       base.conta = nuclei::Conta(base.parole.data(), base.parole.size());
       for (int posto = 0; posto < lunghezza; ++posto)
         CercaLettere(Parole(), lunghezza, posto, base);
     }
     basi_.push_back(&base);
+  }
+}
+
+// Wanted words are words without a clue too.
+void Partenza::AmmettiVolute(int lunghezza, int minimo, Base& base) const {
+  if (!problema_.soloDefinite) return;
+  for (const std::string& parola : problema_.volute) {
+    const auto numero = Parole().Cerca(parola);
+    if (!numero || numero->lunghezza != lunghezza || Parole().Punteggio(*numero) < minimo) continue;
+    base.parole[static_cast<std::size_t>(numero->numero / ParolePerBlocco)] |=
+        Blocco{1} << (numero->numero % ParolePerBlocco);
   }
 }
 

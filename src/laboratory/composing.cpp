@@ -99,7 +99,8 @@ class Lavoro {
   // Where clues are preferred a fill of words that all have one is looked for first, but not for
   // long: most grids have one.
   Riempimento CercaConDefinizioni(Problema problema, Limiti limiti) const {
-    constexpr std::int64_t bastano = 3'000;  // steps
+    // Steps. Around many wanted words it takes more, and words without a clue stand there for good.
+    const std::int64_t bastano = problema.volute.empty() ? 3'000 : 100'000;
     const bool preferite = fonti_.scelta.parole.definizioni == UsoDefinizioni::Preferite;
     if (!preferite || !fonti_.copertura) return {};
     problema.soloDefinite = true;
