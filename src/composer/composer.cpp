@@ -26,6 +26,14 @@ Maniera ManieraDi(int corsia, std::uint64_t seme) {
   return maniera;
 }
 
+// How far each lane may go so that all together, the first one with what it did alone, have done so
+// many steps.
+std::int64_t PassiPerCorsia(std::int64_t passi) {
+  const std::int64_t daSola = std::min(PassiDaSola, passi);
+  const std::int64_t perLeAltre = (passi - daSola) / (NumCorsie - 1);
+  return perLeAltre <= daSola ? perLeAltre : passi / NumCorsie;
+}
+
 // A lane with what it came to.
 struct Corsia {
   Corsia(const Partenza& partenza, int numero, std::uint64_t seme)
@@ -47,10 +55,11 @@ class Corsie {
   Riempimento Corri() {
     Apri(1);
     Turno(std::min(PassiDaSola, limiti_.passi));
+    const std::int64_t massimo = PassiPerCorsia(limiti_.passi);
     std::int64_t passi = 0;
-    while (!Vincente() && passi < limiti_.passi && !limiti_.ferma.stop_requested()) {
+    while (!Vincente() && passi < massimo && !limiti_.ferma.stop_requested()) {
       Apri(NumCorsie);
-      passi = std::min(passi + PassiPerTurno, limiti_.passi);
+      passi = std::min(passi + PassiPerTurno, massimo);
       Turno(passi);
     }
     return Risposta();

@@ -22,7 +22,7 @@ enum class Esito { Riempito, Impossibile, Tempo };
 /// How far a search may go, and what it is told on the way.
 struct Limiti {
   std::uint64_t seme = 1;
-  std::int64_t passi = 100'000'000;  // of each lane
+  std::int64_t passi = 100'000'000;  // of all lanes together
   int lavoratori = 1;                // threads, the caller's own too
   std::stop_token ferma = {};        // ends it within a few milliseconds, as `Tempo`
 };

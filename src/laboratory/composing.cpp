@@ -86,26 +86,54 @@ class Lavoro {
     return fatto;
   }
 
+  // What is better than demanded is looked for first, but not for long: most grids have it.
   Riempimento Cerca(const Problema& problema, const Limiti& limiti) {
-    Riempimento trovato = CercaConDefinizioni(problema, limiti);
-    if (trovato.esito == Esito::Riempito) return trovato;
-    const std::int64_t invano = trovato.passi;
-    trovato = Componi(problema, Resto(limiti, invano));
+    // Steps. Around many wanted words it takes more, and what else stands there is worth it.
+    const std::int64_t bastano = problema.volute.empty() ? 2'000 : 20'000;
+    std::int64_t invano = 0;
+    for (const Pretesa& pretesa : Pretese()) {
+      Limiti pochi = Resto(limiti, invano);
+      pochi.passi = std::min(pochi.passi, bastano);
+      Riempimento trovato = Componi(Con(problema, pretesa), pochi);
+      invano += trovato.passi;
+      if (trovato.esito != Esito::Riempito) continue;
+      trovato.passi = invano;
+      pretesa_ = pretesa;
+      return trovato;
+    }
+    pretesa_ = {};
+    Riempimento trovato = Componi(problema, Resto(limiti, invano));
     if (trovato.esito == Esito::Impossibile) prova_ = trovato;
     trovato.passi += invano;
     return trovato;
   }
 
-  // Where clues are preferred a fill of words that all have one is looked for first, but not for
-  // long: most grids have one.
-  Riempimento CercaConDefinizioni(Problema problema, Limiti limiti) const {
-    // Steps. Around many wanted words it takes more, and words without a clue stand there for good.
-    const std::int64_t bastano = problema.volute.empty() ? 3'000 : 100'000;
-    const bool preferite = fonti_.scelta.parole.definizioni == UsoDefinizioni::Preferite;
-    if (!preferite || !fonti_.copertura) return {};
-    problema.soloDefinite = true;
-    limiti.passi = std::min(limiti.passi, bastano);
-    return Componi(problema, limiti);
+  // What is asked of a fill beyond what is demanded.
+  struct Pretesa {
+    int minimo = 0;
+    bool definite = false;
+  };
+
+  // A grid is judged by its worst word, and where clues are preferred each word shall have one:
+  // from the best that may be had to what is hardly worth a try.
+  std::vector<Pretesa> Pretese() const {
+    const bool preferite =
+        fonti_.scelta.parole.definizioni == UsoDefinizioni::Preferite && fonti_.copertura;
+    std::vector<Pretesa> pretese = {{PunteggioNoto, preferite}, {PunteggioRaro, preferite}};
+    if (preferite) pretese.push_back({0, true});
+    return pretese;
+  }
+
+  static Problema Con(Problema problema, const Pretesa& pretesa) {
+    problema.soloDefinite |= pretesa.definite;
+    // Wanted words are wanted whatever their score.
+    int minimo = pretesa.minimo;
+    for (const std::string& parola : problema.volute) {
+      const auto voluta = problema.vocabolario->Cerca(parola);
+      if (voluta && !problema.vocabolario->Propria(*voluta))
+        minimo = std::min(minimo, problema.vocabolario->Punteggio(*voluta));
+    }
+    return ConMinimo(std::move(problema), minimo);
   }
 
   void PortaAllaSoglia(const Problema& problema, Riempimento& fatto, const Limiti& limiti) {
@@ -122,9 +150,10 @@ class Lavoro {
   bool MiglioraRiempimento(const Problema& problema, Riempimento& fatto, const Limiti& limiti) {
     if (richiesta_.finestre == 0) return false;
     Segui(FaseComposizione::Miglioramento, 0, fatto.lettere);
+    const Problema conSoglia =
+        risultato_.soglia ? ConMinimo(problema, risultato_.soglia->fino) : Con(problema, pretesa_);
     Riempimento migliore =
-        Migliora(risultato_.soglia ? ConMinimo(problema, risultato_.soglia->fino) : problema,
-                 fatto.lettere, richiesta_.finestre, Resto(limiti, fatto.passi),
+        Migliora(conSoglia, fatto.lettere, richiesta_.finestre, Resto(limiti, fatto.passi),
                  [this](std::int64_t finestre, const std::string& lettere) {
                    Segui(FaseComposizione::Miglioramento, finestre, lettere);
                  });
@@ -158,6 +187,7 @@ class Lavoro {
   const RichiestaComposizione& richiesta_;
   const Limiti& limiti_;
   const SegueComposizione& segui_;
+  Pretesa pretesa_ = {};                   // that the last fill has kept
   Riempimento prova_;                      // when it is Impossibile
   std::map<std::string, Proposta> fatte_;  // by their letters
   RisultatoComposizione risultato_;
