@@ -50,7 +50,7 @@ template <class Riempibile>
 void TogliLettere(Cruciverba& cruciverba, Riempibile riempibile) {
   const Derivati prima = Deriva(cruciverba);
   PerCasella<char> bloccate(prima, false);
-  for (const auto& [casella, direzione] : cruciverba.laboratorio.bloccate) {
+  for (const auto& [casella, direzione] : cruciverba.laboratorio->bloccate) {
     if (!prima.Dentro(casella) || !prima.Inizia(casella, direzione)) continue;
     const auto quale = static_cast<std::size_t>(prima.ParolaPer(casella, direzione));
     const Slot& slot = prima.Parole()[quale];
@@ -342,7 +342,7 @@ void AggiungiProprie(Cruciverba& cruciverba, const Derivati& griglia,
   for (const Slot& slot : griglia.Parole())
     presenti.insert(LettereDiCaselle(griglia.Lettere(slot)));
   for (const std::string& parola : proprie) {
-    if (presenti.contains(parola)) cruciverba.laboratorio.proprie.push_back(parola);
+    if (presenti.contains(parola)) cruciverba.laboratorio.Proprio().proprie.push_back(parola);
   }
 }
 

@@ -43,7 +43,7 @@ std::string VoceDiGriglia::Nome() const {
 }
 
 ParoleVietate::ParoleVietate(const Lessico& lessico, const Cruciverba& cruciverba)
-    : ParoleVietate(lessico, Piegate(cruciverba.laboratorio.vietate)) {}
+    : ParoleVietate(lessico, Piegate(cruciverba.laboratorio->vietate)) {}
 
 ParoleVietate::ParoleVietate(const Lessico& lessico, InsiemeDiParole delCruciverba)
     : lessico_(lessico), delCruciverba_(std::move(delCruciverba)) {}
@@ -55,7 +55,7 @@ bool ParoleVietate::Ha(std::string_view parola) const {
 
 std::vector<VoceDiGriglia> VociDi(const Cruciverba& cruciverba, const Derivati& griglia,
                                   const Criteri& criteri) {
-  const InsiemeDiParole proprie = Piegate(cruciverba.laboratorio.proprie);
+  const InsiemeDiParole proprie = Piegate(cruciverba.laboratorio->proprie);
   const ParoleVietate vietate(criteri.lessico, cruciverba);
   std::vector<VoceDiGriglia> voci;
   voci.reserve(griglia.Parole().size());

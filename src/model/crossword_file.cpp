@@ -90,7 +90,7 @@ std::optional<std::string> TestoDelCruciverba() {
 
 std::optional<std::string> TestoDaPubblicare() {
   Cruciverba cruciverba = CruciverbaCorrente();
-  cruciverba.laboratorio = {};
+  cruciverba.laboratorio = Laboratorio{};
   return ContenutoDelFile(cruciverba);
 }
 

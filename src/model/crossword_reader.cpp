@@ -64,7 +64,7 @@ class Lettore {
 
   bool Intestazione() {
     lettura_.finoA = ParteDelFile::Intestazione;
-    for (std::string& una : lettura_.cruciverba.intestazione) {
+    for (std::string& una : lettura_.cruciverba.intestazione.Proprio()) {
       std::string_view riga;
       if (!Riga(riga)) return false;
       una = riga;
@@ -75,7 +75,7 @@ class Lettore {
   bool PrendiDimensioni() {
     lettura_.finoA = ParteDelFile::Dimensioni;
     Cruciverba& cruciverba = lettura_.cruciverba;
-    const auto dimensioni = DimensioniDichiarate(cruciverba.intestazione.back());
+    const auto dimensioni = DimensioniDichiarate(cruciverba.intestazione->back());
     cruciverba.colonne = dimensioni ? dimensioni->colonne : 0;
     cruciverba.righe = dimensioni ? dimensioni->righe : 0;
     return dimensioni || Guasto(SenzaDimensioni, numeroRiga_);
@@ -85,7 +85,7 @@ class Lettore {
     lettura_.finoA = ParteDelFile::Griglia;
     auto& griglia = lettura_.cruciverba.griglia;
     griglia.resize(static_cast<std::size_t>(lettura_.cruciverba.righe));
-    for (std::string& una : griglia) {
+    for (Condiviso<std::string>& una : griglia) {
       std::string_view letta;
       if (!Riga(letta)) return false;
       auto riga = RigaDiSchema(letta);

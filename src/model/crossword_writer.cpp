@@ -29,7 +29,7 @@ std::string InUnaRiga(std::string_view testo) {
 bool AggiungiGriglia(std::string& testo, const Cruciverba& cruciverba) {
   for (std::size_t r = 0; r < static_cast<std::size_t>(cruciverba.righe); ++r) {
     const bool presente = r < cruciverba.griglia.size();
-    const auto riga = RigaDelFile(presente ? cruciverba.griglia[r] : std::string());
+    const auto riga = RigaDelFile(presente ? *cruciverba.griglia[r] : std::string());
     if (!riga) return false;
     AggiungiRiga(testo, *riga);
   }
@@ -61,7 +61,7 @@ std::optional<std::string> ContenutoDelFile(const Cruciverba& cruciverba) {
   const auto laboratorio = SezioneDelLaboratorio(cruciverba.laboratorio);
   if (!laboratorio) return std::nullopt;
   std::string testo;
-  for (const std::string& riga : cruciverba.intestazione)
+  for (const std::string& riga : *cruciverba.intestazione)
     AggiungiRiga(testo, InUnaRiga(riga));
   if (!AggiungiGriglia(testo, cruciverba)) return std::nullopt;
   AggiungiDefinizioni(testo, cruciverba);

@@ -9,7 +9,7 @@ char CarattereDi(const Cruciverba& cruciverba, Casella casella) {
   const auto riga = static_cast<std::size_t>(casella.riga) - 1;
   if (riga >= cruciverba.griglia.size()) return CellaVuota;
   const std::size_t posto = IndiceInRiga(casella.colonna);
-  const std::string& testo = cruciverba.griglia[riga];
+  const std::string& testo = *cruciverba.griglia[riga];
   return posto < testo.size() ? testo[posto] : CellaVuota;
 }
 
@@ -17,7 +17,7 @@ void ScriviCarattere(Cruciverba& cruciverba, Casella casella, char carattere) {
   Verifica(NelloSchema(cruciverba, casella), "Cruciverba: casella fuori dallo schema");
   const auto riga = static_cast<std::size_t>(casella.riga) - 1;
   if (riga >= cruciverba.griglia.size()) cruciverba.griglia.resize(riga + 1);
-  ScriviInRiga(cruciverba.griglia[riga], casella.colonna, carattere);
+  ScriviInRiga(cruciverba.griglia[riga].Proprio(), casella.colonna, carattere);
 }
 
 void Ridimensiona(Cruciverba& cruciverba, int colonne, int righe) {
@@ -25,13 +25,14 @@ void Ridimensiona(Cruciverba& cruciverba, int colonne, int righe) {
            "Cruciverba: dimensioni fuori dai limiti");
   const auto prima = 2 * static_cast<std::size_t>(cruciverba.colonne);
   cruciverba.griglia.resize(static_cast<std::size_t>(righe));
-  for (std::string& riga : cruciverba.griglia) {
+  for (Condiviso<std::string>& condivisa : cruciverba.griglia) {
+    std::string& riga = condivisa.Proprio();
     if (riga.size() > prima) riga.resize(prima);  // what a line holds past its last cell is no cell
     riga.resize(2 * static_cast<std::size_t>(colonne), CellaVuota);
   }
   cruciverba.colonne = colonne;
   cruciverba.righe = righe;
-  std::string& dimensioni = cruciverba.intestazione[RigheIntestazione - 1];
+  std::string& dimensioni = cruciverba.intestazione.Proprio().back();
   dimensioni = ConDimensioni(std::move(dimensioni), {colonne, righe});
 }
 

@@ -1,31 +1,36 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
 #include "model/cells.h"
 #include "model/laboratory_section.h"
+#include "model/shared.h"
 #include "model/sparse_table.h"
 #include "platform/surface.h"
 
 // The crossword as a value: what its file holds and nothing that follows from it (see
-// model/derivation.h). Texts are of the code page.
+// model/derivation.h). Texts are of the code page. Copies are cheap: they share what they have in
+// common by rows of the grid and columns of clues and colours.
 namespace telarium {
+
+using Intestazione = std::array<std::string, RigheIntestazione>;
 
 struct Cruciverba {
   /// Author, date, kind and size, each with its label.
-  std::array<std::string, RigheIntestazione> intestazione;
+  Condiviso<Intestazione> intestazione;
   int colonne = 0;  // 0 while there is no grid, else 1 to MaxColonne
   int righe = 0;    // 0 while there is no grid, else 1 to MaxRighe
   /// Row r at r - 1, as read: cell c has its character at index 2c-2 and behind it a companion mark
   /// that decides nothing. A line can be shorter or longer than the grid.
-  std::vector<std::string> griglia;
+  std::vector<Condiviso<std::string>> griglia;
   /// (column, row, direction): the clue of the word that starts there. All places of the largest
   /// grid have one, so that a clue comes back with its column or its start.
   TabellaRada<std::string, AsseColonne, AsseRighe, AsseDirezioni> definizioni{"definizioni"};
   /// (column, row): the colour of a black cell, likewise.
   TabellaRada<Colore, AsseColonne, AsseRighe> colori{"colori"};
-  Laboratorio laboratorio;
+  Condiviso<Laboratorio> laboratorio;
 
   bool operator==(const Cruciverba&) const = default;
 };

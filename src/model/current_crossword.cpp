@@ -14,7 +14,7 @@ std::string& RigaDiGriglia(std::size_t indice) {
 Cruciverba CruciverbaCorrente() {
   Cruciverba cruciverba;
   for (int i = 1; i <= RigheIntestazione; ++i)
-    cruciverba.intestazione[static_cast<std::size_t>(i) - 1] = Schema(i);
+    cruciverba.intestazione.Proprio()[static_cast<std::size_t>(i) - 1] = Schema(i);
   cruciverba.colonne = NumColonne;
   cruciverba.righe = NumRighe;
   cruciverba.griglia.resize(static_cast<std::size_t>(NumRighe));
@@ -35,11 +35,11 @@ Cruciverba CruciverbaCorrente() {
 
 void PrendiCruciverba(const Cruciverba& cruciverba) {
   for (int i = 1; i <= RigheIntestazione; ++i)
-    Schema(i) = cruciverba.intestazione[static_cast<std::size_t>(i) - 1];
+    Schema(i) = (*cruciverba.intestazione)[static_cast<std::size_t>(i) - 1];
   NumColonne = static_cast<std::int16_t>(cruciverba.colonne);
   NumRighe = static_cast<std::int16_t>(cruciverba.righe);
   for (std::size_t i = 0; i < cruciverba.griglia.size(); ++i)
-    RigaDiGriglia(i) = cruciverba.griglia[i];
+    RigaDiGriglia(i) = *cruciverba.griglia[i];
   SvuotaDefinizioni();
   cruciverba.definizioni.PerOgni([](const std::string& definizione, int c, int r, int d) {
     Definizione(c, r, d) = definizione;

@@ -8,14 +8,16 @@
 #include <utility>
 #include <vector>
 
+#include "model/shared.h"
 #include "model/table.h"
 
 namespace telarium {
 
 /// A checked table as Tabella, for values that are copied and kept in numbers: only entries other
-/// than T{} take room, so that equal contents are equal tables. They stand in the order of their
-/// indices, the last one running fastest.
-template <class T, class... Assi>
+/// than T{} take room, so that equal contents are equal tables, and what has the same first index
+/// (a column) is shared by the copies until one of them changes it. Entries stand in the order of
+/// their indices, the last one running fastest.
+template <class T, class Asse, class... Altri>
 class TabellaRada {
  public:
   explicit TabellaRada(const char* nome) : nome_(nome) {}
@@ -23,67 +25,81 @@ class TabellaRada {
   template <class... Indice>
   const T& operator()(Indice... indice) const {
     static const T nulla{};
-    const std::uint16_t posto = Posto(indice...);
-    const auto dove = Cerca(posto);
-    return dove != elementi_.end() && dove->first == posto ? dove->second : nulla;
+    const auto [colonna, posto] = Posto(indice...);
+    const Colonna& elementi = *colonne_[colonna];
+    const auto dove = Cerca(elementi, posto);
+    return dove != elementi.end() && dove->first == posto ? dove->second : nulla;
   }
 
   /// Gives the entry a value; entries that are set in order cost constant time.
   template <class... Indice>
   void Imposta(T valore, Indice... indice) {
-    const std::uint16_t posto = Posto(indice...);
-    const auto dove = Cerca(posto);
-    const bool presente = dove != elementi_.end() && dove->first == posto;
-    const auto qui = elementi_.begin() + (dove - elementi_.cbegin());
+    const auto [colonna, posto] = Posto(indice...);
+    Condiviso<Colonna>& condivisa = colonne_[colonna];
+    const auto dove = Cerca(*condivisa, posto);
+    const bool presente = dove != condivisa->end() && dove->first == posto;
+    if (valore == (presente ? dove->second : T{})) return;
+    const auto distanza = dove - condivisa->begin();
+    Colonna& elementi = condivisa.Proprio();
+    const auto qui = elementi.begin() + distanza;
     if (valore == T{}) {
-      if (presente) elementi_.erase(qui);
+      elementi.erase(qui);
     } else if (presente) {
       qui->second = std::move(valore);
     } else {
-      elementi_.emplace(qui, posto, std::move(valore));
+      elementi.emplace(qui, posto, std::move(valore));
     }
   }
 
   /// How many entries are other than T{}.
-  std::size_t Quanti() const { return elementi_.size(); }
+  std::size_t Quanti() const {
+    std::size_t quanti = 0;
+    for (const Condiviso<Colonna>& colonna : colonne_)
+      quanti += colonna->size();
+    return quanti;
+  }
 
   /// Calls `visita` with each of them and its indices, in their order.
   template <class Visita>
   void PerOgni(Visita visita) const {
-    for (const auto& [posto, valore] : elementi_) {
-      std::apply([&](auto... indice) { visita(valore, indice...); }, IndiciDi(posto));
+    for (int primo = Asse::primo; primo <= Asse::ultimo; ++primo) {
+      for (const auto& [posto, valore] : *colonne_[static_cast<std::size_t>(primo - Asse::primo)])
+        std::apply([&](auto... altri) { visita(valore, primo, altri...); }, IndiciDi(posto));
     }
   }
 
-  bool operator==(const TabellaRada& altra) const { return elementi_ == altra.elementi_; }
+  bool operator==(const TabellaRada& altra) const { return colonne_ == altra.colonne_; }
 
  private:
   using Elemento = std::pair<std::uint16_t, T>;
-  static_assert((static_cast<std::size_t>(Assi::quanti) * ...) <=
-                std::numeric_limits<std::uint16_t>::max());
+  using Colonna = std::vector<Elemento>;
+  static constexpr std::size_t perColonna = (static_cast<std::size_t>(Altri::quanti) * ...);
+  static_assert(perColonna <= std::numeric_limits<std::uint16_t>::max());
 
+  // Which column, from 0, and the place in it.
   template <class... Indice>
-  std::uint16_t Posto(Indice... indice) const {
-    return static_cast<std::uint16_t>(PostoNellaTabella<Assi...>(nome_, indice...));
+  std::pair<std::size_t, std::uint16_t> Posto(Indice... indice) const {
+    const std::size_t posto = PostoNellaTabella<Asse, Altri...>(nome_, indice...);
+    return {posto / perColonna, static_cast<std::uint16_t>(posto % perColonna)};
   }
 
-  static std::array<int, sizeof...(Assi)> IndiciDi(int posto) {
-    constexpr int primi[] = {Assi::primo...};
-    constexpr int quanti[] = {Assi::quanti...};
-    std::array<int, sizeof...(Assi)> indici;
+  static std::array<int, sizeof...(Altri)> IndiciDi(int posto) {
+    constexpr int primi[] = {Altri::primo...};
+    constexpr int quanti[] = {Altri::quanti...};
+    std::array<int, sizeof...(Altri)> indici;
     for (std::size_t i = indici.size(); i-- > 0; posto /= quanti[i])
       indici[i] = primi[i] + posto % quanti[i];
     return indici;
   }
 
-  typename std::vector<Elemento>::const_iterator Cerca(std::uint16_t posto) const {
-    if (elementi_.empty() || elementi_.back().first < posto) return elementi_.end();
-    return std::lower_bound(elementi_.begin(), elementi_.end(), posto,
+  static typename Colonna::const_iterator Cerca(const Colonna& elementi, std::uint16_t posto) {
+    if (elementi.empty() || elementi.back().first < posto) return elementi.end();
+    return std::lower_bound(elementi.begin(), elementi.end(), posto,
                             [](const Elemento& uno, std::uint16_t p) { return uno.first < p; });
   }
 
   const char* nome_;
-  std::vector<Elemento> elementi_;
+  std::array<Condiviso<Colonna>, static_cast<std::size_t>(Asse::quanti)> colonne_;
 };
 
 }  // namespace telarium

@@ -37,8 +37,8 @@ void PrintTo(const Planted& planted, std::ostream* out) {
 class Crossword {
  public:
   explicit Crossword(const Planted& planted) : value(DrawnCrossword(planted.rows)) {
-    value.laboratorio.proprie = planted.own;
-    value.laboratorio.vietate = planted.banned;
+    value.laboratorio.Proprio().proprie = planted.own;
+    value.laboratorio.Proprio().vietate = planted.banned;
     criteria.regole = *RegolamentoDiNome(planted.rules);
     const Derivati grid = Deriva(value);
     std::map<std::string, std::string> lines;

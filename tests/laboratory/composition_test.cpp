@@ -92,7 +92,7 @@ TEST(CrosswordToProblem, LettersThatAreDroppedTakeTheirCluesAlongButForLockedWor
   for (const int direction : Direzioni)
     crossword.definizioni.Imposta("uno", 1, 1, direction);
   crossword.definizioni.Imposta("due", 1, 3, Orizzontale);
-  crossword.laboratorio.bloccate = {
+  crossword.laboratorio.Proprio().bloccate = {
       {{1, 1}, Verticale}, {{9, 9}, Orizzontale}, {{2, 2}, Verticale}};
   std::string message;
   const auto composition = Prepared(crossword, {.parole = {}, .daCapo = true}, message);
@@ -110,7 +110,7 @@ TEST(CrosswordToProblem, WordsThatStayKeepLettersAndCluesAndOwnOnesAreNoted) {
   Cruciverba crossword = DrawnCrossword({"Cit\xE0", "A#..", "S#.."});
   crossword.definizioni.Imposta("resta", 1, 1, Orizzontale);
   crossword.definizioni.Imposta("va", 3, 1, Verticale);
-  crossword.laboratorio.proprie = {"cas"};
+  crossword.laboratorio.Proprio().proprie = {"cas"};
   std::string message;
   const auto composition =
       Prepared(crossword, {.parole = {}, .volute = {"TEX", "YZ", "QQ"}}, message);
@@ -127,7 +127,7 @@ TEST(CrosswordToProblem, WordsThatStayKeepLettersAndCluesAndOwnOnesAreNoted) {
   EXPECT_EQ(Deriva(filled).Lettere({{4, 1}, Verticale, 3}), "\xE0O.");
   EXPECT_EQ(filled.definizioni(1, 1, Orizzontale), "resta");
   EXPECT_EQ(filled.definizioni(3, 1, Verticale), "");
-  EXPECT_EQ(filled.laboratorio.proprie, (Lines{"cas", "CITA", "TEX"}));
+  EXPECT_EQ(filled.laboratorio->proprie, (Lines{"cas", "CITA", "TEX"}));
 }
 
 TEST(CrosswordToProblem, NumbersCountWhatStands) {
@@ -168,8 +168,8 @@ SceltaComposizione Within(Regione region) {
 
 TEST(CrosswordToProblem, DemandsThatContradictEachOtherAreTold) {
   Cruciverba crossword = DrawnCrossword({"C....", ".#.#.", "NOTO.", ".#.#."});
-  crossword.laboratorio.vietate = {"casa"};
-  crossword.laboratorio.proprie = {"gatto"};
+  crossword.laboratorio.Proprio().vietate = {"casa"};
+  crossword.laboratorio.Proprio().proprie = {"gatto"};
   SceltaComposizione scored = Wanting("ARO");
   scored.parole.livelli.fill(30);
   SceltaComposizione clued = Wanting("TAXI");

@@ -31,12 +31,16 @@ std::string SectionOf(const std::string& lines) {
   return read ? SezioneDelLaboratorio(*read).value_or("cannot be written") : "too large";
 }
 
+Texts RowsOf(const Cruciverba& crossword) {
+  return {crossword.griglia.begin(), crossword.griglia.end()};
+}
+
 TEST(CrosswordValue, HoldsAllThatItsFileSays) {
   const auto [crossword, reached, fault] = LeggiContenuto(WholeFile());
   EXPECT_FALSE(fault);
   EXPECT_EQ(reached, ParteDelFile::Laboratorio);
-  EXPECT_EQ(crossword.griglia, (Texts{"C.A.**", "......"}));
-  EXPECT_EQ(crossword.intestazione[0] + crossword.intestazione[3], "aDimensioni : 03x02");
+  EXPECT_EQ(RowsOf(crossword), (Texts{"C.A.**", "......"}));
+  EXPECT_EQ((*crossword.intestazione)[0] + (*crossword.intestazione)[3], "aDimensioni : 03x02");
   EXPECT_EQ(crossword.definizioni(53, 30, Verticale) + crossword.definizioni(1, 1, Orizzontale),
             "fuoriPrima");
   EXPECT_EQ(crossword.definizioni.Quanti(), 3u);
@@ -123,8 +127,9 @@ TEST(CrosswordValue, ReadingOverAnotherKeepsWhatTheFileDoesNotName) {
   EXPECT_EQ(after.colori(1, 1) * 10 + after.colori(2, 2), 57);
   EXPECT_EQ(after.laboratorio, before.laboratorio);
   const std::string section = Unisci(grid, "[Colori caselle]\r\nrotti\r\n[LABORATORIO]\r\nx=1");
-  EXPECT_EQ(LeggiContenuto(section, before).cruciverba.laboratorio.altreRighe, Texts{"x=1"});
-  EXPECT_EQ(LeggiContenuto(section, {}, Coda::Estranea).cruciverba.laboratorio, Laboratorio{});
+  EXPECT_EQ(LeggiContenuto(section, before).cruciverba.laboratorio->altreRighe, Texts{"x=1"});
+  EXPECT_EQ(LeggiContenuto(section, {}, Coda::Estranea).cruciverba.laboratorio,
+            Condiviso<Laboratorio>{});
 }
 
 TEST(CrosswordValue, SectionIsTakenAsFarAsItIsKnownAndTheRestIsKept) {
@@ -158,7 +163,7 @@ TEST(CrosswordValue, WhatTheSectionCannotHoldIsInNoFile) {
   EXPECT_TRUE(refused({.vietate = {std::string(MaxByteLaboratorio - 11, 'A')}}));
   Cruciverba crossword = DrawnCrossword({"AB"});
   EXPECT_TRUE(ContenutoDelFile(crossword));
-  crossword.laboratorio.vietate = {"A B"};
+  crossword.laboratorio.Proprio().vietate = {"A B"};
   EXPECT_FALSE(ContenutoDelFile(crossword));
   // A line that would come out longer than it was is not taken, since it could not be written.
   const std::string lines = "vietate=" + std::string(MaxByteLaboratorio - 12, 'A');
@@ -172,8 +177,8 @@ TEST(CrosswordValue, AClueComesBackWithItsColumn) {
   crossword.colori.Imposta(255, 3, 2);
   const Cruciverba before = crossword;
   Ridimensiona(crossword, 2, 1);
-  EXPECT_EQ(crossword.griglia, Texts{"A.B."});
-  EXPECT_EQ(crossword.intestazione[3], "Dimensioni : 02x01");
+  EXPECT_EQ(RowsOf(crossword), Texts{"A.B."});
+  EXPECT_EQ((*crossword.intestazione)[3], "Dimensioni : 02x01");
   EXPECT_NE(crossword, before);
   EXPECT_EQ(ContenutoDelFile(crossword).value().find("ultima"), std::string::npos);
   Ridimensiona(crossword, 3, 2);
@@ -188,7 +193,7 @@ TEST(CrosswordValue, AClueComesBackWithItsColumn) {
 
 TEST(CrosswordValue, EveryCellKnowsTheWordsThatRunThroughIt) {
   Cruciverba crossword = DrawnCrossword({"CA#E", "#B#.", "..#T"});
-  crossword.griglia[2] = "X";  // what the line does not reach is white
+  crossword.griglia[2] = std::string("X");  // what the line does not reach is white
   const Derivati derived = Deriva(crossword);
   Texts words;
   for (const Slot& word : derived.Parole())
@@ -209,6 +214,21 @@ TEST(CrosswordValue, EveryCellKnowsTheWordsThatRunThroughIt) {
   EXPECT_EQ(derived.Numero({4, 1}) * 10 + derived.Numero({1, 3}), 34);
   EXPECT_TRUE(derived.Inizia({2, 1}, Verticale) && !derived.Inizia({2, 1}, Orizzontale));
   EXPECT_TRUE(Deriva(Cruciverba()).Parole().empty());
+}
+
+TEST(CrosswordValue, ACopyKeepsWhatTheOtherOneChanges) {
+  Cruciverba crossword = LeggiContenuto(WholeFile()).cruciverba;
+  const Cruciverba kept = crossword;
+  const Cruciverba again = LeggiContenuto(WholeFile()).cruciverba;
+  EXPECT_TRUE(kept.griglia[0].StessoDi(crossword.griglia[0]));
+  ScriviCarattere(crossword, {1, 1}, 'Z');
+  crossword.definizioni.Imposta("altra", 1, 1, Orizzontale);
+  crossword.definizioni.Imposta({}, 3, 2, Verticale);
+  crossword.colori.Imposta(9, 2, 2);
+  crossword.laboratorio.Proprio().proprie.clear();
+  EXPECT_NE(crossword, kept);
+  EXPECT_EQ(kept, again);
+  EXPECT_TRUE(kept.griglia[1].StessoDi(crossword.griglia[1]));
 }
 
 }  // namespace
