@@ -21,8 +21,8 @@ struct LimitiDellArchivio {
 
 /// Work that is in no file of a crossword: found after a crash, a kill or a discarded end.
 struct LavoroPerso {
-  Percorso giornale;  // its file of steps
-  Percorso nome;      // that the crossword had
+  Percorso giornale;                // its file of steps
+  Percorso nome;                    // that the crossword had
   std::chrono::sys_seconds quando;  // of the last change
   Cruciverba cruciverba;
 };

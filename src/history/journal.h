@@ -15,9 +15,9 @@ namespace telarium {
 
 /// How the work on a crossword ended.
 enum class Chiusura {
-  Aperta,      // it did not: the program is running, or was killed
-  Salvata,     // with all of it in its file
-  Scartata,    // the user has seen what was not saved, and does not want it
+  Aperta,    // it did not: the program is running, or was killed
+  Salvata,   // with all of it in its file
+  Scartata,  // the user has seen what was not saved, and does not want it
 };
 
 /// What a file of steps holds.

@@ -31,8 +31,8 @@ class OsservatoreDelDocumento {
 struct FileDelCruciverba {
   /// Its path; empty: no crossword is open; NomeMaiSalvato: there is none yet.
   Percorso nome;
-  /// The crossword that it holds, as last read or written, and the digest of its bytes (ImprontaDi);
-  /// none before it was saved for the first time.
+  /// The crossword that it holds, as last read or written, and the digest of its bytes
+  /// (ImprontaDi); none before it was saved for the first time.
   Cruciverba contenuto;
   std::optional<std::uint64_t> impronta;
   /// Whether part of it was not read, and would be lost by a save.
@@ -49,6 +49,8 @@ struct StatoDelDocumento {
 
   bool operator==(const StatoDelDocumento&) const = default;
 };
+
+class PassoUnico;
 
 class Documento {
  public:
@@ -79,21 +81,21 @@ class Documento {
   /// As at program start.
   void Azzera();
 
-  /// At most one; null takes it away. The caller keeps it alive.
+  /// At most one observer; null takes it away. The caller keeps it alive.
   void Osserva(OsservatoreDelDocumento* osservatore) { osservatore_ = osservatore; }
 
  private:
   friend class PassoUnico;
 
-  void Cambiato();
-
   StatoDelDocumento stato_;
   Derivati derivati_;
+  PassoUnico* passo_ = nullptr;  // the one that is open
   OsservatoreDelDocumento* osservatore_ = nullptr;
 };
 
 /// All changes in the life of this object are one step: a command that changes the crossword in
-/// several strokes. Those within another one belong to the outer one.
+/// several strokes. Those within another one belong to the outer one. Another crossword that takes
+/// its place meanwhile counts from there on.
 class PassoUnico {
  public:
   PassoUnico(Documento& documento, std::string motivo);
@@ -102,8 +104,11 @@ class PassoUnico {
   PassoUnico& operator=(const PassoUnico&) = delete;
 
  private:
+  friend class Documento;
+
   Documento& documento_;
   std::string motivo_;
+  Cruciverba prima_;
 };
 
 /// The one that is open in this program.
