@@ -11,7 +11,7 @@
 #include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "editor/commit.h"
-#include "fill/extraction.h"
+#include "editor/fill_command.h"
 #include "fill/word_choice.h"
 #include "median_keeper.h"
 #include "model/crossword_file.h"
@@ -70,8 +70,9 @@ void BM_CandidatesPlain(benchmark::State& state, const std::string& pattern) {
 }
 
 void BM_Candidates(benchmark::State& state, const std::string& pattern) {
+  SceltaDiParole choice([] { return 0.0; });
   for (auto _ : state)
-    benchmark::DoNotOptimize(CercaCandidati(pattern));
+    benchmark::DoNotOptimize(choice.CercaCandidati(pattern));
 }
 
 void BM_MissingWordPlain(benchmark::State& state) {
@@ -81,9 +82,10 @@ void BM_MissingWordPlain(benchmark::State& state) {
 }
 
 void BM_MissingWord(benchmark::State& state) {
+  SceltaDiParole choice([] { return 0.0; });
   const std::string word = MissingWord();
   for (auto _ : state)
-    benchmark::DoNotOptimize(ParolaEsiste(word));
+    benchmark::DoNotOptimize(choice.ParolaEsiste(word));
 }
 
 std::vector<std::string> PlainFillFromSeed(unsigned seed) {
@@ -93,9 +95,8 @@ std::vector<std::string> PlainFillFromSeed(unsigned seed) {
 
 std::vector<std::string> FillFromSeed(unsigned seed, ScriptedPlatform& platform) {
   platform.machine.random = SorgenteCasuale(seed);
-  EseguiEstrazione();
+  ComandoEstrazione().EseguiEstrazione();
   platform.user.TakeMessages();
-  platform.user.polls.clear();
   std::vector<std::string> rows;
   for (int r = 1; r <= NumRighe; ++r) {
     rows.emplace_back();

@@ -12,7 +12,6 @@
 #include "editor/redraw.h"
 #include "editor/startup.h"
 #include "editor/windows/Form1.h"
-#include "fill/extraction.h"
 #include "median_keeper.h"
 #include "model/words.h"
 #include "offscreen_main.h"
@@ -92,20 +91,20 @@ void OpenModelGrid() {
 void BM_Attempts(benchmark::State& state, ScriptedPlatform& platform, Form1& form, bool window) {
   OpenModelGrid();
   platform.hasWindow = window;
-  ProvaInfinita = Vero;
-  platform.user.StopFillWhen([&](const AvanzamentoEstrazione& progress) {
-    return progress.tentativo > Attempts || (window && !form.SeguiEstrazione(progress));
+  std::int64_t attempts = 0;
+  ComandoEstrazione fill([&](const AvanzamentoEstrazione& progress) {
+    attempts = progress.tentativo;
+    return attempts <= Attempts && (!window || form.SeguiEstrazione(progress));
   });
+  fill.ProvaInfinita = Vero;
   for (auto _ : state) {
     platform.machine.random = SorgenteCasuale(1);
     platform.user.Answer(Risposta::Ok);
-    EstraiSchema();
-    if (platform.user.polls.back().tentativo <= Attempts) abort();
+    fill.EstraiSchema();
+    if (attempts <= Attempts) abort();
     platform.user.TakeMessages();
-    platform.user.polls.clear();
   }
   platform.hasWindow = true;
-  ProvaInfinita = Falso;
 }
 
 void PrintTable(std::map<std::string, double>& medians) {

@@ -323,7 +323,7 @@ void TakeFillProgress(Studio& studio) {
   constexpr int words = 15;
   constexpr int too_many = 2 * attempt;
   bool taken = false;
-  studio.platform.ChiUsa().SegueEstrazione([&](const AvanzamentoEstrazione& progress) {
+  studio.form.EstrazioneAutomatica.Segue([&](const AvanzamentoEstrazione& progress) {
     const bool goes_on = studio.form.SeguiEstrazione(progress);
     if (!taken && progress.tentativo >= attempt && progress.slotCollocati >= words) {
       studio.Save(studio.form.Avanzamento->grab(), "fill_progress");

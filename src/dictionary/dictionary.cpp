@@ -56,12 +56,16 @@ bool DizionarioLeggibile() {
   return FileDizionario(PercorsoDizionario()).Aperto();
 }
 
-void AvvisaDizionarioIlleggibile() {
+std::string TestoDizionarioIlleggibile() {
   const Percorso nome = PercorsoDizionario();
   const FileDizionario file(nome);
-  Avvisa(
-      ConCausa("Impossibile leggere il dizionario.", nome,
-               file.Aperto() ? "la lettura non è riuscita"_cp : DescrizioneErrore(file.Errore())));
+  return ConCausa(
+      "Impossibile leggere il dizionario.", nome,
+      file.Aperto() ? "la lettura non è riuscita"_cp : DescrizioneErrore(file.Errore()));
+}
+
+void AvvisaDizionarioIlleggibile() {
+  Avvisa(TestoDizionarioIlleggibile());
 }
 
 }  // namespace telarium

@@ -41,7 +41,8 @@ std::string LeggiParola(std::int16_t numero, int lunghezza);
 /// Whether the open dictionary's file is there and can be read.
 bool DizionarioLeggibile();
 
-/// Tells the user that the open dictionary cannot be read.
+/// Says that the open dictionary cannot be read, and why; tells the user so.
+std::string TestoDizionarioIlleggibile();
 void AvvisaDizionarioIlleggibile();
 
 }  // namespace telarium

@@ -57,12 +57,14 @@ void DisegnaSchema(Superficie& superficie) {
 }  // namespace
 
 void RidisegnaSchema() {
+  RidisegnaSenzaIstantanea();
+  if (FinestraPrincipale() && SchemaColorato()) AggiornaIstantanea();
+}
+
+void RidisegnaSenzaIstantanea() {
   if (NumColonne == 0) return;
   RicalcolaCaselle();
-  Superficie* superficie = FinestraPrincipale();
-  if (!superficie) return;
-  DisegnaSchema(*superficie);
-  if (SchemaColorato()) AggiornaIstantanea();
+  if (Superficie* superficie = FinestraPrincipale()) DisegnaSchema(*superficie);
 }
 
 void CalcolaGeometria(const Superficie& superficie, double cima, double fondo) {

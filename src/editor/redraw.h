@@ -16,6 +16,9 @@ inline constexpr Colore ColoreCornice = 0x000080;  // dark red
 /// only the tables are set.
 void RidisegnaSchema();
 
+/// The same for what no other window has to know of: the snapshot stays as it is.
+void RidisegnaSenzaIstantanea();
+
 /// Sets LatoCasella, OrigineX and OrigineY so that the cells fit between a band of that height at
 /// the surface's top and one at its bottom, centred there. Wants a grid.
 void CalcolaGeometria(const Superficie& superficie, double cima, double fondo);

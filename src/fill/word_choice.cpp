@@ -2,32 +2,14 @@
 
 #include <algorithm>
 #include <cstring>
-#include <optional>
 
+#include "dictionary/dictionary.h"
 #include "dictionary/word_pattern.h"
-#include "platform/platform.h"
+#include "platform/check.h"
+#include "platform/text.h"
 
 namespace telarium {
-
-Tabella<std::int16_t, Indici<1, MaxParole>> Candidati("Candidati");
-std::int16_t NumCandidati = 0;
-Tabella<std::int16_t, Indici<0, MaxColonne>> DistanzaSu("DistanzaSu");
-Tabella<std::int16_t, Indici<0, MaxColonne>> DistanzaSinistra("DistanzaSinistra");
-
 namespace {
-
-void AzzeraScelta() {
-  Candidati.Riempi(0);
-  NumCandidati = 0;
-  DistanzaSu.Riempi(0);
-  DistanzaSinistra.Riempi(0);
-}
-
-const AzzeramentoDiSottosistema azzeramento(AzzeraScelta);
-
-void AggiungiCandidato(int numero) {
-  Candidati(++NumCandidati) = static_cast<std::int16_t>(numero);
-}
 
 // Finds the occurrences of one character in a block, in rising order.
 class Occorrenze {
@@ -55,9 +37,10 @@ class Occorrenze {
   const char* prossima_ = nullptr;
 };
 
-// Takes the words without Q and H: stretches of them between one such letter and the next, since
-// looking at every letter of every word is what takes the time.
-void PrendiSenzaQH(const BloccoDiParole& blocco) {
+// Calls `accogli` with the number of each word without Q and H: stretches of them between one such
+// letter and the next, since looking at every letter of every word is what takes the time.
+template <class Accogli>
+void PerOgniSenzaQH(const BloccoDiParole& blocco, Accogli accogli) {
   const char* const fine = blocco.Parola(blocco.quante);
   Occorrenze q(blocco.inizio, fine, 'Q');
   Occorrenze h(blocco.inizio, fine, 'H');
@@ -65,20 +48,9 @@ void PrendiSenzaQH(const BloccoDiParole& blocco) {
     const char* const prossima = std::min(q.DaQui(blocco.Parola(i)), h.DaQui(blocco.Parola(i)));
     const int esclusa = static_cast<int>((prossima - blocco.inizio) / blocco.lunghezza);
     for (; i < esclusa; ++i)
-      AggiungiCandidato(blocco.primoNumero + i);
+      accogli(blocco.primoNumero + i);
     ++i;
   }
-}
-
-void PrendiAdatte(const BloccoDiParole& blocco, const ModelloParola& modello) {
-  modello.PerOgniAdatta(blocco, [&](int i) {
-    AggiungiCandidato(blocco.primoNumero + i);
-    return true;
-  });
-}
-
-bool Nera(Casella casella) {
-  return TipoCasella(casella.colonna, casella.riga) == 0;
 }
 
 // The cell so many steps back from a cell, left or up.
@@ -88,16 +60,23 @@ Casella Indietro(Casella casella, int direzione, int passi) {
 }
 
 // How far back from a cell, which counts as 1, its run in a direction begins.
-std::int16_t DistanzaDallInizio(Casella casella, int direzione) {
+std::int16_t DistanzaDallInizio(const GrigliaInEstrazione& griglia, Casella casella,
+                                int direzione) {
   const int posto = direzione == Orizzontale ? casella.colonna : casella.riga;
   std::int16_t d = 1;
-  while (d < posto && !Nera(Indietro(casella, direzione, d)))
+  while (d < posto && !griglia.Nera(Indietro(casella, direzione, d)))
     ++d;
   return d;
 }
 
-// Whether the open dictionary has a word that fits; none when it cannot be read.
-std::optional<bool> Esiste(std::string_view modello) {
+bool VaProvato(std::string_view incrocio) {
+  return incrocio.size() >= MinLunghezza && incrocio.find(PostoLibero) == std::string_view::npos;
+}
+
+}  // namespace
+
+// Whether the dictionary has a word that fits; none when it cannot be read.
+std::optional<bool> SceltaDiParole::Esiste(std::string_view modello) {
   const int lunghezza = static_cast<int>(modello.size());
   if (!LunghezzaAmmessa(lunghezza)) return false;
   std::string conSpazi(modello);
@@ -109,50 +88,57 @@ std::optional<bool> Esiste(std::string_view modello) {
     const bool nessuna = cercato.PerOgniAdatta(blocco, [](int) { return false; });
     if (!nessuna) return true;
   }
-  return scansione.Leggibile() ? std::optional(false) : std::nullopt;
+  if (scansione.Leggibile()) return false;
+  errore_ = TestoDizionarioIlleggibile();
+  return std::nullopt;
 }
 
-bool VaProvato(std::string_view incrocio) {
-  return incrocio.size() >= MinLunghezza && incrocio.find(PostoLibero) == std::string_view::npos;
-}
-
-}  // namespace
-
-bool CercaCandidati(std::string_view modello) {
+bool SceltaDiParole::CercaCandidati(std::string_view modello) {
   const int lunghezza = static_cast<int>(modello.size());
-  NumCandidati = 0;
+  numCandidati_ = 0;
   if (!LunghezzaAmmessa(lunghezza)) {
-    Avvisa(Unisci("Errore: Parola con ", lunghezza, " caratteri non disponibile!."));
+    errore_ = Unisci("Errore: Parola con ", lunghezza, " caratteri non disponibile!.");
     return false;
   }
+  const auto aggiungi = [&](int numero) {
+    candidati_(++numCandidati_) = static_cast<std::int16_t>(numero);
+  };
   const ModelloParola adatto(modello);
   ScansioneSezione scansione(lunghezza);
   BloccoDiParole blocco;
   while (scansione.Prossimo(blocco)) {
-    adatto.TuttoLibero() ? PrendiSenzaQH(blocco) : PrendiAdatte(blocco, adatto);
+    if (adatto.TuttoLibero()) {
+      PerOgniSenzaQH(blocco, aggiungi);
+    } else {
+      adatto.PerOgniAdatta(blocco, [&](int i) {
+        aggiungi(blocco.primoNumero + i);
+        return true;
+      });
+    }
   }
-  if (!scansione.Leggibile()) AvvisaDizionarioIlleggibile();
+  if (!scansione.Leggibile()) errore_ = TestoDizionarioIlleggibile();
   return scansione.Leggibile();
 }
 
-std::string EstraiParola(int lunghezza) {
-  VerificaInvariante(NumCandidati > 0, "EstraiParola senza candidati");
+std::string SceltaDiParole::EstraiParola(int lunghezza) {
+  VerificaInvariante(numCandidati_ > 0, "EstraiParola senza candidati");
   // The 1 is added behind the cut: a draw next to 1 would round up to a place too many.
-  const int posto = static_cast<int>(NumCandidati * Sistema().Casuale()) + 1;
-  return LeggiParola(Candidati(posto), lunghezza);
+  const int posto = static_cast<int>(numCandidati_ * caso_()) + 1;
+  std::string parola = LeggiParola(candidati_(posto), lunghezza);
+  if (parola.empty()) errore_ = TestoDizionarioIlleggibile();
+  return parola;
 }
 
-EsitoIncroci ProvaIncroci(const Slot& slot) {
+EsitoIncroci SceltaDiParole::ProvaIncroci(const GrigliaInEstrazione& griglia, const Slot& slot) {
   const int traversa = Traversa(slot.direzione);
-  auto& distanza = slot.direzione == Orizzontale ? DistanzaSu : DistanzaSinistra;
+  Distanze& distanza = slot.direzione == Orizzontale ? DistanzaSu : DistanzaSinistra;
   for (int k = 1; k <= slot.lunghezza; ++k)
-    distanza(k) = DistanzaDallInizio(slot.Cella(k), traversa);
+    distanza(k) = DistanzaDallInizio(griglia, slot.Cella(k), traversa);
 
   EsitoIncroci esito;
   for (int k = 1; k <= slot.lunghezza && esito.passati; ++k) {
     const Casella inizio = Indietro(slot.Cella(k), traversa, distanza(k) - 1);
-    // A cell without a word through it has an empty one.
-    const std::string incrocio = LettereDi(SlotDa(inizio, traversa));
+    const std::string incrocio = griglia.LettereAttraverso(inizio, traversa);
     if (!VaProvato(incrocio)) continue;
     const std::optional<bool> esiste = Esiste(incrocio);
     esito.letti = esiste.has_value();
@@ -162,20 +148,19 @@ EsitoIncroci ProvaIncroci(const Slot& slot) {
   return esito;
 }
 
-Booleano16 ParolaEsiste(std::string_view modello) {
+Booleano16 SceltaDiParole::ParolaEsiste(std::string_view modello) {
   return Esiste(modello).value_or(false) ? Vero : Falso;
+}
+
+char SceltaDiParole::LetteraCasuale() {
+  constexpr std::string_view lettere = "ABCDEFGHILMNOPQRSTUVZ";
+  return lettere[static_cast<std::size_t>(static_cast<double>(lettere.size()) * caso_())];
 }
 
 std::string MascheraPunti(std::string_view modello) {
   std::string punti(modello);
   std::replace(punti.begin(), punti.end(), CellaSvuotata, CellaVuota);
   return punti;
-}
-
-char LetteraCasuale() {
-  constexpr std::string_view lettere = "ABCDEFGHILMNOPQRSTUVZ";
-  return lettere[static_cast<std::size_t>(static_cast<double>(lettere.size()) *
-                                          Sistema().Casuale())];
 }
 
 }  // namespace telarium

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "model/boolean.h"
 #include "model/cells.h"
 #include "model/laboratory_section.h"
 #include "model/table.h"
@@ -16,14 +17,6 @@
 namespace telarium {
 
 inline constexpr int RigheSchema = 350;  // lines of Schema, of which NumRighe + 4 have a meaning
-
-/// Flags of the shared state: 0 and -1, tested for not 0.
-using Booleano16 = std::int16_t;
-inline constexpr Booleano16 Falso = 0;
-inline constexpr Booleano16 Vero = -1;
-
-/// A cell that the running fill has emptied, in LetteraCasella only.
-inline constexpr char CellaSvuotata = ' ';
 
 // --- The grid as text: the primary copy ---
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -34,13 +33,6 @@ struct RichiestaDiTesto {
   std::string predefinito = {};
   std::string titolo = {};
   Spunta* spunta = nullptr;  // none
-};
-
-/// How far an automatic fill has come.
-struct AvanzamentoEstrazione {
-  std::int64_t tentativo = 0;  // starts of the clearing step so far, from 1
-  int slotCollocati = 0;       // that have got a word in this attempt
-  int slotTotali = 0;
 };
 
 /// A wait that the user sees and can break off, as long as this object lives.
@@ -81,10 +73,9 @@ class Utente {
   virtual Colore ScegliColore(Colore iniziale) = 0;
 
   /// Puts a dead end of the fill before the user: Si accepts it, No starts anew, Annulla stops.
-  virtual Risposta ChiediVicoloCieco(const std::string& testo) = 0;
-
-  /// Called at each slot and each restart of a fill. False: the user wants it to stop.
-  virtual bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) = 0;
+  virtual Risposta ChiediVicoloCieco(const std::string& testo) {
+    return MostraMessaggio({.testo = testo, .pulsanti = Pulsanti::SiNoAnnulla});
+  }
 
   /// Begins a wait, for which the text says the reason.
   virtual std::unique_ptr<Attesa> IniziaAttesa(const std::string& testo) = 0;

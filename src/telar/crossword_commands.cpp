@@ -4,9 +4,9 @@
 #include "crossworddialogs/new_crossword.h"
 #include "dictionary/dictionary.h"
 #include "editor/commit.h"
-#include "editor/redraw.h"
 #include "fill/extraction.h"
 #include "model/crossword_file.h"
+#include "model/current_crossword.h"
 #include "model/words.h"
 #include "platform/platform.h"
 #include "platform/temporary.h"
@@ -18,8 +18,7 @@
 namespace telarium::telar {
 namespace {
 
-// The snapshot of this run lies in a folder of its own, so that no open desktop is disturbed and
-// many runs go on at once.
+// The snapshot of this run lies in a folder of its own, so that no open desktop is disturbed.
 class IstantaneaPropria {
  public:
   IstantaneaPropria() { CartellaIstantanea = cartella_.Nome(); }
@@ -109,37 +108,66 @@ Stato Nuovo(const Argomenti& argomenti, PiattaformaConsole&) {
   return Scrivi(argomenti.liberi[0]);
 }
 
-Risposta RispostaAlVicoloCieco(const std::string& valore) {
-  if (valore == "si") return Risposta::Si;
-  if (valore == "no") return Risposta::No;
-  if (valore == "annulla") return Risposta::Annulla;
+Seguito SeguitoDelVicoloCieco(const std::string& valore) {
+  if (valore == "si") return Seguito::Avanti;
+  if (valore == "no") return Seguito::DaCapo;
+  if (valore == "annulla") return Seguito::Basta;
   throw ArgomentiErrati("--vicolo-cieco richiede si, no o annulla");
 }
 
-Stato Estrai(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
-  const RispostePerEstrazione risposte{
-      .vicoloCieco = RispostaAlVicoloCieco(argomenti.Valore("--vicolo-cieco", "si")),
-      .tentativi = argomenti.Numero("--tentativi", 1, 1000)};
-  piattaforma.ChiUsa().ImpostaRisposte(risposte);
-  NomeDizionario = argomenti.Valore("--dizionario", NomeDizionario.string());
-  ProvaInfinita = argomenti.Ha("--infinito") ? Vero : Falso;
+// What the command line says of a fill.
+class RispostePerEstrazione : public OsservatoreEstrazione {
+ public:
+  RispostePerEstrazione(const Argomenti& argomenti, const UtenteConsole& utente)
+      : vicoloCieco_(SeguitoDelVicoloCieco(argomenti.Valore("--vicolo-cieco", "si"))),
+        tentativi_(argomenti.Numero("--tentativi", 1, 1000)),
+        infinito_(argomenti.Ha("--infinito")),
+        utente_(utente) {}
 
+  bool Prosegue(const AvanzamentoEstrazione& avanzamento) override {
+    return !utente_.Interrotto() && avanzamento.tentativo <= tentativi_;
+  }
+  bool Svuotata(const Cruciverba&, std::int64_t) override { return true; }
+  void Collocata(const Slot&, std::string_view) override {}
+  Seguito VicoloCieco(const Slot&, const std::string& domanda) override {
+    if (infinito_) return Seguito::DaCapo;
+    Avvisa(domanda);
+    return vicoloCieco_;
+  }
+
+  // Why the run ended before the grid was full.
+  std::string Rinuncia() const {
+    return Unisci(utente_.Interrotto() ? "Estrazione interrotta"
+                                       : Unisci("Rinuncia dopo ", ConMigliaia(tentativi_),
+                                                tentativi_ == 1 ? " tentativo" : " tentativi"),
+                  ": nessun file scritto.");
+  }
+
+ private:
+  Seguito vicoloCieco_;
+  std::int64_t tentativi_;  // starts of the clearing step before it is given up
+  bool infinito_;
+  const UtenteConsole& utente_;
+};
+
+Stato Estrai(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
+  RispostePerEstrazione risposte(argomenti, piattaforma.ChiUsa());
+  NomeDizionario = argomenti.Valore("--dizionario", NomeDizionario.string());
   if (!Apri(argomenti.liberi[0]) || !ApriDizionario()) return Stato::Fallito;
-  AscoltaInterruzione();  // before there is a temporary folder that has to be removed
-  const IstantaneaPropria istantanea;
-  if (!istantanea.Pronta()) return Stato::Fallito;
-  switch (EseguiEstrazione()) {
+  AscoltaInterruzione();
+  Estrazione estrazione(
+      CruciverbaCorrente(), [] { return Sistema().Casuale(); }, risposte);
+  const RisultatoEstrazione risultato = estrazione.Esegui();
+  switch (risultato.esito) {
     case EsitoEstrazione::Completa:
     case EsitoEstrazione::Annullata:
+      PrendiCruciverba(risultato.cruciverba);
       return Scrivi(argomenti.liberi[1]);
-    case EsitoEstrazione::Interrotta:
-      Avvisa(Unisci(piattaforma.ChiUsa().Interrotto()
-                        ? "Estrazione interrotta"
-                        : Unisci("Rinuncia dopo ", ConMigliaia(risposte.tentativi),
-                                 risposte.tentativi == 1 ? " tentativo" : " tentativi"),
-                    ": nessun file scritto."));
+    case EsitoEstrazione::SenzaParole:
+      Avvisa(risultato.errore);
       return Stato::Fallito;
     default:
+      Avvisa(risposte.Rinuncia());
       return Stato::Fallito;
   }
 }

@@ -39,8 +39,6 @@ void CollegaFinestra(PiattaformaQt& piattaforma, Form1& form) {
   UtenteQt& utente = piattaforma.ChiUsa();
   ImpostaPuntatori(utente, form);
   utente.Finestra(&form);
-  utente.SegueEstrazione(
-      [&form](const AvanzamentoEstrazione& a) { return form.SeguiEstrazione(a); });
   piattaforma.LaStampante()->Finestra(&form);
   piattaforma.FinestraPrincipale(&form.Area->Superficie());
   QApplication::instance()->installEventFilter(new AiutoNelleFinestre(&form));

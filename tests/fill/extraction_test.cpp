@@ -1,5 +1,3 @@
-#include "fill/extraction.h"
-
 #include <algorithm>
 #include <iterator>
 #include <set>
@@ -7,8 +5,9 @@
 
 #include "dictionary/dictionary.h"
 #include "dictionary/masked_search.h"
+#include "editor/fill_command.h"
+#include "editor/placed_word.h"
 #include "editor/settings.h"
-#include "fill/placed_word.h"
 #include "model/crossword_file.h"
 #include "model/words.h"
 #include "platform/codepage.h"
@@ -49,12 +48,25 @@ class ExtractionTest : public TelariumTest {
     Draw({std::istream_iterator<std::string>(lines), {}});
   }
 
+  ComandoEstrazione command{[this](const AvanzamentoEstrazione& progress) {
+    polls.push_back(progress);
+    return true;
+  }};
+  std::vector<AvanzamentoEstrazione> polls;
+
+  void StopWhen(const SegueEstrazione& stop) {
+    command.Segue([=, this](const AvanzamentoEstrazione& progress) {
+      polls.push_back(progress);
+      return !stop(progress);
+    });
+  }
+
   // Runs the fill, checks what holds at the end of each, and gives the grid.
   std::string Run(EsitoEstrazione expected = EsitoEstrazione::Completa) {
     ModoGriglia = 1;
     SchemaModificato = Falso;
     user.pointerShapes.clear();
-    EXPECT_EQ(EseguiEstrazione(), expected);
+    EXPECT_EQ(command.EseguiEstrazione(), expected);
     EXPECT_EQ(ModoGriglia, 0);
     EXPECT_EQ(SchemaModificato, Vero);
     EXPECT_EQ(PuntatoreMouse, 0);
@@ -65,20 +77,20 @@ class ExtractionTest : public TelariumTest {
 
   // The polls as "attempt:placed/all".
   std::string Polls() const {
-    std::string polls;
-    for (const auto& p : user.polls)
-      polls += Unisci(' ', p.tentativo, ':', p.slotCollocati, '/', p.slotTotali);
-    return polls;
+    std::string joined;
+    for (const auto& p : polls)
+      joined += Unisci(' ', p.tentativo, ':', p.slotCollocati, '/', p.slotTotali);
+    return joined;
   }
 };
 
 TEST_F(ExtractionTest, CancelAtTheQuestionChangesNothing) {
-  EXPECT_EQ(EstraiSchema(), EsitoEstrazione::Rifiutata) << "no crossword, no question";
+  EXPECT_EQ(command.EstraiSchema(), std::nullopt) << "no crossword, no question";
   DrawJoined("CA. #..");
   Definizione(1, 1, 1) = "Una sillaba";
   ModoGriglia = 1;
   user.Answer(Risposta::Annulla);
-  EXPECT_EQ(EstraiSchema(), EsitoEstrazione::Rifiutata);
+  EXPECT_EQ(command.EstraiSchema(), std::nullopt);
   EXPECT_EQ(Joined(Drawing()), "CA. #..");
   EXPECT_EQ(Definizione(1, 1, 1), "Una sillaba");
   EXPECT_EQ(SchemaModificato, Falso);
@@ -161,7 +173,7 @@ TEST_F(ExtractionTest, DeadEndsAreTold) {
     SCOPED_TRACE(row.filled);
     DrawJoined(row.drawing);
     OpenDictionary(row.words);
-    user.StopFillWhen([&](const AvanzamentoEstrazione& progress) {
+    StopWhen([&](const AvanzamentoEstrazione& progress) {
       if (progress.slotCollocati == 1 && !row.laterWords.empty()) OpenDictionary(row.laterWords);
       return false;
     });
@@ -192,30 +204,30 @@ TEST_F(ExtractionTest, AnswerNoStartsAnewAndCancelLeavesTheGridAsItIs) {
 TEST_F(ExtractionTest, EndlessRunAsksNothingAndStopsAtAPoll) {
   DrawJoined(TeeGrid);
   OpenDictionary(TeeWords);
-  ProvaInfinita = Vero;
+  command.ProvaInfinita = Vero;
   machine.draws = {DrawLibro, DrawLibro, DrawCarta};
   EXPECT_EQ(Run(), TeeWithCarta);
-  EXPECT_EQ(user.polls.back().tentativo, 3);
-  EXPECT_EQ(ProvaInfinita, Vero);
+  EXPECT_EQ(polls.back().tentativo, 3);
+  EXPECT_EQ(command.ProvaInfinita, Vero);
 
   OpenDictionary({"LIBRO"});
-  user.StopFillWhen([](const auto& p) { return p.tentativo == 100 && p.slotCollocati == 1; });
+  StopWhen([](const auto& p) { return p.tentativo == 100 && p.slotCollocati == 1; });
   EXPECT_EQ(Run(EsitoEstrazione::Interrotta), TeeWithLibro);
-  user.StopFillWhen([](const AvanzamentoEstrazione&) { return true; });
+  StopWhen([](const AvanzamentoEstrazione&) { return true; });
   EXPECT_EQ(Run(EsitoEstrazione::Interrotta), TeeWithLibro);
 }
 
 TEST_F(ExtractionTest, DictionaryOrSnapshotFolderThatGoesAwayEndsTheRunAtOnce) {
   DrawJoined(TeeGrid);
   OpenDictionary(TeeWords);
-  ProvaInfinita = Vero;
-  user.StopFillWhen([&](const AvanzamentoEstrazione&) {
+  command.ProvaInfinita = Vero;
+  StopWhen([&](const AvanzamentoEstrazione&) {
     CartellaIstantanea = InFolder("manca");
     return false;
   });
   Run(EsitoEstrazione::NonRegistrata);
   CartellaIstantanea.clear();
-  user.StopFillWhen([&](const AvanzamentoEstrazione&) {
+  StopWhen([&](const AvanzamentoEstrazione&) {
     std::filesystem::remove(InFolder(NomeDizionario));
     return false;
   });
@@ -233,7 +245,7 @@ TEST_F(ExtractionTest, RunThatCannotBeginLeavesTheGridAsItIs) {
   DrawJoined("CASA");
   Definizione(1, 1, 1) = "Vi si abita";
   const auto refused = [this](EsitoEstrazione expected) {
-    EXPECT_EQ(EseguiEstrazione(), expected);
+    EXPECT_EQ(command.EseguiEstrazione(), expected);
     EXPECT_EQ(user.TakeTexts().size(), 1u);
     EXPECT_EQ(Joined(Drawing()) + Definizione(1, 1, 1), "CASAVi si abita");
     EXPECT_EQ(SchemaModificato, Falso);
@@ -292,7 +304,7 @@ TEST_F(ExtractionTest, WordsOfNoLettersLeaveACrosswordThatCanBeSaved) {
   WriteFile(NomeDizionario, image);
   ASSERT_TRUE(ApriDizionario());
   user.AnswerAllDeadEnds(Risposta::Si);
-  EseguiEstrazione();
+  command.EseguiEstrazione();
   user.TakeTexts();  // whether anything is told of it is open
   const Percorso saved = InFolder("saved.tlrm");
   EXPECT_TRUE(!ScriviCruciverba(saved) || ApriCruciverba(saved) == Apertura::Intera);

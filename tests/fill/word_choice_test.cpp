@@ -5,6 +5,7 @@
 #include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "platform/codepage.h"
+#include "support/drawn_crossword.h"
 #include "support/numbered_words.h"
 #include "support/telarium_test.h"
 
@@ -17,31 +18,23 @@ const double JustBelowOne = std::nextafter(1.0, 0.0);
 
 class WordChoiceTest : public TelariumTest {
  protected:
+  SceltaDiParole choice{[this] { return machine.Casuale(); }};
+
   // The candidates for a pattern, by number and as words.
-  static std::vector<int> Numbers(std::string_view pattern) {
-    EXPECT_TRUE(CercaCandidati(pattern));
+  std::vector<int> Numbers(std::string_view pattern) {
+    EXPECT_TRUE(choice.CercaCandidati(pattern));
     std::vector<int> numbers;
-    for (int i = 1; i <= NumCandidati; ++i) {
-      numbers.push_back(Candidati(i));
+    for (int i = 1; i <= choice.NumCandidati(); ++i) {
+      numbers.push_back(choice.Candidati(i));
     }
     return numbers;
   }
-  static Words WordsFor(std::string_view pattern) {
+  Words WordsFor(std::string_view pattern) {
     Words words;
     for (const int n : Numbers(pattern)) {
       words.push_back(LeggiParola(static_cast<std::int16_t>(n), static_cast<int>(pattern.size())));
     }
     return words;
-  }
-
-  // As Draw, in the middle of a fill: an empty cell is a blank.
-  static void DrawInFill(const Words& rows) {
-    Draw(rows);
-    for (int r = 1; r <= NumRighe; ++r) {
-      for (int c = 1; c <= NumColonne; ++c) {
-        if (LetteraCasella(c, r) == CellaVuota) LetteraCasella(c, r) = CellaSvuotata;
-      }
-    }
   }
 };
 
@@ -92,9 +85,9 @@ TEST_F(WordChoiceTest, DrawTakesOneOfTheCandidates) {
       {"UV ", 0, "UVA"},   {"UV ", JustBelowOne, "UVA"}, {" R ", JustBelowOne, "ORA"},
   };
   for (const Row& row : rows) {
-    ASSERT_TRUE(CercaCandidati(row.pattern));
+    ASSERT_TRUE(choice.CercaCandidati(row.pattern));
     machine.draws = {row.draw};
-    EXPECT_EQ(EstraiParola(3), row.word) << row.pattern << ", " << row.draw;
+    EXPECT_EQ(choice.EstraiParola(3), row.word) << row.pattern << ", " << row.draw;
   }
 }
 
@@ -102,24 +95,24 @@ TEST_F(WordChoiceTest, RandomLetterIsOneOfTheTwentyOne) {
   std::string letters;
   for (int i = 0; i < 21; ++i) {
     machine.draws = {(i + 0.01) / 21, (i + 0.99) / 21};
-    letters += LetteraCasuale();
-    EXPECT_EQ(LetteraCasuale(), letters.back());
+    letters += choice.LetteraCasuale();
+    EXPECT_EQ(choice.LetteraCasuale(), letters.back());
   }
   EXPECT_EQ(letters, "ABCDEFGHILMNOPQRSTUVZ");
   machine.draws = {0, JustBelowOne};
-  EXPECT_EQ(LetteraCasuale(), 'A');
-  EXPECT_EQ(LetteraCasuale(), 'Z');
+  EXPECT_EQ(choice.LetteraCasuale(), 'A');
+  EXPECT_EQ(choice.LetteraCasuale(), 'Z');
 }
 
 TEST_F(WordChoiceTest, WordExistsWhenAnyWordFits) {
   OpenDictionary({"APE", "QUOTA", "SOVRAPPOSIZIONI"});
   for (const char* pattern : {"APE", "A.E", " PE", "   ", "...", ".....", "     ", "Q   A",
                               "SOVRAPPOSIZIONI", ".OVRAPPOSIZIONI", "..............."}) {
-    EXPECT_EQ(ParolaEsiste(pattern), Vero) << pattern;
+    EXPECT_EQ(choice.ParolaEsiste(pattern), Vero) << pattern;
   }
   for (const char* pattern : {"", "A", "AP", "..", "APA", "ape", "A*E", "....", "CARTA",
                               "SOVRAPPOSIZIONA", "................", "SOVRAPPOSIZIONIS"}) {
-    EXPECT_EQ(ParolaEsiste(pattern), Falso) << pattern;
+    EXPECT_EQ(choice.ParolaEsiste(pattern), Falso) << pattern;
   }
 }
 
@@ -155,8 +148,8 @@ TEST_F(WordChoiceTest, CrossingsThatAreCompleteMustBeWords) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
-    DrawInFill(row.drawing);
-    const EsitoIncroci outcome = ProvaIncroci(row.slot);
+    const GrigliaInEstrazione grid(DrawnCrossword(row.drawing));
+    const EsitoIncroci outcome = choice.ProvaIncroci(grid, row.slot);
     EXPECT_EQ(outcome.passati, row.passed);
     EXPECT_EQ(outcome.incrocio, row.crossing);
   }
@@ -164,32 +157,35 @@ TEST_F(WordChoiceTest, CrossingsThatAreCompleteMustBeWords) {
 
 TEST_F(WordChoiceTest, LengthWithoutASectionAndMissingDictionaryAreTold) {
   OpenDictionary({"APE"});
+  Words told;
   for (const char* pattern : {"  ", "                ", "   "}) {
-    ASSERT_TRUE(CercaCandidati("A  "));
+    ASSERT_TRUE(choice.CercaCandidati("A  "));
     if (std::string_view(pattern) == "   ") std::filesystem::remove(InFolder(NomeDizionario));
-    EXPECT_FALSE(CercaCandidati(pattern));
-    EXPECT_EQ(NumCandidati, 0);
+    EXPECT_FALSE(choice.CercaCandidati(pattern));
+    EXPECT_EQ(choice.NumCandidati(), 0);
+    told.push_back(choice.Errore());
   }
-  EXPECT_EQ(user.TakeTexts(),
+  EXPECT_EQ(told,
             (Words{"Errore: Parola con 2 caratteri non disponibile!.",
                    "Errore: Parola con 16 caratteri non disponibile!.",
                    WithCause("Impossibile leggere il dizionario.", InFolder("LessicoItaliano.dat"),
                              "il file o la cartella non esiste")}));
-  EXPECT_EQ(ParolaEsiste("APE"), Falso);
+  EXPECT_EQ(choice.ParolaEsiste("APE"), Falso);
 }
 
 TEST_F(WordChoiceTest, ADictionaryThatFailsToBeReadIsNotOneWithoutWords) {
   OpenDictionary({"APE", "ORA"});
   std::filesystem::remove(InFolder(NomeDizionario));
   std::filesystem::create_symlink("/proc/self/mem", InFolder(NomeDizionario));  // EIO at its start
-  Draw({"APE", "#R#", "#A#"});
-  EXPECT_FALSE(CercaCandidati("A  "));
+  const GrigliaInEstrazione grid(DrawnCrossword({"APE", "#R#", "#A#"}));
+  EXPECT_FALSE(choice.CercaCandidati("A  "));
   EXPECT_EQ(LeggiParola(1, 3), "");
-  EXPECT_FALSE(ProvaIncroci({{1, 1}, Orizzontale, 3}).letti);
+  EXPECT_FALSE(choice.ProvaIncroci(grid, {{1, 1}, Orizzontale, 3}).letti);
   EXPECT_FALSE(ApriDizionario());
   const std::string told = WithCause("Impossibile leggere il dizionario.", InFolder(NomeDizionario),
                                      "la lettura non è riuscita"_cp);
-  EXPECT_EQ(user.TakeTexts(), (Words{told, told}));
+  EXPECT_EQ(choice.Errore(), told);
+  EXPECT_EQ(user.TakeTexts(), Words{told});
 }
 
 }  // namespace

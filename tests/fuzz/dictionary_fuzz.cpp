@@ -1,6 +1,6 @@
 #include "crossworddialogs/new_crossword.h"
 #include "dictionary/masked_search.h"
-#include "fill/extraction.h"
+#include "editor/fill_command.h"
 #include "fill/word_choice.h"
 #include "fuzz/fuzz_target.h"
 #include "model/crossword_file.h"
@@ -25,12 +25,13 @@ void TrySection(int length, std::size_t fileSize) {
     Verifica(word.size() == bytes, "a word of another length");
     if (number == found && found > 0) Verifica(word == last, "another word than the scan's");
   }
-  Verifica(CercaCandidati(allFree) && NumCandidati <= found, "too many candidates");
+  SceltaDiParole choice([] { return Sistema().Casuale(); });
+  Verifica(choice.CercaCandidati(allFree) && choice.NumCandidati() <= found, "too many candidates");
   if (found == 0) return;
-  Verifica(CercaCandidati(first) && NumCandidati > 0 && Candidati(1) == 1,
+  Verifica(choice.CercaCandidati(first) && choice.NumCandidati() > 0 && choice.Candidati(1) == 1,
            "a word is no candidate");
-  Verifica(EstraiParola(length).size() == bytes, "a drawn word of another length");
-  Verifica(ParolaEsiste(last) != Falso, "a word does not exist");
+  Verifica(choice.EstraiParola(length).size() == bytes, "a drawn word of another length");
+  Verifica(choice.ParolaEsiste(last) != Falso, "a word does not exist");
 }
 
 }  // namespace
@@ -45,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   if (OneIn(16, input) && NuovoVuoto(7, 5) == EsitoNuovo::Fatto) {
     RicalcolaCaselle();
-    EseguiEstrazione();
+    ComandoEstrazione().EseguiEstrazione();
     Verifica(!ScriviIstantanea() || LeggiIstantanea(), "a filled crossword cannot be read");
   }
   return 0;

@@ -23,7 +23,6 @@ class QuietPlatform : public ScriptedPlatform {
   class QuietUser : public ScriptedUser {
     Risposta MostraMessaggio(const Messaggio&) override { return Risposta::Ok; }
     Risposta ChiediVicoloCieco(const std::string&) override { return Risposta::Si; }
-    bool ContinuaEstrazione(const AvanzamentoEstrazione&) override { return true; }
   };
 
   QuietUser quiet_;

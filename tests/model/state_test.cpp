@@ -11,8 +11,6 @@
 #include "editor/settings.h"
 #include "editor/startup.h"
 #include "editor/word_pointing.h"
-#include "fill/extraction.h"
-#include "fill/word_choice.h"
 #include "model/crossword_file.h"
 #include "output/picture_page.h"
 #include "output/web_opening.h"
@@ -42,9 +40,9 @@ std::vector<std::string> Everything() {
   add(MouseCol, MouseRiga, CursoreX, CursoreY, Direzione, ColoreScelto, IstantaneaSuperata());
   add(NomeFont, AltezzaCaratteri, AltezzaNumeri, PercentualeRiquadro, DistanzaDaSpigolo);
   add(DistanzaDaCentro, SpessoreBordo, RettangoloParola, StampaSoluzioni, TastoSin);
-  add(NascondiSoluzioni, GiaAttivata, MostraSuggerimenti, ProvaInfinita, LinguaDizionario);
-  add(OffsetLunghezza(12), ContaLunghezza(12), NumVociDizionari, Candidati(MaxParole));
-  add(NumCandidati, DistanzaSu(53), DistanzaSinistra(0), ElencoDefinizioni(1));
+  add(NascondiSoluzioni, GiaAttivata, MostraSuggerimenti, LinguaDizionario);
+  add(OffsetLunghezza(12), ContaLunghezza(12), NumVociDizionari);
+  add(ElencoDefinizioni(1));
   add(LarghezzaPicture, IndirizzoWeb, ValoreIndirizzo(Indirizzo::PaginaEsempio));
   for (const Percorso& path : {NomeCruciverba, CartellaProgramma, CartellaIstantanea, RigaDiComando,
                                FileComando, NomeDizionario})
@@ -88,13 +86,8 @@ TEST_F(State, ResetPutsEveryVariableAsAtProgramStart) {
                             &TastoSin,
                             &NascondiSoluzioni,
                             &GiaAttivata,
-                            &ProvaInfinita,
                             &LinguaDizionario,
                             &NumVociDizionari,
-                            &Candidati(MaxParole),
-                            &NumCandidati,
-                            &DistanzaSu(53),
-                            &DistanzaSinistra(0),
                             &LarghezzaPicture})
     *one = 7;
   MouseCol = MouseRiga = ColoreScelto = ColoreCasella(53, 30) = MostraSuggerimenti = 7;

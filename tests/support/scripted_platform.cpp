@@ -82,11 +82,6 @@ Risposta ScriptedUser::ChiediVicoloCieco(const std::string& testo) {
   return answer.value_or(Risposta::Annulla);
 }
 
-bool ScriptedUser::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) {
-  polls.push_back(avanzamento);
-  return !stop_ || !stop_(avanzamento);
-}
-
 bool ScriptedPrinter::Carattere(std::string_view nome) {
   if (nome == refused) return false;
   typeface = nome;

@@ -33,10 +33,6 @@ class ScriptedUser : public Utente {
   void AnswerAllDeadEnds(Risposta answer) { deadEndAnswer_ = answer; }
   /// Answers the next input box; none is its cancel button.
   void AnswerText(std::optional<std::string> text) { textAnswers_.push_back(std::move(text)); }
-  /// Decides at each poll whether a fill goes on.
-  void StopFillWhen(std::function<bool(const AvanzamentoEstrazione&)> stop) {
-    stop_ = std::move(stop);
-  }
 
   /// The texts shown so far, dead ends included; they count as looked at.
   std::vector<std::string> TakeTexts();
@@ -54,7 +50,6 @@ class ScriptedUser : public Utente {
   std::function<void()> whileYielding;     // what the user does at each look at the message loop
   int beeps = 0;
   std::vector<int> pointerShapes;
-  std::vector<AvanzamentoEstrazione> polls;
 
   /// Fails the test for what was not asked or not looked at.
   void VerifyNothingLeft();
@@ -63,7 +58,6 @@ class ScriptedUser : public Utente {
   std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) override;
   Colore ScegliColore(Colore iniziale) override;
   Risposta ChiediVicoloCieco(const std::string& testo) override;
-  bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
   std::unique_ptr<Attesa> IniziaAttesa(const std::string& testo) override;
   void FormaPuntatore(int forma) override { pointerShapes.push_back(forma); }
   void SegnaleAcustico() override { ++beeps; }
@@ -77,7 +71,6 @@ class ScriptedUser : public Utente {
   std::deque<Risposta> deadEndAnswers_;
   std::optional<Risposta> deadEndAnswer_;
   std::deque<std::optional<std::string>> textAnswers_;
-  std::function<bool(const AvanzamentoEstrazione&)> stop_;
 };
 
 /// A machine with a fixed date and random numbers from a fixed seed, or told one by one. What is

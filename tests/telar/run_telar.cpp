@@ -67,6 +67,13 @@ TelarProcess::~TelarProcess() {
   ::waitpid(pid_, nullptr, 0);
 }
 
+bool TelarProcess::CatchesInterrupt() const {
+  const std::string status = Contents("/proc/" + std::to_string(pid_) + "/status");
+  const std::size_t caught = status.find("SigCgt:");
+  if (caught == status.npos) return false;
+  return (std::stoull(status.substr(caught + 7), nullptr, 16) >> (SIGINT - 1) & 1) != 0;
+}
+
 void TelarProcess::Interrupt() {
   Send(SIGINT);
 }

@@ -38,6 +38,8 @@ class TelarProcess {
 
   /// Returns when the condition holds. The process may not end before.
   void WaitUntil(const std::function<bool()>& condition);
+  /// Whether Ctrl+C does not end it any more.
+  bool CatchesInterrupt() const;
   /// Sends what Ctrl+C sends.
   void Interrupt();
   /// Ends it at once, as `kill -9` does.

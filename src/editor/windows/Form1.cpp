@@ -25,7 +25,6 @@
 #include "editor/windows/modal_windows.h"
 #include "editor/windows/pictures.h"
 #include "editor/word_pointing.h"
-#include "fill/extraction.h"
 #include "platform/check.h"
 #include "platform/platform.h"
 #include "platform/qt/qt_colour.h"
@@ -266,7 +265,7 @@ void Form1::Estrai() {
   TogliLabel1();  // nothing that the pointer meant holds any longer
   const Occupazione occupazione(*this);
   esc_->setEnabled(true);
-  EstraiSchema();
+  EstrazioneAutomatica.EstraiSchema();
 }
 
 void Form1::Importa() {
@@ -280,7 +279,7 @@ bool Form1::SeguiEstrazione(const AvanzamentoEstrazione& avanzamento) {
     Avanzamento->show();
     Avanzamento->raise();
   }
-  return Avanzamento->Segui(avanzamento, ProvaInfinita);
+  return Avanzamento->Segui(avanzamento, EstrazioneAutomatica.ProvaInfinita);
 }
 
 void Form1::Titolo(std::string_view titolo) {

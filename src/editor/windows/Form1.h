@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "editor/fill_command.h"
 #include "editor/main_window.h"
 #include "editor/windows/drawing_area.h"
 #include "editor/windows/fill_progress.h"
@@ -39,6 +40,9 @@ class Form1 : public QMainWindow, public FinestraEditor {
   QPushButton* Command3d15;  // closes a print preview
   QPushButton* Command1;     // merges the clue file; never shown
   PannelloEstrazione* Avanzamento;
+
+  ComandoEstrazione EstrazioneAutomatica{
+      [this](const AvanzamentoEstrazione& avanzamento) { return SeguiEstrazione(avanzamento); }};
 
   /// A menu entry by its name.
   QAction& Voce(std::string_view nome) const;

@@ -4,8 +4,8 @@
 #include <QFrame>
 #include <QPushButton>
 
+#include "fill/extraction.h"
 #include "platform/pace.h"
-#include "platform/user.h"
 
 namespace telarium {
 

@@ -12,7 +12,6 @@
 #include "editor/file_commands.h"
 #include "editor/resizing.h"
 #include "editor/windows/Form1.h"
-#include "fill/extraction.h"
 #include "output/interactive_page.h"
 #include "output/picture_page.h"
 #include "output/preview.h"
@@ -33,8 +32,9 @@ struct ComandoDiVoce {
 };
 
 void CommutaProvaInfinita(Form1& form) {
-  ProvaInfinita = ProvaInfinita ? Falso : Vero;
-  form.SpuntaVoce("MenuInf", ProvaInfinita);
+  Booleano16& infinita = form.EstrazioneAutomatica.ProvaInfinita;
+  infinita = infinita ? Falso : Vero;
+  form.SpuntaVoce("MenuInf", infinita);
 }
 
 // The run leaves the grid in no mode; behind the button, the one of the Edit button holds again.

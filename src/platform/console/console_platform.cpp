@@ -37,21 +37,12 @@ std::optional<std::string> UtenteConsole::ChiediTesto(const RichiestaDiTesto&) {
   return std::nullopt;
 }
 
-Risposta UtenteConsole::ChiediVicoloCieco(const std::string& testo) {
-  MostraMessaggio({.testo = testo});
-  return risposte_.vicoloCieco;
-}
-
 std::unique_ptr<Attesa> UtenteConsole::IniziaAttesa(const std::string&) {
   return std::make_unique<AttesaConsole>();
 }
 
 bool UtenteConsole::Interrotto() const {
   return interruzione;
-}
-
-bool UtenteConsole::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) {
-  return !Interrotto() && avanzamento.tentativo <= risposte_.tentativi;
 }
 
 void AscoltaInterruzione() {

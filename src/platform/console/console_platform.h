@@ -1,7 +1,6 @@
 #pragma once
 
 #include <csignal>
-#include <cstdint>
 #include <exception>
 
 #include "platform/common/fetch.h"
@@ -18,39 +17,25 @@ class ProgrammaTerminato : public std::exception {
   const char* what() const noexcept override { return "programma terminato"; }
 };
 
-/// What the command line says of a fill.
-struct RispostePerEstrazione {
-  Risposta vicoloCieco = Risposta::Si;
-  std::int64_t tentativi = 1000;  // starts of the clearing step before it is given up
-};
-
 /// Each message is one line of UTF-8 on standard error, line breaks as blanks. Questions get the
 /// answer that goes on: OK, or Yes.
 class UtenteConsole : public Utente {
  public:
-  void ImpostaRisposte(const RispostePerEstrazione& risposte) { risposte_ = risposte; }
-
   /// Whether Ctrl+C was pressed since AscoltaInterruzione.
   bool Interrotto() const;
 
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) override;
   Colore ScegliColore(Colore) override { return NessunColore; }
-  Risposta ChiediVicoloCieco(const std::string& testo) override;
-  /// False when Ctrl+C was pressed (see AscoltaInterruzione) or the attempts are used up.
-  bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
   /// It goes on until Ctrl+C; nothing is shown.
   std::unique_ptr<Attesa> IniziaAttesa(const std::string& testo) override;
   void FormaPuntatore(int) override {}
   void SegnaleAcustico() override {}
   void CediAiMessaggi() override {}
-
- private:
-  RispostePerEstrazione risposte_;
 };
 
-/// From now on Ctrl+C and a request to terminate no longer end the process: they set a flag that
-/// ContinuaEstrazione reads, so that no file beside the output and no temporary folder is left. Nor
+/// From now on Ctrl+C and a request to terminate no longer end the process: they set the flag of
+/// Interrotto, so that no file beside the output and no temporary folder is left. Nor
 /// does it end when nobody reads its messages any more. For what takes long a command has to poll.
 void AscoltaInterruzione();
 

@@ -205,11 +205,7 @@ QPoint UtenteQt::AlPuntatore(QSize misura) const {
 
 Risposta UtenteQt::ChiediVicoloCieco(const std::string& testo) {
   if (finestra_) PortaInPrimoPiano(*finestra_);
-  return MostraMessaggio({.testo = testo, .pulsanti = Pulsanti::SiNoAnnulla});
-}
-
-bool UtenteQt::ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) {
-  return !segue_ || segue_(avanzamento);
+  return Utente::ChiediVicoloCieco(testo);
 }
 
 QCursor UtenteQt::PuntatorePer(int forma) const {

@@ -3,7 +3,6 @@
 #include <QCursor>
 #include <QPointer>
 #include <QWidget>
-#include <functional>
 #include <map>
 
 #include "platform/user.h"
@@ -23,16 +22,10 @@ class UtenteQt : public Utente {
   /// The pointer for a value of PuntatoreMouse that has no shape of the system.
   void Immagine(int forma, const QCursor& puntatore) { immagini_[forma] = puntatore; }
 
-  /// What ContinuaEstrazione asks.
-  void SegueEstrazione(std::function<bool(const AvanzamentoEstrazione&)> segue) {
-    segue_ = std::move(segue);
-  }
-
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::optional<std::string> ChiediTesto(const RichiestaDiTesto& richiesta) override;
   Colore ScegliColore(Colore iniziale) override;
   Risposta ChiediVicoloCieco(const std::string& testo) override;
-  bool ContinuaEstrazione(const AvanzamentoEstrazione& avanzamento) override;
   std::unique_ptr<Attesa> IniziaAttesa(const std::string& testo) override;
   void FormaPuntatore(int forma) override;
   void SegnaleAcustico() override;
@@ -46,7 +39,6 @@ class UtenteQt : public Utente {
   QPointer<QWidget> finestra_;
   QPointer<QWidget> occupata_;  // the modal window that has the pointer's shape too
   std::map<int, QCursor> immagini_;
-  std::function<bool(const AvanzamentoEstrazione&)> segue_;
 };
 
 }  // namespace telarium

@@ -5,7 +5,6 @@
 #include <stdexcept>
 
 #include "editor/windows/form1_fixture.h"
-#include "fill/extraction.h"
 
 // The bars of the main window, and what holds them while a fill runs.
 namespace telarium {
@@ -130,7 +129,7 @@ TEST_F(Form1Test, AFillTakesTheTipAwayAndLeavesTheWindowFreeHoweverItEnds) {
   StartWith({"CASA", "...."});
   form->Label1->move(50, 50);
   user.Answer(Risposta::Ok);
-  user.StopFillWhen([&](const AvanzamentoEstrazione& progress) -> bool {
+  form->EstrazioneAutomatica.Segue([&](const AvanzamentoEstrazione& progress) -> bool {
     EXPECT_GE(form->Label1->y(), form->Area->height());
     form->SeguiEstrazione(progress);
     throw std::runtime_error("no memory, or the like");
@@ -153,13 +152,13 @@ TEST_F(Form1Test, ANewSizeDuringACommandWaitsForItsEnd) {
   user.Answer(Risposta::Ok);
   user.AnswerAllDeadEnds(Risposta::Si);
   bool kept = true;
-  user.StopFillWhen([&](const AvanzamentoEstrazione& progress) {
+  form->EstrazioneAutomatica.Segue([&](const AvanzamentoEstrazione& progress) {
     if (progress.slotCollocati == 1) {
       form->resize(500, 400);
       QCoreApplication::processEvents();
     }
     kept = kept && LatoCasella == side;
-    return false;
+    return true;
   });
   form->Voce("MenuEstrazione").trigger();
   user.TakeTexts();

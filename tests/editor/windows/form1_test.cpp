@@ -21,7 +21,6 @@
 #include "editor/windows/form1_fixture.h"
 #include "editor/windows/form_commands.h"
 #include "editor/windows/menu_table.h"
-#include "fill/extraction.h"
 #include "model/crossword_file.h"
 #include "platform/qt/qt_platform.h"
 #include "support/crossword_page.h"
@@ -155,7 +154,7 @@ TEST_F(Form1Test, RunsTheOptionsAndLinksOfItsMenus) {
   StartWith({"CASA"});
   for (const char* entry : {"MenuInf", "MenuVis", "Menurett", "MenuL1"})
     form->Voce(entry).trigger();
-  EXPECT_TRUE(ProvaInfinita && StampaSoluzioni && !RettangoloParola);
+  EXPECT_TRUE(form->EstrazioneAutomatica.ProvaInfinita && StampaSoluzioni && !RettangoloParola);
   EXPECT_TRUE(form->Voce("MenuInf").isChecked() && form->Voce("MenuVis").isChecked());
   EXPECT_FALSE(form->Voce("Menurett").isChecked());
   EXPECT_TRUE(form->Voce("MenuL1").isChecked()) << "choosing the current language changes nothing";
@@ -259,7 +258,9 @@ TEST_F(Form1Test, FillsTheGridBeforeTheUsersEyes) {
   user.AnswerDeadEnd(Risposta::No);
   int letterPixels = 0;
   bool sealedOff = true;
-  user.StopFillWhen([&](const AvanzamentoEstrazione& progress) {
+  std::int64_t attempts = 0;
+  form->EstrazioneAutomatica.Segue([&](const AvanzamentoEstrazione& progress) {
+    attempts = progress.tentativo;
     const bool goesOn = form->SeguiEstrazione(progress);
     sealedOff = sealedOff && !form->Toolbar1->isEnabled() && !form->menuBar()->isEnabled() &&
                 form->Avanzamento->isVisible();
@@ -270,11 +271,11 @@ TEST_F(Form1Test, FillsTheGridBeforeTheUsersEyes) {
             shown.pixelColor(x, static_cast<int>((OrigineY + LatoCasella / 2) *
                                                  shown.devicePixelRatio())) == Qt::black;
     }
-    return !goesOn;
+    return goesOn;
   });
   form->Voce("MenuEstrazione").trigger();
   EXPECT_GT(user.TakeTexts().size(), 2u);
-  EXPECT_GT(user.polls.back().tentativo, 1) << "No began anew";
+  EXPECT_GT(attempts, 1) << "No began anew";
   EXPECT_TRUE(sealedOff);
   EXPECT_GT(letterPixels, 8);
   for (const std::string& row : Drawing())
@@ -291,9 +292,9 @@ class EndlessFill : public Form1Test {
     StartWith({"......", ".#.#.#", "......"});
     form->Voce("MenuInf").trigger();
     user.Answer(Risposta::Ok);
-    user.StopFillWhen([&](const AvanzamentoEstrazione& p) {
+    form->EstrazioneAutomatica.Segue([&](const AvanzamentoEstrazione& p) {
       if (p.tentativo == 3 && p.slotCollocati == 0) QTimer::singleShot(0, form.get(), stop);
-      return !form->SeguiEstrazione(p);
+      return form->SeguiEstrazione(p);
     });
     ClickButton(ExtractionButton);
     user.TakeTexts();

@@ -1,4 +1,4 @@
-#include "fill/placed_word.h"
+#include "editor/placed_word.h"
 
 #include "editor/cell_drawing.h"
 #include "platform/text.h"
