@@ -15,7 +15,6 @@
 #include "clues/windows/frmParole.h"
 #include "clues/windows/telariummdb.h"
 #include "crossworddialogs/new_crossword.h"
-#include "editor/cell_editing.h"
 #include "editor/settings.h"
 #include "median_keeper.h"
 #include "model/crossword_file.h"
@@ -146,9 +145,7 @@ void BM_MaskedSearch(benchmark::State& state) {
                              std::filesystem::copy_options::overwrite_existing);
   Expect(NuovoVuoto(12, 3) == EsitoNuovo::Fatto);
   RicalcolaCaselle();
-  CursoreX = CursoreY = 1;
-  Direzione = Orizzontale;
-  TelarDef window(nullptr);
+  TelarDef window({.testo = {ParolaCasella(1, 1, Orizzontale), {}}, .numero = 1}, nullptr);
   ShowPainted(window);
   for (auto _ : state) {
     window.Command3D4->click();

@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "clues/clue_search.h"
-#include "editor/cell_editing.h"
+#include "dictionary/dictionary.h"
+#include "dictionary/word_pattern.h"
 #include "platform/codepage.h"
 #include "platform/text.h"
 
@@ -20,24 +21,20 @@ double Collocata(double posto, double misura, double schermo, double margine) {
 
 }  // namespace
 
-std::string& ParolaInEsame() {
-  return ParolaCasella(CursoreX, CursoreY, Direzione);
+std::string EsameDiParola::TitoloParola() const {
+  return Unisci(parola_.numero, parola_.direzione == Orizzontale ? " Orizz. " : " Vertic. ");
 }
 
-std::string& DefinizioneInEsame() {
-  return Definizione(CursoreX, CursoreY, Direzione);
+std::string EsameDiParola::MascheraIniziale() const {
+  std::string maschera = ParolaIniziale();
+  if (!LunghezzaAmmessa(static_cast<int>(maschera.size()))) return {};
+  std::replace(maschera.begin(), maschera.end(), CellaVuota, PostoLibero);
+  return maschera;
 }
 
-std::string TitoloParola() {
-  return Unisci(NumeroCasella(CursoreX, CursoreY),
-                Direzione == Orizzontale ? " Orizz. " : " Vertic. ");
-}
-
-bool AccettaDefinizione(const std::string& parola, const std::string& definizione,
-                        const std::string& iniziale) {
-  if (!ParolaAccettata(parola, static_cast<int>(ParolaInEsame().size()))) return false;
-  DefinizioneInEsame() = definizione;
-  if (parola != iniziale) ParolaInEsame() = parola;
+bool EsameDiParola::AccettaDefinizione(ParolaDefinita scritta) {
+  if (!ParolaAccettata(scritta.parola, static_cast<int>(ParolaIniziale().size()))) return false;
+  accettata_ = std::move(scritta);
   return true;
 }
 
@@ -56,11 +53,9 @@ std::string_view AiutoDefinizione() {
          "esiste già una precompilata."_cp;
 }
 
-Punto PostoDelDialogo(Misura dialogo, Misura schermo, double barraDiStato, Punto area) {
-  const double sinistra = area.x + CursoreX * LatoCasella + OrigineX;
-  const double cima = area.y + CursoreY * LatoCasella + OrigineY;
-  return {Collocata(sinistra, dialogo.larghezza, schermo.larghezza, 0),
-          Collocata(cima, dialogo.altezza, schermo.altezza, barraDiStato)};
+Punto PostoDelDialogo(Misura dialogo, Misura schermo, double barraDiStato, Punto angolo) {
+  return {Collocata(angolo.x, dialogo.larghezza, schermo.larghezza, 0),
+          Collocata(angolo.y, dialogo.altezza, schermo.altezza, barraDiStato)};
 }
 
 }  // namespace telarium

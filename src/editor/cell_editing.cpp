@@ -6,21 +6,17 @@
 #include "editor/redraw.h"
 #include "editor/word_pointing.h"
 #include "model/crossword_file.h"
+#include "model/current_crossword.h"
 #include "platform/platform.h"
+#include "platform/text.h"
 
 namespace telarium {
 
-std::int16_t CursoreX = 0;
-std::int16_t CursoreY = 0;
-std::int16_t Direzione = 0;
 Colore ColoreScelto = 0;
 
 namespace {
 
-const AzzeramentoDiSottosistema azzeramento([] {
-  CursoreX = CursoreY = Direzione = 0;
-  ColoreScelto = 0;
-});
+const AzzeramentoDiSottosistema azzeramento([] { ColoreScelto = 0; });
 
 void AttivaStrumento(std::int16_t modo, int puntatore) {
   LaFinestra().NascondiShape1();
@@ -46,37 +42,52 @@ void TrasformaSeDiversa(Casella casella, bool nera) {
 }
 
 void Colora(Casella casella) {
-  Colore& colore = ColoreCasella(casella.colonna, casella.riga);
-  ColoreScelto = ChiUsa().ScegliColore(colore);
+  const auto [c, r] = casella;
+  ColoreScelto = ChiUsa().ScegliColore(ColoreCasella(c, r));
   if (ColoreScelto < 0) return;
-  colore = ColoreScelto;
+  ModificaCruciverba(
+      Unisci("Colore della casella ", c, ',', r),
+      [&, c = c, r = r](Cruciverba& cruciverba) { cruciverba.colori.Imposta(ColoreScelto, c, r); });
   // Else the redraw does it. No older colour shall come back.
   if (!SchemaColorato()) AggiornaIstantanea();
   RidisegnaSchema();
 }
 
-// Hands the characters from the cell to the end of their run on to the clue editor, which works on
-// the two entries themselves, and takes what it changed back into the grid.
-void ModificaParola(Casella casella, int direzione) {
-  Direzione = static_cast<std::int16_t>(direzione);
-  std::string& definizione = Definizione(casella.colonna, casella.riga, direzione);
-  std::string& parola = ParolaCasella(casella.colonna, casella.riga, direzione);
-  if (parola.empty()) return;  // the pointer keeps its shape over cells without a word that way
-  const std::string definizionePrima = definizione;
-  const std::string parolaPrima = parola;
-  const Slot slot = SlotDa(casella, direzione);
-  LaFinestra().MostraModale(Modale::TelarDef);
-  if (definizione == definizionePrima && parola == parolaPrima) return;
+// Where the clue of a word goes, or of the rest of one.
+Casella PostoDellaDefinizione(const Slot& slot) {
+  return slot.inizio;
+}
+
+// Carries what the clue editor gave back into the grid.
+void Applica(const Slot& slot, const ParolaDefinita& prima, const ParolaDefinita& dopo) {
+  const auto [c, r] = PostoDellaDefinizione(slot);
+  const bool definita = dopo.definizione != prima.definizione;
+  ModificaCruciverba(Unisci(definita ? "Definizione di " : "Parola ", dopo.parola),
+                     [&, c = c, r = r](Cruciverba& cruciverba) {
+                       ScriviCaratteri(cruciverba, slot, dopo.parola);
+                       cruciverba.definizioni.Imposta(dopo.definizione, c, r, slot.direzione);
+                     });
   SchemaModificato = Vero;
-  ScriviInSchema(slot, parola);
   ConsolidaSchema();
+}
+
+// Hands the characters from the cell to the end of their run on to the clue editor.
+void ModificaParola(Casella casella, int direzione) {
+  const auto [c, r] = casella;
+  const ParolaDefinita prima{ParolaCasella(c, r, direzione), Definizione(c, r, direzione)};
+  if (prima.parola.empty()) return;  // the pointer keeps its shape over cells without a word there
+  const Slot slot = SlotDa(casella, direzione);
+  const auto dopo = LaFinestra().ModificaParola({.testo = prima,
+                                                 .numero = NumeroCasella(c, r),
+                                                 .direzione = direzione,
+                                                 .destra = BordoSinistro(c + 1),
+                                                 .fondo = BordoAlto(r + 1)});
+  if (dopo && *dopo != prima) Applica(slot, prima, *dopo);
 }
 
 // The word that the last movement settled on.
 void ModificaParolaIndicata(int puntatore) {
   LaFinestra().TogliLabel1();
-  CursoreX = static_cast<std::int16_t>(MouseCol);
-  CursoreY = static_cast<std::int16_t>(MouseRiga);
   const Casella casella{MouseCol, MouseRiga};
   // Nobody has moved the pointer since the grid became smaller.
   if (!NelloSchema(casella)) return;

@@ -6,11 +6,6 @@
 // goes to the clue editor.
 namespace telarium {
 
-/// The word handed to the clue editor: its start cell, or the cell from which on its rest is meant,
-/// and its direction.
-extern std::int16_t CursoreX;
-extern std::int16_t CursoreY;
-extern std::int16_t Direzione;
 /// What the last colour chooser gave; negative when none was chosen.
 extern Colore ColoreScelto;
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
+#include "model/word_edit.h"
 #include "platform/surface.h"
 
 namespace telarium {
@@ -18,7 +20,6 @@ enum class Modale {
   TelarSav,
   Settaggi,
   fONTEN,
-  TelarDef,
   TelarBro,
   telariummdb,
   Form4,
@@ -68,6 +69,9 @@ class FinestraEditor {
 
   /// Shows a window until it closes, and queues the activation that follows.
   virtual void MostraModale(Modale) {}
+  /// Likewise the clue editor TelarDef, for a word. Gives the word and the clue that were accepted;
+  /// none when the user gave up.
+  virtual std::optional<ParolaDefinita> ModificaParola(const ParolaInEsame&) { return {}; }
 
   /// Toolbar buttons by number; PulsanteEdit is the one that stays pressed.
   virtual void AbilitaPulsante(int, bool) {}

@@ -1,5 +1,7 @@
 #include "model/cruciverba.h"
 
+#include <algorithm>
+
 #include "model/crossword_format.h"
 
 namespace telarium {
@@ -18,6 +20,12 @@ void ScriviCarattere(Cruciverba& cruciverba, Casella casella, char carattere) {
   const auto riga = static_cast<std::size_t>(casella.riga) - 1;
   if (riga >= cruciverba.griglia.size()) cruciverba.griglia.resize(riga + 1);
   ScriviInRiga(cruciverba.griglia[riga].Proprio(), casella.colonna, carattere);
+}
+
+void ScriviCaratteri(Cruciverba& cruciverba, const Slot& slot, std::string_view parola) {
+  const int lunghezza = std::min(slot.lunghezza, static_cast<int>(parola.size()));
+  for (int k = 1; k <= lunghezza; ++k)
+    ScriviCarattere(cruciverba, slot.Cella(k), parola[static_cast<std::size_t>(k) - 1]);
 }
 
 void Ridimensiona(Cruciverba& cruciverba, int colonne, int righe) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "model/cells.h"
@@ -47,6 +48,9 @@ char CarattereDi(const Cruciverba& cruciverba, Casella casella);
 /// Writes the character of a cell of the grid; its companion mark stays as it is. A row line that
 /// is too short for the cell is first made longer by empty white cells.
 void ScriviCarattere(Cruciverba& cruciverba, Casella casella, char carattere);
+
+/// Writes the characters of a word into its cells; what it has beyond them is left out.
+void ScriviCaratteri(Cruciverba& cruciverba, const Slot& slot, std::string_view parola);
 
 /// Gives the grid another size, within the limits, and says so in the header. Its row lines come to
 /// the length of the grid, new cells are empty; clues, colours and locks stay in their places.

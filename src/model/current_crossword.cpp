@@ -1,6 +1,6 @@
 #include "model/current_crossword.h"
 
-#include "model/state.h"
+#include "model/words.h"
 
 namespace telarium {
 namespace {
@@ -47,6 +47,16 @@ void PrendiCruciverba(const Cruciverba& cruciverba) {
   ColoreCasella.Riempi(ColoreNero);
   cruciverba.colori.PerOgni([](Colore colore, int c, int r) { ColoreCasella(c, r) = colore; });
   LaboratorioDelCruciverba = cruciverba.laboratorio;
+}
+
+bool ModificaCruciverba(std::string_view, const std::function<void(Cruciverba&)>& funzione) {
+  const Cruciverba prima = CruciverbaCorrente();
+  Cruciverba dopo = prima;
+  funzione(dopo);
+  if (dopo == prima) return false;
+  PrendiCruciverba(dopo);
+  RicalcolaCaselle();
+  return true;
 }
 
 }  // namespace telarium

@@ -1,7 +1,6 @@
 #include "clues/clue_editor.h"
 
 #include "dictionary/dictionary_choice.h"
-#include "editor/cell_editing.h"
 #include "support/telarium_test.h"
 
 namespace telarium {
@@ -10,26 +9,21 @@ namespace {
 class ClueEditorTest : public TelariumTest {};
 
 TEST_F(ClueEditorTest, OpensAtTheLowerRightOfTheCellAndWithinTheScreen) {
-  LatoCasella = 40;
-  OrigineX = 100;
-  OrigineY = 60;
   struct Case {
-    std::int16_t column, row;
+    Punto corner;
     Misura dialog;
-    Punto area, expected;
+    Punto expected;
   };
   const Case cases[] = {
-      {2, 3, {500, 400}, {0, 0}, {180, 180}},  {2, 3, {500, 400}, {10, 50}, {190, 230}},
-      {12, 3, {500, 400}, {0, 0}, {400, 180}},  // 580 + 500 > 1000: 1000 - 600
-      {2, 10, {500, 400}, {0, 0}, {180, 300}},  // 460 + 400 > 800 - 20: 800 - 480 - 20
-      {12, 10, {900, 700}, {0, 0}, {0, 0}},
+      {{180, 180}, {500, 400}, {180, 180}}, {{190, 230}, {500, 400}, {190, 230}},
+      {{580, 180}, {500, 400}, {400, 180}},  // 580 + 500 > 1000: 1000 - 600
+      {{180, 460}, {500, 400}, {180, 300}},  // 460 + 400 > 800 - 20: 800 - 480 - 20
+      {{580, 460}, {900, 700}, {0, 0}},
   };
-  for (const auto& [column, row, dialog, area, expected] : cases) {
-    CursoreX = column;
-    CursoreY = row;
-    const Punto place = PostoDelDialogo(dialog, {1000, 800}, 20, area);
-    EXPECT_EQ(place.x, expected.x) << column << ' ' << row;
-    EXPECT_EQ(place.y, expected.y) << column << ' ' << row;
+  for (const auto& [corner, dialog, expected] : cases) {
+    const Punto place = PostoDelDialogo(dialog, {1000, 800}, 20, corner);
+    EXPECT_EQ(place.x, expected.x) << corner.x << ' ' << corner.y;
+    EXPECT_EQ(place.y, expected.y) << corner.x << ' ' << corner.y;
   }
 }
 

@@ -130,7 +130,7 @@ TEST_F(Editing, APressOutsideOfEditingOrWithoutMeaningEntersEditing) {
   MoveTo(1, 1);
   Press(Right, 1, 1);
   EXPECT_TRUE(window.editPressed) << "inside of the grid";
-  EXPECT_TRUE(window.shown.empty());
+  EXPECT_TRUE(window.edited.empty());
   PressBeside();
   EXPECT_EQ(ModoGriglia, 1);
 }
@@ -154,15 +154,16 @@ TEST_F(Editing, AWordGoesToTheClueEditorAndComesBackIntoTheGrid) {
   Open({"....", "CASA", "A#..", "NE.."});
   MoveTo(4, 2, false);  // where no word starts
   Press(Left, 4, 2);
-  EXPECT_EQ(window.shown, std::vector{Modale::TelarDef});
-  EXPECT_EQ(std::tuple(CursoreX, CursoreY, Direzione), std::tuple(4, 1, 2));
+  ASSERT_EQ(window.edited.size(), 1u);
+  const ParolaInEsame& given = window.edited.front();
+  EXPECT_EQ(std::tuple(given.testo.parola, given.numero, given.direzione),
+            std::tuple(".A..", 4, Verticale));
+  EXPECT_EQ(given.destra, OrigineX + 4 * LatoCasella);
+  EXPECT_EQ(given.fondo, OrigineY + LatoCasella);
   EXPECT_EQ(SchemaModificato, Falso) << "nothing was changed";
 
   MoveTo(1, 2);
-  window.whenShown = [] {
-    ParolaCasella(1, 2, Orizzontale) = "COTE";
-    Definizione(1, 2, Orizzontale) = "Nuova";
-  };
+  window.whenEdited = [](const ParolaDefinita&) { return ParolaDefinita{"COTE", "Nuova"}; };
   Press(Left, 1, 2);
   EXPECT_EQ(Drawing(), (Rows{"....", "COTE", "A#..", "NE.."}));
   EXPECT_EQ(SchemaModificato, Vero);
@@ -172,19 +173,19 @@ TEST_F(Editing, AWordGoesToTheClueEditorAndComesBackIntoTheGrid) {
   for (const auto& [word, clue] : {Change{"COTE", "Altra"}, Change{"CITE", "Altra"}}) {
     SchemaModificato = Falso;
     MoveTo(1, 2);
-    window.whenShown = [word = word, clue = clue] {
-      ParolaCasella(1, 2, Orizzontale) = word;
-      Definizione(1, 2, Orizzontale) = clue;
+    window.whenEdited = [word = word, clue = clue](const ParolaDefinita&) {
+      return ParolaDefinita{word, clue};
     };
     Press(Left, 1, 2);
     EXPECT_EQ(SchemaModificato, Vero) << word;
     EXPECT_NE(ReadFile(PercorsoIstantanea()).find("  1  21-Altra\r\n"), std::string::npos) << word;
   }
-  window.whenShown = nullptr;
   Draw({"....", "COTE", "A#..", "NE.."});
 
   MoveTo(3, 2);  // along the word: nothing changes but the cell, one behind
-  window.whenShown = [] { ParolaCasella(MouseCol, MouseRiga, Direzione) = "RTE*XXXX"; };
+  window.whenEdited = [](const ParolaDefinita& given) {
+    return ParolaDefinita{"RTE*XXXX", given.definizione};
+  };
   Press(Left, 3, 2);
   EXPECT_EQ(Drawing(), (Rows{"....", "CRTE", "A#..", "NE.."})) << "no further than the run goes";
 }
@@ -203,7 +204,7 @@ TEST_F(Editing, NoWordGoesToTheClueEditorWhereThereIsNone) {
   MouseRiga = 1;
   ASSERT_EQ(ParolaCasella(4, 1, Verticale), "....");
   Press(Left, 2, 2);
-  EXPECT_TRUE(window.shown.empty());
+  EXPECT_TRUE(window.edited.empty());
 }
 
 TEST_F(Editing, WithoutAGridNoPressDoesAnything) {

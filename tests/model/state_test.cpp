@@ -37,7 +37,7 @@ std::vector<std::string> Everything() {
   add(Schema(350), Definizione(53, 30, 2), ParolaCasella(53, 30, 2), LetteraCasella(53, 30));
   add(NumColonne, NumRighe, SchemaModificato, ColoreCasella(53, 30), TipoCasella(53, 30));
   add(NumeroCasella(53, 30), LatoCasella, OrigineX, OrigineY, ModoGriglia, PuntatoreMouse);
-  add(MouseCol, MouseRiga, CursoreX, CursoreY, Direzione, ColoreScelto, IstantaneaSuperata());
+  add(MouseCol, MouseRiga, ColoreScelto, IstantaneaSuperata());
   add(NomeFont, AltezzaCaratteri, AltezzaNumeri, PercentualeRiquadro, DistanzaDaSpigolo);
   add(DistanzaDaCentro, SpessoreBordo, RettangoloParola, StampaSoluzioni, TastoSin);
   add(NascondiSoluzioni, GiaAttivata, MostraSuggerimenti, LinguaDizionario);
@@ -72,9 +72,6 @@ TEST_F(State, ResetPutsEveryVariableAsAtProgramStart) {
                             &OrigineY,
                             &ModoGriglia,
                             &PuntatoreMouse,
-                            &CursoreX,
-                            &CursoreY,
-                            &Direzione,
                             &AltezzaCaratteri,
                             &AltezzaNumeri,
                             &PercentualeRiquadro,

@@ -31,8 +31,11 @@ class RecordingWindow : public FinestraEditor {
   double tipLeft = 0, tipTop = 0;
   bool tipShows = false;
   std::optional<Rettangolo> rectangle;
-  std::vector<Modale> shown;         // the modal windows so far
-  std::function<void()> whenShown;   // what the user does in one
+  std::vector<Modale> shown;          // the modal windows so far
+  std::function<void()> whenShown;    // what the user does in one
+  std::vector<ParolaInEsame> edited;  // the words that the clue editor got so far
+  // What the user does with one there; without it, gives up.
+  std::function<std::optional<ParolaDefinita>(ParolaDefinita)> whenEdited;
   std::vector<std::string> calls;    // the calls without a state, by their names
   std::function<void()> whenPlaced;  // what CollocaPicture2, of the first activation, does besides
 
@@ -60,6 +63,10 @@ class RecordingWindow : public FinestraEditor {
   void MostraModale(Modale quale) override {
     shown.push_back(quale);
     if (whenShown) whenShown();
+  }
+  std::optional<ParolaDefinita> ModificaParola(const ParolaInEsame& parola) override {
+    edited.push_back(parola);
+    return whenEdited ? whenEdited(parola.testo) : std::nullopt;
   }
   void AbilitaPulsante(int numero, bool abilitato) override {
     if (abilitato) {

@@ -9,7 +9,6 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "clues/clue_editor.h"
 #include "clues/clue_family.h"
 #include "clues/clue_search.h"
 #include "dictionary/dictionary_choice.h"
@@ -88,9 +87,10 @@ class ElencoTrovate : public QListWidget {
 
 }  // namespace
 
-TelarDef::TelarDef(QWidget* genitore)
+TelarDef::TelarDef(ParolaInEsame parola, QWidget* genitore)
     : FinestraModale(QStringLiteral("TelarDef"),
-                     QStringLiteral("Edit definizioni (click qui per spostarmi)"), genitore) {
+                     QStringLiteral("Edit definizioni (click qui per spostarmi)"), genitore),
+      esame_(std::move(parola)) {
   ImpostaPuntatoreMouse(PuntatoreFreccia);
   CreaParola();
   CreaDefinizione();
@@ -252,15 +252,15 @@ void TelarDef::Collega() {
 
 // The letters of the word, each with its box checked; an empty cell is a free place.
 void TelarDef::PreparaMaschera() {
-  const std::string& parola = ParolaInEsame();
-  const bool cercabile = LunghezzaAmmessa(static_cast<int>(parola.size()));
+  const std::string maschera = esame_.MascheraIniziale();
+  const bool cercabile = !maschera.empty();
   for (QWidget* controllo :
        std::initializer_list<QWidget*>{Command3D4, Command4, Combo1, Label8, Picture1})
     controllo->setVisible(cercabile);
   for (std::size_t i = 0; i < Check3d1.size(); ++i) {
-    const bool posto = cercabile && i < parola.size();
-    const bool lettera = posto && parola[i] != CellaVuota && parola[i] != ' ';
-    Label2[i]->setText(lettera ? AQt({&parola[i], 1}) : QStringLiteral(" "));
+    const bool posto = i < maschera.size();
+    const bool lettera = posto && maschera[i] != PostoLibero;
+    Label2[i]->setText(lettera ? AQt({&maschera[i], 1}) : QStringLiteral(" "));
     Label2[i]->setVisible(lettera);
     Check3d1[i]->setVisible(posto);
     Check3d1[i]->setChecked(lettera);
@@ -277,20 +277,20 @@ void TelarDef::Colloca(const QRect& schermo) {
   const QPoint area = principale->centralWidget()->mapToGlobal(QPoint()) - schermo.topLeft();
   const QRect fuori = principale->frameGeometry(), dentro = principale->geometry();
   const QSize intera = size() + fuori.size() - dentro.size();
-  const Punto posto =
-      PostoDelDialogo({double(intera.width()), double(intera.height())},
-                      {double(schermo.width()), double(schermo.height())},
-                      LaFinestra().AltezzaStatusBar1(), {double(area.x()), double(area.y())});
+  const Punto posto = PostoDelDialogo({double(intera.width()), double(intera.height())},
+                                      {double(schermo.width()), double(schermo.height())},
+                                      LaFinestra().AltezzaStatusBar1(),
+                                      {area.x() + esame_.Destra(), area.y() + esame_.Fondo()});
   move(schermo.topLeft() + QPointF(posto.x, posto.y).toPoint() + dentro.topLeft() -
        fuori.topLeft());
 }
 
 void TelarDef::Attivata() {
-  ParolaIniziale = ParolaInEsame();
-  Label1->setText(AQt(TitoloParola()));
-  Text2->setMaxLength(static_cast<int>(ParolaIniziale.size()));
-  Text2->setText(AQt(ParolaIniziale));
-  Text1->Mostra(DefinizioneInEsame());
+  const std::string& parola = esame_.ParolaIniziale();
+  Label1->setText(AQt(esame_.TitoloParola()));
+  Text2->setMaxLength(static_cast<int>(parola.size()));
+  Text2->setText(AQt(parola));
+  Text1->Mostra(esame_.DefinizioneIniziale());
   Text1->setFocus();
   Command3D4->setToolTip(QStringLiteral("Ricerca la parola mascherata in : ") +
                          PercorsoAQt(NomeDizionario));
@@ -298,7 +298,7 @@ void TelarDef::Attivata() {
 }
 
 std::string TelarDef::Maschera() const {
-  std::string maschera(ParolaInEsame().size(), PostoLibero);
+  std::string maschera(esame_.ParolaIniziale().size(), PostoLibero);
   for (std::size_t i = 0; i < maschera.size(); ++i)
     if (!Label2[i]->isHidden()) maschera[i] = DaQt(Label2[i]->text()).front();
   return maschera;
@@ -359,14 +359,13 @@ void TelarDef::ApriMenuDizionari() {
 }
 
 void TelarDef::AccettaDefinizione() {
-  const auto definizione = Text1->Definizione();
+  auto definizione = Text1->Definizione();
   if (!definizione) {
     AvvisaDefinizioneNonScrivibile();
     return Text1->setFocus();
   }
-  if (!telarium::AccettaDefinizione(DaQt(Text2->text()), *definizione, ParolaIniziale)) {
+  if (!esame_.AccettaDefinizione({DaQt(Text2->text()), *std::move(definizione)}))
     return Text2->setFocus();
-  }
   accept();
 }
 

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "clues/clue_editor.h"
 #include "clues/windows/clue_box.h"
 #include "dictionary/dictionary.h"
 #include "platform/qt/qt_canvas.h"
@@ -19,10 +20,13 @@
 namespace telarium {
 
 /// The clue editor: writes the clue of one word and may change the word, with the help of the
-/// encyclopedia and of a masked search in the dictionaries. It opens beside the word.
+/// encyclopedia and of a masked search in the dictionaries. It opens beside the word. What was
+/// accepted is in Esame when it has closed.
 class TelarDef : public FinestraModale {
  public:
-  explicit TelarDef(QWidget* genitore);
+  TelarDef(ParolaInEsame parola, QWidget* genitore);
+
+  const EsameDiParola& Esame() const { return esame_; }
 
   QLabel* Label1;  // number and direction
   QLabel* Label3;
@@ -80,7 +84,7 @@ class TelarDef : public FinestraModale {
   void ApriMenuDizionari();
   void AccettaDefinizione();
 
-  std::string ParolaIniziale;
+  EsameDiParola esame_;
 };
 
 }  // namespace telarium

@@ -315,6 +315,12 @@ void Form1::MostraModale(Modale quale) {
   AccodaAttivazione();
 }
 
+std::optional<ParolaDefinita> Form1::ModificaParola(const ParolaInEsame& parola) {
+  auto accettata = MostraTelarDef(parola, *this);
+  AccodaAttivazione();
+  return accettata;
+}
+
 void Form1::MostraPicture1(bool visibile) {
   if (visibile && Picture1->pixmap(Qt::ReturnByValue).isNull()) {
     const bool piccolo = screen()->size().width() < SchermoPiccolo;

@@ -83,6 +83,7 @@ class Form1 : public QMainWindow, public FinestraEditor {
   void MostraPicture1(bool visibile) override;
   bool Picture1Visibile() const override { return !Picture1->isHidden(); }
   void MostraModale(Modale quale) override;
+  std::optional<ParolaDefinita> ModificaParola(const ParolaInEsame& parola) override;
   void AbilitaPulsante(int numero, bool abilitato) override;
   void PremiEdit(bool premuto) override;
   bool EditPremuto() const override;

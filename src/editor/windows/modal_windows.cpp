@@ -23,11 +23,16 @@
 namespace telarium {
 namespace {
 
-// Makes a window for one showing. It belongs to the modal window that is open, if there is one.
+// The window to which one that is shown now belongs: the modal one that is open, if there is one.
+QWidget* Genitore(QWidget& principale) {
+  QWidget* modale = QApplication::activeModalWidget();
+  return modale ? modale : &principale;
+}
+
+// Makes a window for one showing.
 template <class Finestra>
 void Mostra(QWidget& principale) {
-  QWidget* modale = QApplication::activeModalWidget();
-  Finestra(modale ? modale : &principale).exec();
+  Finestra(Genitore(principale)).exec();
 }
 
 // Makes a window at its first showing and keeps it, as the user left it, with the main window.
@@ -48,19 +53,12 @@ struct VoceModale {
 };
 
 constexpr VoceModale finestre[] = {
-    {Modale::Settaggi, Mostra<Settaggi>},
-    {Modale::fONTEN, MostraConservata<fONTEN>},
-    {Modale::FormNew, Mostra<FormNew>},
-    {Modale::FormModels, Mostra<FormModels>},
-    {Modale::Form2, Mostra<Form2>},
-    {Modale::TelarSav, Mostra<TelarSav>},
-    {Modale::TelarDef, Mostra<TelarDef>},
-    {Modale::TelarBro, Mostra<TelarBro>},
-    {Modale::telariummdb, Mostra<telariummdb>},
-    {Modale::Form4, Mostra<Form4>},
-    {Modale::Form6, Mostra<Form6>},
-    {Modale::frmTip, Mostra<frmTip>},
-    {Modale::Form3, Mostra<Form3>},
+    {Modale::Settaggi, Mostra<Settaggi>}, {Modale::fONTEN, MostraConservata<fONTEN>},
+    {Modale::FormNew, Mostra<FormNew>},   {Modale::FormModels, Mostra<FormModels>},
+    {Modale::Form2, Mostra<Form2>},       {Modale::TelarSav, Mostra<TelarSav>},
+    {Modale::TelarBro, Mostra<TelarBro>}, {Modale::telariummdb, Mostra<telariummdb>},
+    {Modale::Form4, Mostra<Form4>},       {Modale::Form6, Mostra<Form6>},
+    {Modale::frmTip, Mostra<frmTip>},     {Modale::Form3, Mostra<Form3>},
 };
 
 }  // namespace
@@ -70,6 +68,12 @@ void MostraFinestraModale(Modale quale, QWidget& principale) {
                                  [quale](const VoceModale& una) { return una.quale == quale; });
   Verifica(voce != std::end(finestre), "MostraFinestraModale: finestra senza classe");
   voce->mostra(principale);
+}
+
+std::optional<ParolaDefinita> MostraTelarDef(const ParolaInEsame& parola, QWidget& principale) {
+  TelarDef finestra(parola, Genitore(principale));
+  finestra.exec();
+  return finestra.Esame().Accettata();
 }
 
 }  // namespace telarium

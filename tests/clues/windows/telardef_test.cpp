@@ -6,7 +6,6 @@
 #include <QTest>
 
 #include "dictionary/dictionary_choice.h"
-#include "editor/cell_editing.h"
 #include "platform/qt/qt_text.h"
 #include "support/clue_store.h"
 #include "support/recording_window.h"
@@ -22,20 +21,13 @@ class TelarDefTest : public TelariumTest {
  protected:
   void SetUp() override {
     TelariumTest::SetUp();
-    Draw({"MO.A", "A#LE", "SOLE"});
-    Definizione(1, 1, Orizzontale) = "Una clue";
     OpenDictionary({"MELA", "MALA", "MOLA", "CASA", "SOLE"});
     MakeStore(
         "MELA\tF\tFrutto\nMELA\tF\tCosì rossa\nMELA\tD\tCadde su un fisico\nALE\tD\tSola\n"
         "AS\tF\tCarta\n");
-    Subject(1, 1, Orizzontale);
   }
 
-  static void Subject(int column, int row, int direction) {
-    CursoreX = static_cast<std::int16_t>(column);
-    CursoreY = static_cast<std::int16_t>(row);
-    Direzione = static_cast<std::int16_t>(direction);
-  }
+  ParolaInEsame given{.testo = {"MO.A", "Una clue"}, .numero = 1};
 
   // The entries of a list or combo box.
   static std::string Items(const QAbstractItemModel* list) {
@@ -58,7 +50,7 @@ class TelarDefTest : public TelariumTest {
 };
 
 TEST_F(TelarDefTest, OpensWithWordClueAndMask) {
-  TelarDef window(nullptr);
+  TelarDef window(given, nullptr);
   Open(window);
   EXPECT_EQ(window.Label1->text(), QStringLiteral("1 Orizz. "));
   EXPECT_EQ(window.Text2->text(), QStringLiteral("MO.A"));
@@ -75,19 +67,18 @@ TEST_F(TelarDefTest, OpensWithWordClueAndMask) {
 }
 
 TEST_F(TelarDefTest, WordsThatNoDictionaryHoldsHaveNoMask) {
-  Draw({"CA#ABCDEFGHILMNOPQR"});
-  for (const int column : {1, 4}) {
-    Subject(column, 1, Orizzontale);
-    TelarDef window(nullptr);
+  for (const char* word : {"CA", "ABCDEFGHILMNOPQR"}) {
+    given.testo.parola = word;
+    TelarDef window(given, nullptr);
     Open(window);
-    EXPECT_EQ(Mask(window), "") << column;
+    EXPECT_EQ(Mask(window), "") << word;
     EXPECT_FALSE(window.Command3D4->isVisible() || window.Command4->isVisible() ||
                  window.Combo1->isVisible() || window.Picture1->isVisible());
   }
 }
 
-TEST_F(TelarDefTest, AcceptsWordAndClueAndLeavesTheGridAlone) {
-  TelarDef window(nullptr);
+TEST_F(TelarDefTest, GivesBackWordAndClue) {
+  TelarDef window(given, nullptr);
   Open(window);
   window.Text2->setFocus();
   QTest::keyClicks(window.Text2, QStringLiteral("mela"));
@@ -97,24 +88,22 @@ TEST_F(TelarDefTest, AcceptsWordAndClueAndLeavesTheGridAlone) {
   window.Command3d1->setFocus();
   QTest::keyClick(window.Command3d1, Qt::Key_Return);
   EXPECT_FALSE(window.isVisible());
-  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "MELA");
-  EXPECT_EQ(Definizione(1, 1, Orizzontale), "La pi\xF9 bella");
-  EXPECT_EQ(DrawingOfSchema().front(), "MO.A");
+  EXPECT_EQ(window.Esame().Accettata(), (ParolaDefinita{"MELA", "La pi\xF9 bella"}));
   EXPECT_EQ(NumVociDizionari, 0);
 }
 
 TEST_F(TelarDefTest, AnEmptyClueAndAnEmptyCellAreAccepted) {
-  TelarDef window(nullptr);
+  TelarDef window(given, nullptr);
   Open(window);
   window.Text2->setText(QStringLiteral(".ELA"));
   window.Text1->clear();
   QTest::keyClick(window.Text1, Qt::Key_Enter);
   EXPECT_FALSE(window.isVisible());
-  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale) + '|' + Definizione(1, 1, Orizzontale), ".ELA|");
+  EXPECT_EQ(window.Esame().Accettata(), (ParolaDefinita{".ELA", ""}));
 }
 
 TEST_F(TelarDefTest, RefusedWordsAndCluesStayInTheWindow) {
-  TelarDef window(nullptr);
+  TelarDef window(given, nullptr);
   Open(window);
   using Case = std::tuple<const char16_t*, const char16_t*, std::string>;
   const std::string letters =
@@ -132,20 +121,20 @@ TEST_F(TelarDefTest, RefusedWordsAndCluesStayInTheWindow) {
     Click(window.Command3d1);
     EXPECT_EQ(user.TakeTexts(), Texts{message});
     EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(ParolaCasella(1, 1, Orizzontale) + Definizione(1, 1, Orizzontale), "MO.AUna clue");
   }
   QTest::keyClick(window.Text2, Qt::Key_Escape);
   EXPECT_FALSE(window.isVisible());
+  EXPECT_FALSE(window.Esame().Accettata());
 }
 
 TEST_F(TelarDefTest, ClueIsTypedUpToItsLimitAndALongerOneSurvivesUntouched) {
-  const std::string longer = std::string(70, 'a') + "\rb\n\x80";
-  Definizione(1, 1, Orizzontale) = longer;
-  TelarDef window(nullptr);
-  Open(window);
-  Click(window.Command3d1);
-  EXPECT_EQ(Definizione(1, 1, Orizzontale), longer);
-  Definizione(1, 1, Orizzontale).clear();
+  given.testo.definizione = std::string(70, 'a') + "\rb\n\x80";
+  TelarDef untouched(given, nullptr);
+  Open(untouched);
+  Click(untouched.Command3d1);
+  EXPECT_EQ(untouched.Esame().Accettata(), given.testo);
+  given.testo.definizione.clear();
+  TelarDef window(given, nullptr);
   Open(window);
   QTest::keyClicks(window.Text1, QStringLiteral("abc"));
   QTest::keyClicks(window.Text1, QString(80, u'x'));
@@ -158,11 +147,11 @@ TEST_F(TelarDefTest, ClueIsTypedUpToItsLimitAndALongerOneSurvivesUntouched) {
   EXPECT_EQ(window.Text1->toPlainText(), QStringLiteral("un") + QString(58, u'x'));
   window.Text1->setPlainText(QStringLiteral("uno\ndue"));
   Click(window.Command3d1);
-  EXPECT_EQ(Definizione(1, 1, Orizzontale), "uno due");
+  EXPECT_EQ(window.Esame().Accettata()->definizione, "uno due");
 }
 
 TEST_F(TelarDefTest, FindsTheCluesOfAWord) {
-  TelarDef window(nullptr);
+  TelarDef window(given, nullptr);
   Open(window);
   Click(window.Command1);  // a word with an empty cell
   const QImage withoutFocus = window.List2->grab().toImage();
@@ -208,7 +197,7 @@ TEST_F(TelarDefTest, FindsTheCluesOfAWord) {
 TEST_F(TelarDefTest, ErrorOfTheStoreLeavesTheWindowOpen) {
   RecordingWindow main;
   WriteFile("telarium1.mdb", "no database at all, and long enough to look like one of them");
-  TelarDef window(nullptr);
+  TelarDef window(given, nullptr);
   Open(window);
   window.Text2->setText(QStringLiteral("MELA"));
   Click(window.Command1);
@@ -219,7 +208,7 @@ TEST_F(TelarDefTest, ErrorOfTheStoreLeavesTheWindowOpen) {
 }
 
 TEST_F(TelarDefTest, MaskedSearchListsTheWordsAndAPickBecomesTheWord) {
-  TelarDef window(nullptr);
+  TelarDef window(given, nullptr);
   Open(window);
   Click(window.Command3D4);
   EXPECT_EQ(Items(window.Combo1->model()), "MOLA|");
@@ -242,7 +231,7 @@ TEST_F(TelarDefTest, MaskedSearchListsTheWordsAndAPickBecomesTheWord) {
 TEST_F(TelarDefTest, OtherDictionariesAreSearchedFromAPopup) {
   OpenDictionary({"MIRA", "ROSA"}, "mio & tuo.PRIV");
   OpenDictionary({"MELA", "MOLA"});
-  TelarDef window(nullptr);
+  TelarDef window(given, nullptr);
   Open(window);
   Click(window.Command4);
   ASSERT_TRUE(QTest::qWaitFor([&] { return window.menudizionari->isVisible(); }, Patience));
@@ -265,7 +254,7 @@ TEST_F(TelarDefTest, OtherDictionariesAreSearchedFromAPopup) {
 
 TEST_F(TelarDefTest, AsksWordTheDictionariesOnlineAndItsOwnHelp) {
   RecordingWindow main;
-  TelarDef window(nullptr);
+  TelarDef window(given, nullptr);
   Open(window);
   Click(window.Command2);
   EXPECT_EQ(machine.written, Texts{"MO.A"});

@@ -4,7 +4,6 @@
 
 #include "auxiliary/guide.h"
 #include "clues/windows/frmParole.h"
-#include "editor/cell_editing.h"
 #include "editor/settings.h"
 #include "editor/windows/modal_windows.h"
 #include "support/clue_store.h"
@@ -21,8 +20,6 @@ class WindowHelp : public TelariumTest {
     workingFolder_ = std::filesystem::current_path();
     ImpostazioniIniziali();
     Draw({"CASA", "A#LE", "SOLE"});
-    CursoreX = CursoreY = 1;
-    Direzione = Orizzontale;
     OpenDictionary({"CASA"});
     MakeStore("CASA\tF\tDimora\n");
     WriteFile("STANDARD.dfc", "*..\r\n.A.\r\n...\r\n-\r\n");
@@ -56,24 +53,34 @@ class WindowHelp : public TelariumTest {
 
 TEST_F(WindowHelp, F1OpensTheChapterAboutEachWindow) {
   constexpr std::pair<Modale, const char*> windows[] = {
-      {Modale::FormNew, "nuovo"},       {Modale::FormModels, "nuovo"},
-      {Modale::Form2, "salvare"},       {Modale::TelarSav, "salvare"},
-      {Modale::Settaggi, "aspetto"},    {Modale::fONTEN, "aspetto"},
-      {Modale::TelarDef, "editor"},     {Modale::TelarBro, "tabella"},
-      {Modale::Form4, "gestione"},      {Modale::telariummdb, "enciclopedia"},
-      {Modale::Form6, "menuutilita"},   {Modale::Form3, "menuaiuto"},
+      {Modale::FormNew, "nuovo"},
+      {Modale::FormModels, "nuovo"},
+      {Modale::Form2, "salvare"},
+      {Modale::TelarSav, "salvare"},
+      {Modale::Settaggi, "aspetto"},
+      {Modale::fONTEN, "aspetto"},
+      {Modale::TelarBro, "tabella"},
+      {Modale::Form4, "gestione"},
+      {Modale::telariummdb, "enciclopedia"},
+      {Modale::Form6, "menuutilita"},
+      {Modale::Form3, "menuaiuto"},
       {Modale::frmTip, "suggerimenti"},
   };
   static_assert(std::size(windows) == static_cast<int>(Modale::Form3) + 1);
   QWidget main;
-  for (const auto& [which, chapter] : windows) {
-    WhenOpen<FinestraModale>(main, [&, chapter = chapter](FinestraModale& window) {
+  const auto expect = [&](const char* chapter) {
+    WhenOpen<FinestraModale>(main, [&, chapter](FinestraModale& window) {
       EXPECT_EQ(ChapterByF1(window), chapter) << window.objectName().toStdString();
       EXPECT_TRUE(window.isVisible());
       window.reject();
     });
+  };
+  for (const auto& [which, chapter] : windows) {
+    expect(chapter);
     MostraFinestraModale(which, main);
   }
+  expect("editor");
+  EXPECT_FALSE(MostraTelarDef({.testo = {"CASA", ""}, .numero = 1}, main));
   frmParole table(nullptr);
   Open(table);
   EXPECT_EQ(ChapterByF1(table), "enctabella");
