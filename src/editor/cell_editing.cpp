@@ -7,6 +7,8 @@
 #include "editor/word_pointing.h"
 #include "model/crossword_file.h"
 #include "model/current_crossword.h"
+#include "model/derivation.h"
+#include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
 
@@ -53,19 +55,45 @@ void Colora(Casella casella) {
   RidisegnaSchema();
 }
 
-// Where the clue of a word goes, or of the rest of one.
-Casella PostoDellaDefinizione(const Slot& slot) {
-  return slot.inizio;
+// Whether a clue shall be that of a word, in whose rest alone it was written.
+bool DaAssegnare(const Slot& intera, const Derivati& derivati) {
+  const auto [c, r] = intera.inizio;
+  const char* direzione = intera.direzione == Orizzontale ? " Orizz. " : " Vertic. ";
+  std::string domanda = Unisci(
+      "Nella casella scelta non inizia nessuna parola: la definizione non verrebbe salvata. Si "
+      "desidera assegnarla alla parola ",
+      derivati.Numero(intera.inizio), direzione, derivati.Lettere(intera), '?');
+  if (!Definizione(c, r, intera.direzione).empty())
+    domanda += " La definizione che questa ha già verrebbe sostituita."_cp;
+  return ChiUsa().MostraMessaggio({.testo = std::move(domanda),
+                                   .titolo = "Definizione senza parola",
+                                   .pulsanti = Pulsanti::OkAnnulla,
+                                   .icona = Icona::Domanda}) == Risposta::Ok;
+}
+
+// The word that gets the clue accepted for a word, or for the rest of one. In a cell where no word
+// starts it would be in no file: the word that runs through that cell may have it.
+Slot ParolaDaDefinire(const Slot& slot, const Derivati& derivati) {
+  const int quale = derivati.ParolaPer(slot.inizio, slot.direzione);
+  if (quale == Derivati::NessunaParola) return slot;
+  const Slot& intera = derivati.Parole()[static_cast<std::size_t>(quale)];
+  return intera.inizio != slot.inizio && DaAssegnare(intera, derivati) ? intera : slot;
 }
 
 // Carries what the clue editor gave back into the grid.
 void Applica(const Slot& slot, const ParolaDefinita& prima, const ParolaDefinita& dopo) {
-  const auto [c, r] = PostoDellaDefinizione(slot);
-  const bool definita = dopo.definizione != prima.definizione;
-  ModificaCruciverba(Unisci(definita ? "Definizione di " : "Parola ", dopo.parola),
-                     [&, c = c, r = r](Cruciverba& cruciverba) {
+  Cruciverba conParola = CruciverbaCorrente();
+  ScriviCaratteri(conParola, slot, dopo.parola);
+  const Derivati derivati = Deriva(conParola);
+  const bool nuova = dopo.definizione != prima.definizione;
+  const Slot definita =
+      nuova && !dopo.definizione.empty() ? ParolaDaDefinire(slot, derivati) : slot;
+  ModificaCruciverba(Unisci(nuova ? "Definizione di " : "Parola ", derivati.Lettere(definita)),
+                     [&](Cruciverba& cruciverba) {
                        ScriviCaratteri(cruciverba, slot, dopo.parola);
-                       cruciverba.definizioni.Imposta(dopo.definizione, c, r, slot.direzione);
+                       const auto [c, r] = definita.inizio;
+                       if (nuova)
+                         cruciverba.definizioni.Imposta(dopo.definizione, c, r, slot.direzione);
                      });
   SchemaModificato = Vero;
   ConsolidaSchema();

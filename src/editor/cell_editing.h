@@ -19,7 +19,8 @@ void AttivaCasellaBianca();
 
 /// A mouse button was pressed on the surface, at a point in pixels. By PuntatoreMouse and
 /// ModoGriglia it enters editing, turns a cell and commits it, colours a cell, or hands the word
-/// that the pointer last meant to the clue editor and commits what comes back.
+/// that the pointer last meant to the clue editor and commits what comes back. A clue written for a
+/// cell where no word starts is offered to the word that runs through it.
 void PremiSullaSuperficie(TastoMouse tasto, double x, double y);
 
 }  // namespace telarium

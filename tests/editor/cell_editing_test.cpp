@@ -190,6 +190,41 @@ TEST_F(Editing, AWordGoesToTheClueEditorAndComesBackIntoTheGrid) {
   EXPECT_EQ(Drawing(), (Rows{"....", "CRTE", "A#..", "NE.."})) << "no further than the run goes";
 }
 
+TEST_F(Editing, AClueForACellWithoutAStartIsOfferedToTheWordThatRunsThroughIt) {
+  Open({"....", "CASA", "A#..", "NE.."});
+  struct Case {
+    ParolaDefinita accepted;  // for the rest of the word from its second cell on
+    std::optional<Risposta> answer;
+    std::string atStart, atCell;  // the clues afterwards
+  };
+  const Case cases[] = {
+      {{"ASE", "Cucine"}, Risposta::Annulla, "", "Cucine"},
+      {{"ASE", "Rustici"}, Risposta::Ok, "Rustici", "Cucine"},
+      {{"ASI", "Eventi"}, Risposta::Ok, "Eventi", "Cucine"},
+      {{"ASE", "Cucine"}, {}, "Eventi", "Cucine"},  // the word alone
+      {{"ASE", ""}, {}, "Eventi", ""},              // nothing is lost
+  };
+  for (const auto& [accepted, answer, atStart, atCell] : cases) {
+    SCOPED_TRACE(accepted.definizione);
+    MoveTo(1, 2);
+    MoveTo(3, 2);
+    window.whenEdited = [accepted = accepted](const ParolaDefinita&) { return accepted; };
+    if (answer) user.Answer(*answer);
+    Press(Left, 3, 2);
+    EXPECT_EQ(Drawing()[1], 'C' + accepted.parola);
+    EXPECT_EQ(Definizione(1, 2, Orizzontale), atStart);
+    EXPECT_EQ(Definizione(2, 2, Orizzontale), atCell);
+    const bool saved =
+        ReadFile(PercorsoIstantanea()).find("21-" + atStart + "\r\n") != std::string::npos;
+    EXPECT_EQ(saved, !atStart.empty());
+  }
+  const Rows asked = user.TakeTexts();
+  ASSERT_EQ(asked.size(), 3u);
+  EXPECT_TRUE(asked[0].ends_with(" alla parola 5 Orizz. CASE?")) << asked[0];
+  EXPECT_TRUE(
+      asked[2].ends_with(" CASI? La definizione che questa ha gi\xE0 verrebbe sostituita."));
+}
+
 TEST_F(Editing, NoWordGoesToTheClueEditorWhereThereIsNone) {
   Open({"#.#.", "....", "#.#.", "...."});
   MoveTo(1, 4);
