@@ -27,30 +27,32 @@ void PrendiCarattereDellaFinestra(Superficie& superficie) {
 }
 
 template <class Visita>
-void PerOgniCasella(Visita visita) {
-  for (int r = 1; r <= NumRighe; ++r) {
-    for (int c = 1; c <= NumColonne; ++c)
+void PerOgniCasella(const Derivati& derivati, Visita visita) {
+  for (int r = 1; r <= derivati.Righe(); ++r) {
+    for (int c = 1; c <= derivati.Colonne(); ++c)
       visita(c, r);
   }
 }
 
-void DisegnaCaselle(Superficie& superficie, const AnteprimaDiSchema& schema) {
+void DisegnaCaselle(Superficie& superficie, const Derivati& derivati,
+                    const AnteprimaDiSchema& schema) {
   superficie.CorpoCarattere(CorpoLettere(schema.Lato(), MinCorpo));
-  PerOgniCasella([&](int c, int r) {
-    const char carattere = LetteraCasella(c, r);
+  PerOgniCasella(derivati, [&](int c, int r) {
+    const char carattere = derivati.Carattere({c, r});
     schema.Casella(c, r, carattere, ColoreNero, [&](double x, double y) {
       ScriviLettera(superficie, x, y, schema.Lato(), carattere);
     });
   });
 }
 
-void DisegnaNumeri(Superficie& superficie, const AnteprimaDiSchema& schema) {
+void DisegnaNumeri(Superficie& superficie, const Derivati& derivati,
+                   const AnteprimaDiSchema& schema) {
   superficie.CorpoCarattere(schema.Lato() / CaselleDiUnNumero);
   const double distanza = LatoCasella / 100.0 * DistanzaDaSpigolo;
-  PerOgniCasella([&](int c, int r) {
-    if (TipoCasella(c, r) <= 1) return;
-    ScriviNumero(superficie, schema.BordoSinistro(c), schema.BordoAlto(r), distanza,
-                 NumeroCasella(c, r));
+  PerOgniCasella(derivati, [&](int c, int r) {
+    const int numero = derivati.Numero({c, r});
+    if (numero == 0) return;
+    ScriviNumero(superficie, schema.BordoSinistro(c), schema.BordoAlto(r), distanza, numero);
   });
 }
 
@@ -67,25 +69,26 @@ void Evidenzia(Superficie& superficie, const AnteprimaDiSchema& schema, const Sl
 
 }  // namespace
 
-void EsigiSchemaSemplice() {
+void EsigiSchemaSemplice(const Derivati& derivati) {
   bool semplice = true;
-  PerOgniCasella(
-      [&](int c, int r) { semplice = semplice && CarattereSemplice(LetteraCasella(c, r)); });
+  PerOgniCasella(derivati, [&](int c, int r) {
+    semplice = semplice && CarattereSemplice(derivati.Carattere({c, r}));
+  });
   if (semplice) return;
   Avvisa("Tipo di file non valido: Esecuzione terminata!");
   TerminaProgramma();
 }
 
-void DisegnaSchemaPiccolo(Superficie& superficie, const Slot* evidente) {
+void DisegnaSchemaPiccolo(Superficie& superficie, const Derivati& derivati, const Slot* evidente) {
   superficie.Pulisci();
-  if (NumColonne == 0) return;
+  if (derivati.Colonne() == 0) return;
   RiprendiGeometria();
-  const AnteprimaDiSchema schema(superficie, NumColonne, NumRighe, Margine,
+  const AnteprimaDiSchema schema(superficie, derivati.Colonne(), derivati.Righe(), Margine,
                                  AnteprimaDiSchema::Misura::Troncata);
   if (schema.Lato() == 0) return;
   PrendiCarattereDellaFinestra(superficie);
-  DisegnaCaselle(superficie, schema);
-  DisegnaNumeri(superficie, schema);
+  DisegnaCaselle(superficie, derivati, schema);
+  DisegnaNumeri(superficie, derivati, schema);
   if (evidente) Evidenzia(superficie, schema, *evidente);
 }
 

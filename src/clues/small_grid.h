@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/words.h"
+#include "model/derivation.h"
 #include "platform/surface.h"
 
 // The small picture of the grid beside the table of its words.
@@ -8,10 +8,10 @@ namespace telarium {
 
 /// Ends the program, with its message, when a cell is neither black nor empty nor a capital from A
 /// to Z: nothing of it can be drawn here.
-void EsigiSchemaSemplice();
+void EsigiSchemaSemplice(const Derivati& derivati);
 
-/// Draws the grid, centred and as large as the surface allows, with its letters and numbers in the
+/// Draws a grid, centred and as large as the surface allows, with its letters and numbers in the
 /// type of the main window, and a yellow rectangle round one word if one is given.
-void DisegnaSchemaPiccolo(Superficie& superficie, const Slot* evidente);
+void DisegnaSchemaPiccolo(Superficie& superficie, const Derivati& derivati, const Slot* evidente);
 
 }  // namespace telarium

@@ -4,6 +4,8 @@
 #include "clues/clue_search.h"
 #include "editor/main_window.h"
 #include "editor/redraw.h"
+#include "model/crossword_file.h"
+#include "model/current_crossword.h"
 #include "model/pointer.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
@@ -36,42 +38,45 @@ std::string TitoloTabella() {
                 TestoPercorso(NomeCruciverba));
 }
 
-std::vector<Slot> ParoleDellaTabella() {
-  std::vector<Slot> parole;
-  PerOgniParola([&](const Slot& slot) { parole.push_back(slot); });
-  return parole;
+BozzaDiTabella::BozzaDiTabella(Cruciverba cruciverba)
+    : cruciverba_(std::move(cruciverba)), derivati_(Deriva(cruciverba_)) {}
+
+std::string BozzaDiTabella::Sigla(const Slot& slot) const {
+  return Unisci(derivati_.Numero(slot.inizio), '-', slot.direzione == Orizzontale ? 'O' : 'V');
 }
 
-std::string SiglaParola(const Slot& slot) {
-  return Unisci(NumeroCasella(slot.inizio.colonna, slot.inizio.riga), '-',
-                slot.direzione == Orizzontale ? 'O' : 'V');
+std::string BozzaDiTabella::SiglaEstesa(const Slot& slot) const {
+  return Sigla(slot) + (slot.direzione == Orizzontale ? "rizzontale" : "erticale");
 }
 
-std::string SiglaEstesa(const Slot& slot) {
-  return SiglaParola(slot) + (slot.direzione == Orizzontale ? "rizzontale" : "erticale");
+const std::string& BozzaDiTabella::DefinizioneDi(const Slot& slot) const {
+  return cruciverba_.definizioni(slot.inizio.colonna, slot.inizio.riga, slot.direzione);
 }
 
-const std::string& ParolaDi(const Slot& slot) {
-  return ParolaCasella(slot.inizio.colonna, slot.inizio.riga, slot.direzione);
+void BozzaDiTabella::Scrivi(const Slot& slot, const ParolaDefinita& testo) {
+  const auto [c, r] = slot.inizio;
+  cruciverba_.definizioni.Imposta(testo.definizione, c, r, slot.direzione);
+  ScriviCaratteri(cruciverba_, slot, testo.parola);
+  derivati_ = Deriva(cruciverba_);
 }
 
-const std::string& DefinizioneDi(const Slot& slot) {
-  return Definizione(slot.inizio.colonna, slot.inizio.riga, slot.direzione);
+BozzaDiTabella ApriBozza() {
+  return BozzaDiTabella(CruciverbaCorrente());
 }
 
-bool VariaRiga(const Slot& slot, std::string_view parola, std::string_view definizione) {
-  if (!ParolaAccettata(parola, slot.lunghezza)) return false;
+bool VariaRiga(BozzaDiTabella& bozza, const Slot& slot, const ParolaDefinita& testo) {
+  if (!ParolaAccettata(testo.parola, slot.lunghezza)) return false;
   const Clessidra attesa;
-  Definizione(slot.inizio.colonna, slot.inizio.riga, slot.direzione) = definizione;
+  bozza.Scrivi(slot, testo);
   SchemaModificato = Vero;
-  ScriviInSchema(slot, parola);
-  RicalcolaParole();
+  if (const Superficie* superficie = FinestraPrincipale()) CalcolaGeometria(*superficie, 0, 0);
   return true;
 }
 
-void RicalcolaParole() {
-  if (const Superficie* superficie = FinestraPrincipale()) CalcolaGeometria(*superficie, 0, 0);
-  RicalcolaCaselleSenzaNumeri();
+void ConfermaBozza(const BozzaDiTabella& bozza) {
+  ModificaCruciverba("Vista tabellare",
+                     [&](Cruciverba& cruciverba) { cruciverba = bozza.Valore(); });
+  static_cast<void>(ScriviIstantanea());
 }
 
 std::optional<std::vector<VoceDefinizione>> CercaVoci(std::string_view parola) {
@@ -84,11 +89,6 @@ std::optional<std::vector<VoceDefinizione>> CercaVoci(std::string_view parola) {
   AggiungiDidascalie(voci, "Facile", famiglie->facili);
   AggiungiDidascalie(voci, "Diffic", famiglie->difficili);
   return voci;
-}
-
-void CopiaCruciverba::Ripristina() const {
-  Schema = schema_;
-  Definizione = definizione_;
 }
 
 }  // namespace telarium

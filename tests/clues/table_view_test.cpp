@@ -19,10 +19,11 @@ class TableView : public TelariumTest {
   }
 
   // The rows, as "12-O WORD clue".
-  static Texts Rows() {
+  static Texts Rows(const BozzaDiTabella& draft) {
     Texts rows;
-    for (const Slot& slot : ParoleDellaTabella())
-      rows.push_back(SiglaParola(slot) + ' ' + ParolaDi(slot) + ' ' + DefinizioneDi(slot));
+    for (const Slot& slot : draft.Parole())
+      rows.push_back(draft.Sigla(slot) + ' ' + draft.ParolaDi(slot) + ' ' +
+                     draft.DefinizioneDi(slot));
     return rows;
   }
 };
@@ -45,25 +46,28 @@ TEST_F(TableView, AChangedWordReachesItsCrossingsAndNoClueMoves) {
   Draw({"#C.#", "CASA", "#REO"});
   Definizione(1, 2, Orizzontale) = "Ci si abita";
   Definizione(2, 1, Verticale) = "Vettura";
-  EXPECT_EQ(Rows(), (Texts{"1-O C. ", "1-V CAR Vettura", "2-V .SE ", "3-O CASA Ci si abita",
-                           "4-V AO ", "5-O REO "}));
-  EXPECT_EQ(SiglaEstesa(ParoleDellaTabella()[1]), "1-Verticale");
-  EXPECT_EQ(SiglaEstesa(ParoleDellaTabella()[3]), "3-Orizzontale");
-  NumeroCasella(1, 2) = 33;  // shows whether numbers are given anew
-  EXPECT_TRUE(VariaRiga(ParoleDellaTabella()[3], "CO.I", "Cos\xEC"));
-  EXPECT_EQ(Rows(), (Texts{"1-O C. ", "1-V COR Vettura", "2-V ..E ", "33-O CO.I Cos\xEC", "4-V IO ",
-                           "5-O REO "}));
-  EXPECT_EQ(DrawingOfSchema(), (Texts{"#C.#", "CO.I", "#REO"}));
+  BozzaDiTabella draft = ApriBozza();
+  EXPECT_EQ(Rows(draft), (Texts{"1-O C. ", "1-V CAR Vettura", "2-V .SE ", "3-O CASA Ci si abita",
+                                "4-V AO ", "5-O REO "}));
+  EXPECT_EQ(draft.SiglaEstesa(draft.Parole()[1]), "1-Verticale");
+  EXPECT_EQ(draft.SiglaEstesa(draft.Parole()[3]), "3-Orizzontale");
+  EXPECT_TRUE(VariaRiga(draft, draft.Parole()[3], {"CO.I", "Cos\xEC"}));
+  EXPECT_EQ(Rows(draft), (Texts{"1-O C. ", "1-V COR Vettura", "2-V ..E ", "3-O CO.I Cos\xEC",
+                                "4-V IO ", "5-O REO "}));
   EXPECT_EQ(SchemaModificato, Vero);
   EXPECT_EQ(user.pointerShapes, (std::vector<int>{PuntatoreClessidra, PuntatoreFreccia}));
+  EXPECT_EQ(DrawingOfSchema(), (Texts{"#C.#", "CASA", "#REO"})) << "it is a draft";
+  ConfermaBozza(draft);
+  EXPECT_EQ(DrawingOfSchema(), (Texts{"#C.#", "CO.I", "#REO"}));
+  EXPECT_EQ(Rows(ApriBozza()), Rows(draft));
 }
 
 TEST_F(TableView, ARefusedWordChangesNothing) {
   Draw({"CASA"});
-  const Slot word = ParoleDellaTabella().front();
-  EXPECT_FALSE(VariaRiga(word, "CAS", "nuova"));
-  EXPECT_FALSE(VariaRiga(word, "CAS\xC0", "nuova"));
-  EXPECT_FALSE(VariaRiga(word, "CA*A", "nuova"));
+  BozzaDiTabella draft = ApriBozza();
+  const Slot word = draft.Parole().front();
+  for (const char* refused : {"CAS", "CAS\xC0", "CA*A"})
+    EXPECT_FALSE(VariaRiga(draft, word, {refused, "nuova"}));
   const Texts told = user.TakeTexts();
   ASSERT_EQ(told.size(), 3u);
   EXPECT_EQ(
@@ -71,7 +75,7 @@ TEST_F(TableView, ARefusedWordChangesNothing) {
       "La parola deve avere obbligatoriamente 4 caratteri, usare il simbolo punto '.' per gli "
       "spazi.");
   EXPECT_EQ(told[2], told[1]);
-  EXPECT_EQ(Rows(), Texts{"1-O CASA "});
+  EXPECT_EQ(Rows(draft), Texts{"1-O CASA "});
   EXPECT_EQ(SchemaModificato, Falso);
 }
 
@@ -81,7 +85,8 @@ TEST_F(TableView, ItsGeometryCountsNoBars) {
   platform.window.height = 146;
   RecordingWindow window;
   Draw({"AB", "C#"});
-  RicalcolaParole();
+  BozzaDiTabella draft = ApriBozza();
+  ASSERT_TRUE(VariaRiga(draft, draft.Parole().front(), {"AB", "x"}));
   EXPECT_EQ(LatoCasella, 64) << "(146 - 2 - 16) / 2";
   EXPECT_EQ(OrigineX, 56);
   EXPECT_EQ(OrigineY, 8);
@@ -133,8 +138,8 @@ TEST_F(TableView, TheSmallGridIsDrawnCallByCall) {
   RecordingSurface surface;
   surface.width = 75;  // side (75 - 10) / 3 = 21.7, cut off; left (75 - 63) / 2
   surface.height = 60;
-  const Slot word = ParoleDellaTabella().front();
-  DisegnaSchemaPiccolo(surface, &word);
+  const BozzaDiTabella draft = ApriBozza();
+  DisegnaSchemaPiccolo(surface, draft.Derivata(), &draft.Parole().front());
   EXPECT_EQ(surface.calls, (Texts{
                                "Pulisci",
                                "Carattere Arial",
@@ -153,7 +158,7 @@ TEST_F(TableView, TheSmallGridIsDrawnCallByCall) {
                            }));
   surface.width = 12;
   surface.calls.clear();
-  DisegnaSchemaPiccolo(surface, nullptr);
+  DisegnaSchemaPiccolo(surface, draft.Derivata(), nullptr);
   EXPECT_EQ(surface.calls, Texts{"Pulisci"}) << "no cell has room";
 }
 

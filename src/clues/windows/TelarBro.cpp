@@ -11,7 +11,6 @@
 
 #include "clues/clue_search.h"
 #include "clues/small_grid.h"
-#include "model/crossword_file.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/word_line.h"
 #include "platform/text.h"
@@ -78,8 +77,9 @@ void Scrivi(QTableWidget& tabella, int riga, int colonna, std::string_view testo
 
 TelarBro::TelarBro(QWidget* genitore)
     : FinestraModale(QStringLiteral("TelarBro"), TitoloAQt(TitoloTabella()), genitore),
-      RiferimentoRiga(ParoleDellaTabella()) {
-  EsigiSchemaSemplice();
+      bozza_(ApriBozza()),
+      RiferimentoRiga(bozza_.Parole()) {
+  EsigiSchemaSemplice(bozza_.Derivata());
   auto* colonna = new QVBoxLayout(this);
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->setMenuBar(CreaMenu());
@@ -165,8 +165,7 @@ void TelarBro::CreaBottoni() {
   connect(Command2, &QPushButton::clicked, this, [this] { Cerca(); });
   connect(Command3d1, &QPushButton::clicked, this, [this] {
     if (!ConfermaRigaAperta()) return;
-    // After a failure, which has been told, the older snapshot is not read back: nothing is lost.
-    static_cast<void>(ScriviIstantanea());
+    ConfermaBozza(bozza_);
     accept();
   });
   connect(Command3d2, &QPushButton::clicked, this, [this] { reject(); });
@@ -179,11 +178,6 @@ void TelarBro::Colloca(const QRect& schermo) {
 
 void TelarBro::Attivata() {
   Gitter1->setFocus();
-}
-
-void TelarBro::reject() {
-  prima_.Ripristina();
-  FinestraModale::reject();
 }
 
 // --- Places ---
@@ -237,7 +231,7 @@ void TelarBro::ImpostaColonne() {
 int TelarBro::LarghezzaNumero() const {
   constexpr int Margine = 5;  // pixels on each side of the text of a cell, at least
   if (RiferimentoRiga.empty()) return 0;
-  const QString piuLunga = AQt(SiglaParola(RiferimentoRiga.back()));
+  const QString piuLunga = AQt(bozza_.Sigla(RiferimentoRiga.back()));
   return Gitter1->fontMetrics().horizontalAdvance(piuLunga) + 2 * Margine;
 }
 
@@ -248,9 +242,9 @@ void TelarBro::Griglia() {
   DisegnaSchema();
   int riga = 0;
   for (const Slot& slot : RiferimentoRiga) {
-    Scrivi(*Gitter1, riga, 0, SiglaParola(slot));
-    Scrivi(*Gitter1, riga, ColonnaParola, ParolaDi(slot));
-    Scrivi(*Gitter1, riga, ColonnaDefinizione, DefinizioneDi(slot));
+    Scrivi(*Gitter1, riga, 0, bozza_.Sigla(slot));
+    Scrivi(*Gitter1, riga, ColonnaParola, bozza_.ParolaDi(slot));
+    Scrivi(*Gitter1, riga, ColonnaDefinizione, bozza_.DefinizioneDi(slot));
     Gitter1->item(riga, 0)->setBackground(palette().button());
     ++riga;
   }
@@ -258,7 +252,7 @@ void TelarBro::Griglia() {
 }
 
 void TelarBro::DisegnaSchema() {
-  DisegnaSchemaPiccolo(Picture1->Superficie(), evidente_);
+  DisegnaSchemaPiccolo(Picture1->Superficie(), bozza_.Derivata(), evidente_);
 }
 
 int TelarBro::RigaCorrente() const {
@@ -283,9 +277,9 @@ void TelarBro::ApriModificaRiga() {
 void TelarBro::CliccaGitter() {
   const Slot& slot = RiferimentoRiga[static_cast<std::size_t>(RigaCorrente())];
   Text1->setMaxLength(slot.lunghezza);
-  Text1->setText(AQt(ParolaDi(slot)));
-  Text2->Mostra(DefinizioneDi(slot));
-  Label3->setText(AQt(SiglaEstesa(slot)));
+  Text1->setText(AQt(bozza_.ParolaDi(slot)));
+  Text2->Mostra(bozza_.DefinizioneDi(slot));
+  Label3->setText(AQt(bozza_.SiglaEstesa(slot)));
   evidente_ = &slot;
   DisegnaSchema();
 }
@@ -302,7 +296,8 @@ void TelarBro::MostraModifica(bool visibile) {
 bool TelarBro::RigaApertaCambiata() const {
   if (!InModifica() || RigaCorrente() < 0) return false;
   const Slot& slot = RiferimentoRiga[static_cast<std::size_t>(RigaCorrente())];
-  return DaQt(Text1->text()) != ParolaDi(slot) || Text2->Definizione() != DefinizioneDi(slot);
+  return DaQt(Text1->text()) != bozza_.ParolaDi(slot) ||
+         Text2->Definizione() != bozza_.DefinizioneDi(slot);
 }
 
 // What was written into an open row, or picked for it, counts as wanted, also without Varia. False
@@ -325,7 +320,7 @@ void TelarBro::Varia() {
   const int riga = RigaCorrente();
   if (riga < 0 || !DefinizioneScrivibile()) return;
   const Slot& slot = RiferimentoRiga[static_cast<std::size_t>(riga)];
-  if (!VariaRiga(slot, DaQt(Text1->text()), *Text2->Definizione())) {
+  if (!VariaRiga(bozza_, slot, {DaQt(Text1->text()), *Text2->Definizione()})) {
     MostraModifica(true);
     Text1->setFocus();
     return;

@@ -20,9 +20,9 @@ class QMenuBar;
 namespace telarium {
 
 /// All words of the crossword with their clues. A double click, Enter or F2 opens a row for editing
-/// in boxes laid over it. A confirmed row changes the crossword at once; the OK button hands it to
-/// the main window, any other way out puts grid and clues back. A grid with a cell that cannot be
-/// drawn ends the program at the construction.
+/// in boxes laid over it. A confirmed row changes a draft; the OK button makes that the crossword,
+/// any other way out drops it. A grid with a cell that cannot be drawn ends the program at the
+/// construction.
 class TelarBro : public FinestraModale {
  public:
   explicit TelarBro(QWidget* genitore);
@@ -41,9 +41,7 @@ class TelarBro : public FinestraModale {
   QMenu* Menudef;                // the clues found
   std::vector<QAction*> Menud1;  // its entries
 
-  const std::vector<Slot> RiferimentoRiga;
-
-  void reject() override;
+  const BozzaDiTabella& Bozza() const { return bozza_; }
 
  protected:
   void Colloca(const QRect& schermo) override;
@@ -80,7 +78,8 @@ class TelarBro : public FinestraModale {
   bool TastoInText1(const QKeyEvent& evento);
   bool TastoInText2(const QKeyEvent& evento);
 
-  const CopiaCruciverba prima_;
+  BozzaDiTabella bozza_;
+  const std::vector<Slot> RiferimentoRiga;
   QWidget* campo_;                  // all below the menu bar
   const Slot* evidente_ = nullptr;  // the word marked on the small grid
 };
