@@ -1,11 +1,17 @@
 #include "clues/bulk.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "clues/clue_family.h"
 #include "clues/encyclopedia.h"
 #include "clues/merging.h"
 #include "clues/store_use.h"
+#include "model/current_crossword.h"
+#include "model/derivation.h"
 #include "model/pointer.h"
-#include "model/words.h"
+#include "model/state.h"
+#include "model/word_edit.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
@@ -13,20 +19,27 @@
 namespace telarium {
 namespace {
 
-// Calls `visita` with each complete word: by columns, in a column by rows, at a cell the horizontal
-// word before the vertical one.
-template <class Visita>
-void PerOgniParolaCompleta(Visita visita) {
-  for (int c = 1; c <= NumColonne; ++c) {
-    for (int r = 1; r <= NumRighe; ++r) {
-      for (const int d : Direzioni) {
-        const bool inizia = IniziaParola({c, r}, d);
-        const std::string& parola = ParolaCasella(c, r, d);
-        if (inizia && parola.find(CellaVuota) == std::string::npos)
-          visita(parola, Definizione(c, r, d), d);
-      }
-    }
+struct ParolaCompleta {
+  Slot slot;
+  ParolaDefinita testo;
+};
+
+// The complete words of a crossword: by columns, in a column by rows, at a cell the horizontal word
+// before the vertical one.
+std::vector<ParolaCompleta> ParoleComplete(const Cruciverba& cruciverba) {
+  const Derivati derivati = Deriva(cruciverba);
+  std::vector<ParolaCompleta> complete;
+  for (const Slot& slot : derivati.Parole()) {
+    const std::string parola = derivati.Lettere(slot);
+    if (parola.find(CellaVuota) != std::string::npos) continue;
+    const auto [c, r] = slot.inizio;
+    complete.push_back({slot, {parola, cruciverba.definizioni(c, r, slot.direzione)}});
   }
+  std::stable_sort(complete.begin(), complete.end(),
+                   [](const ParolaCompleta& una, const ParolaCompleta& altra) {
+                     return una.slot.inizio.colonna < altra.slot.inizio.colonna;
+                   });
+  return complete;
 }
 
 // The text from which a mode draws, of the current row.
@@ -61,26 +74,39 @@ std::string TestoPrelievo(int orizzontali, int verticali) {
 
 }  // namespace
 
-std::optional<RapportoDefinizioni> PrelevaTutte(std::int16_t modo) {
+std::optional<Prelievo> PrelevaPer(Cruciverba cruciverba, std::int16_t modo) {
   EnciclopediaAperta enciclopedia;
   if (!ConEnciclopedia([&] { enciclopedia = ApriEnciclopedia(); })) return std::nullopt;
   const Clessidra clessidra;
   int orizzontali = 0, verticali = 0;
   ContoErrori errori;
-  PerOgniParolaCompleta([&](const std::string& parola, std::string& definizione, int direzione) {
+  for (const auto& [slot, testo] : ParoleComplete(cruciverba)) {
+    const auto [c, r] = slot.inizio;
     try {
-      if (!enciclopedia->CercaParola(parola)) return;
-      definizione = Sorteggia(TestoDelModo(*enciclopedia, modo));
-      ++(direzione == Orizzontale ? orizzontali : verticali);
+      if (!enciclopedia->CercaParola(testo.parola)) continue;
+      cruciverba.definizioni.Imposta(Sorteggia(TestoDelModo(*enciclopedia, modo)), c, r,
+                                     slot.direzione);
+      ++(slot.direzione == Orizzontale ? orizzontali : verticali);
     } catch (const ErroreEnciclopedia& errore) {
       errori.Aggiungi(errore);
       // A bad row costs its word alone, and who holds the file keeps the run waiting once.
       enciclopedia->NonAttendere();
     }
-  });
-  return RapportoDefinizioni{.testo = TestoPrelievo(orizzontali, verticali),
-                             .nonFatto = errori.Testo("parola non si è potuta cercare"_cp,
-                                                      "parole non si sono potute cercare")};
+  }
+  return Prelievo{.cruciverba = std::move(cruciverba),
+                  .rapporto = {.testo = TestoPrelievo(orizzontali, verticali),
+                               .nonFatto = errori.Testo("parola non si è potuta cercare"_cp,
+                                                        "parole non si sono potute cercare")}};
+}
+
+std::optional<RapportoDefinizioni> PrelevaTutte(std::int16_t modo) {
+  const auto prelievo = PrelevaPer(CruciverbaCorrente(), modo);
+  if (!prelievo) return std::nullopt;
+  const bool cambiato = ModificaCruciverba(
+      "Prelievo delle definizioni",
+      [&](Cruciverba& cruciverba) { cruciverba.definizioni = prelievo->cruciverba.definizioni; });
+  if (cambiato) SchemaModificato = Vero;
+  return prelievo->rapporto;
 }
 
 void Prelevadefinizioni(std::int16_t modo) {
@@ -93,9 +119,10 @@ std::optional<RapportoDefinizioni> SalvaTutte() {
     const EnciclopediaAperta enciclopedia = ApriEnciclopedia();
     const Clessidra clessidra;
     enciclopedia->IniziaSerie();
-    PerOgniParolaCompleta([&](const std::string& parola, const std::string& definizione, int) {
+    for (const auto& [slot, testo] : ParoleComplete(CruciverbaCorrente())) {
+      const auto& [parola, definizione] = testo;
       if (!definizione.empty()) UnisciDefinizione(*enciclopedia, parola, definizione, conto);
-    });
+    }
   });
   if (!riuscita) return std::nullopt;
   return RapportoDefinizioni{

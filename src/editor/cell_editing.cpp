@@ -47,9 +47,10 @@ void Colora(Casella casella) {
   const auto [c, r] = casella;
   ColoreScelto = ChiUsa().ScegliColore(ColoreCasella(c, r));
   if (ColoreScelto < 0) return;
-  ModificaCruciverba(
+  const bool cambiato = ModificaCruciverba(
       Unisci("Colore della casella ", c, ',', r),
       [&, c = c, r = r](Cruciverba& cruciverba) { cruciverba.colori.Imposta(ColoreScelto, c, r); });
+  if (cambiato) SchemaModificato = Vero;
   // Else the redraw does it. No older colour shall come back.
   if (!SchemaColorato()) AggiornaIstantanea();
   RidisegnaSchema();

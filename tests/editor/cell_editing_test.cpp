@@ -137,17 +137,18 @@ TEST_F(Editing, APressOutsideOfEditingOrWithoutMeaningEntersEditing) {
 
 TEST_F(Editing, AColourStaysAndACancelledChooserChangesNothing) {
   Open({"CA#A"});
-  user.colours = {0x3060C0, NessunColore, 0};
+  user.colours = {NessunColore, 0, 0x3060C0, 0};
   Press(Left, 3, 1);
-  Press(Left, 3, 1);
-  EXPECT_EQ(ColoreCasella(3, 1), 0x3060C0);
   EXPECT_EQ(ColoreScelto, NessunColore);
+  Press(Left, 3, 1);
+  EXPECT_EQ(SchemaModificato, Falso);
+  Press(Left, 3, 1);
+  EXPECT_EQ(SchemaModificato, Vero);
   RiprendiSchema();
   EXPECT_EQ(ColoreCasella(3, 1), 0x3060C0);
   Press(Left, 3, 1);
   RiprendiSchema();
   EXPECT_EQ(ColoreCasella(3, 1), 0) << "plain black again, also for the read-back";
-  EXPECT_EQ(SchemaModificato, Falso);
 }
 
 TEST_F(Editing, AWordGoesToTheClueEditorAndComesBackIntoTheGrid) {
