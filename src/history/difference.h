@@ -6,9 +6,16 @@
 
 #include "model/cruciverba.h"
 
-// A crossword as bytes on top of another one: the rows, the columns of clues and of colours that
-// they do not share, so that a step of one cell takes some hundred bytes. An empty crossword as the
-// first one makes it whole. The same bytes on every machine.
+// A crossword as bytes on top of another one: header, size, rows, clues, colours and what the
+// laboratory keeps, each only where the two differ. An empty crossword as the first one makes the
+// second whole. The same bytes on every machine. They are parts in any order, each behind its
+// letter; numbers and texts are those of history/bytes.h:
+//
+//   I  header: its lines            L  laboratory: locked words (their number, and for each column,
+//   D  size: columns, rows             row, direction), own words, banned words, the symmetry from
+//   1 N  how many row lines               on or 0, unknown lines: each list behind its length R  a
+//   row line: from 0, text     C  a clue: column, row, direction, text
+//                                   K  a colour: column, row, value with its sign
 namespace telarium {
 
 /// What turns the first crossword into the second; empty when they are equal.

@@ -1,35 +1,74 @@
 #pragma once
 
+#include <chrono>
+#include <condition_variable>
+#include <deque>
 #include <memory>
+#include <mutex>
+#include <optional>
 #include <string>
+#include <thread>
+#include <vector>
 
-#include "platform/files.h"
+#include "history/journal_file.h"
 
 namespace telarium {
 
-/// A file that records are added to; opened, locked for this program and closed by the writer.
+/// A file that a writer adds records to.
 class FileDiGiornale;
 
-/// The thread that brings records to the disk, so that no command waits for it: they are handed
-/// over to the system at once and reach the disk within a second. A write that fails is told once,
-/// by Guasto, and the file takes no more.
+/// Brings records to the disk in threads of its own, so that no command waits for it. Each one is
+/// handed over to the system before the next is taken, and is on the disk within a second. A file
+/// whose write fails keeps what it had and takes no more. Called by one thread.
 class ScrittoreDiGiornali {
  public:
+  using File = std::shared_ptr<FileDiGiornale>;
+
   ScrittoreDiGiornali();
-  ~ScrittoreDiGiornali();  // when all has been written
+  /// When all is on the disk.
+  ~ScrittoreDiGiornali();
 
-  /// Opens, or makes, a file of steps for adding behind its first `byteSani` bytes; what lies
-  /// behind them goes. Null when another program has it, or it cannot be opened.
-  std::shared_ptr<FileDiGiornale> Apri(const Percorso& nome, std::size_t byteSani);
+  /// From now on adds to this file, whose lock it holds until Chiudi.
+  File Prendi(FileBloccato file);
 
-  /// Adds bytes; returns at once.
-  void Aggiungi(const std::shared_ptr<FileDiGiornale>& file, std::string byte);
+  /// Adds bytes. Waits for what was added before, which the system has long had as a rule, so that
+  /// a kill loses these bytes at most; but not for long.
+  void Aggiungi(const File& file, std::string byte);
 
-  /// Waits until all that was added is in the hands of the system.
+  /// Lets go of a file when all that was added is in it.
+  void Chiudi(const File& file);
+
+  /// Removes a file, and lets go of it, when another one that takes its place is on the disk. If
+  /// that one has failed it stays.
+  void Elimina(const File& file, const File& dopo);
+
+  /// Waits until all that was asked for is in the hands of the system.
   void Attendi();
 
-  /// What went wrong since the last call, as the end of a sentence; empty when nothing did.
-  std::string Guasto();
+  /// Why a file takes no more; none when nothing is wrong.
+  static std::error_code Guasto(const File& file);
+
+ private:
+  enum class Opera { Aggiunta, Chiusura, Eliminazione };
+  struct Incarico {
+    Opera opera;
+    File file;
+    std::string byte = {};
+    File dopo = {};
+  };
+
+  void Incarica(Incarico incarico);
+  void Scrivi(const std::stop_token& fine);
+  void Esegui(const Incarico& incarico);
+  void Consolida(const std::stop_token& fine);
+
+  std::mutex mutex_;
+  std::condition_variable_any cambiato_;
+  std::deque<Incarico> coda_;  // the first one is in hand
+  std::vector<File> daConsolidare_;
+  bool lento_ = false;  // the system did not take something in time: nobody waits until it has
+  std::jthread scrive_;
+  std::jthread consolida_;
 };
 
 }  // namespace telarium

@@ -16,6 +16,7 @@ bool Documento::Modifica(std::string_view motivo,
 }
 
 void Documento::Sostituisci(std::string_view motivo, StatoDelDocumento stato) {
+  if (!stato.file.impronta) stato.file.contenuto = stato.cruciverba;
   Riporta(std::move(stato));
   if (passo_) passo_->prima_ = stato_.cruciverba;
   if (osservatore_) osservatore_->Sostituito(std::string(motivo));

@@ -32,7 +32,7 @@ struct FileDelCruciverba {
   /// Its path; empty: no crossword is open; NomeMaiSalvato: there is none yet.
   Percorso nome;
   /// The crossword that it holds, as last read or written, and the digest of its bytes
-  /// (ImprontaDi); none before it was saved for the first time.
+  /// (ImprontaDi). Before it was saved for the first time: what it began as, and none.
   Cruciverba contenuto;
   std::optional<std::uint64_t> impronta;
   /// Whether part of it was not read, and would be lost by a save.

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <atomic>
+#include <cstddef>
+#include <string>
 #include <utility>
 
 namespace telarium {
@@ -58,5 +60,17 @@ class Condiviso {
 
   Nodo* nodo_ = nullptr;
 };
+
+/// For accounts of memory: about what a shared value takes besides itself, and what a value has
+/// elsewhere.
+inline constexpr std::size_t ByteDiUnNodo = 24;
+inline std::size_t ByteAltrove(const std::string& testo) {
+  constexpr std::size_t nelTesto = 15;
+  return testo.size() > nelTesto ? testo.size() + ByteDiUnNodo : 0;
+}
+template <class Numero>
+std::size_t ByteAltrove(const Numero&) {
+  return 0;
+}
 
 }  // namespace telarium

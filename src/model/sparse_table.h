@@ -68,6 +68,31 @@ class TabellaRada {
     }
   }
 
+  /// Calls `visita` with each entry of `altra` that differs from the one here, also where that is
+  /// T{}, and its indices, in their order. What the two share is not looked at.
+  template <class Visita>
+  void PerOgniDiversaIn(const TabellaRada& altra, Visita visita) const {
+    for (int primo = Asse::primo; primo <= Asse::ultimo; ++primo) {
+      const auto colonna = static_cast<std::size_t>(primo - Asse::primo);
+      if (colonne_[colonna].StessoDi(altra.colonne_[colonna])) continue;
+      PerOgniDiversa(*colonne_[colonna], *altra.colonne_[colonna], [&](int posto, const T& valore) {
+        std::apply([&](auto... altri) { visita(valore, primo, altri...); }, IndiciDi(posto));
+      });
+    }
+  }
+
+  /// About how many bytes this table takes that it does not share with `altra`.
+  std::size_t ByteNonCondivisiCon(const TabellaRada& altra) const {
+    std::size_t byte = 0;
+    for (std::size_t i = 0; i < colonne_.size(); ++i) {
+      if (colonne_[i].StessoDi(altra.colonne_[i])) continue;
+      byte += ByteDiUnNodo + sizeof(Colonna);
+      for (const Elemento& elemento : *colonne_[i])
+        byte += sizeof(Elemento) + ByteAltrove(elemento.second);
+    }
+    return byte;
+  }
+
   bool operator==(const TabellaRada& altra) const { return colonne_ == altra.colonne_; }
 
  private:
@@ -96,6 +121,24 @@ class TabellaRada {
     if (elementi.empty() || elementi.back().first < posto) return elementi.end();
     return std::lower_bound(elementi.begin(), elementi.end(), posto,
                             [](const Elemento& uno, std::uint16_t p) { return uno.first < p; });
+  }
+
+  // Goes through two columns side by side.
+  template <class Visita>
+  static void PerOgniDiversa(const Colonna& qui, const Colonna& la, Visita visita) {
+    auto nostro = qui.begin();
+    auto altro = la.begin();
+    while (nostro != qui.end() || altro != la.end()) {
+      if (altro == la.end() || (nostro != qui.end() && nostro->first < altro->first)) {
+        visita(nostro++->first, T{});
+      } else if (nostro == qui.end() || altro->first < nostro->first) {
+        visita(altro->first, altro->second);
+        ++altro;
+      } else {
+        if (nostro++->second != altro->second) visita(altro->first, altro->second);
+        ++altro;
+      }
+    }
   }
 
   const char* nome_;

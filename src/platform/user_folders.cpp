@@ -40,6 +40,10 @@ Percorso CartellaCacheUtente() {
   return CartellaXdg("XDG_CACHE_HOME", ".cache");
 }
 
+Percorso CartellaStatoUtente() {
+  return CartellaXdg("XDG_STATE_HOME", ".local/state");
+}
+
 std::error_code CreaCartellaPrivata(const Percorso& cartella) {
   std::error_code ignorato;
   if (std::filesystem::is_directory(cartella, ignorato)) return {};

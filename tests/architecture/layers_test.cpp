@@ -19,9 +19,9 @@ using Folders = std::set<std::string>;
 // What each layer may include, by folders of the sources. A folder's windows are a layer above all
 // logic.
 const Folders Core = {
-    "platform",          "model", "dictionary", "auxiliary", "editor",   "fill",
-    "crossworddialogs",  "clues", "output",     "lexicon",   "composer", "laboratory",
-    "telarium_version.h"};
+    "platform",           "model",  "dictionary", "auxiliary", "editor",   "fill",
+    "crossworddialogs",   "clues",  "output",     "lexicon",   "composer", "laboratory",
+    "telarium_version.h", "history"};
 
 Folders With(Folders folders, const Folders& more) {
   folders.insert(more.begin(), more.end());
@@ -31,6 +31,7 @@ Folders With(Folders folders, const Folders& more) {
 const std::map<std::string, Folders> Allowed = {
     {"platform", {"platform"}},
     {"model", {"platform", "model"}},
+    {"history", {"platform", "model", "history"}},
     {"auxiliary", {"platform", "model", "auxiliary", "telarium_version.h"}},
     {"dictionary", {"platform", "model", "dictionary"}},
     {"fill", {"platform", "model", "dictionary", "fill"}},
@@ -53,7 +54,7 @@ const std::map<std::string, Folders> Allowed = {
 
 // Folders of functions on values, and what would give them a state, a user or a folder that no call
 // named.
-const Folders OfValues = {"lexicon", "composer", "laboratory"};
+const Folders OfValues = {"history", "lexicon", "composer", "laboratory"};
 const Folders Shared = {"model/state.h", "platform/platform.h", "platform/program_folder.h",
                         "dictionary/dictionary.h"};
 

@@ -43,19 +43,21 @@ TEST(ProgramFolder, EnvironmentDecidesWhichItIs) {
   }
 }
 
-TEST(ProgramFolder, TheCacheFolderIsWhereTheSystemHasIt) {
+TEST(ProgramFolder, CacheAndStateAreWhereTheSystemHasThem) {
   const struct {
-    const char *cache, *home;
-    Percorso folder;
+    const char *named, *home;
+    Percorso cache, state;
   } cases[] = {
-      {"/cache", "/casa", "/cache/telarium"},
-      {"relativa", "/casa", "/casa/.cache/telarium"},
-      {nullptr, "relativa", ""},
+      {"/qui", "/casa", "/qui/telarium", "/qui/telarium"},
+      {"relativa", "/casa", "/casa/.cache/telarium", "/casa/.local/state/telarium"},
+      {nullptr, "relativa", "", ""},
   };
   for (const auto& row : cases) {
-    const Variable cache("XDG_CACHE_HOME", row.cache);
+    const Variable cache("XDG_CACHE_HOME", row.named);
+    const Variable state("XDG_STATE_HOME", row.named);
     const Variable home("HOME", row.home);
-    EXPECT_EQ(CartellaCacheUtente(), row.folder);
+    EXPECT_EQ(CartellaCacheUtente(), row.cache);
+    EXPECT_EQ(CartellaStatoUtente(), row.state);
   }
 }
 

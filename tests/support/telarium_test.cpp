@@ -27,8 +27,10 @@ void TelariumTest::SetUp() {
   ImpostaPiattaforma(&platform);
   ASSERT_FALSE(folder_.Nome().empty());
   CartellaProgramma = folder_.Nome();
-  // The cache of whoever runs the tests is left alone.
+  // The home of whoever runs the tests is left alone.
   ASSERT_EQ(::setenv("XDG_CACHE_HOME", InFolder("cache").c_str(), 1), 0);
+  ASSERT_EQ(::setenv("XDG_DATA_HOME", InFolder("home").c_str(), 1), 0);
+  ASSERT_EQ(::setenv("XDG_STATE_HOME", InFolder("state").c_str(), 1), 0);
 }
 
 void TelariumTest::TearDown() {

@@ -23,7 +23,7 @@ constexpr std::chrono::milliseconds TimeLimit(120'000);
 std::vector<std::string> CommandLine(const TelarCall& call) {
   std::vector<std::string> words = {"env", "--default-signal=INT,PIPE", "-C", call.folder};
   for (const char* name :
-       {"TELARIUM_CARTELLA", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME", "TMPDIR"})
+       {"TELARIUM_CARTELLA", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "HOME", "TMPDIR"})
     words.push_back(std::string("-u") + name);
   words.insert(words.end(), call.environment.begin(), call.environment.end());
   words.push_back(TELAR_PROGRAM);

@@ -121,7 +121,7 @@ class Tests:
         home.chmod(0o1777)  # some tests go on as another user
         environment = {**os.environ, **test.environment, **switch,
                        "HOME": str(home), "TMPDIR": str(home)}
-        for name in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"):
+        for name in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR"):
             environment.pop(name, None)
         with open(home / "output", "w+b") as output:
             process = subprocess.Popen(command, cwd=test.folder, env=environment, stdout=output,
