@@ -10,13 +10,13 @@ using MailTest = TelariumTest;
 
 TEST_F(MailTest, SendsTheCrosswordAsItsFileLies) {
   for (const Percorso& name : {Percorso(), Percorso(NomeMaiSalvato), InFolder("manca.tlrm")}) {
-    NomeCruciverba = name;
+    SetName(name);
     MandaSchema();
     EXPECT_EQ(user.TakeTexts().size(), 1u) << name;
   }
   EXPECT_TRUE(machine.mails.empty()) << "nothing is started";
 
-  NomeCruciverba = WriteFile("un \xC3\xA8.tlrm", "x");
+  SetName(WriteFile("un \xC3\xA8.tlrm", "x"));
   ImpostaPuntatoreMouse(PuntatoreCasellaNera);
   MandaSchema();
   EXPECT_EQ(user.TakeTexts(),

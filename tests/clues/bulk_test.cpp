@@ -51,21 +51,21 @@ class BulkTest : public TelariumTest {
   void SetUp() override {
     TelariumTest::SetUp();
     Draw({"MELA", "A#.#", "RE#A"});
-    Definizione(1, 1, Orizzontale) = "vecchia";
-    Definizione(1, 3, Orizzontale) = "sovrano";
+    SetClue(1, 1, Orizzontale, "vecchia");
+    SetClue(1, 3, Orizzontale, "sovrano");
   }
 
-  std::string& MELA = Definizione(1, 1, Orizzontale);
-  std::string& MAR = Definizione(1, 1, Verticale);
-  std::string& L_ = Definizione(3, 1, Verticale);  // "L.", which is not complete
-  std::string& RE = Definizione(1, 3, Orizzontale);
+  const std::string& MELA = Definizione(1, 1, Orizzontale);
+  const std::string& MAR = Definizione(1, 1, Verticale);
+  const std::string& L_ = Definizione(3, 1, Verticale);  // "L.", which is not complete
+  const std::string& RE = Definizione(1, 3, Orizzontale);
   RecordingWindow window;
 };
 
 TEST_F(BulkTest, FetchDrawsFromTheFamiliesOfItsMode) {
   MakeStore("MELA\tF\tf1\nMELA\tF\tf2\nMELA\tD\td1\nMAR\tD\td2\n");
   ApriEnciclopedia()->AggiungiParola("L.", "no");
-  L_ = "resta";
+  SetClue(3, 1, Verticale, "resta");
   machine.draws = {0.99, 0.0};
   Prelevadefinizioni(ModoTutte);
   EXPECT_EQ(MELA, "d1");
@@ -92,7 +92,7 @@ TEST_F(BulkTest, ARowThatCannotBeReadCostsItsWordAloneAndIsTold) {
   const std::size_t page = bytes.find(std::string(4092, 'x')) / 4096 * 4096;
   bytes.replace(page, 4, "\x7F\xFF\xFF\xFF");
   WriteFile("telarium1.mdb", bytes);
-  MAR = "resta";
+  SetClue(1, 1, Verticale, "resta");
   Prelevadefinizioni(ModoFacili);
   EXPECT_EQ(MELA + MAR, "fresta");
   EXPECT_EQ(user.TakeTexts(),
@@ -144,7 +144,7 @@ TEST_F(BulkTest, WordsGoByColumnsAndAtACellTheHorizontalOneFirst) {
                                                 {{{1, 2}, Orizzontale, 2}, "CD"},
                                                 {{{2, 1}, Verticale, 2}, "BD"}};
   for (const auto& [slot, word] : words)
-    Definizione(slot.inizio.colonna, slot.inizio.riga, slot.direzione) = "uno";
+    SetClue(slot.inizio.colonna, slot.inizio.riga, slot.direzione, "uno");
   SalvaDefinizioni();
   Texts stored;
   {
@@ -192,8 +192,8 @@ TEST_F(BulkTest, AStoreThatSomebodyTakesMeanwhileHoldsTheFetchUpOnce) {
 
 TEST_F(BulkTest, SavingTwiceAddsNothingTheSecondTime) {
   MakeStore("MELA\tF\tLa pi\xC3\xB9 vecchia fra tutte\nRE\tD\tsovrano\n");
-  MAR = "nuova";
-  L_ = "non completa";
+  SetClue(1, 1, Verticale, "nuova");
+  SetClue(3, 1, Verticale, "non completa");
   SalvaDefinizioni();
   SalvaDefinizioni();
   EXPECT_EQ(user.TakeTexts(), (Texts{SaveReport(1, 1), SaveReport(0, 0)}));
@@ -206,8 +206,8 @@ TEST_F(BulkTest, SavingTwiceAddsNothingTheSecondTime) {
 
 TEST_F(BulkTest, ErrorWhileSavingKeepsWhatWasWritten) {
   MakeStore("");
-  RE = "r";
-  MAR = "m";
+  SetClue(1, 3, Orizzontale, "r");
+  SetClue(1, 1, Verticale, "m");
   BaseDati(InFolder("telarium1.mdb"))
       .Esegui(
           "DROP TABLE Parole; CREATE TABLE Parole (PAROLA TEXT CHECK (PAROLA <> 'RE'),"

@@ -44,8 +44,8 @@ TEST_F(TableView, OpensInItsModeAndNotWithoutAGrid) {
 
 TEST_F(TableView, AChangedWordReachesItsCrossingsAndNoClueMoves) {
   Draw({"#C.#", "CASA", "#REO"});
-  Definizione(1, 2, Orizzontale) = "Ci si abita";
-  Definizione(2, 1, Verticale) = "Vettura";
+  SetClue(1, 2, Orizzontale, "Ci si abita");
+  SetClue(2, 1, Verticale, "Vettura");
   BozzaDiTabella draft = ApriBozza();
   EXPECT_EQ(Rows(draft), (Texts{"1-O C. ", "1-V CAR Vettura", "2-V .SE ", "3-O CASA Ci si abita",
                                 "4-V AO ", "5-O REO "}));
@@ -133,7 +133,7 @@ TEST_F(TableView, TheSmallGridIsDrawnCallByCall) {
   DistanzaDaSpigolo = 5;
   DistanzaDaCentro = 10;
   LatoCasella = 40;  // of the main grid, from which the numbers take their distance
-  ColoreCasella(3, 1) = 0x00FF00;
+  SetColour(3, 1, 0x00FF00);
   Draw({"A.#"});
   RecordingSurface surface;
   surface.width = 75;  // side (75 - 10) / 3 = 21.7, cut off; left (75 - 63) / 2

@@ -20,7 +20,7 @@ class Archive : public TelariumTest {
   void SetUp() override {
     TelariumTest::SetUp();
     Draw({"CASA"});
-    SchemaModificato = Vero;
+    MarkModified();
   }
 
   bool Save(const Percorso& name, const std::string& author = "Ada") const {
@@ -48,8 +48,8 @@ TEST_F(Archive, ANameBecomesAFullOneWithAnEnding) {
       {"漢字", "漢字.tlrm"},
   };
   for (const auto& [name, file] : names) {
-    NomeCruciverba = NomeMaiSalvato;
-    SchemaModificato = Vero;
+    SetName(NomeMaiSalvato);
+    MarkModified();
     ASSERT_TRUE(Save(name, "Ada"));
     EXPECT_EQ(NomeCruciverba, InFolder(file));
     EXPECT_EQ(SchemaModificato, Falso);
@@ -58,7 +58,7 @@ TEST_F(Archive, ANameBecomesAFullOneWithAnEnding) {
     EXPECT_EQ(ReadFile(PercorsoIstantanea()), bytes);
   }
   EXPECT_EQ(AutoreDelCruciverba(), "Ada");
-  Schema(1) = "x";
+  SetHeader(1, "x");
   EXPECT_EQ(AutoreDelCruciverba(), "");
   ASSERT_TRUE(Save("corto"));
   EXPECT_EQ(Schema(1), "x            Ada");
@@ -102,7 +102,7 @@ TEST_F(Archive, ABadNameOrAFaultOfTheDiskCostsNothing) {
   }
   // A cell that no file can hold stands for a disk that takes nothing more.
   const Percorso old = WriteFile("vecchio.tlrm", "old");
-  Schema(5)[0] = '\xFF';
+  SetCell(1, 1, '\xFF');
   user.Answer(Risposta::Ok);
   EXPECT_FALSE(Save("vecchio"));
   EXPECT_EQ(user.TakeTexts().back(),
@@ -114,7 +114,7 @@ TEST_F(Archive, ABadNameOrAFaultOfTheDiskCostsNothing) {
 
 TEST_F(Archive, WithoutAGridNoFileIsWrittenOver) {
   const Percorso old = WriteFile("vecchio.tlrm", "old");
-  NumColonne = NumRighe = 0;
+  NoGrid();
   EXPECT_FALSE(Save("vecchio"));
   ExpectNotSaved("Il cruciverba non ha uno schema: non \xE8 possibile salvarlo.");
   EXPECT_EQ(ReadFile(old), "old");

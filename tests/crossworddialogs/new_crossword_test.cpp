@@ -18,10 +18,11 @@ class NewCrossword : public TelariumTest {
   void SetUp() override {
     TelariumTest::SetUp();
     Draw({"AB", "CD"});
-    Definizione(1, 1, Orizzontale) = Definizione(53, 30, Verticale) = "di prima";
-    ColoreCasella(1, 2) = 255;
-    LaboratorioDelCruciverba.vietate = {"AB"};
-    SchemaModificato = Vero;
+    SetClue(1, 1, Orizzontale, "di prima");
+    SetClue(53, 30, Verticale, "di prima");
+    SetColour(1, 2, 255);
+    Change([](Cruciverba& crossword) { crossword.laboratorio.Proprio().vietate = {"AB"}; });
+    MarkModified();
   }
 
   void ExpectTold(const Texts& texts) {

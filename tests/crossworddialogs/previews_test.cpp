@@ -39,7 +39,7 @@ std::string Head(std::string_view size) {
 
 TEST_F(Previews, ACrosswordIsDrawnFromItsFileAlone) {
   Draw({"XY"});
-  ColoreCasella(1, 1) = 255;
+  SetColour(1, 1, 255);
   // "A" and "." with the code raised by 26 are "[" and "H", a black cell "D".
   const auto preview = Read(Head("02x02") + "D*[.\r\nH.[.XXXX\r\n  1  11-Casa\r\n");
   ASSERT_TRUE(preview);

@@ -47,7 +47,7 @@ class Editing : public TelariumTest {
 
 TEST_F(Editing, ToolsTurnCellsBlackAndWhiteWithBothButtons) {
   Open({"CASA", "A...", "NE.."});
-  Definizione(1, 1, Orizzontale) = "Si abita";
+  SetClue(1, 1, Orizzontale, "Si abita");
   struct Case {
     void (*tool)();
     TastoMouse button;
@@ -69,7 +69,7 @@ TEST_F(Editing, ToolsTurnCellsBlackAndWhiteWithBothButtons) {
     SCOPED_TRACE(&one - cases);
     one.tool();
     window.editPressed = true;  // as behind a button of the toolbar
-    SchemaModificato = Falso;
+    MarkModified(false);
     Press(one.button, one.column, one.row);
     EXPECT_EQ(Drawing(), one.grid);
     EXPECT_EQ(DrawingOfSchema(), one.grid);
@@ -172,7 +172,7 @@ TEST_F(Editing, AWordGoesToTheClueEditorAndComesBackIntoTheGrid) {
 
   using Change = std::pair<const char*, const char*>;  // the clue alone, the word alone
   for (const auto& [word, clue] : {Change{"COTE", "Altra"}, Change{"CITE", "Altra"}}) {
-    SchemaModificato = Falso;
+    MarkModified(false);
     MoveTo(1, 2);
     window.whenEdited = [word = word, clue = clue](const ParolaDefinita&) {
       return ParolaDefinita{word, clue};
@@ -236,9 +236,8 @@ TEST_F(Editing, NoWordGoesToTheClueEditorWhereThereIsNone) {
   TogliColonna();
   ModoGriglia = ModoModifica;
   ImpostaPuntatoreMouse(PuntatoreVerticale);
-  MouseCol = 4;  // as it was before the column went, whose word is in memory still
+  MouseCol = 4;  // as it was before the column went
   MouseRiga = 1;
-  ASSERT_EQ(ParolaCasella(4, 1, Verticale), "....");
   Press(Left, 2, 2);
   EXPECT_TRUE(window.edited.empty());
 }
@@ -248,7 +247,7 @@ TEST_F(Editing, WithoutAGridNoPressDoesAnything) {
   Press(Left, 1, 1);
   EXPECT_EQ(PuntatoreMouse, 4) << "LatoCasella 0";
   Open({"CASA"});
-  NumColonne = NumRighe = 0;
+  NoGrid();
   AttivaCasellaNera();
   Press(Left, 1, 1);
   EXPECT_EQ(PuntatoreMouse, 0) << "beside the grid";
@@ -262,9 +261,9 @@ TEST_F(Editing, WithoutAGridNoPressDoesAnything) {
 
 TEST_F(Editing, TheGridGrowsAndShrinksByOne) {
   Open({"CASA", "A.#.", "NEL.", "...."});
-  Definizione(1, 4, Orizzontale) = "In basso";
-  ColoreCasella(3, 2) = 255;
-  ColoreCasella(4, 4) = 99;
+  SetClue(1, 4, Orizzontale, "In basso");
+  SetColour(3, 2, 255);
+  SetColour(4, 4, 99);
   const std::tuple<void (*)(), Rows, int> cases[] = {
       {TogliRiga, {"CASA", "A.#.", "NEL."}, 6},
       {TogliColonna, {"CAS", "A.#", "NEL"}, 4},
@@ -273,7 +272,7 @@ TEST_F(Editing, TheGridGrowsAndShrinksByOne) {
   };
   for (const auto& [operation, grid, mode] : cases) {
     SCOPED_TRACE(mode);
-    SchemaModificato = Falso;
+    MarkModified(false);
     operation();
     EXPECT_EQ(Drawing(), grid);
     EXPECT_EQ(Schema(4), Unisci("Dimensioni : ", DueCifre(NumColonne), 'x', DueCifre(NumRighe)));
@@ -289,9 +288,9 @@ TEST_F(Editing, TheGridGrowsAndShrinksByOne) {
 
 TEST_F(Editing, NumbersFollowTheGridAndCluesStayWithTheirCells) {
   Open({"CASA", "....", "NEL#"});
-  Definizione(1, 1, Verticale) = "first";
-  Definizione(4, 1, Verticale) = "last column";
-  Definizione(1, 3, Orizzontale) = "NEL";
+  SetClue(1, 1, Verticale, "first");
+  SetClue(4, 1, Verticale, "last column");
+  SetClue(1, 3, Orizzontale, "NEL");
   const auto numberAt = [](int c, int r) { return int{NumeroCasella(c, r)}; };
   const auto saved = [](const char* clue) {
     return TestoDelCruciverba().value().find(clue) != std::string::npos;
@@ -340,8 +339,8 @@ TEST_F(Editing, SizesHaveTheirLimits) {
   EXPECT_EQ(Drawing(), Rows(3, "..."));
   // Lines of any length grow in step.
   Open({"....", "...."});
-  Schema(5) = "A.";
-  Schema(6) = "B.C.D.E.F.G.";
+  SetLine(1, "A.");
+  SetLine(2, "B.C.D.E.F.G.");
   AggiungiColonna();
   EXPECT_EQ(Drawing(), (Rows{"A....", "BCDE."}));
 }

@@ -1,6 +1,8 @@
 #include "editor/commit.h"
 
 #include "editor/redraw.h"
+#include "model/crossword_writer.h"
+#include "support/drawn_crossword.h"
 #include "support/telarium_test.h"
 
 namespace telarium {
@@ -11,8 +13,8 @@ using Texts = std::vector<std::string>;
 
 TEST_F(Commit, BringsMarksAndDerivedTablesIntoLine) {
   Draw({"AB#", "CDE"});
-  Schema(5)[4] = '.';
-  Schema(6)[2] = '*';
+  SetCell(3, 1, '.');
+  SetCell(2, 2, '*');
   ConsolidaSchema();
   EXPECT_EQ(Schema(5) + Schema(6), "A.B...C.**E.");
   EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "AB.");
@@ -22,11 +24,11 @@ TEST_F(Commit, BringsMarksAndDerivedTablesIntoLine) {
 
 TEST_F(Commit, ClueOutlivesTheLossOfItsStart) {
   Draw({"AB"});
-  Definizione(1, 1, Orizzontale) = "Nota";
+  SetClue(1, 1, Orizzontale, "Nota");
   // The file follows the grid as it stands.
   const std::pair<char, bool> steps[] = {{'*', false}, {'*', false}, {'.', true}};
   for (const auto& [second, inFile] : steps) {
-    Schema(5)[2] = second;
+    SetCell(2, 1, second);
     ConsolidaSchema();
     EXPECT_EQ(Definizione(1, 1, Orizzontale), "Nota");
     const std::string file = ReadFile(InFolder("_tlma_32.tmp"));
@@ -37,7 +39,7 @@ TEST_F(Commit, ClueOutlivesTheLossOfItsStart) {
 TEST_F(Commit, SnapshotThatCannotBeWrittenIsToldAndTheChangeStays) {
   Draw({"AB"});
   CartellaIstantanea = InFolder("manca");
-  Schema(5)[0] = 'X';
+  SetCell(1, 1, 'X');
   ConsolidaSchema();
   EXPECT_EQ(user.TakeTexts(),
             Texts{WithCause("Errore di scrittura del file!", InFolder("manca/_tlma_32.tmp"),
@@ -47,11 +49,11 @@ TEST_F(Commit, SnapshotThatCannotBeWrittenIsToldAndTheChangeStays) {
 
 TEST_F(Commit, ChangeThatMissedTheSnapshotIsNotUndoneByALaterActivation) {
   Draw({"AB"});
-  NomeCruciverba = "mio.tlrm";
+  SetName("mio.tlrm");
   ASSERT_TRUE(ConsolidaSchema());
   const std::string older = ReadFile(PercorsoIstantanea());
   CartellaIstantanea = InFolder("manca");
-  Schema(5)[0] = 'X';
+  SetCell(1, 1, 'X');
   ConsolidaSchema();
   user.TakeTexts();
   RiprendiSchema();  // nothing new is told
@@ -63,14 +65,13 @@ TEST_F(Commit, ChangeThatMissedTheSnapshotIsNotUndoneByALaterActivation) {
 }
 
 TEST_F(Commit, TakingOverNeedsACrosswordAndClearsNothing) {
-  Draw({"AB"});
-  ConsolidaSchema();
   Draw({"CDE"});
-  Definizione(2, 2, Verticale) = "fuori";
-  NomeCruciverba.clear();
+  SetClue(2, 2, Verticale, "fuori");
+  SnapshotFromOutside(ContenutoDelFile(DrawnCrossword({"AB"})).value());
+  SetName("");
   RiprendiSchema();
   EXPECT_EQ(Drawing(), Texts{"CDE"});
-  NomeCruciverba = NomeMaiSalvato;
+  SetName(NomeMaiSalvato);
   RiprendiSchema();
   EXPECT_EQ(ParolaCasella(1, 1, Orizzontale) + Definizione(2, 2, Verticale), "ABfuori");
 
@@ -82,12 +83,10 @@ TEST_F(Commit, TakingOverNeedsACrosswordAndClearsNothing) {
 
 TEST_F(Commit, RedrawWithoutColumnsDoesNothing) {
   Draw({"AB"});
-  NumColonne = 0;
+  NoGrid();
   LatoCasella = 30;
-  Schema(5) = "X.*.";
   RidisegnaSchema();
   EXPECT_EQ(LatoCasella, 30);
-  EXPECT_EQ(LetteraCasella(1, 1), 'A');
 }
 
 }  // namespace

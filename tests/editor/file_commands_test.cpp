@@ -47,8 +47,8 @@ TEST_F(FileCommands, TheSplashMakesRoomForTheWindowAndComesBackWithoutACrossword
 
 TEST_F(FileCommands, AChangedCrosswordIsAskedForBeforeAnotherOne) {
   Draw({"CASA"});
-  NomeCruciverba = NomeMaiSalvato;
-  SchemaModificato = Vero;
+  SetName(NomeMaiSalvato);
+  MarkModified();
   user.Answer(Risposta::Ok);
   NuovoCruciverba();
   EXPECT_EQ(window.shown, (Windows{Modale::TelarSav, Modale::FormNew}));
@@ -78,7 +78,7 @@ TEST_F(FileCommands, SettingsAndTypefaceHaveTheirWindows) {
 TEST_F(FileCommands, NoneNeedsAGrid) {
   Draw({"CASA"});
   RidisegnaSchema();
-  NumColonne = NumRighe = 0;  // a damaged snapshot was read
+  NoGrid();  // a damaged snapshot was read
   const std::pair<const char*, void (*)()> commands[] = {
       {"NuovoCruciverba", NuovoCruciverba},
       {"ApriConFinestra", ApriConFinestra},

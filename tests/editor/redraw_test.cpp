@@ -47,7 +47,7 @@ TEST_F(RedrawTest, DrawsASmallGridCallByCall) {
   surface.width = 240;
   surface.height = 146;
   Draw({"A#"});
-  ColoreCasella(2, 1) = 0x00FF00;
+  SetColour(2, 1, 0x00FF00);
   // Letter: 34 points, 17 wide and 34 high in this surface; halves 8.5 and 17, of which 8 and 17
   // are taken; shift 6.8. Black square: inset 5 percent of 68.
   EXPECT_EQ(Redraw(), (std::vector<std::string>{
@@ -139,7 +139,7 @@ TEST_F(RedrawTest, DrawsWithoutABorderAboveTheMiddleAndWhateverStandsInACell) {
   Draw({"?a"});
   SpessoreBordo = 0;
   DistanzaDaCentro = -10;
-  NomeCruciverba = InFolder("mio.tlrm");
+  SetName(InFolder("mio.tlrm"));
   EXPECT_EQ(CallsOf("Riquadro"), (std::vector<std::string>{"8 455 108 555 0", "108 455 208 555 0"}))
       << "no line of a border";
   EXPECT_EQ(CallsOf("Scrivi"), (std::vector<std::string>{"?", "a", "1"}));
@@ -175,14 +175,12 @@ TEST_F(RedrawTest, StaysSafeWithAnySettingsAndAnyWindow) {
   }
 }
 
-TEST_F(RedrawTest, SetsTheTablesWithoutAWindowAndDoesNothingWithoutACrossword) {
+TEST_F(RedrawTest, DoesNothingWithoutAWindowOrACrossword) {
   platform.hasWindow = false;
   Draw({"AB"});
-  LetteraCasella(1, 1) = 'X';
   EXPECT_TRUE(Redraw().empty());
-  EXPECT_EQ(LetteraCasella(1, 1), 'A');
   platform.hasWindow = true;
-  NumColonne = NumRighe = 0;
+  NoGrid();
   LatoCasella = 7;
   EXPECT_TRUE(Redraw().empty());
   EXPECT_EQ(LatoCasella, 7);

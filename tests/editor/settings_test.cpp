@@ -74,7 +74,7 @@ TEST_F(SettingsTest, TakesTheFirstKeyOfALineAndWhatItsNumberIs) {
            Case{"AltezzaNumeri 9", AltezzaNumeri, 33},
            Case{"altezzanumeri=9", AltezzaNumeri, 33},
        }) {
-    AzzeraStato();
+    Forget();
     AltezzaNumeri = 33;
     InterpretaImpostazioni(one.text);
     EXPECT_EQ(one.target, one.value) << one.text;

@@ -11,6 +11,8 @@
 #include "editor/settings.h"
 #include "editor/update_check.h"
 #include "model/crossword_file.h"
+#include "model/crossword_writer.h"
+#include "support/drawn_crossword.h"
 #include "support/ordinary_user.h"
 #include "support/recording_window.h"
 #include "support/telarium_test.h"
@@ -32,7 +34,7 @@ class StartupTest : public TelariumTest {
     platform.hasWindow = true;
     WriteFile("telarium.INI", "AltezzaCaratteri= 50 \r\nStampaSoluzioni=-1 \r\n");
     OpenDictionary({"CASA", "SOLE"});
-    AzzeraStato();
+    Forget();
     workingFolder_ = fs::current_path();
   }
   void TearDown() override {
@@ -68,9 +70,9 @@ class StartupTest : public TelariumTest {
   Percorso CrosswordFile(const std::string& name, const std::vector<std::string>& rows) {
     CartellaProgramma = InFolder("");
     Draw(rows);
-    Definizione(1, 1, Orizzontale) = "Una casa";
+    SetClue(1, 1, Orizzontale, "Una casa");
     EXPECT_TRUE(ScriviCruciverba(InFolder(name)));
-    AzzeraStato();
+    Forget();
     return InFolder(name);
   }
 
@@ -106,10 +108,7 @@ TEST_F(StartupTest, OpensTheCommandLineAtTheFirstActivationOnly) {
     EXPECT_TRUE(window.enabled[entry]) << entry;
   EXPECT_EQ(ReadFile(PercorsoIstantanea()), ReadFile(commandLine));
 
-  Draw({"SOLE"});  // as a dialog leaves it: in the snapshot
-  NomeCruciverba = commandLine;
-  ASSERT_TRUE(ScriviIstantanea());
-  Schema(5) = "C.A.S.A.";
+  SnapshotFromOutside(ContenutoDelFile(DrawnCrossword({"SOLE"})).value());
   window.calls.clear();
   window.preview = true;
   AttivaForm1();
@@ -121,7 +120,7 @@ TEST_F(StartupTest, OpensTheCommandLineAtTheFirstActivationOnly) {
 TEST_F(StartupTest, AHostileCommandLineLeavesNoCrossword) {
   for (const char* bytes :
        {"", "a\r\nb\r\nc\r\nDimensioni : 99x99\r\n", "\177ELF\r\n\r\n\r\n\r\n"}) {
-    AzzeraStato();
+    Forget();
     RigaDiComando = WriteFile("bad.tlrm", bytes);
     Start();
     EXPECT_EQ(user.TakeTexts().size(), 1u);
@@ -129,7 +128,7 @@ TEST_F(StartupTest, AHostileCommandLineLeavesNoCrossword) {
     EXPECT_TRUE(window.splash);
     EXPECT_FALSE(window.enabled["MenuEdit"]);
   }
-  AzzeraStato();
+  Forget();
   RigaDiComando = InFolder("missing.tlrm");
   EXPECT_THROW(Start(), ProgramFailed);
   OnlyMessage();
@@ -159,7 +158,7 @@ TEST_F(StartupTest, AProtectedProgramFolderStaysAsItIsAndTheSnapshotLiesElsewher
                          PercorsoIstantanea().parent_path() != InFolder("");
     CommutaStampaSoluzioni();
     const bool told = user.TakeTexts().size() == 1;
-    AzzeraStato();  // removes the temporary folder
+    Forget();  // removes the temporary folder
     return started && told;
   }));
   fs::permissions(InFolder(""), fs::perms(0755));
@@ -244,8 +243,8 @@ TEST_F(StartupTest, AWindowShownByTheFirstActivationQueuesASecondOne) {
 
 TEST_F(StartupTest, SavesWhatTheUserWantsSavedAndEndsEitherWay) {
   const Percorso file = StartWith({"CASA"});
-  SchemaModificato = Vero;
-  Schema(5) = "S.O.L.E.";
+  MarkModified();
+  SetLine(1, "S.O.L.E.");
   user.Answer(Risposta::Annulla);
   EXPECT_THROW(EsciDalProgramma(), ProgramDone);
   const Messaggio asked = OnlyMessage();
@@ -263,16 +262,16 @@ TEST_F(StartupTest, SavesWhatTheUserWantsSavedAndEndsEitherWay) {
   user.TakeTexts();
   EXPECT_THROW(EsciDalProgramma(), ProgramDone) << "without a question";
 
-  SchemaModificato = Vero;
-  NomeCruciverba = InFolder("nowhere/mio.tlrm");
+  MarkModified();
+  SetName(InFolder("nowhere/mio.tlrm"));
   user.Answer(Risposta::Ok);
   EXPECT_NO_THROW(EsciDalProgramma()) << "a save that failed costs no work";
   user.Answer(Risposta::Ok);
   ApriDaFuori(file);
   EXPECT_EQ(NomeCruciverba, InFolder("nowhere/mio.tlrm"));
   EXPECT_EQ(user.TakeTexts().size(), 4u) << "two questions, two failures";
-  NomeCruciverba = file;
-  NumColonne = NumRighe = 0;  // a damaged snapshot was read
+  SetName(file);
+  NoGrid();  // a damaged snapshot was read
   const std::string whole = ReadFile(file);
   SalvaCruciverba();
   EXPECT_EQ(ReadFile(file), whole);
@@ -320,7 +319,7 @@ TEST_F(StartupTest, TheGuideOpensAsAPageWhereNothingShowsWebArchives) {
 TEST_F(StartupTest, LanguagesSettingsAndCompanionsDoAsTheirEntriesSay) {
   StartWith({"CASA"});
   WriteFile("lessicolatino.DAT", ReadFile(InFolder("LessicoItaliano.dat")));
-  Definizione(1, 1, Orizzontale) = "Si abita";
+  SetClue(1, 1, Orizzontale, "Si abita");
   CambiaLingua(3);
   EXPECT_EQ(NomeDizionario, "LessicoLatino.dat");
   EXPECT_EQ(Drawing(), std::vector<std::string>{"CASA"}) << "the crossword stays";
@@ -355,9 +354,9 @@ TEST_F(StartupTest, LanguagesSettingsAndCompanionsDoAsTheirEntriesSay) {
 TEST_F(StartupTest, AFileFromOutsideIsOpenedAfterTheSavingQuestionOrLeavesEverything) {
   const Percorso other = CrosswordFile("altro.tlrm", {"SOLE", "...."});
   const Percorso mine = StartWith({"CASA"});
-  Definizione(1, 1, Orizzontale) = "Non salvata";
+  SetClue(1, 1, Orizzontale, "Non salvata");
   ConsolidaSchema();
-  Definizione(2, 1, Orizzontale) = "Di nessuna parola";
+  SetClue(2, 1, Orizzontale, "Di nessuna parola");
   const Percorso tooBig = WriteFile("big.tlrm", ReadFile(other));
   fs::resize_file(tooBig, MaxByteCruciverba + 1);
   for (const Percorso& bad :
@@ -371,7 +370,7 @@ TEST_F(StartupTest, AFileFromOutsideIsOpenedAfterTheSavingQuestionOrLeavesEveryt
     EXPECT_EQ(Definizione(1, 1, Orizzontale), "Non salvata");
     EXPECT_EQ(Definizione(2, 1, Orizzontale), "Di nessuna parola");
   }
-  SchemaModificato = Vero;
+  MarkModified();
   user.Answer(Risposta::Annulla);
   window.splash = true;
   ApriDaFuori(other);

@@ -14,20 +14,21 @@ constexpr auto Unchanged = Indicazione::Invariata;
 constexpr auto Neutral = Indicazione::Neutra;
 constexpr auto Word = Indicazione::Parola;
 
-// In a grid whose other cells are of kind 1.
-struct Kind {
-  Casella cell;
-  int kind;
-};
-
 struct PointingCase {
   Casella cell;  // under the pointer
   bool upperRight;
-  std::vector<Kind> kinds;
+  std::vector<std::string> drawing;
   Indicazione::Specie outcome;
   Casella settled;
   int direction = 0;  // of the word
 };
+
+// The largest grid, whose last word has two letters.
+std::vector<std::string> TheLargest() {
+  std::vector<std::string> rows(MaxRighe, std::string(MaxColonne, '.'));
+  rows.back()[MaxColonne - 3] = '#';
+  return rows;
+}
 
 class WordPointing : public TelariumTest {
  protected:
@@ -57,43 +58,39 @@ class WordPointing : public TelariumTest {
 
 TEST_F(WordPointing, ACellMeansItsWordOrTheOneThatStartsOneCellBack) {
   const PointingCase cases[] = {
-      {{3, 3}, true, {{{3, 3}, 0}}, Neutral, {3, 3}},
-      {{3, 3}, false, {{{3, 3}, 2}}, Word, {3, 3}, H},
-      {{3, 3}, true, {{{3, 3}, 3}}, Word, {3, 3}, V},
-      {{3, 3}, true, {{{3, 3}, 5}}, Word, {3, 3}, H},
-      {{3, 3}, false, {{{3, 3}, 5}}, Word, {3, 3}, V},
+      {{3, 3}, true, {"....", "....", "..#.", "...."}, Neutral, {3, 3}},
+      {{3, 3}, false, {"....", "....", ".#..", "...."}, Word, {3, 3}, H},
+      {{3, 3}, true, {"....", "..#.", "....", "...."}, Word, {3, 3}, V},
+      {{3, 3}, true, {"....", "..#.", ".#..", "...."}, Word, {3, 3}, H},
+      {{3, 3}, false, {"....", "..#.", ".#..", "...."}, Word, {3, 3}, V},
 
-      {{3, 3}, true, {{{2, 3}, 2}}, Word, {2, 3}, H},
-      {{3, 3}, true, {{{2, 3}, 5}}, Word, {2, 3}, H},
-      {{3, 3}, true, {{{2, 3}, 3}}, Unchanged, {2, 3}},
-      {{3, 3}, true, {}, Unchanged, {2, 3}},
-      {{3, 3}, true, {{{2, 3}, 0}}, Neutral, {2, 3}},
-      {{3, 3}, false, {{{3, 2}, 3}}, Word, {3, 2}, V},
-      {{3, 3}, false, {{{3, 2}, 5}}, Word, {3, 2}, V},
-      {{3, 3}, false, {{{3, 2}, 2}}, Unchanged, {3, 2}},
-      {{3, 3}, false, {}, Unchanged, {3, 2}},
-      {{3, 3}, false, {{{3, 2}, 0}}, Neutral, {3, 2}},
+      {{3, 3}, true, {"....", "....", "#...", "...."}, Word, {2, 3}, H},
+      {{3, 3}, true, {"....", ".#..", "#...", "...."}, Word, {2, 3}, H},
+      {{3, 3}, true, {"....", ".#..", "....", "...."}, Unchanged, {2, 3}},
+      {{3, 3}, true, {"....", "....", "....", "...."}, Unchanged, {2, 3}},
+      {{3, 3}, true, {"....", "....", ".#.#", "...."}, Neutral, {2, 3}},
+      {{3, 3}, false, {"..#.", "....", "....", "...."}, Word, {3, 2}, V},
+      {{3, 3}, false, {"..#.", ".#..", "....", "...."}, Word, {3, 2}, V},
+      {{3, 3}, false, {"....", ".#..", "....", "...."}, Unchanged, {3, 2}},
+      {{3, 3}, false, {"....", "....", "....", "...."}, Unchanged, {3, 2}},
+      {{3, 3}, false, {"....", "..#.", "....", "..#."}, Neutral, {3, 2}},
 
-      {{2, 3}, true, {{{1, 3}, 2}}, Word, {1, 3}, H},
-      {{2, 3}, true, {{{1, 3}, 0}}, Neutral, {1, 3}},
-      {{2, 3}, true, {{{1, 3}, 3}}, Unchanged, {1, 3}},
-      {{3, 2}, false, {{{3, 1}, 5}}, Word, {3, 1}, V},
-      {{3, 2}, false, {{{3, 1}, 2}}, Unchanged, {3, 1}},
+      {{2, 3}, true, {"....", "....", "....", "...."}, Word, {1, 3}, H},
+      {{2, 3}, true, {"....", "....", "#.#.", "...."}, Neutral, {1, 3}},
+      {{3, 2}, false, {".#..", "....", "....", "...."}, Word, {3, 1}, V},
 
-      // Row 1 looks up, column 1 looks left, and stays where it is; column 1 wins in the corner.
-      {{3, 1}, true, {{{2, 1}, 2}}, Unchanged, {3, 1}},
-      {{3, 1}, true, {{{3, 2}, 0}}, Neutral, {3, 1}},
-      {{1, 3}, false, {{{1, 2}, 3}}, Unchanged, {1, 3}},
-      {{1, 3}, false, {{{2, 3}, 0}}, Neutral, {1, 3}},
-      {{1, 1}, false, {{{1, 2}, 0}}, Unchanged, {1, 1}},
-      {{1, 1}, true, {{{2, 1}, 0}}, Neutral, {1, 1}},
-      {{53, 30}, true, {{{52, 30}, 2}}, Word, {52, 30}, H},
+      // Row 1 looks up, column 1 looks left, and stays where it is.
+      {{3, 1}, true, {"....", "..#.", "....", "...."}, Neutral, {3, 1}},
+      {{3, 1}, true, {"...."}, Neutral, {3, 1}},
+      {{1, 3}, false, {"....", "....", ".#..", "...."}, Neutral, {1, 3}},
+      {{1, 3}, false, {".", ".", ".", "."}, Neutral, {1, 3}},
+      {{1, 1}, false, {".#..", "#...", "....", "...."}, Neutral, {1, 1}},
+      {{1, 1}, true, {".#..", "#...", "....", "...."}, Neutral, {1, 1}},
+      {{53, 30}, true, TheLargest(), Word, {52, 30}, H},
   };
   for (const PointingCase& one : cases) {
     SCOPED_TRACE(&one - cases);
-    TipoCasella.Riempi(1);
-    for (const auto& [cell, kind] : one.kinds)
-      TipoCasella(cell.colonna, cell.riga) = static_cast<std::int16_t>(kind);
+    Draw(one.drawing);
     const Indicazione given = IndicazioneDa(one.cell, one.upperRight);
     EXPECT_EQ(given.specie, one.outcome);
     EXPECT_EQ(given.casella.colonna, one.settled.colonna);
@@ -104,8 +101,8 @@ TEST_F(WordPointing, ACellMeansItsWordOrTheOneThatStartsOneCellBack) {
 
 TEST_F(WordPointing, AWordShowsItsTipAndItsRectangle) {
   Show({"CASA", "A#..", "NO.."});
-  Definizione(1, 1, H) = "Si abita";
-  Definizione(1, 1, V) = "Abbaia";
+  SetClue(1, 1, H, "Si abita");
+  SetClue(1, 1, V, "Abbaia");
   PassaSullaSuperficie(80, 90);  // on the diagonal
   EXPECT_EQ(PuntatoreMouse, 9);
   EXPECT_EQ(window.tip, "  1 oriz. -Si abita ");
@@ -126,7 +123,7 @@ TEST_F(WordPointing, AWordShowsItsTipAndItsRectangle) {
   EXPECT_EQ(window.rectangle->colore, 12632064);
 
   RettangoloParola = Falso;
-  Definizione(1, 1, H) = std::string(79, 'x');  // with the number a tip of 910 pixels
+  SetClue(1, 1, H, std::string(79, 'x'));  // with the number a tip of 910 pixels
   PassaSullaSuperficie(90, 61);
   EXPECT_EQ(window.tipLeft, 71) << "just fits";
   PassaSullaSuperficie(91, 61);
@@ -174,7 +171,7 @@ TEST_F(WordPointing, BesideTheGridNothingIsMeant) {
   LatoCasella = 0;
   PassaSullaSuperficie(60, 70);
   ExpectOutOfView(9);
-  NumColonne = NumRighe = 0;
+  NoGrid();
   LatoCasella = 100;
   PassaSullaSuperficie(60, 70);
   ExpectOutOfView(0);

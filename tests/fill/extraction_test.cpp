@@ -64,7 +64,7 @@ class ExtractionTest : public TelariumTest {
   // Runs the fill, checks what holds at the end of each, and gives the grid.
   std::string Run(EsitoEstrazione expected = EsitoEstrazione::Completa) {
     ModoGriglia = 1;
-    SchemaModificato = Falso;
+    MarkModified(false);
     user.pointerShapes.clear();
     EXPECT_EQ(command.EseguiEstrazione(), expected);
     EXPECT_EQ(ModoGriglia, 0);
@@ -87,7 +87,7 @@ class ExtractionTest : public TelariumTest {
 TEST_F(ExtractionTest, CancelAtTheQuestionChangesNothing) {
   EXPECT_EQ(command.EstraiSchema(), std::nullopt) << "no crossword, no question";
   DrawJoined("CA. #..");
-  Definizione(1, 1, 1) = "Una sillaba";
+  SetClue(1, 1, 1, "Una sillaba");
   ModoGriglia = 1;
   user.Answer(Risposta::Annulla);
   EXPECT_EQ(command.EstraiSchema(), std::nullopt);
@@ -109,10 +109,10 @@ TEST_F(ExtractionTest, CancelAtTheQuestionChangesNothing) {
 
 TEST_F(ExtractionTest, LettersAndCluesOfWordsGoAndTheSnapshotHoldsTheNewOnes) {
   DrawJoined("XXXXX ##X## ##.## ##X##");
-  Definizione(1, 1, 1) = Definizione(1, 1, 2) = Definizione(3, 1, 2) = "of a start cell";
-  Definizione(2, 1, 1) = "of another cell";
-  Definizione(6, 1, 2) = "of a column taken away";
-  TipoCasella(6, 1) = 3;  // as it was in the wider grid
+  for (const auto& [c, d] : {std::pair(1, 1), {1, 2}, {3, 2}})
+    SetClue(c, 1, d, "of a start cell");
+  SetClue(2, 1, 1, "of another cell");
+  SetClue(6, 1, 2, "of a column taken away");
   OpenDictionary(TeeWords);
   machine.draws = {DrawCarta};
   EXPECT_EQ(Run(), TeeWithCarta);
@@ -243,7 +243,7 @@ TEST_F(ExtractionTest, DictionaryOrSnapshotFolderThatGoesAwayEndsTheRunAtOnce) {
 TEST_F(ExtractionTest, RunThatCannotBeginLeavesTheGridAsItIs) {
   OpenDictionary(TeeWords);
   DrawJoined("CASA");
-  Definizione(1, 1, 1) = "Vi si abita";
+  SetClue(1, 1, 1, "Vi si abita");
   const auto refused = [this](EsitoEstrazione expected) {
     EXPECT_EQ(command.EseguiEstrazione(), expected);
     EXPECT_EQ(user.TakeTexts().size(), 1u);
@@ -279,9 +279,8 @@ TEST_F(ExtractionTest, LongSlotsComeFirstThenReadingOrderThenHorizontal) {
 
 TEST_F(ExtractionTest, ShortLinesOfSchemaAreFilledToo) {
   DrawJoined(".... ....");
-  Schema(6) = ".*.";
-  SvuotaCruciverba();
-  RicalcolaCaselle();
+  SetLine(1, "");
+  SetLine(2, ".*.");
   OpenDictionary({"APE"});
   user.AnswerAllDeadEnds(Risposta::Si);
   EXPECT_EQ(LettersHidden(Run(), "???? ????"), "???? ????");

@@ -1,4 +1,5 @@
 #include "crossworddialogs/new_crossword.h"
+#include "dictionary/dictionary.h"
 #include "dictionary/masked_search.h"
 #include "editor/fill_command.h"
 #include "fill/word_choice.h"

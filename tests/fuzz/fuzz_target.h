@@ -7,6 +7,7 @@
 
 #include "model/state.h"
 #include "platform/temporary.h"
+#include "support/crossword_state.h"
 #include "support/scripted_platform.h"
 
 /// What a target is: one input, which must never end the process.
@@ -33,7 +34,7 @@ class QuietPlatform : public ScriptedPlatform {
 inline QuietPlatform& StartFresh() {
   static QuietPlatform platform;
   static const CartellaTemporanea folder;
-  AzzeraStato();
+  Forget();
   ImpostaPiattaforma(&platform);
   CartellaProgramma = folder.Nome();
   return platform;

@@ -4,7 +4,6 @@
 #include "editor/redraw.h"
 #include "editor/settings.h"
 #include "fuzz/fuzz_target.h"
-#include "model/words.h"
 #include "output/printing.h"
 #include "platform/check.h"
 #include "support/recording_window.h"
@@ -50,8 +49,8 @@ void TryDrawing(QuietPlatform& platform) {
   platform.hasWindow = true;
   platform.window.calls.clear();
   Verifica(NuovoVuoto(4, 3) == EsitoNuovo::Fatto, "no crossword");
-  ScriviInSchema({1, 1}, 'A');
-  ScriviInSchema({2, 1}, CellaNera);
+  SetCell(1, 1, 'A');
+  SetCell(2, 1, CellaNera);
   RidisegnaSchema();
   Verifica(platform.window.calls.size() < 1100, "too much was drawn");
   StampaSchema();

@@ -52,12 +52,12 @@ std::string Header(const std::string& size) {
 
 TEST_F(CrosswordFile, IsWrittenToTheByteAndComesBack) {
   Draw({"CA", "#.", ".Z"});
-  Definizione(1, 1, Orizzontale) = "Prime due di cane";
-  Definizione(1, 3, Orizzontale) = "  rientrata";
-  Definizione(2, 1, Verticale) = "in giù"_cp;
-  Definizione(2, 2, Orizzontale) = "no word starts here";
-  ColoreCasella(1, 2) = 255;
-  Schema(6) = "*..*";  // marks out of date
+  SetClue(1, 1, Orizzontale, "Prime due di cane");
+  SetClue(1, 3, Orizzontale, "  rientrata");
+  SetClue(2, 1, Verticale, "in giù"_cp);
+  SetClue(2, 2, Orizzontale, "no word starts here");
+  SetColour(1, 2, 255);
+  SetLine(2, "*..*");  // marks out of date
   const Percorso path = InFolder("uno.tlrm");
   EXPECT_TRUE(ScriviCruciverba(path));
   EXPECT_EQ(FirstDifference(ReadFile(path), SmallFile()), "");
@@ -75,7 +75,7 @@ TEST_F(CrosswordFile, HoldsTheLargestGrid) {
   Texts rows(30, std::string(53, '.'));
   rows[11].replace(0, 6, "CA#.AZ");
   Draw(rows);
-  Definizione(4, 12, Orizzontale) = "Da A\r\na Z";
+  SetClue(4, 12, Orizzontale, "Da A\r\na Z");
   ASSERT_TRUE(ScriviCruciverba(InFolder("uno.tlrm")));
   const std::string bytes = ReadFile(InFolder("uno.tlrm"));
   EXPECT_NE(bytes.find("\r\n].[.D*H.[.t.H."), std::string::npos);
@@ -142,7 +142,7 @@ TEST_F(CrosswordFile, CutAnywhereItIsReadOrRefused) {
   std::string before;
   for (const auto& [piece, accepted] : Small) {
     for (std::size_t there = 1; there <= piece.size(); ++there) {
-      AzzeraStato();
+      Forget();
       EXPECT_EQ(InterpretaCruciverba(before + piece.substr(0, there)), there >= accepted)
           << piece.substr(0, there);
       EXPECT_EQ(user.TakeTexts().size(), there >= accepted ? 0u : 1u);
@@ -173,7 +173,8 @@ TEST_F(CrosswordFile, ColoursThatAreMissingStayAsTheyWere) {
       {"[Colori caselle]\r\n 1  99999999999  3", {1, 7, 7}},
   };
   for (const auto& [end, colours] : cases) {
-    ColoreCasella.Riempi(7);
+    for (int c = 1; c <= 3; ++c)
+      SetColour(c, 1, 7);
     EXPECT_TRUE(InterpretaCruciverba(Header("03x01") + "H.H.H.\r\n" + end));
     EXPECT_EQ((Colours{ColoreCasella(1, 1), ColoreCasella(2, 1), ColoreCasella(3, 1)}), colours)
         << end;
@@ -182,8 +183,8 @@ TEST_F(CrosswordFile, ColoursThatAreMissingStayAsTheyWere) {
 
 TEST_F(CrosswordFile, OpeningClearsTheEarlierCrosswordAndReadingDoesNot) {
   const Percorso path = WriteFile("uno.tlrm", SmallFile());
-  Definizione(9, 9, Verticale) = "di prima";
-  ColoreCasella(9, 9) = 5;
+  SetClue(9, 9, Verticale, "di prima");
+  SetColour(9, 9, 5);
   EXPECT_TRUE(LeggiCruciverba("uno.tlrm"));
   EXPECT_EQ(Definizione(9, 9, Verticale), "di prima");
   EXPECT_EQ(ColoreCasella(9, 9), 5);
@@ -218,7 +219,7 @@ TEST_F(CrosswordFile, WhatTheLaboratoryKeepsStaysWithItsCrosswordAndIsNotPublish
   ExpectReadError("la sezione [Laboratorio] è troppo grande"_cp);
   EXPECT_EQ(FirstDifference(TestoDelCruciverba().value(), SmallFile()), "");
 
-  LaboratorioDelCruciverba.proprie = {"ZZ"};
+  Change([](Cruciverba& crossword) { crossword.laboratorio.Proprio().proprie = {"ZZ"}; });
   ASSERT_EQ(ApriTestoDiCruciverba(bytes), Apertura::Intera) << "from a page";
   EXPECT_EQ(FirstDifference(TestoDelCruciverba().value(), SmallFile()), "");
 }
@@ -231,7 +232,7 @@ TEST_F(CrosswordFile, IsRefusedPastSixteenMegabytesAndMissingEndsTheProgram) {
   EXPECT_FALSE(LeggiCruciverba("uno.tlrm"));
   ExpectReadError("il file è troppo grande"_cp);
   // What cannot be read at all costs the open crossword nothing.
-  Definizione(1, 1, Orizzontale) = "resta";
+  SetClue(1, 1, Orizzontale, "resta");
   EXPECT_EQ(ApriCruciverba(path), Apertura::Rifiutata);
   ExpectReadError("il file è troppo grande"_cp);
   EXPECT_EQ(Definizione(1, 1, Orizzontale), "resta");
@@ -260,12 +261,12 @@ TEST_F(CrosswordFile, WhatCannotBeWrittenIsToldAndTheOldFileStays) {
 
 TEST_F(CrosswordFile, WhatIsWrittenCanBeReadAgain) {
   Draw({"CA"});
-  Definizione(1, 1, Orizzontale) = std::string("a\0b\r\nc", 6);
+  SetClue(1, 1, Orizzontale, std::string("a\0b\r\nc", 6));
   ASSERT_TRUE(ScriviCruciverba(InFolder("x.tlrm")));
   ASSERT_EQ(ApriCruciverba(InFolder("x.tlrm")), Apertura::Intera);
   EXPECT_EQ(Definizione(1, 1, Orizzontale), "a b c");
   RicalcolaCaselle();
-  Definizione(1, 1, Orizzontale) = std::string(MaxByteCruciverba, 'x');
+  SetClue(1, 1, Orizzontale, std::string(MaxByteCruciverba, 'x'));
   EXPECT_FALSE(ScriviCruciverba(InFolder("x.tlrm")));
   ExpectWriteError(InFolder("x.tlrm"), CruciverbaNonScrivibile);
   EXPECT_EQ(ApriCruciverba(InFolder("x.tlrm")), Apertura::Intera) << "the old file stays";

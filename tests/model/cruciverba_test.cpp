@@ -186,6 +186,7 @@ TEST(CrosswordValue, AClueComesBackWithItsColumn) {
   for (const auto& [cell, letter] :
        {std::pair(Casella{3, 1}, 'C'), {Casella{1, 2}, 'D'}, {{2, 2}, CellaNera}, {{3, 2}, 'E'}})
     ScriviCarattere(crossword, cell, letter);
+  crossword.griglia[1].Proprio()[3] = CellaNera;  // its mark
   EXPECT_EQ(crossword, before);
   crossword.definizioni.Imposta("", 3, 1, Verticale);
   EXPECT_EQ(crossword.definizioni, Cruciverba().definizioni) << "an empty clue is none";

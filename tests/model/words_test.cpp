@@ -36,8 +36,7 @@ TEST_F(Words, KindsNumbersAndWordsFollowFromTheDrawing) {
       {{"1 ?"}, {"211"}, {"1 1 ?"}},
   };
   for (const auto& row : cases) {
-    NumeroCasella.Riempi(9);  // of the grid before
-    ParolaCasella.Riempi("XY");
+    Draw(Rows(MaxRighe, std::string(MaxColonne, 'X')));  // of which nothing is left
     Draw(row.drawing);
     EXPECT_EQ(KindsAndWords(), std::pair(row.kinds, row.words)) << row.drawing.front();
     for (int c = 1; c <= NumColonne; ++c) {
@@ -45,7 +44,7 @@ TEST_F(Words, KindsNumbersAndWordsFollowFromTheDrawing) {
         EXPECT_EQ(NumeroCasella(c, r) > 0, TipoCasella(c, r) > 1) << c << ' ' << r;
         const std::string both = ParolaCasella(c, r, Orizzontale) + ParolaCasella(c, r, Verticale);
         EXPECT_TRUE(both.empty() || LetteraCasella(c, r) != CellaNera) << c << ' ' << r;
-        EXPECT_NE(both, "XYXY") << "an isolated cell begins nothing";
+        EXPECT_EQ(both.find('X'), both.npos) << "an isolated cell begins nothing";
       }
     }
   }
@@ -59,27 +58,21 @@ TEST_F(Words, EachCellHoldsTheRestOfItsRun) {
 
 TEST_F(Words, LinesOfAnyLengthFillTheGridAsFarAsTheyGo) {
   Draw({"AB", "CD"});
-  Schema(5) = "X";  // the last cell stays
-  RicalcolaCaselle();
-  EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), "XB");
-  NumColonne = 1;  // what lies outside the grid stays
-  Schema(5) = "Y.*." + std::string(1000, '*');
-  RicalcolaCaselle();
-  EXPECT_EQ(KindsAndWords().second, Rows{"1 YC"});
-  EXPECT_EQ(LetteraCasella(2, 1), 'B');
-  EXPECT_EQ(ParolaCasella(2, 1, Verticale), "BD");
+  SetLine(1, "X");
+  SetLine(2, "Y.Z.*.");
+  EXPECT_EQ(ParolaCasella(1, 1, Verticale) + ParolaCasella(1, 2, Orizzontale), "XYYZ");
   Draw({std::string(53, 'A')});
-  Schema(5) += std::string(1000, '*');
-  RicalcolaCaselle();
+  SetLine(1, Schema(5) + std::string(1000, '*'));
   EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), std::string(53, 'A'));
 }
 
 TEST_F(Words, WritingACellKeepsItsMarkAndMakesAShortLineLonger) {
   const std::pair<const char*, const char*> cases[] = {
       {"A.B.**D.", "A.B.C*D."}, {"A", "A...C."}, {"A.", "A...C."}, {"A.B.*", "A.B.C."}};
+  Draw({"...."});
   for (const auto& [before, after] : cases) {
-    Schema(5) = before;
-    ScriviInSchema({3, 1}, 'C');
+    SetLine(1, before);
+    SetCell(3, 1, 'C');
     EXPECT_EQ(Schema(5), after);
   }
 }

@@ -112,7 +112,7 @@ class Pages : public Exports, public ::testing::WithParamInterface<Case> {
   void SetUp() override {
     Exports::SetUp();
     ASSERT_EQ(ApriCruciverba(Source("crossword.tlrm")), Apertura::Intera);
-    NomeCruciverba = GetParam().name;
+    SetName(GetParam().name);
     NomeFont = GetParam().typeface;
     surface.Corsivo(GetParam().italic);
     StampaSoluzioni = GetParam().hidden ? Vero : Falso;

@@ -103,12 +103,12 @@ TEST_F(SheetTest, LaysTheGridOutOnPaperAndInThePreview) {
 // Cells of 304 units at (196, 59), types of those of 202.67.
 TEST_F(SheetTest, PrintsASmallCrosswordCallByCall) {
   Draw({"AB", ".#"});
-  ColoreCasella(2, 2) = 0x00FF00;
+  SetColour(2, 2, 0x00FF00);
   NomeFont = "Courier New";
-  Schema(1) = "Autore     : Anna Rossi";
-  Definizione(1, 1, Orizzontale) = "Le prime\r\ndue";
+  SetHeader(1, "Autore     : Anna Rossi");
+  SetClue(1, 1, Orizzontale, "Le prime\r\ndue");
   platform.printer.bold = true;
-  NomeCruciverba = InFolder("Il mio.v2.TLRM");
+  SetName(InFolder("Il mio.v2.TLRM"));
   std::string printed;
   for (const std::string& call : Print())
     printed += call + '|';
@@ -166,7 +166,7 @@ TEST_F(SheetTest, ATypeBetweenTwoPointsIsTheEvenOne) {
 
 TEST_F(SheetTest, LettersOnPaperHaveFivePointsAtLeastAndNumbersAndSquaresWhatComesOfTheCell) {
   DrawEmpty(MaxColonne, MaxRighe);
-  ScriviInSchema({2, 1}, CellaNera);
+  SetCell(2, 1, CellaNera);
   AltezzaCaratteri = 25;
   PercentualeRiquadro = 98;
   const Calls& calls = Print();
@@ -194,7 +194,7 @@ TEST_F(SheetTest, APageWiderThanTheWindowStillHasAMarginAndItsTextMayPassTheEnd)
   EXPECT_EQ(PlaceOfClues(calls).substr(0, 12), "Posizione 44");
   platform.window.width = 1000;
   for (int c = 1; c <= NumColonne; ++c)
-    Definizione(c, 1, Verticale) = std::string(300, 'x');
+    SetClue(c, 1, Verticale, std::string(300, 'x'));
   const std::string last = Of(Preview(), "Posizione").back();
   EXPECT_GT(std::stod(last.substr(last.find(' '))), 700) << "nothing is left out";
   EXPECT_NE(Text(platform.window.calls).find("Creazione e stampa"), std::string::npos);
@@ -247,9 +247,9 @@ TEST_F(SheetTest, GoesOnOverFurtherPagesAndLosesNothing) {
     return clues.back().substr(1, clues.back().size() - 2);
   };
   for (int c = 1; c <= MaxColonne; ++c)
-    Definizione(c, 1, Verticale) = next();
+    SetClue(c, 1, Verticale, next());
   for (int r = 1; r <= MaxRighe; ++r)
-    Definizione(1, r, Orizzontale) = next();
+    SetClue(1, r, Orizzontale, next());
   platform.window.height = 400;
   const Calls& calls = Print();
   std::map<std::string, int> written;
@@ -281,7 +281,7 @@ TEST_F(SheetTest, ForbidsWhatNeedsTheGridUntilThePreviewIsClosed) {
   window.CollocaLabel1(10, 10);
   window.MostraShape1({});
   platform.window.Grassetto(true);
-  SchemaModificato = Falso;
+  MarkModified(false);
   Preview();
   EXPECT_TRUE(platform.window.Grassetto());
   EXPECT_EQ(SchemaModificato, Falso);

@@ -61,7 +61,7 @@ class WebOpening : public TelariumTest {
   }
 
   void ForgetAll() {
-    AzzeraStato();
+    Forget();
     CartellaProgramma = InFolder("");
   }
 
@@ -74,12 +74,12 @@ class WebOpening : public TelariumTest {
   // The page of a crossword with clues and a colour; the older one becomes current again.
   std::string SomePage() {
     Draw(Newer);
-    Definizione(1, 1, Orizzontale) = "Ci si abita --> \xC8 <b>\"bella\"";
-    Definizione(1, 1, Verticale) = "Sottostanti ####";
-    ColoreCasella(2, 2) = 0x3060C0;
+    SetClue(1, 1, Orizzontale, "Ci si abita --> \xC8 <b>\"bella\"");
+    SetClue(1, 1, Verticale, "Sottostanti ####");
+    SetColour(2, 2, 0x3060C0);
     std::string page = CrosswordPage();
-    Definizione(1, 1, Verticale) = "of the older one";
-    ColoreCasella(1, 1) = 5;
+    SetClue(1, 1, Verticale, "of the older one");
+    SetColour(1, 1, 5);
     Draw(Older);
     return page;
   }
@@ -158,7 +158,7 @@ TEST_F(WebOpening, AFetchThatTheUserBreaksOffIsNoFault) {
 TEST_F(WebOpening, MakesTheCrosswordOfThePageTheCurrentOneUnderTheOldName) {
   const std::string page = SomePage();
   IniziaAnteprima();
-  SchemaModificato = Falso;
+  MarkModified(false);
   window.rectangle = Rettangolo{};
   window.editPressed = false;
   OpenPage(page);
@@ -185,11 +185,11 @@ TEST_F(WebOpening, NeedsNoCrosswordBefore) {
 
 TEST_F(WebOpening, AsksForAChangedCrosswordOnceThereIsAnother) {
   const std::string page = SomePage();
-  SchemaModificato = Vero;
+  MarkModified();
   OpenPage("no crossword");
   EXPECT_EQ(user.TakeTexts(), Texts{NotFound}) << "nothing is asked before";
   user.Answer(Risposta::Ok);
-  NomeCruciverba = "no folder/x.tlrm";
+  SetName("no folder/x.tlrm");
   OpenPage(page);
   EXPECT_EQ(Drawing(), Older) << "the save that was wanted failed";
   EXPECT_EQ(user.TakeTexts().size(), 2u);
@@ -197,7 +197,7 @@ TEST_F(WebOpening, AsksForAChangedCrosswordOnceThereIsAnother) {
   OpenPage(page);
   EXPECT_EQ(Drawing().front(), "CASA");
   EXPECT_EQ(SchemaModificato, Vero) << "as it was";
-  NomeCruciverba = InFolder("mio.tlrm");
+  SetName(InFolder("mio.tlrm"));
   user.Answer(Risposta::Ok);
   OpenPage(page);
   EXPECT_EQ(SchemaModificato, Falso);
@@ -233,8 +233,8 @@ TEST_F(WebOpening, APageCutAnywhereIsTakenAsFarAsItGoesOrToldAndChangesNothing) 
   for (std::size_t length = 0; length <= page.size(); ++length) {
     SCOPED_TRACE(length);
     Draw(Older);
-    Definizione(1, 1, Orizzontale) = "older";
-    ColoreCasella(1, 2) = 5;
+    SetClue(1, 1, Orizzontale, "older");
+    SetColour(1, 2, 5);
     const auto before = TestoDelCruciverba();
     OpenPage(page.substr(0, length));
     const Texts told = user.TakeTexts();

@@ -13,11 +13,11 @@ inline Cruciverba DrawnCrossword(const std::vector<std::string>& rows) {
   crossword.intestazione = Intestazione{"Autore     : Prova", "Data       : 05-03-2024",
                                         "Tipo       : Crociate Normale", "Dimensioni : "};
   Ridimensiona(crossword, static_cast<int>(rows.front().size()), static_cast<int>(rows.size()));
-  for (int r = 1; r <= crossword.righe; ++r) {
-    for (int c = 1; c <= crossword.colonne; ++c) {
-      const char drawn = rows[static_cast<std::size_t>(r) - 1][static_cast<std::size_t>(c) - 1];
-      ScriviCarattere(crossword, {c, r}, drawn == '#' ? CellaNera : drawn);
-    }
+  for (std::size_t r = 0; r < rows.size(); ++r) {
+    std::string line;
+    for (const char drawn : rows[r])
+      line += drawn == '#' ? std::string(2, CellaNera) : std::string{drawn, CellaVuota};
+    crossword.griglia[r] = line;
   }
   return crossword;
 }

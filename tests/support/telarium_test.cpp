@@ -6,15 +6,10 @@
 
 #include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
-#include "model/crossword_file.h"
-#include "model/words.h"
+#include "support/drawn_crossword.h"
 
 namespace telarium {
 namespace {
-
-char CellOf(char drawn) {
-  return drawn == '#' ? CellaNera : drawn;
-}
 
 char DrawnAs(char cell) {
   return cell == CellaNera ? '#' : cell;
@@ -23,7 +18,7 @@ char DrawnAs(char cell) {
 }  // namespace
 
 void TelariumTest::SetUp() {
-  AzzeraStato();
+  Forget();
   ImpostaPiattaforma(&platform);
   ASSERT_FALSE(folder_.Nome().empty());
   CartellaProgramma = folder_.Nome();
@@ -62,23 +57,14 @@ void TelariumTest::OpenDictionary(const std::vector<std::string>& words, const P
 }
 
 void TelariumTest::Draw(const std::vector<std::string>& rows) {
-  NumRighe = static_cast<std::int16_t>(rows.size());
-  NumColonne = static_cast<std::int16_t>(rows.front().size());
-  Schema(1) = "Autore     : Prova";
-  Schema(2) = "Data       : 05-03-2024";
-  Schema(3) = "Tipo       : Crociate Normale";
-  Schema(4) = "Dimensioni : ";
-  ScriviDimensioni(NumColonne, NumRighe);
-  for (int r = 1; r <= NumRighe; ++r) {
-    std::string& line = Schema(r + RigheIntestazione);
-    line.clear();
-    for (const char drawn : rows[static_cast<std::size_t>(r) - 1]) {
-      line += CellOf(drawn);
-      line += drawn == '#' ? CellaNera : CellaVuota;
-    }
-  }
-  NomeCruciverba = "prova.tlrm";
-  RicalcolaCaselle();
+  Change([&](Cruciverba& crossword) {
+    Cruciverba drawn = DrawnCrossword(rows);
+    drawn.definizioni = crossword.definizioni;
+    drawn.colori = crossword.colori;
+    drawn.laboratorio = crossword.laboratorio;
+    crossword = drawn;
+  });
+  SetName("prova.tlrm");
 }
 
 std::vector<std::string> TelariumTest::Drawing() {

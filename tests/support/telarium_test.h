@@ -8,6 +8,7 @@
 
 #include "model/state.h"
 #include "platform/temporary.h"
+#include "support/crossword_state.h"
 #include "support/scripted_platform.h"
 
 namespace telarium {
@@ -42,7 +43,7 @@ class TelariumTest : public ::testing::Test {
                       const Percorso& name = "LessicoItaliano.dat");
 
   /// Makes a drawing the current crossword, one text per row: "#" black, "." empty, any other a
-  /// letter. The derived tables are in line with it.
+  /// letter. Its clues, colours and laboratory stay those of the crossword before.
   static void Draw(const std::vector<std::string>& rows);
 
   /// The current grid as such a drawing, from LetteraCasella and from Schema.

@@ -13,7 +13,7 @@ std::string NotFetched(std::string_view cause) {
 
 TEST_F(Telar, OpensAPageOfTheWebOrAFileToTheByte) {
   Draw({"CAFF", "A#..", "...."});
-  Definizione(1, 1, Orizzontale) = "\xC8 --> nero";
+  SetClue(1, 1, Orizzontale, "\xC8 --> nero");
   const std::string file = TestoDelCruciverba().value();
   Write("la pagina \xC3\xA8.html", CrosswordPage());
   const LoopbackServer server(LoopbackServer::Reply("200 OK", "", CrosswordPage()));

@@ -102,7 +102,7 @@ TEST_F(ClueRoad, GridGetsItsCluesAndTheEncyclopediaTheNewOnes) {
 
 TEST_F(ClueRoad, CancelledTableLeavesTheFetchedCluesToTheReadBack) {
   StartWith({"CASA", "#.#.", "SOLE"});
-  Definizione(1, 3, Orizzontale) = "vecchia";
+  SetClue(1, 3, Orizzontale, "vecchia");
   ASSERT_TRUE(ScriviIstantanea());
   Run("Menuprelfac");
   user.TakeTexts();

@@ -22,7 +22,7 @@ class TelarBroTest : public TelariumTest {
     TelariumTest::SetUp();
     ImpostazioniIniziali();
     Draw({"CASA", "A#LE", "SOLE"});
-    Definizione(1, 1, Orizzontale) = "Ci si abita";
+    SetClue(1, 1, Orizzontale, "Ci si abita");
     ASSERT_TRUE(ScriviIstantanea());
   }
 
@@ -90,7 +90,7 @@ const Texts FirstRows = {
     "1-O CASA Ci si abita", "1-V CAS ", "2-V SLL ", "3-V AEE ", "4-O LE ", "5-O SOLE "};
 
 TEST_F(TelarBroTest, ListsTheWordsOverTheWholeScreen) {
-  NomeCruciverba = "[*].tlrm";
+  SetName("[*].tlrm");
   Show();
   EXPECT_EQ(Rows(), FirstRows);
   EXPECT_EQ(window->windowTitle(), QStringLiteral("Telarium - Cruciverba 4x3  [*][*].tlrm"));
@@ -198,7 +198,7 @@ TEST_F(TelarBroTest, ARefusedWordStaysInEditing) {
 
 TEST_F(TelarBroTest, ALongClueStaysWholeUntilItIsTouched) {
   const std::string longer = "Una riga\r\ne " + std::string(5000, 'x') + " & \t\x81";
-  Definizione(1, 1, Orizzontale) = longer;
+  SetClue(1, 1, Orizzontale, longer);
   Show();
   EXPECT_EQ(Cell(0, 2).substr(0, 12), "Una riga e x");
   Change(0, u"cose");
@@ -245,12 +245,12 @@ TEST_F(TelarBroTest, EachSearchShowsItsOwnClues) {
 }
 
 TEST_F(TelarBroTest, OkHandsTheCrosswordOnThroughTheSnapshot) {
-  Definizione(1, 3, Orizzontale) = "Prelevata";  // by a fetch, in memory alone
+  SetClue(1, 3, Orizzontale, "Prelevata");  // by a fetch, in memory alone
   Show();
   Change(0, u"COSE");
   Click(window->Command3d1);
   EXPECT_FALSE(window->isVisible());
-  AzzeraStato();
+  Forget();
   CartellaProgramma = InFolder("");
   ASSERT_TRUE(LeggiIstantanea());
   EXPECT_EQ(DrawingOfSchema(), (Texts{"COSE", "A#LE", "SOLE"}));
@@ -267,7 +267,7 @@ TEST_F(TelarBroTest, EveryOtherWayOutLeavesGridAndClues) {
       [this] { DoubleClick(1, 1), QTest::keyClick(window->Text2, Qt::Key_Escape); },
   };
   for (const auto& leave : ways) {
-    SchemaModificato = Falso;
+    MarkModified(false);
     Show();
     Change(0, u"COSE", u"Oggetti");
     EXPECT_EQ(Clue(1, 1, Orizzontale), "Oggetti");
@@ -300,7 +300,7 @@ TEST_F(TelarBroTest, OkTakesAnOpenRowAlongUnlessItIsRefused) {
   Texts taken;
   for (const auto& write : ways) {
     Draw({"CASA", "A#LE", "SOLE"});
-    Definizione(1, 1, Orizzontale) = "Ci si abita";
+    SetClue(1, 1, Orizzontale, "Ci si abita");
     Show();
     DoubleClick(0, 1);
     write();
@@ -309,7 +309,7 @@ TEST_F(TelarBroTest, OkTakesAnOpenRowAlongUnlessItIsRefused) {
     taken.push_back(ParolaCasella(1, 1, Orizzontale) + ' ' + Definizione(1, 1, Orizzontale));
   }
   EXPECT_EQ(taken, (Texts{"CASA Oggetti", "COSE Ci si abita", "CASA Un tetto"}));
-  SchemaModificato = Falso;
+  MarkModified(false);
   Show();
   DoubleClick(0, 1);
   Click(window->Command3d1);

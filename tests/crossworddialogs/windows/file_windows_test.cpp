@@ -241,7 +241,7 @@ TEST_F(FileWindows, ANameThatNoTextCanHoldIsSavedUnderItself) {
 }
 
 TEST_F(FileWindows, SaveTakesNameAndAuthor) {
-  NomeCruciverba = NomeMaiSalvato;
+  SetName(NomeMaiSalvato);
   TelarSav window(nullptr);
   Open(window);
   EXPECT_EQ(window.Text1->selectedText(), QStringLiteral("NuovoCruciverba.tlrm"));
@@ -272,7 +272,7 @@ TEST_F(FileWindows, TheFolderChosenForASaveCountsUnlessAFullNameIsTyped) {
   fs::create_directory(chosen);
   const Percorso typed = InFolder("battuto.tlrm");
   for (const Percorso& name : {Percorso(), typed}) {
-    NomeCruciverba = InFolder("caff\xE8.tlrm");  // elsewhere, and no text
+    SetName(InFolder("caff\xE8.tlrm"));  // elsewhere, and no text
     TelarSav window(nullptr);
     Open(window);
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Telarium  - Salvataggio"));

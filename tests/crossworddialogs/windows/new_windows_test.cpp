@@ -61,7 +61,7 @@ TEST_F(NewWindows, AModelIsPickedByItsPictureItsNameOrAKey) {
     if (way == 2) QTest::keyClick(window.Picture1[0], Qt::Key_Return);
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(Schema(5) + Schema(6), "**......AA..");
-    AzzeraStato();
+    Forget();
     CartellaProgramma = InFolder("");
   }
 }

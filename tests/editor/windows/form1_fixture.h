@@ -39,7 +39,7 @@ class Form1Test : public TelariumTest {
 
   // Starts the program as its main does, up to the first idle moment.
   void Start(const Percorso& commandLine = {}) {
-    AzzeraStato();
+    Forget();
     RigaDiComando = commandLine;
     CaricaProgramma(InFolder(""));
     form.reset();  // before another one becomes the window

@@ -115,7 +115,7 @@ TEST_F(Form1Test, HasMenusWithoutTwoMeaningsForAKey) {
 
 TEST_F(Form1Test, DrawsTheGridBetweenItsBarsAndFollowsItsSize) {
   StartWith({"CA#", "...", "..."});
-  ColoreCasella(3, 1) = 0x3060C0;
+  SetColour(3, 1, 0x3060C0);
   for (const QSize& size : {QSize(800, 600), QSize(500, 700)}) {
     Resize(size.width(), size.height());
     const double w = form->Area->width(), h = form->Area->height();
@@ -139,11 +139,11 @@ TEST_F(Form1Test, DrawsTheGridBetweenItsBarsAndFollowsItsSize) {
 
 TEST_F(Form1Test, SavesByItsKeyAndEndsByMenuEsci) {
   StartWith({"CASA"});
-  SchemaModificato = Vero;
+  MarkModified();
   QTest::keyClick(form.get(), Qt::Key_S, Qt::ControlModifier);
   EXPECT_EQ(SchemaModificato, Falso);
 
-  SchemaModificato = Vero;
+  MarkModified();
   user.Answer(Risposta::Annulla);
   // Not through the menu: the end, an exception in tests, must not cross the window library.
   EXPECT_THROW(form->Esegui([this] { ComandoDellaVoce("MenuEsci")(*form); }), ProgramDone);
@@ -318,7 +318,7 @@ TEST_F(EndlessFill, EndsByItsButton) {
 
 TEST_F(EndlessFill, EndsByEscAndHearsNothingElse) {
   RunUntil([this] {
-    SchemaModificato = Vero;
+    MarkModified();
     QTest::keyClick(form.get(), Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(SchemaModificato, Vero) << "saved in the middle of a fill";
     form->close();

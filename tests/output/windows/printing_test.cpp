@@ -79,8 +79,8 @@ class PrintingTest : public Form1Test {
 TEST_F(PrintingTest, MakesAPdfWithTextAndTheGridInItsPlace) {
   StartWith({"PERCH\xC9", "#....."});
   Resize(800, 700);
-  ColoreCasella(1, 2) = 0x3060C0;
-  Definizione(1, 1, Orizzontale) = "Così si chiede, «affinché» è la risposta"_cp;
+  SetColour(1, 2, 0x3060C0);
+  SetClue(1, 1, Orizzontale, "Così si chiede, «affinché» è la risposta"_cp);
   const double width = form->Area->width();
   const Percorso file = InFolder("uscita.pdf");
   QString proposed;
@@ -112,7 +112,7 @@ TEST_F(PrintingTest, MakesAPdfWithTextAndTheGridInItsPlace) {
   EXPECT_EQ(at(OrigineX + side * 6 + 8, OrigineY + side * 1.5), QColor(Qt::white));
 
   ClickButton(PreviewButton);  // and from there on, into the folder of the last one
-  NomeCruciverba = InFolder("altro.tlrm");
+  SetName(InFolder("altro.tlrm"));
   PrintInto(InFolder("secondo.pdf"), *form, &proposed);
   ClickButton(PrintButton);
   EXPECT_EQ(proposed, PercorsoAQt(InFolder("altro.pdf")));

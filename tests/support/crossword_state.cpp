@@ -1,0 +1,66 @@
+#include "support/crossword_state.h"
+
+#include "model/current_crossword.h"
+#include "model/words.h"
+#include "platform/check.h"
+
+namespace telarium {
+
+void Change(const std::function<void(Cruciverba&)>& how) {
+  Cruciverba crossword = CruciverbaCorrente();
+  how(crossword);
+  PrendiCruciverba(crossword);
+  RicalcolaCaselle();
+}
+
+void SetClue(int column, int row, int direction, std::string_view clue) {
+  Change([&](Cruciverba& crossword) {
+    crossword.definizioni.Imposta(std::string(clue), column, row, direction);
+  });
+}
+
+void SetColour(int column, int row, Colore colour) {
+  Change([&](Cruciverba& crossword) { crossword.colori.Imposta(colour, column, row); });
+}
+
+void SetCell(int column, int row, char character) {
+  Change([&](Cruciverba& crossword) { ScriviCarattere(crossword, {column, row}, character); });
+}
+
+void SetLine(int row, std::string_view line) {
+  Change([&](Cruciverba& crossword) {
+    crossword.griglia.at(static_cast<std::size_t>(row) - 1) = std::string(line);
+  });
+}
+
+void SetHeader(int line, std::string_view text) {
+  Change([&](Cruciverba& crossword) {
+    crossword.intestazione.Proprio().at(static_cast<std::size_t>(line) - 1) = text;
+  });
+}
+
+void NoGrid() {
+  Change([](Cruciverba& crossword) {
+    crossword.colonne = crossword.righe = 0;
+    crossword.griglia.clear();
+  });
+}
+
+void SetName(const Percorso& path) {
+  NomeCruciverba = path;
+}
+
+void MarkModified(bool modified) {
+  SchemaModificato = modified ? Vero : Falso;
+}
+
+void Forget() {
+  AzzeraStato();
+}
+
+void SnapshotFromOutside(std::string_view bytes) {
+  Verifica(!ScriviFile(PercorsoIstantanea(), bytes, Permanenza::Provvisoria),
+           "the snapshot could not be written");
+}
+
+}  // namespace telarium
