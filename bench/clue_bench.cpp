@@ -15,6 +15,7 @@
 #include "clues/windows/frmParole.h"
 #include "clues/windows/telariummdb.h"
 #include "crossworddialogs/new_crossword.h"
+#include "dictionary/open_dictionary.h"
 #include "editor/settings.h"
 #include "median_keeper.h"
 #include "model/crossword_file.h"
@@ -137,12 +138,8 @@ void BM_Import(benchmark::State& state) {
 
 // The longest section with all places free, until the list stands on the screen.
 void BM_MaskedSearch(benchmark::State& state) {
-  CartellaProgramma = TELARIUM_DATA_DIR;
-  NomeDizionario = DizionariDiSistema[0];
-  Expect(ApriDizionario());
-  CartellaProgramma = folder;
-  std::filesystem::copy_file(Percorso(TELARIUM_DATA_DIR) / NomeDizionario, folder / NomeDizionario,
-                             std::filesystem::copy_options::overwrite_existing);
+  IlDizionario() = Dizionario(TELARIUM_DATA_DIR);
+  Expect(ApriDizionario(IlDizionario()));
   Expect(NuovoVuoto(12, 3) == EsitoNuovo::Fatto);
   RicalcolaCaselle();
   TelarDef window({.testo = {ParolaCasella(1, 1, Orizzontale), {}}, .numero = 1}, nullptr);

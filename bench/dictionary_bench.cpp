@@ -4,7 +4,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "dictionary/dictionary.h"
+#include "dictionary/open_dictionary.h"
 #include "dictionary/windows/Form4.h"
 #include "median_keeper.h"
 #include "offscreen_main.h"
@@ -91,8 +91,9 @@ int Main() {
   BenchPlatform platform;
   ImpostaPiattaforma(&platform);
   CartellaProgramma = temporary.Nome();
-  std::filesystem::copy(Percorso(TELARIUM_DATA_DIR) / NomeDizionario, CartellaProgramma);
-  if (!ApriDizionario()) return 1;
+  std::filesystem::copy(Percorso(TELARIUM_DATA_DIR) / DizionariDiSistema[0], CartellaProgramma);
+  IlDizionario() = Dizionario(CartellaProgramma);
+  if (!ApriDizionario(IlDizionario())) return 1;
   Register("read", BM_Read);
   Register("rebuild", BM_Rebuild);
   Register("add", BM_Add);

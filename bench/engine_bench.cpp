@@ -8,8 +8,8 @@
 #include "comparison_table.h"
 #include "crossworddialogs/model_file.h"
 #include "crossworddialogs/new_crossword.h"
-#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
+#include "dictionary/open_dictionary.h"
 #include "editor/commit.h"
 #include "editor/fill_command.h"
 #include "fill/word_choice.h"
@@ -29,14 +29,16 @@ namespace {
 constexpr int ModelNumber = 4;  // the first 13x13 grid of STANDARD.dfc, counted from 0
 constexpr int FillSeeds = 3;    // fills to an iteration, each from a seed of its own
 
-Percorso Dictionary() {
-  return CartellaProgramma / NomeDizionario;
+const Dizionario& Dictionary() {
+  return IlDizionario();
 }
 
 // The longest section, in bytes, of the open dictionary.
 int LongestSection() {
   int longest = MinLunghezza;
-  const auto bytes = [](int length) { return length * ContaLunghezza(length - MinLunghezza); };
+  const auto bytes = [](int length) {
+    return length * Dictionary().ContaLunghezza(length - MinLunghezza);
+  };
   for (int length = MinLunghezza; length <= MaxLunghezza; ++length) {
     if (bytes(length) > bytes(longest)) longest = length;
   }
@@ -70,7 +72,7 @@ void BM_CandidatesPlain(benchmark::State& state, const std::string& pattern) {
 }
 
 void BM_Candidates(benchmark::State& state, const std::string& pattern) {
-  SceltaDiParole choice([] { return 0.0; });
+  SceltaDiParole choice(Dictionary(), [] { return 0.0; });
   for (auto _ : state)
     benchmark::DoNotOptimize(choice.CercaCandidati(pattern));
 }
@@ -82,7 +84,7 @@ void BM_MissingWordPlain(benchmark::State& state) {
 }
 
 void BM_MissingWord(benchmark::State& state) {
-  SceltaDiParole choice([] { return 0.0; });
+  SceltaDiParole choice(Dictionary(), [] { return 0.0; });
   const std::string word = MissingWord();
   for (auto _ : state)
     benchmark::DoNotOptimize(choice.ParolaEsiste(word));
@@ -151,8 +153,8 @@ void BM_ReadFullCrossword(benchmark::State& state, const Percorso& path) {
 std::string WordList() {
   std::string list;
   for (int length = MinLunghezza; length <= MaxLunghezza; ++length) {
-    for (int n = 1; n <= ContaLunghezza(length - MinLunghezza); ++n) {
-      list += LeggiParola(static_cast<std::int16_t>(n), length) + '\n';
+    for (int n = 1; n <= Dictionary().ContaLunghezza(length - MinLunghezza); ++n) {
+      list += Dictionary().LeggiParola(static_cast<std::int16_t>(n), length) + '\n';
     }
   }
   return list;
@@ -235,7 +237,8 @@ int Main(int argc, char** argv) {
   ImpostaPiattaforma(&platform);
   CartellaProgramma = TELARIUM_DATA_DIR;
   CartellaIstantanea = temporary.Nome();
-  ApriDizionario();
+  IlDizionario() = Dizionario(CartellaProgramma);
+  ApriDizionario(IlDizionario());
   const Percorso full = WriteFullCrossword(temporary.Nome());
   RequireEqualFills(platform);
   RegisterAll(platform, full, WordList(), temporary.Nome());

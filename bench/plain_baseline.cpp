@@ -4,17 +4,15 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "dictionary/dictionary.h"
-
 namespace telarium::plain {
 namespace {
 
 // Calls `visit` with the number and the text of each word of a section until it gives false.
 template <class Visit>
-void ForEachWord(const Percorso& dictionary, int length, Visit visit) {
-  const int file = ::open(dictionary.c_str(), O_RDONLY);
-  const off_t start = OffsetLunghezza(length - MinLunghezza) - 1;
-  const int count = ContaLunghezza(length - MinLunghezza);
+void ForEachWord(const Dizionario& dictionary, int length, Visit visit) {
+  const int file = ::open(dictionary.PercorsoDizionario().c_str(), O_RDONLY);
+  const off_t start = dictionary.OffsetLunghezza(length - MinLunghezza) - 1;
+  const int count = dictionary.ContaLunghezza(length - MinLunghezza);
   std::string word(static_cast<std::size_t>(length), ' ');
   for (int n = 1; n <= count; ++n) {
     ::lseek(file, start + off_t{n - 1} * length, SEEK_SET);
@@ -41,7 +39,7 @@ struct Run {
 
 class PlainFill {
  public:
-  PlainFill(const Percorso& dictionary, std::vector<std::string> rows,
+  PlainFill(const Dizionario& dictionary, std::vector<std::string> rows,
             const std::function<double()>& random)
       : dictionary_(dictionary), random_(random), width_(rows.front().size()) {
     for (const std::string& row : rows)
@@ -124,7 +122,7 @@ class PlainFill {
     }
   }
 
-  const Percorso& dictionary_;
+  const Dizionario& dictionary_;
   const std::function<double()>& random_;
   std::size_t width_;
   std::string grid_;
@@ -134,7 +132,7 @@ class PlainFill {
 
 }  // namespace
 
-std::vector<int> FittingWords(const Percorso& dictionary, std::string_view pattern) {
+std::vector<int> FittingWords(const Dizionario& dictionary, std::string_view pattern) {
   std::vector<int> numbers;
   const bool blank = IsBlank(pattern);
   ForEachWord(dictionary, static_cast<int>(pattern.size()), [&](int n, const std::string& word) {
@@ -145,7 +143,7 @@ std::vector<int> FittingWords(const Percorso& dictionary, std::string_view patte
   return numbers;
 }
 
-bool WordExists(const Percorso& dictionary, std::string_view pattern) {
+bool WordExists(const Dizionario& dictionary, std::string_view pattern) {
   if (!LunghezzaAmmessa(static_cast<int>(pattern.size()))) return false;
   bool found = false;
   ForEachWord(dictionary, static_cast<int>(pattern.size()), [&](int, const std::string& word) {
@@ -155,16 +153,17 @@ bool WordExists(const Percorso& dictionary, std::string_view pattern) {
   return found;
 }
 
-std::string ReadWord(const Percorso& dictionary, int number, int length) {
-  const int file = ::open(dictionary.c_str(), O_RDONLY);
+std::string ReadWord(const Dizionario& dictionary, int number, int length) {
+  const int file = ::open(dictionary.PercorsoDizionario().c_str(), O_RDONLY);
   std::string word(static_cast<std::size_t>(length), ' ');
-  ::lseek(file, OffsetLunghezza(length - MinLunghezza) - 1 + off_t{number - 1} * length, SEEK_SET);
+  ::lseek(file, dictionary.OffsetLunghezza(length - MinLunghezza) - 1 + off_t{number - 1} * length,
+          SEEK_SET);
   const bool read = ::read(file, word.data(), word.size()) == length;
   ::close(file);
   return read ? word : std::string();
 }
 
-std::vector<std::string> Fill(const Percorso& dictionary, std::vector<std::string> rows,
+std::vector<std::string> Fill(const Dizionario& dictionary, std::vector<std::string> rows,
                               const std::function<double()>& random) {
   return PlainFill(dictionary, std::move(rows), random).Rows();
 }

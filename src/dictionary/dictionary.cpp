@@ -1,50 +1,29 @@
 #include "dictionary/dictionary.h"
 
-#include "dictionary/dictionary_file.h"
+#include "platform/check.h"
 #include "platform/codepage.h"
-#include "platform/platform.h"
 
 namespace telarium {
 
-Percorso NomeDizionario = DizionariDiSistema[0];
-std::int16_t LinguaDizionario = 1;
-Tabella<std::int32_t, AsseLunghezze> OffsetLunghezza("OffsetLunghezza");
-Tabella<std::int32_t, AsseLunghezze> ContaLunghezza("ContaLunghezza");
-
-namespace {
-
-void AzzeraDizionario() {
-  NomeDizionario = DizionariDiSistema[0];
-  LinguaDizionario = 1;
-  OffsetLunghezza.Riempi(0);
-  ContaLunghezza.Riempi(0);
+void Dizionario::Nomina(Percorso nome, std::int16_t lingua) {
+  nome_ = std::move(nome);
+  lingua_ = lingua;
 }
 
-const AzzeramentoDiSottosistema azzeramento(AzzeraDizionario);
-
-}  // namespace
-
-Percorso PercorsoDizionario() {
-  return PercorsoNellaCartella(CartellaProgramma, NomeDizionario);
-}
-
-bool ApriDizionario() {
-  if (!TrovaFile(CartellaProgramma, NomeDizionario)) {
-    Avvisa("Errore fatale! non trovato file di vocabolario: " + TestoPercorso(NomeDizionario));
-    TerminaProgramma();
-  }
+Dizionario::Apertura Dizionario::Apri() {
+  if (!TrovaFile(cartella_, nome_)) return Apertura::Assente;
   const FileDizionario file(PercorsoDizionario());
-  int indice = 0;
-  for (const auto& [inizio, conta] : LeggiSezioni(file)) {
-    OffsetLunghezza(indice) = inizio;
-    ContaLunghezza(indice) = conta;
-    ++indice;
-  }
-  if (!file.Leggibile()) AvvisaDizionarioIlleggibile();
-  return file.Leggibile();
+  sezioni_ = LeggiSezioni(file);
+  return file.Leggibile() ? Apertura::Riuscita : Apertura::Illeggibile;
 }
 
-std::string LeggiParola(std::int16_t numero, int lunghezza) {
+const SezioneDizionario& Dizionario::Sezione(int indice) const {
+  const auto posto = static_cast<std::size_t>(indice);
+  Verifica(posto < sezioni_.size(), "Dizionario: lunghezza fuori da 3 a 15");
+  return sezioni_[posto];
+}
+
+std::string Dizionario::LeggiParola(std::int16_t numero, int lunghezza) const {
   const FileDizionario file(PercorsoDizionario());
   std::string parola(static_cast<std::size_t>(lunghezza), ' ');
   const std::int64_t inizio = OffsetLunghezza(lunghezza - MinLunghezza);
@@ -52,20 +31,16 @@ std::string LeggiParola(std::int16_t numero, int lunghezza) {
   return file.Leggibile() ? parola : std::string();
 }
 
-bool DizionarioLeggibile() {
+bool Dizionario::Leggibile() const {
   return FileDizionario(PercorsoDizionario()).Aperto();
 }
 
-std::string TestoDizionarioIlleggibile() {
+std::string Dizionario::TestoIlleggibile() const {
   const Percorso nome = PercorsoDizionario();
   const FileDizionario file(nome);
   return ConCausa(
       "Impossibile leggere il dizionario.", nome,
       file.Aperto() ? "la lettura non è riuscita"_cp : DescrizioneErrore(file.Errore()));
-}
-
-void AvvisaDizionarioIlleggibile() {
-  Avvisa(TestoDizionarioIlleggibile());
 }
 
 }  // namespace telarium

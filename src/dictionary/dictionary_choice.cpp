@@ -1,16 +1,9 @@
 #include "dictionary/dictionary_choice.h"
 
-#include "dictionary/dictionary.h"
-#include "model/state.h"
 #include "platform/text.h"
 
 namespace telarium {
-
-std::int16_t NumVociDizionari = 0;
-
 namespace {
-
-const AzzeramentoDiSottosistema azzeramento([] { NumVociDizionari = 0; });
 
 // Adds a separator and the dictionaries of a group.
 void AggiungiGruppo(const std::vector<Percorso>& file, std::string_view coda,
@@ -22,27 +15,12 @@ void AggiungiGruppo(const std::vector<Percorso>& file, std::string_view coda,
 
 }  // namespace
 
-std::vector<VoceDiDizionario> CaricaVociDizionari() {
+std::vector<VoceDiDizionario> CaricaVociDizionari(const Percorso& cartella) {
   std::vector<VoceDiDizionario> voci;
-  AggiungiGruppo(ElencaFile(CartellaProgramma, "lessico*.dat"), " - (Diz. di sistema)", voci);
-  const std::vector<Percorso> privati = ElencaFile(CartellaProgramma, "*.priv");
+  AggiungiGruppo(ElencaFile(cartella, "lessico*.dat"), " - (Diz. di sistema)", voci);
+  const std::vector<Percorso> privati = ElencaFile(cartella, "*.priv");
   if (!privati.empty()) AggiungiGruppo(privati, " - (Diz. privato)", voci);
-  NumVociDizionari = static_cast<std::int16_t>(voci.size());
   return voci;
-}
-
-void ConDizionario(const Percorso& nome, const std::function<void()>& operazione) {
-  // The name comes back whatever happens.
-  struct Nome {
-    Percorso prima = NomeDizionario;
-    ~Nome() { NomeDizionario = prima; }
-  };
-  {
-    const Nome conservato;
-    NomeDizionario = nome;
-    if (ApriDizionario()) operazione();
-  }
-  ApriDizionario();
 }
 
 }  // namespace telarium

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,17 +14,8 @@ struct VoceDiDizionario {
   Percorso file;
 };
 
-/// Index of the popup's last entry that its last opening has loaded; entry 0 is fixed.
-extern std::int16_t NumVociDizionari;
-
-/// The entries of the popup from index 1 on, as the program folder is now: a separator, the
-/// dictionaries of the system, and behind another separator the private ones if there are any. Sets
-/// NumVociDizionari.
-std::vector<VoceDiDizionario> CaricaVociDizionari();
-
-/// Runs an operation while another dictionary is the open one, then opens the earlier one again. A
-/// dictionary whose file is gone ends the program; one that cannot be read is told, and nothing is
-/// run.
-void ConDizionario(const Percorso& nome, const std::function<void()>& operazione);
+/// The entries of the popup behind its fixed first one, as a folder is now: a separator, the
+/// dictionaries of the system, and behind another separator the private ones if there are any.
+std::vector<VoceDiDizionario> CaricaVociDizionari(const Percorso& cartella);
 
 }  // namespace telarium

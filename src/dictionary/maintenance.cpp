@@ -1,14 +1,11 @@
 #include "dictionary/maintenance.h"
 
 #include <algorithm>
-#include <fcntl.h>
-#include <unistd.h>
 
 #include "dictionary/dictionary.h"
-#include "dictionary/dictionary_file.h"
 #include "dictionary/word_list.h"
 #include "platform/codepage.h"
-#include "platform/descriptor.h"
+#include "platform/random_access_file.h"
 #include "platform/text.h"
 
 namespace telarium {
@@ -26,13 +23,13 @@ bool AmmessoInUnNome(char carattere) {
 
 // What a file begins with, which holds more lines than are taken; none when it cannot be read.
 std::optional<std::string> LeggiInizio(const Percorso& nome, std::error_code& errore) {
-  const FileDizionario file(nome);
+  const FileAdAccessoDiretto file(nome);
   errore = file.Errore();
   if (!file.Aperto()) return std::nullopt;
   std::error_code ignorato;
   const auto misura = std::filesystem::file_size(nome, ignorato);
   std::string testo(std::min<std::uintmax_t>(ignorato ? 0 : misura, MaxByteListaDiParole), '\0');
-  testo.resize(file.Leggi(1, testo.data(), testo.size()));
+  testo.resize(file.Leggi(0, testo.data(), testo.size()));
   return testo;
 }
 
@@ -55,26 +52,22 @@ std::optional<Percorso> NomeDizionarioPrivato(std::string_view testo) {
 }
 
 std::error_code CreaDizionarioVuoto(const Percorso& nome) {
-  constexpr mode_t permessi = 0666;  // less what the user's mask takes away
-  const Percorso intero = CartellaProgramma / nome;
-  const Descrittore file(::open(intero.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permessi));
-  return file ? std::error_code() : std::error_code(errno, std::generic_category());
+  return ScriviFileNuovo(nome, {});
 }
 
 bool CancellaDizionario(const Percorso& nome) {
-  const Percorso intero = CartellaProgramma / nome;
   // The folder would allow it, but whoever protected the file does not want it deleted.
-  if (::faccessat(AT_FDCWD, intero.c_str(), W_OK, AT_EACCESS) != 0) return false;
+  if (!FileModificabile(nome)) return false;
   std::error_code errore;
-  return std::filesystem::remove(intero, errore);
+  return std::filesystem::remove(nome, errore);
 }
 
-Percorso ListaDaImportare(int lunghezza) {
-  return PercorsoNellaCartella(CartellaProgramma, Unisci(lunghezza, ".txt"));
+Percorso ListaDaImportare(const Percorso& cartella, int lunghezza) {
+  return PercorsoNellaCartella(cartella, Unisci(lunghezza, ".txt"));
 }
 
-std::optional<ListaImportata> LeggiListaDaImportare(int lunghezza, std::error_code& errore) {
-  auto inizio = LeggiInizio(ListaDaImportare(lunghezza), errore);
+std::optional<ListaImportata> LeggiListaDaImportare(const Percorso& nome, std::error_code& errore) {
+  auto inizio = LeggiInizio(nome, errore);
   if (!inizio) return std::nullopt;
   const std::string testo = NellaCodePage(std::move(*inizio));
   ListaImportata lista;

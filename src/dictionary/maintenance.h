@@ -19,12 +19,10 @@ std::optional<std::int16_t> LinguaDelDizionario(const Percorso& nome);
 /// None for what is no plain name of a file, or that of a hidden one.
 std::optional<Percorso> NomeDizionarioPrivato(std::string_view testo);
 
-/// Makes an empty dictionary in the program folder. The error, 0 for none; a file that is there
-/// already is one.
+/// Makes an empty dictionary. The error, 0 for none; a file that is there already is one.
 [[nodiscard]] std::error_code CreaDizionarioVuoto(const Percorso& nome);
 
-/// Deletes a dictionary of the program folder. False when it is not there, is write-protected or
-/// cannot be deleted.
+/// Deletes a dictionary. False when it is not there, is write-protected or cannot be deleted.
 [[nodiscard]] bool CancellaDizionario(const Percorso& nome);
 
 /// The lines of a word list that are not blank, as they stand, and the number of the last one of
@@ -34,10 +32,10 @@ struct ListaImportata {
   int righe = 0;
 };
 
-/// The plain list of the words of a length in the program folder, "3.txt" to "15.txt".
-Percorso ListaDaImportare(int lunghezza);
+/// The plain list of the words of a length in a folder, "3.txt" to "15.txt".
+Percorso ListaDaImportare(const Percorso& cartella, int lunghezza);
 
 /// Its first 32,200 lines. None when it cannot be read, for which `errore` says why.
-std::optional<ListaImportata> LeggiListaDaImportare(int lunghezza, std::error_code& errore);
+std::optional<ListaImportata> LeggiListaDaImportare(const Percorso& lista, std::error_code& errore);
 
 }  // namespace telarium

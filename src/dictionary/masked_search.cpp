@@ -5,12 +5,12 @@
 
 namespace telarium {
 
-EsitoRicerca CercaParole(std::string_view maschera,
+EsitoRicerca CercaParole(const Dizionario& dizionario, std::string_view maschera,
                          const std::function<void(std::string_view)>& accogli,
                          const std::function<void(int, int)>& avanzamento) {
   const ModelloParola modello(maschera);
-  const int conto = UltimoNumero(modello.Lunghezza());
-  ScansioneSezione scansione(modello.Lunghezza());
+  const int conto = dizionario.UltimoNumero(modello.Lunghezza());
+  ScansioneSezione scansione(dizionario, modello.Lunghezza());
   EsitoRicerca esito;
   BloccoDiParole blocco;
   while (scansione.Prossimo(blocco)) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "dictionary/dictionary.h"
+
 namespace telarium {
 
 /// What happened to a masked search.
@@ -12,11 +14,11 @@ struct EsitoRicerca {
   int trovate = 0;
 };
 
-/// Lists the words of the open dictionary that fit a mask of 3 to 15 characters, in the order of
+/// Lists the words of a dictionary that fit a mask of 3 to 15 characters, in the order of
 /// the section; PostoLibero is a free place, and all places free list the whole section. `accogli`
 /// gets each word; `avanzamento`, which may be empty, the last word number looked at and the count,
 /// now and then and at the end.
-EsitoRicerca CercaParole(std::string_view maschera,
+EsitoRicerca CercaParole(const Dizionario& dizionario, std::string_view maschera,
                          const std::function<void(std::string_view)>& accogli,
                          const std::function<void(int numero, int conto)>& avanzamento = {});
 

@@ -2,24 +2,20 @@
 
 #include <algorithm>
 
-#include "platform/check.h"
-
 namespace telarium {
 
-int UltimoNumero(int lunghezza) {
-  return SezioneDizionario{.conta = ContaLunghezza(lunghezza - MinLunghezza)}.UltimoNumero();
-}
-
-ScansioneSezione::ScansioneSezione(int lunghezza)
-    : file_(PercorsoDizionario()), lunghezza_(lunghezza), ultimo_(UltimoNumero(lunghezza)) {}
+ScansioneSezione::ScansioneSezione(const Dizionario& dizionario, int lunghezza)
+    : file_(dizionario.PercorsoDizionario()),
+      lunghezza_(lunghezza),
+      inizio_(dizionario.OffsetLunghezza(lunghezza - MinLunghezza)),
+      ultimo_(dizionario.UltimoNumero(lunghezza)) {}
 
 bool ScansioneSezione::Prossimo(BloccoDiParole& blocco) {
   if (prossimo_ > ultimo_) return false;
   const int perBlocco = static_cast<int>(ByteBlocco) / lunghezza_;
   const int volute = std::min(perBlocco, ultimo_ - prossimo_ + 1);
-  const std::int64_t inizio = OffsetLunghezza(lunghezza_ - MinLunghezza);
   const std::size_t letti =
-      file_.Leggi(inizio + std::int64_t{prossimo_ - 1} * lunghezza_, blocco_,
+      file_.Leggi(inizio_ + std::int64_t{prossimo_ - 1} * lunghezza_, blocco_,
                   static_cast<std::size_t>(volute) * static_cast<std::size_t>(lunghezza_));
   blocco = {.inizio = blocco_,
             .lunghezza = lunghezza_,

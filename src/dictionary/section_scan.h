@@ -4,7 +4,6 @@
 #include <cstdint>
 
 #include "dictionary/dictionary.h"
-#include "dictionary/dictionary_file.h"
 
 namespace telarium {
 
@@ -20,16 +19,12 @@ struct BloccoDiParole {
   }
 };
 
-/// The last word number that a scan of a section goes to: the low 16 bits of its count, as a signed
-/// number. Counts past 32,767 thus scan less, or nothing.
-int UltimoNumero(int lunghezza);
-
-/// Goes through the section of one length of the open dictionary, from its first word to its last,
-/// a few thousand words to a read. Ends early where the file ends.
+/// Goes through the section of one length of a dictionary, from its first word to its last, a few
+/// thousand words to a read. Ends early where the file ends.
 class ScansioneSezione {
  public:
   /// `lunghezza` is one of 3 to 15. Opens the file.
-  explicit ScansioneSezione(int lunghezza);
+  ScansioneSezione(const Dizionario& dizionario, int lunghezza);
 
   /// Whether it could be opened and, as far as the scan has come, read.
   bool Leggibile() const { return file_.Leggibile(); }
@@ -43,6 +38,7 @@ class ScansioneSezione {
 
   FileDizionario file_;
   int lunghezza_;
+  std::int64_t inizio_;
   int ultimo_;
   int prossimo_ = 1;
   char blocco_[ByteBlocco];

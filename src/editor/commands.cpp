@@ -2,8 +2,8 @@
 
 #include "auxiliary/guide.h"
 #include "auxiliary/tips.h"
-#include "dictionary/dictionary.h"
 #include "dictionary/maintenance.h"
+#include "dictionary/open_dictionary.h"
 #include "editor/main_window.h"
 #include "editor/redraw.h"
 #include "editor/settings.h"
@@ -75,11 +75,11 @@ void LasciaAnteprima() {
 }
 
 void CambiaLingua(int lingua) {
-  if (lingua == LinguaDizionario) return;
-  LinguaDizionario = static_cast<std::int16_t>(lingua);
-  NomeDizionario = DizionariDiSistema[lingua - 1];
+  Dizionario& dizionario = IlDizionario();
+  if (lingua == dizionario.LinguaDizionario()) return;
+  dizionario.Nomina(DizionariDiSistema[lingua - 1], static_cast<std::int16_t>(lingua));
   AggiornaSpunte();
-  ApriDizionario();
+  ApriDizionario(dizionario);
 }
 
 void GestisciDizionari() {
@@ -151,8 +151,9 @@ void AggiornaSpunte() {
   FinestraEditor& finestra = LaFinestra();
   finestra.SpuntaVoce("MenuVis", StampaSoluzioni);
   finestra.SpuntaVoce("Menurett", RettangoloParola);
+  const auto lingua = LinguaDelDizionario(IlDizionario().NomeDizionario());
   for (int i = 0; i < NumLingue; ++i)
-    finestra.SpuntaVoce(VociDiLingua[i], LinguaDelDizionario(NomeDizionario) == i + 1);
+    finestra.SpuntaVoce(VociDiLingua[i], lingua == i + 1);
 }
 
 }  // namespace telarium

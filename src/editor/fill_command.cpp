@@ -1,6 +1,6 @@
 #include "editor/fill_command.h"
 
-#include "dictionary/dictionary.h"
+#include "dictionary/open_dictionary.h"
 #include "editor/commit.h"
 #include "editor/placed_word.h"
 #include "editor/redraw.h"
@@ -95,8 +95,9 @@ std::optional<EsitoEstrazione> ComandoEstrazione::EstraiSchema() {
 }
 
 EsitoEstrazione ComandoEstrazione::EseguiEstrazione() {
-  if (!DizionarioLeggibile()) {
-    AvvisaDizionarioIlleggibile();
+  const Dizionario& dizionario = IlDizionario();
+  if (!dizionario.Leggibile()) {
+    Avvisa(dizionario.TestoIlleggibile());
     return EsitoEstrazione::SenzaParole;
   }
   if (!ScriviIstantanea()) return EsitoEstrazione::NonRegistrata;
@@ -105,7 +106,7 @@ EsitoEstrazione ComandoEstrazione::EseguiEstrazione() {
   const Clessidra clessidra;
   EstrazioneInVista vista(segue_, ProvaInfinita);
   Estrazione estrazione(
-      CruciverbaCorrente(), [] { return Sistema().Casuale(); }, vista);
+      CruciverbaCorrente(), dizionario, [] { return Sistema().Casuale(); }, vista);
   const RisultatoEstrazione risultato = estrazione.Esegui();
   vista.Fine(risultato);
   return risultato.esito;

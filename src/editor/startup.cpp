@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "auxiliary/addresses.h"
-#include "dictionary/dictionary.h"
+#include "dictionary/open_dictionary.h"
 #include "editor/cell_drawing.h"
 #include "editor/commands.h"
 #include "editor/commit.h"
@@ -82,13 +82,12 @@ void CaricaProgramma(const Percorso& cartella) {
   std::filesystem::current_path(cartella, ignorato);
   LeggiIndirizzi();
   ControllaAggiornamento();
-  LinguaDizionario = 1;
-  NomeDizionario = DizionariDiSistema[0];
+  IlDizionario() = Dizionario(cartella);
   TastoSin = Falso;
   LeggiImpostazioniOTermina();
   ScegliCartellaIstantanea();
   EliminaIstantanea();
-  ApriDizionario();
+  ApriDizionario(IlDizionario());
   SchemaModificato = Falso;
   FontDelleLettere();
 }

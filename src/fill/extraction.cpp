@@ -62,12 +62,13 @@ void SvuotaRiga(std::string& riga) {
 
 }  // namespace
 
-Estrazione::Estrazione(const Cruciverba& cruciverba, Caso caso, OsservatoreEstrazione& osservatore)
+Estrazione::Estrazione(const Cruciverba& cruciverba, const Dizionario& dizionario, Caso caso,
+                       OsservatoreEstrazione& osservatore)
     : cruciverba_(cruciverba),
       osservatore_(osservatore),
       griglia_(cruciverba_),
       slot_(SlotInOrdine(griglia_)),
-      scelta_(std::move(caso)) {}
+      scelta_(dizionario, std::move(caso)) {}
 
 RisultatoEstrazione Estrazione::Esegui() {
   Seguito seguito;

@@ -62,12 +62,13 @@ struct RisultatoEstrazione {
 class Estrazione {
  public:
   /// What is handed in must outlive the run.
-  Estrazione(const Cruciverba& cruciverba, Caso caso, OsservatoreEstrazione& osservatore);
+  Estrazione(const Cruciverba& cruciverba, const Dizionario& dizionario, Caso caso,
+             OsservatoreEstrazione& osservatore);
 
-  /// Fills the whole grid with words of the open dictionary, once: erases all letters and the clues
+  /// Fills the whole grid with words of the dictionary, once: erases all letters and the clues
   /// of all words, takes the slots from the longest to the shortest, puts one random fitting word
   /// in each and never takes one back. Dead ends are put to the observer. Then every cell still
-  /// empty gets a random letter. There must be an open dictionary.
+  /// empty gets a random letter.
   RisultatoEstrazione Esegui();
 
  private:

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "dictionary/dictionary.h"
 #include "dictionary/word_pattern.h"
 #include "platform/check.h"
 #include "platform/text.h"
@@ -82,14 +81,14 @@ std::optional<bool> SceltaDiParole::Esiste(std::string_view modello) {
   std::string conSpazi(modello);
   std::replace(conSpazi.begin(), conSpazi.end(), CellaVuota, PostoLibero);
   const ModelloParola cercato(conSpazi);
-  ScansioneSezione scansione(lunghezza);
+  ScansioneSezione scansione(dizionario_, lunghezza);
   BloccoDiParole blocco;
   while (scansione.Prossimo(blocco)) {
     const bool nessuna = cercato.PerOgniAdatta(blocco, [](int) { return false; });
     if (!nessuna) return true;
   }
   if (scansione.Leggibile()) return false;
-  errore_ = TestoDizionarioIlleggibile();
+  errore_ = dizionario_.TestoIlleggibile();
   return std::nullopt;
 }
 
@@ -104,7 +103,7 @@ bool SceltaDiParole::CercaCandidati(std::string_view modello) {
     candidati_(++numCandidati_) = static_cast<std::int16_t>(numero);
   };
   const ModelloParola adatto(modello);
-  ScansioneSezione scansione(lunghezza);
+  ScansioneSezione scansione(dizionario_, lunghezza);
   BloccoDiParole blocco;
   while (scansione.Prossimo(blocco)) {
     if (adatto.TuttoLibero()) {
@@ -116,7 +115,7 @@ bool SceltaDiParole::CercaCandidati(std::string_view modello) {
       });
     }
   }
-  if (!scansione.Leggibile()) errore_ = TestoDizionarioIlleggibile();
+  if (!scansione.Leggibile()) errore_ = dizionario_.TestoIlleggibile();
   return scansione.Leggibile();
 }
 
@@ -124,8 +123,8 @@ std::string SceltaDiParole::EstraiParola(int lunghezza) {
   VerificaInvariante(numCandidati_ > 0, "EstraiParola senza candidati");
   // The 1 is added behind the cut: a draw next to 1 would round up to a place too many.
   const int posto = static_cast<int>(numCandidati_ * caso_()) + 1;
-  std::string parola = LeggiParola(candidati_(posto), lunghezza);
-  if (parola.empty()) errore_ = TestoDizionarioIlleggibile();
+  std::string parola = dizionario_.LeggiParola(candidati_(posto), lunghezza);
+  if (parola.empty()) errore_ = dizionario_.TestoIlleggibile();
   return parola;
 }
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "dictionary/dictionary_format.h"
+#include "dictionary/dictionary.h"
 #include "fill/fill_grid.h"
 #include "model/boolean.h"
 
@@ -26,7 +26,9 @@ struct EsitoIncroci {
 
 class SceltaDiParole {
  public:
-  explicit SceltaDiParole(Caso caso) : caso_(std::move(caso)) {}
+  /// The dictionary must outlive it.
+  SceltaDiParole(const Dizionario& dizionario, Caso caso)
+      : dizionario_(dizionario), caso_(std::move(caso)) {}
 
   /// Takes as candidates the words of the dictionary that fit the pattern. An all-blank pattern
   /// takes no word with a Q or an H. False for a length that no dictionary holds, and when the
@@ -61,6 +63,7 @@ class SceltaDiParole {
 
   std::optional<bool> Esiste(std::string_view modello);
 
+  const Dizionario& dizionario_;
   Caso caso_;
   std::string errore_;
   /// Room for all words that a section can number.

@@ -291,8 +291,7 @@ std::error_code ScriviFile(const Percorso& nome, std::string_view contenuto, Per
 
   const Percorso definitivo = DietroICollegamenti(nome);
   // The folder would allow it, but whoever protected the file does not want it written over.
-  const bool scrivibile = ::faccessat(AT_FDCWD, definitivo.c_str(), W_OK, AT_EACCESS) == 0;
-  if (!scrivibile && errno != ENOENT) return UltimoErrore();
+  if (!FileModificabile(definitivo) && errno != ENOENT) return UltimoErrore();
   FileAccanto nuovo(definitivo, accanto);
   if ((errore = nuovo.Scrivi(contenuto, permanenza))) return errore;
   if ((errore = nuovo.PrendiIlPosto())) return errore;
@@ -403,6 +402,10 @@ std::error_code ErroreDellaCartella(const Percorso& cartella) {
 bool FileOrdinario(const Percorso& nome) {
   std::error_code ignorato;
   return fs::is_regular_file(nome, ignorato);
+}
+
+bool FileModificabile(const Percorso& nome) {
+  return ::faccessat(AT_FDCWD, nome.c_str(), W_OK, AT_EACCESS) == 0;
 }
 
 bool FileNascosto(const Percorso& nome) {

@@ -87,6 +87,9 @@ std::error_code ErroreDellaCartella(const Percorso& cartella);
 /// a reader waiting for ever.
 bool FileOrdinario(const Percorso& nome);
 
+/// Whether a file is there and not protected against changes.
+bool FileModificabile(const Percorso& nome);
+
 /// Whether the system's own lists leave a file or folder out.
 bool FileNascosto(const Percorso& nome);
 

@@ -2,7 +2,6 @@
 #include <cstdio>
 
 #include "crossworddialogs/new_crossword.h"
-#include "dictionary/dictionary.h"
 #include "editor/commit.h"
 #include "fill/extraction.h"
 #include "model/crossword_file.h"
@@ -152,11 +151,12 @@ class RispostePerEstrazione : public OsservatoreEstrazione {
 
 Stato Estrai(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   RispostePerEstrazione risposte(argomenti, piattaforma.ChiUsa());
-  NomeDizionario = argomenti.Valore("--dizionario", NomeDizionario.string());
-  if (!Apri(argomenti.liberi[0]) || !ApriDizionario()) return Stato::Fallito;
+  if (!Apri(argomenti.liberi[0])) return Stato::Fallito;
+  const auto dizionario = ApriDizionario(argomenti.Valore("--dizionario", DizionariDiSistema[0]));
+  if (!dizionario) return Stato::Fallito;
   AscoltaInterruzione();
   Estrazione estrazione(
-      CruciverbaCorrente(), [] { return Sistema().Casuale(); }, risposte);
+      CruciverbaCorrente(), *dizionario, [] { return Sistema().Casuale(); }, risposte);
   const RisultatoEstrazione risultato = estrazione.Esegui();
   switch (risultato.esito) {
     case EsitoEstrazione::Completa:

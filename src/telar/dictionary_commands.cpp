@@ -1,23 +1,19 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "dictionary/masked_search.h"
 #include "dictionary/word_pattern.h"
+#include "model/state.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
+#include "platform/text.h"
 #include "telar/command.h"
 #include "telar/files.h"
 #include "telar/output.h"
 
 namespace telarium::telar {
 namespace {
-
-bool ApriDizionario(std::string_view nome) {
-  NomeDizionario = nome;
-  return telarium::ApriDizionario();
-}
 
 std::string MascheraDa(std::string_view utf8) {
   std::string maschera = Maiuscole(DaUtf8(utf8));
@@ -38,31 +34,31 @@ Stato Cerca(const Argomenti& argomenti, PiattaformaConsole&) {
   if (argomenti.liberi[0].find(' ') != std::string::npos) {
     throw ArgomentiErrati("la maschera non ammette spazi: i posti liberi sono \".\" o \"_\"");
   }
-  if (!ApriDizionario(argomenti.Valore("--dizionario", NomeDizionario.string()))) {
-    return Stato::Fallito;
-  }
-  const EsitoRicerca esito = CercaParole(maschera, StampaParola);
+  const auto dizionario = ApriDizionario(argomenti.Valore("--dizionario", DizionariDiSistema[0]));
+  if (!dizionario) return Stato::Fallito;
+  const EsitoRicerca esito = CercaParole(*dizionario, maschera, StampaParola);
   Avvisa(TestoTrovate(esito.trovate));
   return esito.dizionarioLetto ? Stato::Fatto : Stato::Fallito;
 }
 
 // A file that ends before its first word is cut off, unless it is the empty one of a private
 // dictionary that was just made. The scans take it for empty all the same.
-bool DizionarioTronco() {
+bool Tronco(const Dizionario& dizionario) {
   std::error_code errore;
-  const auto byte = std::filesystem::file_size(PercorsoDizionario(), errore);
+  const auto byte = std::filesystem::file_size(dizionario.PercorsoDizionario(), errore);
   if (errore || byte == 0 || byte >= PrimaPosizione) return false;
-  Avvisa(Unisci("Il dizionario ", TestoPercorso(NomeDizionario), " è troncato: ha "_cp, byte,
-                " byte e ne richiede almeno ", PrimaPosizione, '.'));
+  Avvisa(Unisci("Il dizionario ", TestoPercorso(dizionario.NomeDizionario()), " è troncato: ha "_cp,
+                byte, " byte e ne richiede almeno ", PrimaPosizione, '.'));
   return true;
 }
 
 Stato DizInfo(const Argomenti& argomenti, PiattaformaConsole&) {
-  if (!ApriDizionario(argomenti.liberi[0]) || DizionarioTronco()) return Stato::Fallito;
+  const auto dizionario = ApriDizionario(argomenti.liberi[0]);
+  if (!dizionario || Tronco(*dizionario)) return Stato::Fallito;
   for (int lunghezza = MinLunghezza; lunghezza <= MaxLunghezza; ++lunghezza) {
     StampaCampi({std::to_string(lunghezza),
-                 std::to_string(OffsetLunghezza(lunghezza - MinLunghezza)),
-                 std::to_string(ContaLunghezza(lunghezza - MinLunghezza))});
+                 std::to_string(dizionario->OffsetLunghezza(lunghezza - MinLunghezza)),
+                 std::to_string(dizionario->ContaLunghezza(lunghezza - MinLunghezza))});
   }
   return Stato::Fatto;
 }
@@ -76,10 +72,11 @@ Stato DizElenca(const Argomenti& argomenti, PiattaformaConsole&) {
     }
     prima = ultima = static_cast<int>(*lunghezza);
   }
-  if (!ApriDizionario(argomenti.liberi[0])) return Stato::Fallito;
+  const auto dizionario = ApriDizionario(argomenti.liberi[0]);
+  if (!dizionario) return Stato::Fallito;
   for (int lunghezza = prima; lunghezza <= ultima; ++lunghezza) {
     const std::string tutte(static_cast<std::size_t>(lunghezza), PostoLibero);
-    if (!CercaParole(tutte, StampaParola).dizionarioLetto) return Stato::Fallito;
+    if (!CercaParole(*dizionario, tutte, StampaParola).dizionarioLetto) return Stato::Fallito;
   }
   return Stato::Fatto;
 }

@@ -1,5 +1,6 @@
 #include "telar/files.h"
 
+#include "dictionary/open_dictionary.h"
 #include "editor/redraw.h"
 #include "model/crossword_file.h"
 #include "platform/codepage.h"
@@ -35,6 +36,13 @@ bool Apri(const std::string& file) {
 Stato Scrivi(const std::string& uscita) {
   AscoltaInterruzione();
   return ScriviCruciverba(uscita) ? Stato::Fatto : Stato::Fallito;
+}
+
+std::optional<Dizionario> ApriDizionario(const std::string& nome) {
+  Dizionario dizionario(CartellaProgramma);
+  dizionario.Nomina(nome, dizionario.LinguaDizionario());
+  if (!telarium::ApriDizionario(dizionario)) return std::nullopt;
+  return dizionario;
 }
 
 std::optional<std::string> LeggiLista(std::string_view nomeDellaLista, const Percorso& file,

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "dictionary/dictionary.h"
 #include "platform/files.h"
 #include "telar/command.h"
 
@@ -17,6 +18,10 @@ bool Apri(const std::string& file);
 
 /// Writes the crossword as the result of the command.
 Stato Scrivi(const std::string& uscita);
+
+/// Opens a dictionary of the program folder: a missing one ends the program. None when it cannot be
+/// read, which has been told.
+std::optional<Dizionario> ApriDizionario(const std::string& nome = DizionariDiSistema[0]);
 
 /// Reads a list of at most `massimo` bytes; none when that has failed, told by what the list is
 /// called.

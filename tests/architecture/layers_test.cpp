@@ -33,7 +33,7 @@ const std::map<std::string, Folders> Allowed = {
     {"model", {"platform", "model"}},
     {"history", {"platform", "model", "history"}},
     {"auxiliary", {"platform", "model", "auxiliary", "telarium_version.h"}},
-    {"dictionary", {"platform", "model", "dictionary"}},
+    {"dictionary", {"platform", "dictionary"}},
     {"fill", {"platform", "model", "dictionary", "fill"}},
     {"editor",
      {"platform", "model", "dictionary", "auxiliary", "fill", "editor", "telarium_version.h"}},
@@ -54,9 +54,9 @@ const std::map<std::string, Folders> Allowed = {
 
 // Folders of functions on values, and what would give them a state, a user or a folder that no call
 // named.
-const Folders OfValues = {"history", "lexicon", "composer", "laboratory"};
+const Folders OfValues = {"fill", "history", "lexicon", "composer", "laboratory"};
 const Folders Shared = {"model/state.h", "platform/platform.h", "platform/program_folder.h",
-                        "dictionary/dictionary.h"};
+                        "dictionary/open_dictionary.h"};
 
 // The layer of a source file by its path below src.
 std::string LayerOf(const std::string& path) {

@@ -29,16 +29,17 @@ TEST_F(ClueEditorTest, OpensAtTheLowerRightOfTheCellAndWithinTheScreen) {
 
 TEST_F(ClueEditorTest, PopupHasNoSecondSeparatorWithoutPrivateDictionaries) {
   WriteFile("LessicoX.DAT", "");
-  EXPECT_EQ(CaricaVociDizionari().size(), 2u);
-  EXPECT_EQ(NumVociDizionari, 2);
+  EXPECT_EQ(CaricaVociDizionari(CartellaProgramma).size(), 2u);
   WriteFile("Mio.priv", "");
-  EXPECT_EQ(CaricaVociDizionari().back().testo, "Mio.priv - (Diz. privato)");
-  EXPECT_EQ(NumVociDizionari, 4);
+  const auto entries = CaricaVociDizionari(CartellaProgramma);
+  EXPECT_EQ(entries.size(), 4u);
+  EXPECT_EQ(entries.back().testo, "Mio.priv - (Diz. privato)");
 }
 
 TEST_F(ClueEditorTest, DictionaryThatIsGoneWhenItIsPickedEndsTheProgram) {
   bool searched = false;
-  EXPECT_THROW(ConDizionario("Mio.priv", [&] { searched = true; }), ProgramFailed);
+  EXPECT_THROW(ConDizionario(dictionary, "Mio.priv", [&](auto&) { searched = true; }),
+               ProgramFailed);
   EXPECT_FALSE(searched);
   EXPECT_EQ(user.TakeTexts().size(), 1u);
 }

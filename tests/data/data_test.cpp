@@ -3,7 +3,6 @@
 
 #include "clues/encyclopedia.h"
 #include "crossworddialogs/model_file.h"
-#include "dictionary/dictionary.h"
 #include "dictionary/masked_search.h"
 #include "editor/redraw.h"
 #include "editor/settings.h"
@@ -111,10 +110,11 @@ TEST_F(DataTest, StandardModelsAreGoodGrids) {
 
 TEST_F(DataTest, EncyclopediaHasCluesForEveryShortestWord) {
   CartellaProgramma = TELARIUM_DATA_DIR;
-  ASSERT_TRUE(ApriDizionario());
+  dictionary = Dizionario(CartellaProgramma);
+  ASSERT_TRUE(ApriDizionario(dictionary));
   const EnciclopediaAperta store = ApriEnciclopedia();
   EXPECT_GE(store->Chiavi().size(), 173'128u);
-  EXPECT_EQ(CercaParole("   ",
+  EXPECT_EQ(CercaParole(dictionary, "   ",
                         [&](std::string_view word) {
                           EXPECT_TRUE(store->CercaParola(word) && store->LeggiFacili()) << word;
                         })

@@ -1,5 +1,4 @@
-#include "dictionary/dictionary.h"
-
+#include "dictionary/open_dictionary.h"
 #include "dictionary/section_scan.h"
 #include "support/telarium_test.h"
 
@@ -26,13 +25,13 @@ class DictionaryTest : public TelariumTest {
 
   void OpenBytes(std::string_view bytes) {
     WriteFile("LessicoItaliano.dat", bytes);
-    ASSERT_TRUE(ApriDizionario());
+    ASSERT_TRUE(ApriDizionario(dictionary));
   }
 
   // The words of a section as a scan gives them; their numbers must rise from 1 without a gap.
-  static Words Scan(int length) {
+  Words Scan(int length) {
     Words words;
-    ScansioneSezione scan(length);
+    ScansioneSezione scan(dictionary, length);
     BloccoDiParole block;
     while (scan.Prossimo(block)) {
       EXPECT_EQ(block.primoNumero, static_cast<int>(words.size()) + 1);
@@ -76,10 +75,10 @@ TEST_F(DictionaryTest, TableIsNeverTrusted) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     OpenBytes(Image({{3, row.fields}}, "APEORAUVA"));
-    EXPECT_EQ(OffsetLunghezza(0), row.start);
-    EXPECT_EQ(ContaLunghezza(0), row.count);
+    EXPECT_EQ(dictionary.OffsetLunghezza(0), row.start);
+    EXPECT_EQ(dictionary.ContaLunghezza(0), row.count);
     EXPECT_EQ(Scan(3), row.scanned);
-    EXPECT_EQ(LeggiParola(1, 3), row.firstWord);
+    EXPECT_EQ(dictionary.LeggiParola(1, 3), row.firstWord);
   }
 }
 
@@ -93,37 +92,42 @@ TEST_F(DictionaryTest, FileCutAnywhereGivesTheWholeWordsBeforeTheCut) {
     EXPECT_EQ(Scan(15).size(), size < 465 ? 0u : size < 480 ? 1u : 2u);
     for (int length = MinLunghezza; length <= MaxLunghezza; ++length) {
       for (const std::int16_t number : {-32768, 0, 1, 2, 32767}) {
-        EXPECT_EQ(LeggiParola(number, length).size(), static_cast<std::size_t>(length));
+        EXPECT_EQ(dictionary.LeggiParola(number, length).size(), static_cast<std::size_t>(length));
       }
     }
   }
-  EXPECT_EQ(LeggiParola(2, 15), "IRREPARABILMENT");
+  EXPECT_EQ(dictionary.LeggiParola(2, 15), "IRREPARABILMENT");
+}
+
+TEST_F(DictionaryTest, IsTheItalianOneUntilItIsNamed) {
+  EXPECT_EQ(dictionary.NomeDizionario(), "LessicoItaliano.dat");
+  EXPECT_EQ(dictionary.LinguaDizionario(), 1);
 }
 
 TEST_F(DictionaryTest, MissingFileOrFolderInItsPlaceEndsTheProgram) {
-  NomeDizionario = "Mio.priv";
-  EXPECT_THROW(ApriDizionario(), ProgramFailed);
-  std::filesystem::create_directory(InFolder(NomeDizionario));
-  EXPECT_THROW(ApriDizionario(), ProgramFailed);
+  dictionary.Nomina("Mio.priv", 1);
+  EXPECT_THROW(ApriDizionario(dictionary), ProgramFailed);
+  std::filesystem::create_directory(InFolder("Mio.priv"));
+  EXPECT_THROW(ApriDizionario(dictionary), ProgramFailed);
   const std::string message = "Errore fatale! non trovato file di vocabolario: Mio.priv";
   EXPECT_EQ(user.TakeTexts(), (Words{message, message}));
   // The case of the name does not count.
   WriteFile("mIO.PRIV", small);
-  ASSERT_TRUE(ApriDizionario());
+  ASSERT_TRUE(ApriDizionario(dictionary));
   EXPECT_EQ(Scan(5), Words{"CARTA"});
-  EXPECT_EQ(LeggiParola(2, 3), "ORA");
+  EXPECT_EQ(dictionary.LeggiParola(2, 3), "ORA");
 }
 
 TEST_F(DictionaryTest, UnreadableFileIsToldAndCountsAsEmpty) {
   OpenBytes(small);
-  NomeDizionario = "Anello.priv";
-  std::filesystem::create_symlink(NomeDizionario, InFolder(NomeDizionario));
-  EXPECT_FALSE(ApriDizionario());
+  dictionary.Nomina("Anello.priv", 1);
+  std::filesystem::create_symlink(dictionary.NomeDizionario(), dictionary.PercorsoDizionario());
+  EXPECT_FALSE(ApriDizionario(dictionary));
   EXPECT_EQ(user.TakeTexts(),
             Words{WithCause("Impossibile leggere il dizionario.", InFolder("Anello.priv"),
                             "il collegamento porta a se stesso")});
-  EXPECT_EQ(OffsetLunghezza(0), 0);
-  EXPECT_EQ(ContaLunghezza(0), 0);
+  EXPECT_EQ(dictionary.OffsetLunghezza(0), 0);
+  EXPECT_EQ(dictionary.ContaLunghezza(0), 0);
 }
 
 }  // namespace

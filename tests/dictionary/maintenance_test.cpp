@@ -57,7 +57,7 @@ TEST_F(MaintenanceTest, AProtectedDictionaryIsNotDeleted) {
   for (const auto& [rights, deleted] : {std::pair(0444u, false), {0666u, true}}) {
     const Percorso file = WriteFile("mio.priv", "x");
     std::filesystem::permissions(file, std::filesystem::perms(rights));
-    EXPECT_TRUE(AsOrdinaryUser([d = deleted] { return CancellaDizionario("mio.priv") == d; }));
+    EXPECT_TRUE(AsOrdinaryUser([&, d = deleted] { return CancellaDizionario(file) == d; }));
     EXPECT_EQ(std::filesystem::exists(file), !deleted);
   }
 }
@@ -66,16 +66,16 @@ TEST_F(MaintenanceTest, ImportTakesTheFirstLinesBlankOnesCounted) {
   std::string text = "\xEF\xBB\xBFuno\r\n   \r\n due \nPER\xC3\x92\n\n \n";
   WriteFile("3.TXT", text);
   std::error_code error;
-  const auto list = LeggiListaDaImportare(3, error);
+  const auto list = LeggiListaDaImportare(ListaDaImportare(CartellaProgramma, 3), error);
   ASSERT_TRUE(list);
   EXPECT_EQ(list->parole, (Words{"uno", " due ", "PER\xD2"}));
   EXPECT_EQ(list->righe, 4);
-  EXPECT_FALSE(LeggiListaDaImportare(4, error));
+  EXPECT_FALSE(LeggiListaDaImportare(ListaDaImportare(CartellaProgramma, 4), error));
   EXPECT_EQ(error, std::errc::no_such_file_or_directory);
 
   text.assign(32'199, '\n');
   WriteFile("4.txt", text + "ULTI\nOLTRE\n");
-  const auto longer = LeggiListaDaImportare(4, error);
+  const auto longer = LeggiListaDaImportare(ListaDaImportare(CartellaProgramma, 4), error);
   ASSERT_TRUE(longer);
   EXPECT_EQ(longer->righe, 32'200);
   EXPECT_EQ(longer->parole, Words{"ULTI"});

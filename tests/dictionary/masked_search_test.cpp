@@ -1,6 +1,5 @@
 #include "dictionary/masked_search.h"
 
-#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "support/numbered_words.h"
 #include "support/telarium_test.h"
@@ -12,10 +11,10 @@ using Words = std::vector<std::string>;
 
 class MaskedSearchTest : public TelariumTest {
  protected:
-  static Words Search(std::string_view mask) {
+  Words Search(std::string_view mask) {
     Words found;
     const EsitoRicerca outcome =
-        CercaParole(mask, [&](std::string_view word) { found.emplace_back(word); });
+        CercaParole(dictionary, mask, [&](std::string_view word) { found.emplace_back(word); });
     EXPECT_TRUE(outcome.dizionarioLetto);
     EXPECT_EQ(outcome.trovate, static_cast<int>(found.size()));
     return found;
@@ -25,8 +24,8 @@ class MaskedSearchTest : public TelariumTest {
 TEST_F(MaskedSearchTest, ListsTheFittingWordsInFileOrder) {
   ListeDiParole lists;
   lists[1] = {"PALA", "MULA", "HARD", "MELA", "MALE", "mola", "QUAL", "MALA"};
-  ASSERT_EQ(ScriviDizionario(InFolder(NomeDizionario), lists).errore, "");
-  ASSERT_TRUE(ApriDizionario());
+  ASSERT_EQ(ScriviDizionario(dictionary.PercorsoDizionario(), lists).errore, "");
+  ASSERT_TRUE(ApriDizionario(dictionary));
   EXPECT_EQ(Search("M LA"), (Words{"MULA", "MELA", "MALA"}));
   EXPECT_EQ(Search("    "), lists[1]) << "words with Q and H too";
   EXPECT_EQ(Search("MELA"), Words{"MELA"});
@@ -67,7 +66,7 @@ TEST_F(MaskedSearchTest, AFreeMaskGoesThroughAFullSection) {
     last = number;
   };
   EXPECT_EQ(CercaParole(
-                std::string(15, ' '), [](std::string_view) {}, progress)
+                dictionary, std::string(15, ' '), [](std::string_view) {}, progress)
                 .trovate,
             32'767);
   EXPECT_EQ(last, 32'767);

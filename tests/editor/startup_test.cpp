@@ -3,7 +3,6 @@
 #include <filesystem>
 
 #include "auxiliary/addresses.h"
-#include "dictionary/dictionary.h"
 #include "editor/activation.h"
 #include "editor/commands.h"
 #include "editor/commit.h"
@@ -92,7 +91,7 @@ TEST_F(StartupTest, WithoutACrosswordShowsTheSplashAndDisablesItsCommands) {
   EXPECT_FALSE(fs::exists(InFolder(NomeIstantanea)));
   EXPECT_TRUE(fs::equivalent(fs::current_path(), InFolder("")));
   EXPECT_EQ(NomeFont, "Arial");
-  EXPECT_EQ(ContaLunghezza(1), 2) << "the dictionary is open";
+  EXPECT_EQ(dictionary.ContaLunghezza(1), 2) << "the dictionary is open";
   EXPECT_TRUE(window.checked["MenuVis"] && window.checked["Menurett"] && window.checked["MenuL1"]);
   EXPECT_FALSE(window.checked["MenuL2"]);
   EXPECT_TRUE(machine.fetched.empty()) << "no server is configured";
@@ -321,7 +320,7 @@ TEST_F(StartupTest, LanguagesSettingsAndCompanionsDoAsTheirEntriesSay) {
   WriteFile("lessicolatino.DAT", ReadFile(InFolder("LessicoItaliano.dat")));
   SetClue(1, 1, Orizzontale, "Si abita");
   CambiaLingua(3);
-  EXPECT_EQ(NomeDizionario, "LessicoLatino.dat");
+  EXPECT_EQ(dictionary.NomeDizionario(), "LessicoLatino.dat");
   EXPECT_EQ(Drawing(), std::vector<std::string>{"CASA"}) << "the crossword stays";
   EXPECT_EQ(Definizione(1, 1, Orizzontale), "Si abita");
   EXPECT_EQ(SchemaModificato, Falso);

@@ -3,7 +3,6 @@
 #include <set>
 #include <sstream>
 
-#include "dictionary/dictionary.h"
 #include "dictionary/masked_search.h"
 #include "editor/fill_command.h"
 #include "editor/placed_word.h"
@@ -228,7 +227,7 @@ TEST_F(ExtractionTest, DictionaryOrSnapshotFolderThatGoesAwayEndsTheRunAtOnce) {
   Run(EsitoEstrazione::NonRegistrata);
   CartellaIstantanea.clear();
   StopWhen([&](const AvanzamentoEstrazione&) {
-    std::filesystem::remove(InFolder(NomeDizionario));
+    std::filesystem::remove(dictionary.PercorsoDizionario());
     return false;
   });
   EXPECT_EQ(Run(EsitoEstrazione::SenzaParole), TeeGrid);
@@ -253,7 +252,7 @@ TEST_F(ExtractionTest, RunThatCannotBeginLeavesTheGridAsItIs) {
   CartellaIstantanea = InFolder("manca");
   refused(EsitoEstrazione::NonRegistrata);
   CartellaIstantanea.clear();
-  std::filesystem::remove(InFolder(NomeDizionario));
+  std::filesystem::remove(dictionary.PercorsoDizionario());
   refused(EsitoEstrazione::SenzaParole);
 }
 
@@ -300,8 +299,8 @@ TEST_F(ExtractionTest, WordsOfNoLettersLeaveACrosswordThatCanBeSaved) {
   std::string image(455, '\0');
   // A section that lies in the zero bytes of the header.
   image.replace(216, 16, "     408     440");
-  WriteFile(NomeDizionario, image);
-  ASSERT_TRUE(ApriDizionario());
+  WriteFile(dictionary.NomeDizionario(), image);
+  ASSERT_TRUE(ApriDizionario(dictionary));
   user.AnswerAllDeadEnds(Risposta::Si);
   command.EseguiEstrazione();
   user.TakeTexts();  // whether anything is told of it is open
@@ -321,11 +320,11 @@ TEST_F(ExtractionTest, WordThatACrosswordCannotHoldCountsAsNone) {
 }
 
 TEST_F(ExtractionTest, EverySlotWithoutADeadEndHoldsAWord) {
-  NomeDizionario = Percorso(TELARIUM_DATA_DIR) / "LessicoItaliano.dat";
-  ASSERT_TRUE(ApriDizionario());
+  dictionary.Nomina(Percorso(TELARIUM_DATA_DIR) / "LessicoItaliano.dat", 1);
+  ASSERT_TRUE(ApriDizionario(dictionary));
   std::set<std::string> words;
   for (int length = MinLunghezza; length <= MaxLunghezza; ++length) {
-    CercaParole(std::string(static_cast<std::size_t>(length), ' '),
+    CercaParole(dictionary, std::string(static_cast<std::size_t>(length), ' '),
                 [&](std::string_view word) { words.emplace(word); });
   }
   const std::string grid =

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "platform/codepage.h"
 #include "support/drawn_crossword.h"
@@ -18,7 +17,7 @@ const double JustBelowOne = std::nextafter(1.0, 0.0);
 
 class WordChoiceTest : public TelariumTest {
  protected:
-  SceltaDiParole choice{[this] { return machine.Casuale(); }};
+  SceltaDiParole choice{dictionary, [this] { return machine.Casuale(); }};
 
   // The candidates for a pattern, by number and as words.
   std::vector<int> Numbers(std::string_view pattern) {
@@ -32,7 +31,8 @@ class WordChoiceTest : public TelariumTest {
   Words WordsFor(std::string_view pattern) {
     Words words;
     for (const int n : Numbers(pattern)) {
-      words.push_back(LeggiParola(static_cast<std::int16_t>(n), static_cast<int>(pattern.size())));
+      words.push_back(
+          dictionary.LeggiParola(static_cast<std::int16_t>(n), static_cast<int>(pattern.size())));
     }
     return words;
   }
@@ -58,8 +58,8 @@ TEST_F(WordChoiceTest, NumbersAreRightInALongSection) {
     const std::size_t place = n % 2 == 0 ? 0 : 14;
     lists[12][static_cast<std::size_t>(n) - 1].replace(place, 1, n % 2 == 0 ? "H" : "Q");
   }
-  ASSERT_EQ(ScriviDizionario(InFolder(NomeDizionario), lists).errore, "");
-  ASSERT_TRUE(ApriDizionario());
+  ASSERT_EQ(ScriviDizionario(dictionary.PercorsoDizionario(), lists).errore, "");
+  ASSERT_TRUE(ApriDizionario(dictionary));
   std::vector<int> others;
   for (int n = 1; n <= 9000; ++n) {
     if (std::find(withQH.begin(), withQH.end(), n) == withQH.end()) others.push_back(n);
@@ -67,7 +67,7 @@ TEST_F(WordChoiceTest, NumbersAreRightInALongSection) {
   EXPECT_EQ(Numbers(std::string(15, ' ')), others);
   EXPECT_EQ(Numbers("              Q"), (std::vector<int>{1, 4369, 8739}));
   EXPECT_EQ(Numbers("H              "), (std::vector<int>{2, 4370, 8738, 9000}));
-  EXPECT_EQ(LeggiParola(4370, 15).front(), 'H');
+  EXPECT_EQ(dictionary.LeggiParola(4370, 15).front(), 'H');
 }
 
 TEST_F(WordChoiceTest, DrawTakesOneOfTheCandidates) {
@@ -160,7 +160,8 @@ TEST_F(WordChoiceTest, LengthWithoutASectionAndMissingDictionaryAreTold) {
   Words told;
   for (const char* pattern : {"  ", "                ", "   "}) {
     ASSERT_TRUE(choice.CercaCandidati("A  "));
-    if (std::string_view(pattern) == "   ") std::filesystem::remove(InFolder(NomeDizionario));
+    if (std::string_view(pattern) == "   ")
+      std::filesystem::remove(dictionary.PercorsoDizionario());
     EXPECT_FALSE(choice.CercaCandidati(pattern));
     EXPECT_EQ(choice.NumCandidati(), 0);
     told.push_back(choice.Errore());
@@ -175,15 +176,17 @@ TEST_F(WordChoiceTest, LengthWithoutASectionAndMissingDictionaryAreTold) {
 
 TEST_F(WordChoiceTest, ADictionaryThatFailsToBeReadIsNotOneWithoutWords) {
   OpenDictionary({"APE", "ORA"});
-  std::filesystem::remove(InFolder(NomeDizionario));
-  std::filesystem::create_symlink("/proc/self/mem", InFolder(NomeDizionario));  // EIO at its start
+  std::filesystem::remove(dictionary.PercorsoDizionario());
+  std::filesystem::create_symlink("/proc/self/mem",
+                                  dictionary.PercorsoDizionario());  // EIO at its start
   const GrigliaInEstrazione grid(DrawnCrossword({"APE", "#R#", "#A#"}));
   EXPECT_FALSE(choice.CercaCandidati("A  "));
-  EXPECT_EQ(LeggiParola(1, 3), "");
+  EXPECT_EQ(dictionary.LeggiParola(1, 3), "");
   EXPECT_FALSE(choice.ProvaIncroci(grid, {{1, 1}, Orizzontale, 3}).letti);
-  EXPECT_FALSE(ApriDizionario());
-  const std::string told = WithCause("Impossibile leggere il dizionario.", InFolder(NomeDizionario),
-                                     "la lettura non è riuscita"_cp);
+  EXPECT_FALSE(ApriDizionario(dictionary));
+  const std::string told =
+      WithCause("Impossibile leggere il dizionario.", dictionary.PercorsoDizionario(),
+                "la lettura non è riuscita"_cp);
   EXPECT_EQ(choice.Errore(), told);
   EXPECT_EQ(user.TakeTexts(), Words{told});
 }

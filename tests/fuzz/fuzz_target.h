@@ -5,6 +5,7 @@
 #include <functional>
 #include <string_view>
 
+#include "dictionary/open_dictionary.h"
 #include "model/state.h"
 #include "platform/temporary.h"
 #include "support/crossword_state.h"
@@ -37,6 +38,7 @@ inline QuietPlatform& StartFresh() {
   Forget();
   ImpostaPiattaforma(&platform);
   CartellaProgramma = folder.Nome();
+  IlDizionario() = Dizionario(CartellaProgramma);
   return platform;
 }
 

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "dictionary/maintenance.h"
 #include "dictionary/masked_search.h"
@@ -20,7 +19,7 @@ void CheckSection(const std::vector<std::string>& list, int length) {
   });
   expected.erase(std::unique(expected.begin(), expected.end()), expected.end());
   std::vector<std::string> found;
-  CercaParole(std::string(static_cast<std::size_t>(length), ' '),
+  CercaParole(IlDizionario(), std::string(static_cast<std::size_t>(length), ' '),
               [&](std::string_view word) { found.emplace_back(word); });
   Verifica(found == expected, "other words than those of the list");
 }
@@ -38,15 +37,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   AggiungiLista(input, lists);
   OrdinaListe(lists);
   std::error_code error;
-  auto imported = LeggiListaDaImportare(length, error);
+  auto imported = LeggiListaDaImportare(file, error);
   Verifica(imported.has_value(), "not imported");
   auto& list = lists[static_cast<std::size_t>(length - MinLunghezza)];
   InserisciParole(list, std::move(imported->parole));
   for (std::size_t i = 1; i < list.size(); ++i)
     Verifica(ConfrontaItaliano(list[i - 1], list[i]) <= 0, "not sorted");
   if (!OneIn(4, input)) return 0;
-  Verifica(ScriviDizionario(PercorsoDizionario(), lists).errore.empty(), "not written");
-  Verifica(ApriDizionario(), "not opened");
+  Verifica(ScriviDizionario(IlDizionario().PercorsoDizionario(), lists).errore.empty(),
+           "not written");
+  Verifica(ApriDizionario(IlDizionario()), "not opened");
   for (int each = MinLunghezza; each <= MaxLunghezza; ++each)
     CheckSection(lists[static_cast<std::size_t>(each - MinLunghezza)], each);
   return 0;

@@ -5,8 +5,6 @@
 #include "auxiliary/addresses.h"
 #include "auxiliary/tips.h"
 #include "clues/clue_family.h"
-#include "dictionary/dictionary.h"
-#include "dictionary/dictionary_choice.h"
 #include "editor/cell_editing.h"
 #include "editor/settings.h"
 #include "editor/startup.h"
@@ -41,12 +39,11 @@ std::vector<std::string> Everything() {
   add(MouseCol, MouseRiga, ColoreScelto, IstantaneaSuperata());
   add(NomeFont, AltezzaCaratteri, AltezzaNumeri, PercentualeRiquadro, DistanzaDaSpigolo);
   add(DistanzaDaCentro, SpessoreBordo, RettangoloParola, StampaSoluzioni, TastoSin);
-  add(NascondiSoluzioni, GiaAttivata, MostraSuggerimenti, LinguaDizionario);
-  add(OffsetLunghezza(12), ContaLunghezza(12), NumVociDizionari);
+  add(NascondiSoluzioni, GiaAttivata, MostraSuggerimenti);
   add(ElencoDefinizioni(1));
   add(LarghezzaPicture, IndirizzoWeb, ValoreIndirizzo(Indirizzo::PaginaEsempio));
-  for (const Percorso& path : {NomeCruciverba, CartellaProgramma, CartellaIstantanea, RigaDiComando,
-                               FileComando, NomeDizionario})
+  for (const Percorso& path :
+       {NomeCruciverba, CartellaProgramma, CartellaIstantanea, RigaDiComando, FileComando})
     all.push_back(path.string());
   return all;
 }
@@ -69,24 +66,21 @@ TEST_F(State, ResetPutsEveryVariableAsAtProgramStart) {
   MarkModified();
   NomeFont = "x";
   ElencoDefinizioni(1) = IndirizzoWeb = "x";
-  NomeDizionario = RigaDiComando = FileComando = "x";
+  RigaDiComando = FileComando = "x";
   for (std::int16_t* one :
        {&LatoCasella, &OrigineX, &OrigineY, &ModoGriglia, &PuntatoreMouse, &AltezzaCaratteri,
         &AltezzaNumeri, &PercentualeRiquadro, &DistanzaDaSpigolo, &DistanzaDaCentro, &SpessoreBordo,
         &RettangoloParola, &StampaSoluzioni, &TastoSin, &NascondiSoluzioni, &GiaAttivata,
-        &LinguaDizionario, &NumVociDizionari, &LarghezzaPicture})
+        &LarghezzaPicture})
     *one = 7;
   MouseCol = MouseRiga = ColoreScelto = MostraSuggerimenti = 7;
-  OffsetLunghezza(12) = ContaLunghezza(12) = 7;
   const auto changed = Everything();
   for (std::size_t i = 0; i < changed.size(); ++i)
     EXPECT_NE(changed[i], atStart[i]) << "variable " << i << " was left out";
   Forget();
   EXPECT_EQ(Everything(), atStart);
-  EXPECT_EQ(NomeDizionario, "LessicoItaliano.dat");
   EXPECT_EQ(LetteraCasella(53, 30), '.');
-  EXPECT_EQ(std::tuple(RettangoloParola, LinguaDizionario, MostraSuggerimenti),
-            std::tuple(Vero, 1, 1));
+  EXPECT_EQ(std::tuple(RettangoloParola, MostraSuggerimenti), std::tuple(Vero, 1));
   EXPECT_EQ(NumColonne + NumRighe + LatoCasella + ModoGriglia + ColoreCasella(53, 30), 0);
   EXPECT_EQ(Schema(34) + Definizione(53, 30, 2) + NomeFont + CartellaProgramma.string(), "");
 }

@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <sstream>
 
-#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_writer.h"
 #include "support/drawn_crossword.h"
 
@@ -22,6 +21,7 @@ void TelariumTest::SetUp() {
   ImpostaPiattaforma(&platform);
   ASSERT_FALSE(folder_.Nome().empty());
   CartellaProgramma = folder_.Nome();
+  dictionary = Dizionario(CartellaProgramma);
   // The home of whoever runs the tests is left alone.
   ASSERT_EQ(::setenv("XDG_CACHE_HOME", InFolder("cache").c_str(), 1), 0);
   ASSERT_EQ(::setenv("XDG_DATA_HOME", InFolder("home").c_str(), 1), 0);
@@ -52,8 +52,8 @@ void TelariumTest::OpenDictionary(const std::vector<std::string>& words, const P
     lists.at(word.size() - MinLunghezza).push_back(word);
   OrdinaListe(lists);
   ASSERT_EQ(ScriviDizionario(InFolder(name), lists).errore, "");
-  NomeDizionario = name;
-  ASSERT_TRUE(ApriDizionario());
+  dictionary.Nomina(name, dictionary.LinguaDizionario());
+  ASSERT_TRUE(ApriDizionario(dictionary));
 }
 
 void TelariumTest::Draw(const std::vector<std::string>& rows) {

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dictionary/open_dictionary.h"
 #include "model/state.h"
 #include "platform/temporary.h"
 #include "support/crossword_state.h"
@@ -23,6 +24,7 @@ class TelariumTest : public ::testing::Test {
   ScriptedPlatform platform;
   ScriptedUser& user = platform.user;
   ScriptedMachine& machine = platform.machine;
+  Dizionario& dictionary = IlDizionario();
 
   /// A path in the program folder.
   Percorso InFolder(const Percorso& name) const { return folder_.Nome() / name; }

@@ -13,8 +13,10 @@
 #include "clues/clue_search.h"
 #include "dictionary/dictionary_choice.h"
 #include "dictionary/masked_search.h"
+#include "dictionary/open_dictionary.h"
 #include "dictionary/word_pattern.h"
 #include "editor/main_window.h"
+#include "model/state.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/qt/qt_text.h"
@@ -243,7 +245,7 @@ void TelarDef::Collega() {
   connect(Command1, &QPushButton::clicked, this, [this] { CercaDefinizioni(); });
   connect(Command2, &QPushButton::clicked, this, [this] { ChiediAWord(DaQt(Text2->text())); });
   connect(Command3, &QPushButton::clicked, this, [] { LaFinestra().ApriMenu("menuint"); });
-  connect(Command3D4, &QPushButton::clicked, this, [this] { CercaMaschera(); });
+  connect(Command3D4, &QPushButton::clicked, this, [this] { CercaMaschera(IlDizionario()); });
   connect(Command4, &QPushButton::clicked, this, [this] { ApriMenuDizionari(); });
   connect(Command3d1, &QPushButton::clicked, this, [this] { AccettaDefinizione(); });
   connect(Command3d2, &QPushButton::clicked, this, [this] { reject(); });
@@ -293,7 +295,7 @@ void TelarDef::Attivata() {
   Text1->Mostra(esame_.DefinizioneIniziale());
   Text1->setFocus();
   Command3D4->setToolTip(QStringLiteral("Ricerca la parola mascherata in : ") +
-                         PercorsoAQt(NomeDizionario));
+                         PercorsoAQt(IlDizionario().NomeDizionario()));
   Command4->setToolTip(QStringLiteral("Ricerca negli altri dizionari."));
 }
 
@@ -321,12 +323,12 @@ void TelarDef::DipingiBarra(double parte, Colore colore) {
   barra.Riquadro(0, 0, destra, fondo, BordoProgressione);
 }
 
-void TelarDef::CercaMaschera() {
+void TelarDef::CercaMaschera(const Dizionario& dizionario) {
   ImpostaPuntatoreMouse(PuntatoreClessidra);
   DipingiBarra(1, ColoreGiallo);
   QStringList parole;
   const EsitoRicerca esito = CercaParole(
-      Maschera(),
+      dizionario, Maschera(),
       [&](std::string_view parola) {
         if (parole.isEmpty()) Label5->setText(QStringLiteral("Trovata"));
         parole.append(AQt(parola));
@@ -338,20 +340,23 @@ void TelarDef::CercaMaschera() {
   Combo1->setCurrentIndex(parole.isEmpty() ? -1 : 0);
   Label5->setText(AQt(TestoTrovate(esito.trovate)));
   ImpostaPuntatoreMouse(PuntatoreFrecciaFissa);
-  if (!esito.dizionarioLetto) AvvisaDizionarioIlleggibile();
+  if (!esito.dizionarioLetto) Avvisa(dizionario.TestoIlleggibile());
 }
 
 void TelarDef::ApriMenuDizionari() {
   menudizionari->clear();
   menubrdiz = {menudizionari->addAction(QStringLiteral("&Annulla"))};
-  for (const VoceDiDizionario& voce : CaricaVociDizionari()) {
+  const std::vector<VoceDiDizionario> voci = CaricaVociDizionari(IlDizionario().Cartella());
+  NumVociDizionari = static_cast<std::int16_t>(voci.size());
+  for (const VoceDiDizionario& voce : voci) {
     if (voce.file.empty()) {
       menubrdiz.push_back(menudizionari->addSeparator());
       continue;
     }
     const QString testo = ComeVoceDiMenu(AQt(voce.testo));
     menubrdiz.push_back(menudizionari->addAction(testo, this, [this, file = voce.file] {
-      ConDizionario(file, [this] { CercaMaschera(); });
+      ConDizionario(IlDizionario(), file,
+                    [this](const Dizionario& altro) { CercaMaschera(altro); });
       ChiUsa().CediAiMessaggi();
     }));
   }

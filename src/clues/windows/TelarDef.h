@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <array>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -56,6 +57,8 @@ class TelarDef : public FinestraModale {
 
   QMenu* menudizionari;
   std::vector<QAction*> menubrdiz;
+  /// Index of the popup's last entry that its last opening has loaded; entry 0 is fixed.
+  std::int16_t NumVociDizionari = 0;
 
  public slots:
   void done(int esito) override;
@@ -79,7 +82,7 @@ class TelarDef : public FinestraModale {
   void PreparaMaschera();
   std::string Maschera() const;
   void CercaDefinizioni();
-  void CercaMaschera();
+  void CercaMaschera(const Dizionario& dizionario);
   void DipingiBarra(double parte, Colore colore);
   void ApriMenuDizionari();
   void AccettaDefinizione();

@@ -30,9 +30,10 @@ QVBoxLayout* InColonna(std::initializer_list<QWidget*> controlli) {
 
 Form4::Form4(QWidget* genitore)
     : FinestraModale(QStringLiteral("Form4"), QStringLiteral("Telarium - Creazione dizionario"),
-                     genitore) {
+                     genitore),
+      dizionario_(IlDizionario()) {
   std::error_code ignorato;
-  std::filesystem::current_path(CartellaProgramma, ignorato);
+  std::filesystem::current_path(dizionario_.Cartella(), ignorato);
   CreaListe();
   CreaDizionari();
   CreaAvanzamento();
@@ -80,7 +81,7 @@ void Form4::CreaDizionari() {
   for (ListaFile* file : {File1, File2}) {
     file->setMinimumWidth(LarghezzaElenco);
     file->installEventFilter(this);
-    file->Vai(CartellaProgramma);
+    file->Vai(dizionario_.Cartella());
   }
   Label6->setBuddy(File1);
   Label7->setBuddy(File2);

@@ -5,9 +5,10 @@
 #include <array>
 
 #include "crossworddialogs/windows/file_lists.h"
-#include "dictionary/dictionary.h"
+#include "dictionary/open_dictionary.h"
 #include "dictionary/windows/word_box.h"
 #include "dictionary/word_list.h"
+#include "model/boolean.h"
 #include "platform/pace.h"
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_dialog.h"
@@ -47,8 +48,8 @@ class Form4 : public FinestraModale {
   QPushButton* Command7;  // deletes one
   QPushButton* Command2;  // exit
 
-  /// Reads the dictionary named by NomeDizionario, through the table that ApriDizionario has
-  /// filled, into the lists, beside what they hold. The message loop runs meanwhile; ends early
+  /// Reads the open dictionary, through the sections that its opening has found, into the lists,
+  /// beside what they hold. The message loop runs meanwhile; ends early
   /// when the window is closed.
   void LeggiDizio();
 
@@ -80,7 +81,7 @@ class Form4 : public FinestraModale {
   void NullaDaMostrare();
   void ApriDiSistema();
   void ApriPrivato();
-  bool ApriEMostra();
+  bool ApriEMostra(const Percorso& nome, std::int16_t lingua);
   bool Presente(const Percorso& nome);
   void RiaprePronto();
   void SegnaAperto();
@@ -105,6 +106,7 @@ class Form4 : public FinestraModale {
   void ContaUnaParola(std::size_t lista, int variazione);
   void DipingiBarra(double parte, Colore colore);
 
+  Dizionario& dizionario_;
   ListeDiParole parole_;
   std::int32_t TotaleParole = 0;
   std::int16_t ListaCorrente = 0;

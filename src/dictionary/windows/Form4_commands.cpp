@@ -4,6 +4,7 @@
 #include "dictionary/sorted_words.h"
 #include "dictionary/windows/Form4.h"
 #include "model/pointer.h"
+#include "model/state.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/qt/qt_text.h"
@@ -87,8 +88,8 @@ void Form4::DipingiBarra(double parte, Colore colore) {
 void Form4::LeggiDizio() {
   const Clessidra clessidra;
   Inizia(Lavoro::Lettura);
-  Label3->setText(
-      AQt(Unisci("In corso la lettura del dizionario ", TestoPercorso(NomeDizionario), " ...")));
+  Label3->setText(AQt(Unisci("In corso la lettura del dizionario ",
+                             TestoPercorso(dizionario_.NomeDizionario()), " ...")));
   TotaleParole = 0;
   bool intero = true;
   for (std::size_t lista = 0; lista < parole_.size(); ++lista) {
@@ -96,7 +97,7 @@ void Form4::LeggiDizio() {
   }
   letto_ = intero;
   if (!intero) {  // a rebuild over a part would cost the rest
-    AvvisaDizionarioIlleggibile();
+    Avvisa(dizionario_.TestoIlleggibile());
     SvuotaListe();
     NullaDaMostrare();
   }
@@ -108,8 +109,8 @@ void Form4::LeggiDizio() {
 bool Form4::LeggiSezione(std::size_t lista, bool& intero) {
   DipingiBarra(1, ColoreGiallo);
   if (!Cedi()) return false;
-  const int conto = UltimoNumero(LunghezzaDi(lista));
-  ScansioneSezione scansione(LunghezzaDi(lista));
+  const int conto = dizionario_.UltimoNumero(LunghezzaDi(lista));
+  ScansioneSezione scansione(dizionario_, LunghezzaDi(lista));
   BloccoDiParole blocco;
   int lette = 0;
   while (scansione.Prossimo(blocco)) {
@@ -131,42 +132,39 @@ bool Form4::LeggiSezione(std::size_t lista, bool& intero) {
 
 // A file of the lists may be gone by now, which is no reason to end the program.
 bool Form4::Presente(const Percorso& nome) {
-  if (TrovaFile(CartellaProgramma, nome)) return true;
+  if (TrovaFile(dizionario_.Cartella(), nome)) return true;
   Avvisa(Unisci("Il dizionario ", TestoPercorso(nome), " non c'è più."_cp), {}, Icona::Avviso);
   for (ListaFile* file : {File1, File2})
-    file->Vai(CartellaProgramma);
+    file->Vai(dizionario_.Cartella());
   return false;
 }
 
 void Form4::ApriDiSistema() {
   const auto nome = File1->Scelto();
   constexpr std::size_t otto = 8 - MinLunghezza;
-  const bool altro = nome && *nome != NomeDizionario;
+  const bool altro = nome && *nome != dizionario_.NomeDizionario();
   if (nome && (parole_[otto].empty() || altro) && Presente(*nome)) {
-    NomeDizionario = *nome;
-    LinguaDizionario = LinguaDelDizionario(*nome).value_or(LinguaDizionario);
-    ApriEMostra();
+    ApriEMostra(*nome, LinguaDelDizionario(*nome).value_or(dizionario_.LinguaDizionario()));
   }
   RiaprePronto();
 }
 
 void Form4::ApriPrivato() {
   const auto nome = File2->Scelto();
-  const bool altro = nome && *nome != NomeDizionario;
+  const bool altro = nome && *nome != dizionario_.NomeDizionario();
   if (nome && (!letto_ || altro) && Presente(*nome)) {
-    NomeDizionario = *nome;
-    LinguaDizionario = LinguaDeiPrivati;
-    ApriEMostra();
+    ApriEMostra(*nome, LinguaDeiPrivati);
   }
   RiaprePronto();
 }
 
 // A file that cannot be read, which has been told, leaves nothing to change or to write. False
 // then.
-bool Form4::ApriEMostra() {
+bool Form4::ApriEMostra(const Percorso& nome, std::int16_t lingua) {
+  dizionario_.Nomina(nome, lingua);
   SvuotaListe();
   letto_ = false;
-  if (ApriDizionario()) {
+  if (ApriDizionario(dizionario_)) {
     LeggiDizio();
     return true;
   }
@@ -191,7 +189,7 @@ void Form4::RiaprePronto() {
 void Form4::SegnaAperto() {
   for (ListaFile* file : {File1, File2}) {
     file->clearSelection();
-    file->Scegli(NomeDizionario);
+    file->Scegli(dizionario_.NomeDizionario());
   }
 }
 
@@ -266,22 +264,23 @@ void Form4::RicreaDizionario() {
     return Avvisa("Operazione annulata.");
   }
   Inizia(Lavoro::Ricostruzione);
-  Label3->setText(
-      AQt(Unisci("In corso la scrittura del dizionario ", TestoPercorso(NomeDizionario), "...")));
+  Label3->setText(AQt(Unisci("In corso la scrittura del dizionario ",
+                             TestoPercorso(dizionario_.NomeDizionario()), "...")));
   ScriviSulDisco();
   Finisci();
 }
 
 void Form4::ScriviSulDisco() {
   const EsitoDizionario esito = ScriviDizionario(
-      PercorsoDizionario(), parole_,
+      dizionario_.PercorsoDizionario(), parole_,
       [this](std::size_t lista, std::size_t fatte) { SegueScrittura(lista, fatte); });
   DipingiBarra(1, ColoreBianco);
   if (!esito.errore.empty()) {
     Label3->setText(QStringLiteral("Il dizionario sul disco resta com'era"));
     return Avvisa(esito.errore, {}, Icona::Avviso);
   }
-  if (ApriDizionario()) Label3->setText(QStringLiteral("Dizionario riscritto correttamente"));
+  if (ApriDizionario(dizionario_))
+    Label3->setText(QStringLiteral("Dizionario riscritto correttamente"));
 }
 
 void Form4::SegueScrittura(std::size_t lista, std::size_t fatte) {
@@ -312,7 +311,7 @@ void Form4::ImportaListe() {
         "Per usare questa utility bisogna prima preparare una serie di files di testo 3.txt, "
         "4.txt, "
         "5.txt .... 15.txt contenenti le parole che si vogliono importare",
-        ListaDaImportare(LunghezzaDi(lista - 1)), errore));
+        ListaDaImportare(dizionario_.Cartella(), LunghezzaDi(lista - 1)), errore));
   }
 }
 
@@ -320,7 +319,8 @@ void Form4::ImportaListe() {
 std::error_code Form4::ImportaLista(std::size_t lista) {
   Combo1[lista]->Svuota();
   std::error_code errore;
-  auto importata = LeggiListaDaImportare(LunghezzaDi(lista), errore);
+  auto importata =
+      LeggiListaDaImportare(ListaDaImportare(dizionario_.Cartella(), LunghezzaDi(lista)), errore);
   if (!importata) return errore;
   Combo1[lista]->Aggiungi(std::move(importata->parole));
   Label2[lista]->setText(TestoConto(importata->righe, ParoleLette));
@@ -344,26 +344,23 @@ void Form4::CreaPrivato() {
   if (!risposta || risposta->empty()) return;
   const auto nome = NomeDizionarioPrivato(*risposta);
   if (!nome) return AvvisaNomeNonValido(AUtf8(*risposta), "il nome ha segni non ammessi");
-  const auto esistente = TrovaFile(CartellaProgramma, *nome);
-  const std::error_code errore = esistente ? std::error_code() : CreaDizionarioVuoto(*nome);
-  if (errore) return AvvisaNomeNonValido(CartellaProgramma / *nome, DescrizioneErrore(errore));
+  const auto esistente = TrovaFile(dizionario_.Cartella(), *nome);
+  const std::error_code errore =
+      esistente ? std::error_code() : CreaDizionarioVuoto(dizionario_.Cartella() / *nome);
+  if (errore) return AvvisaNomeNonValido(dizionario_.Cartella() / *nome, DescrizioneErrore(errore));
   if (esistente) return ApriEsistente(esistente->filename());
-  NomeDizionario = *nome;
-  LinguaDizionario = LinguaDeiPrivati;
-  ApriEMostra();
+  ApriEMostra(*nome, LinguaDeiPrivati);
   AzzeraDidascalie();
   MostraNome();
-  File2->Vai(CartellaProgramma);
+  File2->Vai(dizionario_.Cartella());
   SegnaAperto();
 }
 
 // One that is open keeps its changes.
 void Form4::ApriEsistente(const Percorso& nome) {
-  if (letto_ && nome == NomeDizionario)
+  if (letto_ && nome == dizionario_.NomeDizionario())
     return Label3->setText(QStringLiteral("Questo dizionario è già aperto"));
-  NomeDizionario = nome;
-  LinguaDizionario = LinguaDeiPrivati;
-  if (ApriEMostra())
+  if (ApriEMostra(nome, LinguaDeiPrivati))
     Label3->setText(QStringLiteral("Questo dizionario esisteva già: è stato aperto"));
   MostraNome();
   SegnaAperto();
@@ -373,7 +370,7 @@ void Form4::CancellaPrivato() {
   const auto nome = File2->Scelto();
   if (!nome) return;
   const std::string testo = TestoPercorso(*nome);
-  if (Maiuscole(testo) == Maiuscole(TestoPercorso(NomeDizionario))) {
+  if (Maiuscole(testo) == Maiuscole(TestoPercorso(dizionario_.NomeDizionario()))) {
     return Avvisa(Unisci(
         "Dizionario ", testo,
         " aperto in questo momento, chiuderlo e selezionarne un altro prima di cancellarlo."));
@@ -383,11 +380,11 @@ void Form4::CancellaPrivato() {
                          "essere ripristinato."_cp))) {
     return;
   }
-  if (!CancellaDizionario(*nome)) {
+  if (!CancellaDizionario(dizionario_.Cartella() / *nome)) {
     Avvisa(Unisci("Impossibile cancellare il dizionario personale : ", testo,
                   " - Disco/File probabile sola lettura."));
   }
-  File2->Vai(CartellaProgramma);
+  File2->Vai(dizionario_.Cartella());
 }
 
 // --- Labels and lists ---
@@ -409,7 +406,7 @@ void Form4::SvuotaConteggi() {
 }
 
 void Form4::MostraNome() {
-  const std::string nome = TestoPercorso(NomeDizionario);
+  const std::string nome = TestoPercorso(dizionario_.NomeDizionario());
   Label9->setText(AQt(nome.substr(0, nome.find('.'))));
   Label9->setToolTip(ComeSuggerimento(Label9->text()));
 }

@@ -89,7 +89,7 @@ TEST_F(TelarDefTest, GivesBackWordAndClue) {
   QTest::keyClick(window.Command3d1, Qt::Key_Return);
   EXPECT_FALSE(window.isVisible());
   EXPECT_EQ(window.Esame().Accettata(), (ParolaDefinita{"MELA", "La pi\xF9 bella"}));
-  EXPECT_EQ(NumVociDizionari, 0);
+  EXPECT_EQ(window.NumVociDizionari, 0);
 }
 
 TEST_F(TelarDefTest, AnEmptyClueAndAnEmptyCellAreAccepted) {
@@ -244,12 +244,12 @@ TEST_F(TelarDefTest, OtherDictionariesAreSearchedFromAPopup) {
   Click(window.Check3d1[1]);
   window.menubrdiz.back()->trigger();
   EXPECT_EQ(Items(window.Combo1->model()), "MIRA|");
-  EXPECT_EQ(NomeDizionario, "LessicoItaliano.dat");
-  EXPECT_EQ(ContaLunghezza(1), 2);
+  EXPECT_EQ(dictionary.NomeDizionario(), "LessicoItaliano.dat");
+  EXPECT_EQ(dictionary.ContaLunghezza(1), 2);
   window.menudizionari->close();
   Click(window.Command3D4);
   EXPECT_EQ(Items(window.Combo1->model()), "MELA|MOLA|") << "and then the open one as before";
-  EXPECT_EQ(LeggiParola(1, 4), "MELA");
+  EXPECT_EQ(dictionary.LeggiParola(1, 4), "MELA");
 }
 
 TEST_F(TelarDefTest, AsksWordTheDictionariesOnlineAndItsOwnHelp) {

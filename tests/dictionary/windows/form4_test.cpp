@@ -3,7 +3,6 @@
 #include <QClipboard>
 #include <QLayout>
 
-#include "dictionary/dictionary.h"
 #include "editor/commands.h"
 #include "platform/codepage.h"
 #include "support/numbered_words.h"
@@ -63,11 +62,11 @@ class Form4Test : public TelariumTest {
   }
 
   // The words of a length in the file of the open dictionary.
-  static Words OnDisk(int length) {
+  Words OnDisk(int length) {
     Words words;
-    ApriDizionario();
-    for (int n = 1; n <= ContaLunghezza(length - MinLunghezza); ++n)
-      words.push_back(LeggiParola(static_cast<std::int16_t>(n), length));
+    ApriDizionario(dictionary);
+    for (int n = 1; n <= dictionary.ContaLunghezza(length - MinLunghezza); ++n)
+      words.push_back(dictionary.LeggiParola(static_cast<std::int16_t>(n), length));
     return words;
   }
 
@@ -121,12 +120,12 @@ TEST_F(Form4Test, OpensEmptyAndReadsWhatIsChosen) {
   EXPECT_EQ(Enabled(), "13548672");
 
   OpenFile(*window->File1, QStringLiteral("LessicoInglese.dat"));
-  EXPECT_EQ(LinguaDizionario, 2);
+  EXPECT_EQ(dictionary.LinguaDizionario(), 2);
   EXPECT_EQ(Shown(3) + Shown(4), "GAT ");
   QTest::keyClick(window->File2, Qt::Key_Down);
   QTest::keyClick(window->File2, Qt::Key_Return);
-  EXPECT_EQ(LinguaDizionario, 4);
-  EXPECT_EQ(NomeDizionario, "mio.priv");
+  EXPECT_EQ(dictionary.LinguaDizionario(), 4);
+  EXPECT_EQ(dictionary.NomeDizionario(), "mio.priv");
   EXPECT_EQ(Shown(4), "NAVE ");
   EXPECT_EQ(window->Label9->text(), QStringLiteral("mio"));
 }
@@ -141,7 +140,7 @@ TEST_F(Form4Test, TheOpenDictionaryIsSelectedAtTheStartAndCanBeRead) {
   Open(*window);
   EXPECT_EQ(window->File2->Scelto(), "mio.priv");
   CambiaLingua(4);  // which a private one counts as
-  EXPECT_EQ(NomeDizionario, "mio.priv");
+  EXPECT_EQ(dictionary.NomeDizionario(), "mio.priv");
   EXPECT_TRUE(window->File2->hasFocus());
   EXPECT_FALSE(window->Command4->isEnabled()) << "a rebuild would empty it";
   OpenFile(*window->File2, QStringLiteral("mio.priv"));
@@ -214,7 +213,7 @@ TEST_F(Form4Test, TheKeyboardDoesItAll) {
 
 TEST_F(Form4Test, WordsAreAddedAndDeletedInTheListsAlone) {
   OpenItalian();
-  const std::string before = ReadFile(PercorsoDizionario());
+  const std::string before = ReadFile(dictionary.PercorsoDizionario());
   Click(window->Command1);
   EXPECT_TRUE(window->Text1->hasFocus());
   QTest::keyClicks(window->Text1, QStringLiteral("ba4 n"));
@@ -260,7 +259,7 @@ TEST_F(Form4Test, WordsAreAddedAndDeletedInTheListsAlone) {
   EXPECT_EQ(Shown(4) + Count(4), "CASA (1) Parole");
   EXPECT_EQ(window->Label4->text(), QStringLiteral("5"));
   Click(window->Command5);  // and not the next one either
-  EXPECT_EQ(ReadFile(PercorsoDizionario()), before);
+  EXPECT_EQ(ReadFile(dictionary.PercorsoDizionario()), before);
 }
 
 TEST_F(Form4Test, TypingFindsAWord) {
@@ -277,12 +276,12 @@ TEST_F(Form4Test, TypingFindsAWord) {
 
 TEST_F(Form4Test, RebuildWritesWhatTheListsHold) {
   OpenItalian();
-  const std::string before = ReadFile(PercorsoDizionario());
+  const std::string before = ReadFile(dictionary.PercorsoDizionario());
   user.Answer(Risposta::Annulla);
   Click(window->Command4);
   EXPECT_EQ(user.TakeTexts(), (Words{Rebuilding, "Operazione annulata."}));
   Rebuild();
-  EXPECT_EQ(FirstDifference(ReadFile(PercorsoDizionario()), before), "");
+  EXPECT_EQ(FirstDifference(ReadFile(dictionary.PercorsoDizionario()), before), "");
   EXPECT_EQ(window->Label3->text(), QStringLiteral("Dizionario riscritto correttamente"));
   EXPECT_EQ(Count(4), "(2) Parole");
 
@@ -296,7 +295,7 @@ TEST_F(Form4Test, RebuildWritesWhatTheListsHold) {
   Rebuild();
   user.whileYielding = {};
   EXPECT_EQ(OnDisk(4), (Words{"BASE", "CASA", "SOLE"}));
-  EXPECT_EQ(ContaLunghezza(1), 3);
+  EXPECT_EQ(dictionary.ContaLunghezza(1), 3);
   EXPECT_EQ(Enabled(), "13548672");
   EXPECT_EQ(Red(*window->Label4), "#800000") << "red until the dialog closes";
   EXPECT_EQ(user.TakeTexts().size(), 3u);
@@ -304,10 +303,10 @@ TEST_F(Form4Test, RebuildWritesWhatTheListsHold) {
 
 TEST_F(Form4Test, RefusedAndFailedRebuildsLeaveTheOldFile) {
   OpenItalian();
-  const std::string before = ReadFile(PercorsoDizionario());
+  const std::string before = ReadFile(dictionary.PercorsoDizionario());
   std::filesystem::create_directory(InFolder("LESSICO.new"));  // it cannot be made there
   Rebuild();
-  EXPECT_EQ(ReadFile(PercorsoDizionario()), before);
+  EXPECT_EQ(ReadFile(dictionary.PercorsoDizionario()), before);
   EXPECT_TRUE(user.TakeTexts().at(1).starts_with("Impossibile scrivere il dizionario Lessico"));
   EXPECT_EQ(window->Label3->text(), QStringLiteral("Il dizionario sul disco resta com'era"));
   EXPECT_EQ(Shown(4) + Count(4), "CASA SOLE (2) Parole");
@@ -324,7 +323,7 @@ TEST_F(Form4Test, RefusedAndFailedRebuildsLeaveTheOldFile) {
   EXPECT_EQ(user.TakeTexts().at(1),
             "Impossibile scrivere il dizionario LessicoItaliano.dat: 33.000 parole di 8 lettere, e "
             "ne sono ammesse al massimo 32.767.");
-  EXPECT_EQ(ReadFile(PercorsoDizionario()), before);
+  EXPECT_EQ(ReadFile(dictionary.PercorsoDizionario()), before);
   EXPECT_EQ(Enabled(), "13548672");
 }
 
@@ -360,8 +359,8 @@ TEST_F(Form4Test, PrivateDictionariesAreMadeOpenedAndDeleted) {
             "Inserire nome del dizionario privato che si vuole creare :");
   user.AnswerText("nuovo");
   Click(window->Command6);
-  EXPECT_EQ(NomeDizionario, "nuovo.priv");
-  EXPECT_EQ(LinguaDizionario, 4);
+  EXPECT_EQ(dictionary.NomeDizionario(), "nuovo.priv");
+  EXPECT_EQ(dictionary.LinguaDizionario(), 4);
   EXPECT_EQ(std::filesystem::file_size(InFolder("nuovo.priv")), 0u);
   EXPECT_EQ(Shown(4) + Count(4), "");
   EXPECT_EQ(window->File2->count(), 2);
@@ -379,8 +378,8 @@ TEST_F(Form4Test, PrivateDictionariesAreMadeOpenedAndDeleted) {
   OpenItalian();
   user.AnswerText("MIO");  // there is one, in small letters
   Click(window->Command6);
-  EXPECT_EQ(NomeDizionario, "mio.priv");
-  EXPECT_EQ(LinguaDizionario, 4);
+  EXPECT_EQ(dictionary.NomeDizionario(), "mio.priv");
+  EXPECT_EQ(dictionary.LinguaDizionario(), 4);
   EXPECT_EQ(Shown(4) + Count(4), "NAVE (1) parole");
   Add(QStringLiteral("RETE"));
   user.AnswerText("mio");  // it is open, with a change that is not written yet
@@ -399,7 +398,7 @@ TEST_F(Form4Test, PrivateDictionariesAreMadeOpenedAndDeleted) {
   user.AnswerText("cartella");
   Click(window->Command6);
   EXPECT_EQ(user.TakeTexts().size(), 1u);
-  EXPECT_EQ(NomeDizionario, "mio.priv");
+  EXPECT_EQ(dictionary.NomeDizionario(), "mio.priv");
 
   window->File2->Scegli("mio.priv");
   Click(window->Command7);
@@ -435,7 +434,7 @@ TEST_F(Form4Test, AFileThatIsGoneChangesNothing) {
   std::filesystem::remove(InFolder("mio.priv"));
   OpenFile(*window->File2, QStringLiteral("mio.priv"));
   EXPECT_EQ(user.TakeTexts(), Words{std::string("Il dizionario mio.priv non c'è più."_cp)});
-  EXPECT_EQ(NomeDizionario, "LessicoItaliano.dat");
+  EXPECT_EQ(dictionary.NomeDizionario(), "LessicoItaliano.dat");
   EXPECT_EQ(Shown(4), "CASA SOLE ");
   EXPECT_EQ(window->File2->count(), 0);
 }
@@ -456,7 +455,7 @@ TEST_F(Form4Test, ExitStopsAReading) {
   EXPECT_TRUE(reading);
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(Shown(8), "");
-  EXPECT_EQ(NomeDizionario, "LessicoLatino.dat") << "it stays the open one";
+  EXPECT_EQ(dictionary.NomeDizionario(), "LessicoLatino.dat") << "it stays the open one";
 }
 
 }  // namespace
