@@ -42,13 +42,17 @@ class Cronologia::GiornaleAperto {
  public:
   GiornaleAperto(ScrittoreDiGiornali& scrittore, FileBloccato file, std::size_t byte)
       : scrittore_(scrittore), file_(scrittore.Prendi(std::move(file))), byte_(byte) {}
-  ~GiornaleAperto() { scrittore_.Chiudi(file_); }
+  ~GiornaleAperto() {
+    if (file_) scrittore_.Chiudi(file_);
+  }
   GiornaleAperto(const GiornaleAperto&) = delete;
   GiornaleAperto& operator=(const GiornaleAperto&) = delete;
 
-  unsigned voce = 0;  // whose line it holds
+  unsigned voce = 0;  // whose line it holds, 0 for none
 
-  std::error_code Guasto() const { return ScrittoreDiGiornali::Guasto(file_); }
+  std::error_code Guasto() const {
+    return file_ ? ScrittoreDiGiornali::Guasto(file_) : std::error_code();
+  }
 
   // Past that it is begun anew, so that what was undone and forgotten takes no room for ever.
   bool TroppoLungo() const { return byte_ > 2 * Linea::MaxByte; }
@@ -58,8 +62,11 @@ class Cronologia::GiornaleAperto {
     scrittore_.Aggiungi(file_, std::move(record));
   }
 
-  // This one goes when the other is on the disk.
-  void LasciaIlPostoA(const GiornaleAperto& altro) { scrittore_.Elimina(file_, altro.file_); }
+  // This one goes when the other is on the disk, and takes no more.
+  void LasciaIlPostoA(const GiornaleAperto& altro) {
+    scrittore_.Elimina(std::exchange(file_, nullptr), altro.file_);
+    voce = 0;
+  }
 
  private:
   ScrittoreDiGiornali& scrittore_;

@@ -10,7 +10,7 @@ namespace {
 using Orologio = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds TraDueConsolidamenti{1};
-constexpr std::chrono::milliseconds AttesaMassima{250};
+constexpr std::chrono::milliseconds AttesaMassima{1000};
 
 }  // namespace
 
@@ -24,7 +24,7 @@ class FileDiGiornale {
     if (!rotto_) Annota(file_.Aggiungi(byte));
   }
   // A disk that fails now will fail the next write too, or what it has lost is lost.
-  void Consolida() { file_.Consolida(); }
+  std::error_code Consolida() { return rotto_ ? errore_ : file_.Consolida(); }
   void Libera() { file_.Libera(); }
   void Elimina() { file_.Elimina(); }
 
@@ -59,15 +59,20 @@ void ScrittoreDiGiornali::Aggiungi(const File& file, std::string byte) {
     std::unique_lock blocco(mutex_);
     if (!lento_) lento_ = !cambiato_.wait_for(blocco, AttesaMassima, [&] { return coda_.empty(); });
   }
-  Incarica({Opera::Aggiunta, file, std::move(byte)});
+  Incarica({file, std::move(byte)});
 }
 
 void ScrittoreDiGiornali::Chiudi(const File& file) {
-  Incarica({Opera::Chiusura, file});
+  Incarica({file, {}, true});
 }
 
 void ScrittoreDiGiornali::Elimina(const File& file, const File& dopo) {
-  Incarica({Opera::Eliminazione, file, {}, dopo});
+  Attendi();
+  {
+    const std::lock_guard blocco(mutex_);
+    daScambiare_.push_back({file, dopo});
+  }
+  cambiato_.notify_all();
 }
 
 void ScrittoreDiGiornali::Attendi() {
@@ -91,45 +96,41 @@ void ScrittoreDiGiornali::Scrivi(const std::stop_token& fine) {
   std::unique_lock blocco(mutex_);
   // After the end is asked for it goes on until nothing is left.
   while (cambiato_.wait(blocco, fine, [&] { return !coda_.empty(); })) {
-    const Incarico& incarico = coda_.front();  // stays where it is when others come behind it
+    const auto& [file, byte, chiusura] = coda_.front();  // it stays when others come behind it
     blocco.unlock();
-    Esegui(incarico);
+    chiusura ? file->Libera() : file->Aggiungi(byte);
     blocco.lock();
-    if (incarico.opera == Opera::Aggiunta && std::find(daConsolidare_.begin(), daConsolidare_.end(),
-                                                       incarico.file) == daConsolidare_.end())
-      daConsolidare_.push_back(incarico.file);
+    if (!chiusura && std::ranges::find(daConsolidare_, file) == daConsolidare_.end())
+      daConsolidare_.push_back(file);
     coda_.pop_front();
     if (coda_.empty()) lento_ = false;
     cambiato_.notify_all();
   }
 }
 
-void ScrittoreDiGiornali::Esegui(const Incarico& incarico) {
-  switch (incarico.opera) {
-    case Opera::Aggiunta:
-      return incarico.file->Aggiungi(incarico.byte);
-    case Opera::Chiusura:
-      return incarico.file->Libera();
-    case Opera::Eliminazione:
-      if (!incarico.dopo->Guasto()) {
-        incarico.dopo->Consolida();
-        incarico.file->Elimina();
-      }
-      incarico.file->Libera();
-  }
-}
-
+// Of its own, since a disk may take its time and no record is to wait for it.
 void ScrittoreDiGiornali::Consolida(const std::stop_token& fine) {
   auto prossimo = Orologio::now();
   std::unique_lock blocco(mutex_);
-  while (cambiato_.wait(blocco, fine, [&] { return !daConsolidare_.empty(); })) {
+  const auto qualcosa = [&] { return !daConsolidare_.empty() || !daScambiare_.empty(); };
+  while (cambiato_.wait(blocco, fine, qualcosa)) {
     cambiato_.wait_until(blocco, fine, prossimo, [] { return false; });
-    const std::vector<File> questi = std::exchange(daConsolidare_, {});
+    const auto file = std::exchange(daConsolidare_, {});
+    const auto scambi = std::exchange(daScambiare_, {});
     blocco.unlock();
-    for (const File& file : questi)
-      file->Consolida();
+    Consolida(file, scambi);
     prossimo = Orologio::now() + TraDueConsolidamenti;
     blocco.lock();
+  }
+}
+
+void ScrittoreDiGiornali::Consolida(const std::vector<File>& file,
+                                    const std::vector<Scambio>& scambi) {
+  for (const File& uno : file)
+    uno->Consolida();
+  for (const auto& [uno, dopo] : scambi) {
+    if (!dopo->Consolida()) uno->Elimina();
+    uno->Libera();
   }
 }
 

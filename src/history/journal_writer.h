@@ -49,23 +49,26 @@ class ScrittoreDiGiornali {
   static std::error_code Guasto(const File& file);
 
  private:
-  enum class Opera { Aggiunta, Chiusura, Eliminazione };
+  // Bytes to be added, or the end of a file.
   struct Incarico {
-    Opera opera;
     File file;
-    std::string byte = {};
-    File dopo = {};
+    std::string byte;
+    bool chiusura = false;
+  };
+  struct Scambio {
+    File file, dopo;
   };
 
   void Incarica(Incarico incarico);
   void Scrivi(const std::stop_token& fine);
-  void Esegui(const Incarico& incarico);
   void Consolida(const std::stop_token& fine);
+  void Consolida(const std::vector<File>& file, const std::vector<Scambio>& scambi);
 
   std::mutex mutex_;
   std::condition_variable_any cambiato_;
   std::deque<Incarico> coda_;  // the first one is in hand
   std::vector<File> daConsolidare_;
+  std::vector<Scambio> daScambiare_;
   bool lento_ = false;  // the system did not take something in time: nobody waits until it has
   std::jthread scrive_;
   std::jthread consolida_;
