@@ -22,6 +22,7 @@
 #include "model/words.h"
 #include "offscreen_main.h"
 #include "platform/temporary.h"
+#include "support/crossword_state.h"
 #include "support/scripted_platform.h"
 
 // Measures the bulk moves and the import of clues, and the windows over the encyclopedia, on the
@@ -55,24 +56,21 @@ std::vector<std::string> WordsOfTheStore(std::size_t length) {
 // the vertical ones are as they come.
 void FillGrid() {
   Expect(NuovoVuoto(MaxColonne, MaxRighe) == EsitoNuovo::Fatto);
-  for (int r = 1; r <= MaxRighe; ++r)
-    for (int c = 1; c <= MaxColonne; ++c)
-      if ((c + r) % 6 == 0) ScriviInSchema({c, r}, CellaNera);
-  RicalcolaCaselle();
+  SetCells([](int c, int r) { return (c + r) % 6 == 0 ? CellaNera : CellaVuota; });
   const std::vector<std::string> words = WordsOfTheStore(5);
   std::size_t next = 0;
-  PerOgniParola([&](const Slot& slot) {
-    if (slot.direzione == Orizzontale) ScriviInSchema(slot, words[(next += 17) % words.size()]);
+  Change([&](Cruciverba& crossword) {
+    PerOgniParola(Orizzontale, [&](const Slot& slot) {
+      const std::string& word = words[(next += 17) % words.size()];
+      for (int k = 1; k <= slot.lunghezza; ++k)
+        ScriviCarattere(crossword, slot.Cella(k), word[static_cast<std::size_t>(k) - 1]);
+    });
   });
   // Incomplete words at the edges too.
-  PerOgniParola([&](const Slot& slot) {
-    for (int k = 1; k <= slot.lunghezza; ++k) {
-      const auto [c, r] = slot.Cella(k);
-      if (Schema(r + RigheIntestazione)[2 * static_cast<std::size_t>(c) - 2] == CellaVuota)
-        ScriviInSchema({c, r}, 'A');
-    }
+  SetCells([](int c, int r) {
+    const char letter = LetteraCasella(c, r);
+    return letter == CellaVuota ? 'A' : letter;
   });
-  RicalcolaCaselle();
 }
 
 int CountWords() {
@@ -96,14 +94,14 @@ void BM_PlainFetch(benchmark::State& state) {
     std::vector<RigaParole> rows;
     for (const ChiaveRiga& key : keys)
       rows.push_back(store->LeggiRiga(key.numero));
-    PerOgniParola([&](const Slot& slot) {
+    SetClues([&](const Slot& slot) -> std::string {
       const std::string word = LettereDi(slot);
       const auto row = std::find_if(rows.begin(), rows.end(),
                                     [&](const RigaParole& one) { return one.parola == word; });
-      if (row == rows.end()) return;
+      if (row == rows.end()) return {};
       std::string text = row->facili.value_or("") + "\r\n" + row->difficili.value_or("");
       spezzatesto(text);
-      Definizione(slot.inizio.colonna, slot.inizio.riga, slot.direzione) = ElencoDefinizioni(1);
+      return ElencoDefinizioni(1);
     });
   }
 }
@@ -114,9 +112,9 @@ void BM_Save(benchmark::State& state) {
     state.PauseTiming();
     FreshStore();
     ++round;
-    PerOgniParola([&](const Slot& slot) {
+    SetClues([&](const Slot& slot) {
       const auto [c, r] = slot.inizio;
-      Definizione(c, r, slot.direzione) = Unisci("Nuova ", c, ' ', r, ' ', slot.direzione, round);
+      return Unisci("Nuova ", c, ' ', r, ' ', slot.direzione, round);
     });
     state.ResumeTiming();
     Expect(SalvaTutte().has_value());

@@ -12,6 +12,7 @@
 #include "model/words.h"
 #include "offscreen_main.h"
 #include "platform/temporary.h"
+#include "support/crossword_state.h"
 #include "support/scripted_platform.h"
 
 // Measures the window that opens a crossword on a folder with many files, on a screen that nobody
@@ -25,11 +26,7 @@ constexpr int Files = 2000;
 void FillArchive(const Percorso& folder) {
   CartellaProgramma = folder;
   if (NuovoVuoto(MaxColonne, MaxRighe) != EsitoNuovo::Fatto) abort();
-  for (int r = 1; r <= MaxRighe; ++r) {
-    for (int c = 1; c <= MaxColonne; ++c)
-      ScriviInSchema({c, r}, c % 5 ? static_cast<char>('A' + c % 21) : CellaNera);
-  }
-  RicalcolaCaselle();
+  SetCells([](int c, int) { return c % 5 ? static_cast<char>('A' + c % 21) : CellaNera; });
   const Percorso archive = folder / "Archivio cruciverba";
   std::filesystem::create_directory(archive);
   const Percorso first = archive / "0.tlrm";

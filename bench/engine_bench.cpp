@@ -19,6 +19,7 @@
 #include "plain_baseline.h"
 #include "platform/temporary.h"
 #include "process_cost.h"
+#include "support/crossword_state.h"
 #include "support/scripted_platform.h"
 
 // Measures the hot routines of the engine side by side with the plain way of doing the same, and
@@ -128,15 +129,10 @@ void BM_Fill(benchmark::State& state, ScriptedPlatform& platform) {
 // characters for each word.
 Percorso WriteFullCrossword(const Percorso& folder) {
   NuovoVuoto(MaxColonne, MaxRighe);
-  for (int r = 1; r <= MaxRighe; ++r) {
-    for (int c = 1; c <= MaxColonne; ++c) {
-      ScriviInSchema({c, r}, (c + 3 * r) % 7 == 0 ? CellaNera : static_cast<char>('A' + c % 21));
-    }
-  }
-  RicalcolaCaselle();
-  PerOgniParola([](const Slot& slot) {
-    Definizione(slot.inizio.colonna, slot.inizio.riga, slot.direzione) = std::string(60, 'x');
+  SetCells([](int c, int r) {
+    return (c + 3 * r) % 7 == 0 ? CellaNera : static_cast<char>('A' + c % 21);
   });
+  SetClues([](const Slot&) { return std::string(60, 'x'); });
   const Percorso path = folder / "pieno.tlrm";
   if (!ScriviCruciverba(path)) abort();
   return path;

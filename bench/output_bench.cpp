@@ -20,6 +20,7 @@
 #include "platform/qt/qt_surface.h"
 #include "platform/qt/qt_text.h"
 #include "platform/temporary.h"
+#include "support/crossword_state.h"
 #include "support/scripted_platform.h"
 
 // Measures what the output commands make, files included, on a screen that nobody sees.
@@ -55,15 +56,13 @@ class BenchPlatform : public ScriptedPlatform {
 // A grid with a letter in each white cell and a clue for each word.
 void FullGrid(int columns, int rows) {
   Expect(NuovoVuoto(columns, rows) == EsitoNuovo::Fatto);
-  for (int r = 1; r <= rows; ++r)
-    for (int c = 1; c <= columns; ++c)
-      ScriviInSchema({c, r}, (c + r) % 6 == 0 ? CellaNera : static_cast<char>('A' + c % 21));
-  RidisegnaSchema();
-  PerOgniParola([](const Slot& slot) {
-    Definizione(slot.inizio.colonna, slot.inizio.riga, slot.direzione) = std::string(
-        ClueLength,
-        static_cast<char>('a' + NumeroCasella(slot.inizio.colonna, slot.inizio.riga) % 26));
+  SetCells(
+      [](int c, int r) { return (c + r) % 6 == 0 ? CellaNera : static_cast<char>('A' + c % 21); });
+  SetClues([](const Slot& slot) {
+    const int number = NumeroCasella(slot.inizio.colonna, slot.inizio.riga);
+    return std::string(ClueLength, static_cast<char>('a' + number % 26));
   });
+  RidisegnaSchema();
 }
 
 void BM_StaticPage(benchmark::State& state) {

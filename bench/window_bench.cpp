@@ -16,6 +16,7 @@
 #include "model/words.h"
 #include "offscreen_main.h"
 #include "platform/temporary.h"
+#include "support/crossword_state.h"
 #include "support/scripted_platform.h"
 
 // Measures what the main window paints, on a screen that nobody sees: a redraw, a repaint, and what
@@ -31,13 +32,15 @@ constexpr int ColouredCells = 400;
 void FullGrid() {
   NuovoVuoto(MaxColonne, MaxRighe);
   int black = 0;
-  for (int r = 1; r <= MaxRighe; ++r) {
-    for (int c = 1; c <= MaxColonne; ++c) {
-      const bool coloured = (c + 2 * r) % 4 == 3 && black < ColouredCells;
-      ScriviInSchema({c, r}, coloured ? CellaNera : static_cast<char>('A' + c % 21));
-      ColoreCasella(c, r) = coloured ? ++black * 7919 + 1 : ColoreNero;
+  Change([&](Cruciverba& crossword) {
+    for (int r = 1; r <= MaxRighe; ++r) {
+      for (int c = 1; c <= MaxColonne; ++c) {
+        const bool coloured = (c + 2 * r) % 4 == 3 && black < ColouredCells;
+        ScriviCarattere(crossword, {c, r}, coloured ? CellaNera : static_cast<char>('A' + c % 21));
+        crossword.colori.Imposta(coloured ? ++black * 7919 + 1 : ColoreNero, c, r);
+      }
     }
-  }
+  });
   if (black != ColouredCells) abort();
   ConsolidaSchema();
 }
@@ -83,7 +86,7 @@ void OpenModelGrid() {
   if (NuovoDaModello(CartellaProgramma / NomeModelliIniziale, ModelNumber) != EsitoNuovo::Fatto) {
     abort();
   }
-  ColoreCasella.Riempi(ColoreNero);
+  Change([](Cruciverba& crossword) { crossword.colori = Cruciverba().colori; });
   RiprendiSchema();
 }
 

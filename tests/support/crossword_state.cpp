@@ -1,6 +1,7 @@
 #include "support/crossword_state.h"
 
 #include "model/current_crossword.h"
+#include "model/derivation.h"
 #include "model/words.h"
 #include "platform/check.h"
 
@@ -25,6 +26,25 @@ void SetColour(int column, int row, Colore colour) {
 
 void SetCell(int column, int row, char character) {
   Change([&](Cruciverba& crossword) { ScriviCarattere(crossword, {column, row}, character); });
+}
+
+void SetCells(const std::function<char(int column, int row)>& characterAt) {
+  Change([&](Cruciverba& crossword) {
+    for (int r = 1; r <= crossword.righe; ++r) {
+      for (int c = 1; c <= crossword.colonne; ++c)
+        ScriviCarattere(crossword, {c, r}, characterAt(c, r));
+    }
+  });
+}
+
+void SetClues(const std::function<std::string(const Slot&)>& clueOf) {
+  Change([&](Cruciverba& crossword) {
+    const Derivati derived = Deriva(crossword);
+    for (const Slot& slot : derived.Parole()) {
+      const auto [c, r] = slot.inizio;
+      crossword.definizioni.Imposta(clueOf(slot), c, r, slot.direzione);
+    }
+  });
 }
 
 void SetLine(int row, std::string_view line) {

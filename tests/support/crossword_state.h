@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "model/cruciverba.h"
@@ -17,6 +18,10 @@ void Change(const std::function<void(Cruciverba&)>& how);
 void SetClue(int column, int row, int direction, std::string_view clue);
 void SetColour(int column, int row, Colore colour);
 void SetCell(int column, int row, char character);
+
+/// All cells of the grid, and the clues of all its words.
+void SetCells(const std::function<char(int column, int row)>& characterAt);
+void SetClues(const std::function<std::string(const Slot&)>& clueOf);
 
 /// A row of the grid as its file holds it, of any length, and a line of the header; from 1.
 void SetLine(int row, std::string_view line);
