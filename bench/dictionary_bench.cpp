@@ -7,6 +7,7 @@
 #include "dictionary/open_dictionary.h"
 #include "dictionary/windows/Form4.h"
 #include "median_keeper.h"
+#include "model/state.h"
 #include "offscreen_main.h"
 #include "platform/temporary.h"
 #include "support/numbered_words.h"

@@ -154,7 +154,7 @@ TEST_F(Archive, GivingUpWithoutACrosswordShowsNoGrid) {
   EXPECT_EQ(NomeProposto(), "prova.tlrm");
   RinunciaAdAprire();
   EXPECT_EQ(ModoGriglia, 0);
-  NomeCruciverba.clear();
+  SetName("");
   EXPECT_EQ(NomeProposto(), "Telar000.tlrm");
   RinunciaAdAprire();
   EXPECT_EQ(ModoGriglia, -1);

@@ -75,8 +75,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view input = TextOf(data, size);
   const bool slow = OneIn(8, input);
   ReadAndWrite(input);
-  const bool read = InterpretaCruciverba(input);
-  RicalcolaCaselle();
+  const LetturaDelFile read = LeggiContenuto(input);
+  Change([&](Cruciverba& crossword) { crossword = read.cruciverba; });
   if (slow) Preview(input);
   if (slow) Check(input);
   if (NumColonne == 0) return 0;
@@ -84,7 +84,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     SetCell(NumColonne, NumRighe, cell);
     SetCell(1, NumRighe, cell);
   }
-  if (!read || !slow) return 0;
+  if ((read.guasto && read.guasto->Grave()) || !slow) return 0;
   // What is written reads as the same.
   const std::string first = Written();
   if (first.empty()) return 0;
