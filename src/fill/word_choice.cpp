@@ -99,8 +99,9 @@ bool SceltaDiParole::CercaCandidati(std::string_view modello) {
     errore_ = Unisci("Errore: Parola con ", lunghezza, " caratteri non disponibile!.");
     return false;
   }
+  int quanti = 0;  // a register in the loops below
   const auto aggiungi = [&](int numero) {
-    candidati_(++numCandidati_) = static_cast<std::int16_t>(numero);
+    candidati_(++quanti) = static_cast<std::int16_t>(numero);
   };
   const ModelloParola adatto(modello);
   ScansioneSezione scansione(dizionario_, lunghezza);
@@ -115,6 +116,7 @@ bool SceltaDiParole::CercaCandidati(std::string_view modello) {
       });
     }
   }
+  numCandidati_ = static_cast<std::int16_t>(quanti);
   if (!scansione.Leggibile()) errore_ = dizionario_.TestoIlleggibile();
   return scansione.Leggibile();
 }
