@@ -200,6 +200,25 @@ TEST_F(ExtractionTest, AnswerNoStartsAnewAndCancelLeavesTheGridAsItIs) {
   EXPECT_EQ(user.TakeTexts().size(), 2u);
 }
 
+// Nobody needs a file for each of a thousand attempts; a black cell with a colour makes a redraw
+// write one.
+TEST_F(ExtractionTest, ItsFirstClearingAndItsEndWriteTheSnapshotAndNoRestartDoes) {
+  platform.hasWindow = true;
+  DrawJoined(TeeGrid);
+  SetColour(1, 2, 255);
+  OpenDictionary(TeeWords);
+  command.ProvaInfinita = Vero;
+  machine.draws = {DrawLibro, DrawLibro, DrawCarta};
+  std::string written;
+  StopWhen([&](const AvanzamentoEstrazione&) {
+    written += std::filesystem::remove(PercorsoIstantanea()) ? '+' : '-';
+    return false;
+  });
+  EXPECT_EQ(Run(), TeeWithCarta);
+  EXPECT_EQ(written, "++-----") << "before the first clearing, behind it, and none at the others";
+  EXPECT_TRUE(std::filesystem::exists(PercorsoIstantanea()));
+}
+
 TEST_F(ExtractionTest, EndlessRunAsksNothingAndStopsAtAPoll) {
   DrawJoined(TeeGrid);
   OpenDictionary(TeeWords);
