@@ -86,10 +86,21 @@ bool GiaNelFile(const Giornale& giornale) {
          contenuto == *byte;
 }
 
+// Whether its end says that nothing is lost, so that not all of it has to be read.
+bool FinisceSenzaLavoroPerso(FileBloccato& file) {
+  constexpr std::size_t coda = 64u << 10;
+  std::string inizio, fine;
+  const std::size_t da = file.Byte() - std::min(file.Byte(), coda);
+  return !file.Leggi(0, ByteDellInizio, inizio) && !file.Leggi(da, coda, fine) &&
+         SenzaLavoroPerso(inizio, fine);
+}
+
 std::optional<LavoroPerso> LavoroIn(const Percorso& nome) {
-  const auto letto = Leggi(nome);
-  if (!letto || SenzaLavoroPerso(letto->contenuto)) return std::nullopt;
-  const auto [esito, giornale] = LeggiGiornale(letto->contenuto);
+  std::error_code errore;
+  auto file = FileBloccato::Apri(nome, errore);
+  std::string contenuto;
+  if (!file || FinisceSenzaLavoroPerso(*file) || file->Leggi(contenuto)) return std::nullopt;
+  const auto giornale = LeggiGiornale(contenuto).giornale;
   if (!giornale || !giornale->HaLavoroPerso() || GiaNelFile(*giornale)) return std::nullopt;
   const Linea& linea = giornale->linea;
   return LavoroPerso{nome, giornale->file.nome, !giornale->file.impronta,
@@ -101,11 +112,10 @@ std::optional<LavoroPerso> LavoroIn(const Percorso& nome) {
 void Togli(const Percorso& nome, bool conLavoroPerso) {
   auto letto = Leggi(nome);
   if (!letto) return;
-  if (!conLavoroPerso && !SenzaLavoroPerso(letto->contenuto)) {
-    const auto giornale = LeggiGiornale(letto->contenuto).giornale;
-    if (giornale && giornale->HaLavoroPerso()) return;
-  }
-  if (LeggiGiornale(letto->contenuto).esito != EsitoGiornale::Nuovo) letto->file.Elimina();
+  const auto [esito, giornale] = LeggiGiornale(letto->contenuto);
+  if (esito == EsitoGiornale::Nuovo) return;
+  if (giornale && giornale->HaLavoroPerso() && !conLavoroPerso) return;
+  letto->file.Elimina();
 }
 
 }  // namespace
@@ -161,7 +171,11 @@ std::error_code ArchivioDelleCronologie::Scarta(const LavoroPerso& lavoro) const
   auto file = FileBloccato::Apri(lavoro.giornale, errore);
   if (!file) return errore;
   if (lavoro.maiSalvato) return file->Elimina();
+  // It does not become the youngest file of its crossword by that.
+  std::error_code ignorato;
+  const auto scritto = fs::last_write_time(lavoro.giornale, ignorato);
   errore = file->Aggiungi(RecordDellaRinuncia());
+  if (!ignorato) fs::last_write_time(lavoro.giornale, scritto, ignorato);
   return errore ? errore : file->Consolida();
 }
 

@@ -227,6 +227,12 @@ void Cronologia::Entra(Voce voce) {
   voce_ = voci_.size() - 1;
 }
 
+// Whether the file of a line that is taken up stays as it is, and the line goes on in a new one: it
+// holds lost work, which is to be offered until it is saved or given up.
+bool Cronologia::Resta(bool perso, const Voce& voce) {
+  return perso && DiversoDalFile(voce.linea.Attuale(), voce.file);
+}
+
 bool Cronologia::RiprendiDallaMemoria(Voce& voce) {
   const auto altra = std::find_if(voci_.rbegin(), voci_.rend(), [&](const Voce& una) {
     return una.file.impronta &&
@@ -234,8 +240,11 @@ bool Cronologia::RiprendiDallaMemoria(Voce& voce) {
   });
   if (altra == voci_.rend()) return false;
   voce.linea = altra->linea;
-  voce.giornale = altra->giornale;
-  if (voce.giornale && voce.giornale->voce == altra->numero) voce.giornale->voce = voce.numero;
+  const bool perso = DiversoDalFile(altra->linea.Attuale(), altra->file);
+  if (altra->giornale && altra->giornale->voce == altra->numero && !Resta(perso, voce)) {
+    voce.giornale = altra->giornale;
+    voce.giornale->voce = voce.numero;
+  }
   PortaAlFile(voce, altra->file);
   return true;
 }
@@ -245,10 +254,13 @@ bool Cronologia::RiprendiDallArchivio(Voce& voce) {
   scrittore_->Attendi();  // it may be one that was let go of a moment ago
   auto trovato = archivio_.Trova(voce.file.nome);
   if (!trovato) return false;
+  const bool perso = trovato->giornale.HaLavoroPerso();
   voce.linea = std::move(trovato->giornale.linea);
-  voce.giornale = std::make_shared<GiornaleAperto>(*scrittore_, std::move(trovato->file),
-                                                   trovato->giornale.byteSani);
-  voce.giornale->voce = voce.numero;
+  if (!Resta(perso, voce)) {
+    voce.giornale = std::make_shared<GiornaleAperto>(*scrittore_, std::move(trovato->file),
+                                                     trovato->giornale.byteSani);
+    voce.giornale->voce = voce.numero;
+  }
   PortaAlFile(voce, trovato->giornale.file);
   return true;
 }

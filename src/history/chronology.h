@@ -85,6 +85,7 @@ class Cronologia : public OsservatoreDelDocumento {
 
   Passo NuovoPasso(const std::string& motivo) const;
   Voce NuovaVoce(const std::string& motivo, FileDelCruciverba file, Linea linea);
+  static bool Resta(bool perso, const Voce& voce);
   bool RiprendiDallaMemoria(Voce& voce);
   bool RiprendiDallArchivio(Voce& voce);
   void PortaAlFile(Voce& voce, const FileDelCruciverba& conosciuto);

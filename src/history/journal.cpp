@@ -13,7 +13,8 @@ constexpr std::uint32_t Versione = 1;
 constexpr int ByteDellaVersione = 4;
 constexpr int ByteDellaLunghezza = 4;
 constexpr int ByteDellImpronta = 8;
-constexpr std::size_t BytePrimaDelContenuto = ByteDellaLunghezza + ByteDellImpronta;
+constexpr std::size_t ByteIntornoAlContenuto = 2 * ByteDellaLunghezza + ByteDellImpronta;
+static_assert(Segno.size() + ByteDellaVersione == ByteDellInizio);
 
 enum Genere : std::uint64_t {
   LineaIntera = 1,
@@ -24,7 +25,7 @@ enum Genere : std::uint64_t {
   Rinuncia = 6,
 };
 
-// A record behind the length and the digest of its content.
+// A record with length and digest of its content around it.
 std::string Record(Genere genere, bool sospeso, const ScrittoreDiByte& resto) {
   ScrittoreDiByte contenuto;
   contenuto.Fisso(genere, 1);
@@ -34,17 +35,19 @@ std::string Record(Genere genere, bool sospeso, const ScrittoreDiByte& resto) {
   record.Fisso(contenuto.Byte().size(), ByteDellaLunghezza);
   record.Fisso(ImprontaDi(contenuto.Byte()), ByteDellImpronta);
   record.Grezzo(contenuto.Byte());
+  record.Fisso(contenuto.Byte().size(), ByteDellaLunghezza);
   return record.Prendi();
 }
 
 // The next record of those that `resto` begins with, without its frame; none at damage.
-std::optional<std::string_view> ProssimoRecord(std::string_view& resto, bool verificato) {
+std::optional<std::string_view> ProssimoRecord(std::string_view& resto) {
   LettoreDiByte lettore(resto);
   const std::uint64_t lunghezza = lettore.Fisso(ByteDellaLunghezza);
   const std::uint64_t impronta = lettore.Fisso(ByteDellImpronta);
   const std::string_view contenuto = lettore.Grezzo(lunghezza);
-  if (!lettore.Sano() || (verificato && ImprontaDi(contenuto) != impronta)) return std::nullopt;
-  resto.remove_prefix(BytePrimaDelContenuto + contenuto.size());
+  const bool intero = lettore.Fisso(ByteDellaLunghezza) == lunghezza && lettore.Sano();
+  if (!intero || ImprontaDi(contenuto) != impronta) return std::nullopt;
+  resto.remove_prefix(ByteIntornoAlContenuto + contenuto.size());
   return contenuto;
 }
 
@@ -246,7 +249,7 @@ LetturaDelGiornale LeggiGiornale(std::string_view contenuto) {
   if (lettura.esito != EsitoGiornale::Letto) return lettura;
   Lettura records;
   std::size_t byteSani = 0;
-  while (const auto record = ProssimoRecord(resto, true)) {
+  while (const auto record = ProssimoRecord(resto)) {
     if (!records.Prendi(*record)) break;
     byteSani = contenuto.size() - resto.size();
   }
@@ -255,14 +258,14 @@ LetturaDelGiornale LeggiGiornale(std::string_view contenuto) {
   return lettura;
 }
 
-bool SenzaLavoroPerso(std::string_view contenuto) {
-  if (LeggiSegno(contenuto) != EsitoGiornale::Letto) return false;
-  std::string_view ultimo;
-  while (!contenuto.empty()) {
-    ultimo = contenuto;
-    if (!ProssimoRecord(contenuto, false)) return false;
-  }
-  const auto record = ProssimoRecord(ultimo, true);
+bool SenzaLavoroPerso(std::string_view inizio, std::string_view fine) {
+  if (LeggiSegno(inizio) != EsitoGiornale::Letto || fine.size() < ByteIntornoAlContenuto)
+    return false;
+  const std::uint64_t lunghezza =
+      LettoreDiByte(fine.substr(fine.size() - ByteDellaLunghezza)).Fisso(ByteDellaLunghezza);
+  if (lunghezza > fine.size() - ByteIntornoAlContenuto) return false;
+  fine.remove_prefix(fine.size() - ByteIntornoAlContenuto - lunghezza);
+  const auto record = ProssimoRecord(fine);
   return record && record->size() >= 2 && (*record)[1] == 0;
 }
 

@@ -21,6 +21,7 @@
 //   1       kind (journal.cpp)
 //   1       1 if behind this record there may be work that is in no file of a crossword
 //   rest    numbers and texts of history/bytes.h
+//   4       the length once more, so that the last record is found from the end
 namespace telarium {
 
 /// What a file of steps holds.
@@ -66,7 +67,8 @@ struct LetturaDelGiornale {
 LetturaDelGiornale LeggiGiornale(std::string_view contenuto);
 
 /// Whether a file of steps surely holds no work that is in no file, as its last record says; told
-/// without reading the others.
-bool SenzaLavoroPerso(std::string_view contenuto);
+/// from its first ByteDellInizio bytes and from as many of its last ones as are at hand.
+inline constexpr std::size_t ByteDellInizio = 12;
+bool SenzaLavoroPerso(std::string_view inizio, std::string_view fine);
 
 }  // namespace telarium

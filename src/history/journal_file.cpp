@@ -74,11 +74,15 @@ std::optional<FileBloccato> FileBloccato::Crea(const Percorso& nome, std::error_
 std::error_code FileBloccato::Leggi(std::string& contenuto) {
   contenuto.clear();
   if (byte_ > MaxByte) return std::make_error_code(std::errc::file_too_large);
-  contenuto.resize(byte_);
+  return Leggi(0, byte_, contenuto);
+}
+
+std::error_code FileBloccato::Leggi(std::size_t da, std::size_t quanti, std::string& contenuto) {
+  contenuto.resize(quanti);
   std::size_t letti = 0;
   while (letti < contenuto.size()) {
     const ssize_t ora = ::pread(aperto_.Numero(), contenuto.data() + letti,
-                                contenuto.size() - letti, static_cast<off_t>(letti));
+                                contenuto.size() - letti, static_cast<off_t>(da + letti));
     if (ora < 0 && errno == EINTR) continue;
     if (ora < 0) return UltimoErrore();
     if (ora == 0) break;

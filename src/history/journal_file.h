@@ -25,8 +25,11 @@ class FileBloccato {
 
   const Percorso& Nome() const { return nome_; }
 
-  /// All of it.
+  std::size_t Byte() const { return byte_; }
+
+  /// All of it, or so many bytes from a place on, as far as there are.
   std::error_code Leggi(std::string& contenuto);
+  std::error_code Leggi(std::size_t da, std::size_t quanti, std::string& contenuto);
 
   /// What is added goes behind the first `byte` bytes; what lay behind them goes.
   std::error_code Tronca(std::size_t byte);

@@ -12,10 +12,11 @@ using namespace telarium;
 namespace {
 
 constexpr std::size_t SignBytes = 12, LengthBytes = 4, DigestBytes = 8;
+constexpr std::size_t RecordBytes = 2 * LengthBytes + DigestBytes;  // without content
 
 // Whatever was read can be written, and read again as the same.
 void Read(std::string_view input) {
-  SenzaLavoroPerso(input);
+  SenzaLavoroPerso(input, input);
   const auto [outcome, read] = LeggiGiornale(input);
   if (!read) return;
   Verifica(read->byteSani <= input.size(), "more sound bytes than there are");
@@ -31,14 +32,15 @@ void Read(std::string_view input) {
 // The input with the digests that its records should have, so that their contents are looked at.
 std::string WithSoundDigests(std::string_view input) {
   std::string bytes(input);
-  for (std::size_t at = SignBytes; at + LengthBytes + DigestBytes <= bytes.size();) {
+  for (std::size_t at = SignBytes; at + RecordBytes <= bytes.size();) {
     std::uint32_t length;
     std::memcpy(&length, &bytes[at], sizeof length);
     const std::size_t content = at + LengthBytes + DigestBytes;
-    if (length > bytes.size() - content) break;
+    if (length > bytes.size() - at - RecordBytes) break;
     const std::uint64_t digest = ImprontaDi(std::string_view(bytes).substr(content, length));
     std::memcpy(&bytes[at + LengthBytes], &digest, sizeof digest);
-    at = content + length;
+    std::memcpy(&bytes[content + length], &length, sizeof length);
+    at = content + length + LengthBytes;
   }
   return bytes;
 }

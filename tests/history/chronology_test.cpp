@@ -140,7 +140,29 @@ TEST_F(Chronology, ASaveUnderAnotherNameTakesTheLineAlong) {
   session->Restart();
   session->Open("tre");
   EXPECT_EQ(After(">"), "XY.. tre*");
-  EXPECT_EQ(Journals().size(), 2u);
+  EXPECT_EQ(LostNames(),
+            (Names{"quattro", "quattro"}));  // undone in this run, changed in the former
+  EXPECT_EQ(Journals().size(), 3u);
+}
+
+TEST_F(Chronology, LostWorkIsOfferedOnAlthoughItsFileWasOpenedAgain) {
+  for (const bool restarted : {false, true}) {
+    const std::string name = restarted ? "uno" : "due";
+    session->Open(name);
+    session->Letter({1, 1}, 'X');
+    if (restarted) session->Restart();
+    session->Open(name);
+    EXPECT_EQ(session->History().DaRipetere(), "Lettera X");
+    session->Letter({1, 1}, 'Y');
+    session->Save(name);
+    session->Restart();
+    ASSERT_EQ(LostNames(), Names{name});
+    EXPECT_EQ(CarattereDi(session->Lost()[0].cruciverba, {1, 1}), 'X');
+    EXPECT_FALSE(session->History().Archivio().Scarta(session->Lost()[0]));
+    session->Open(name);  // with the younger line
+    EXPECT_EQ(CarattereDi(session->Value(), {1, 1}), 'Y');
+    EXPECT_EQ(session->History().LineaAperta()->Quanti(), 2u);
+  }
 }
 
 TEST_F(Chronology, WhatWasNotSavedIsOfferedUntilItIsSavedOrGivenUp) {
@@ -287,6 +309,7 @@ TEST_F(Chronology, WhereNothingCanBeWrittenUndoWorksAndItIsToldOnce) {
 }
 
 TEST_F(Chronology, AFullDiskKeepsTheStepsThatItHas) {
+  session.reset();  // and its threads, before the process is doubled
   const bool ok = AsOrdinaryUser([] {
     // Files of this process may have so many bytes.
     std::signal(SIGXFSZ, SIG_IGN);

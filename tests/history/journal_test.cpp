@@ -97,7 +97,17 @@ TEST(Journal, ItsLastRecordTellsWhetherAllIsSaved) {
   const Example example = MakeExample();
   for (std::size_t i = 0; i < example.ends.size(); ++i) {
     const std::string bytes = example.bytes.substr(0, example.ends[i]);
-    EXPECT_EQ(SenzaLavoroPerso(bytes), !example.told[i].back().ends_with(" perso")) << i;
+    const bool saved = !example.told[i].back().ends_with(" perso");
+    EXPECT_EQ(SenzaLavoroPerso(bytes, bytes), saved) << i;
+    // The last record is enough; without all of it nothing is known.
+    const std::size_t from = i > 0 ? example.ends[i - 1] : ByteDellInizio;
+    EXPECT_EQ(SenzaLavoroPerso(bytes, bytes.substr(from)), saved) << i;
+    for (std::size_t there = from; there < bytes.size(); ++there) {
+      EXPECT_FALSE(SenzaLavoroPerso(bytes, bytes.substr(there + 1)));
+      std::string changed = bytes;
+      changed[there] = static_cast<char>(changed[there] ^ 4);
+      EXPECT_FALSE(SenzaLavoroPerso(changed, changed));
+    }
   }
 }
 
@@ -105,7 +115,7 @@ TEST(Journal, OneOfANewerVersionIsKnownAsSuch) {
   std::string bytes = MakeExample().bytes;
   ++bytes[8];
   EXPECT_EQ(LeggiGiornale(bytes).esito, EsitoGiornale::Nuovo);
-  EXPECT_FALSE(SenzaLavoroPerso(bytes));
+  EXPECT_FALSE(SenzaLavoroPerso(bytes, bytes));
 }
 
 TEST(Journal, AWholeLineComesBackAsItWas) {
