@@ -4,7 +4,6 @@
 
 #include "history/history_session.h"
 #include "platform/codepage.h"
-#include "support/ordinary_user.h"
 #include "support/telarium_test.h"
 
 namespace telarium {
@@ -43,6 +42,16 @@ class Chronology : public TelariumTest {
     for (const LavoroPerso& lost : session->Lost())
       names.push_back(lost.nome.filename().string());
     return names;
+  }
+  Percorso JournalOf(const std::string& name) const {
+    const auto found = session->History().Archivio().Trova(session->File(name));
+    return found ? found->file.Nome() : Percorso();
+  }
+  void AnHourPasses() const {
+    for (const Percorso& journal : Journals()) {
+      const Percorso path = InFolder("passi") / journal;
+      fs::last_write_time(path, fs::last_write_time(path) - std::chrono::hours(1));
+    }
   }
   std::vector<Percorso> Journals() const { return ElencaFile(InFolder("passi"), "*.passi"); }
 
@@ -112,6 +121,7 @@ TEST_F(Chronology, AFileThatAnotherProgramChangedIsTheNextStep) {
   session->Open("uno");
   session->Letter({1, 1}, 'X');
   session->Restart();
+  AnHourPasses();
   session->Write("uno", ContenutoDelFile(DrawnCrossword({"CCCC"})).value());
   session->Open("uno");
   EXPECT_EQ(session->History().DaAnnullare(), "File cambiato da un altro programma");
@@ -150,6 +160,8 @@ TEST_F(Chronology, LostWorkIsOfferedOnAlthoughItsFileWasOpenedAgain) {
     const std::string name = restarted ? "uno" : "due";
     session->Open(name);
     session->Letter({1, 1}, 'X');
+    session->History().Attendi();
+    AnHourPasses();
     if (restarted) session->Restart();
     session->Open(name);
     EXPECT_EQ(session->History().DaRipetere(), "Lettera X");
@@ -203,6 +215,15 @@ TEST_F(Chronology, WhatWasNotSavedIsOfferedUntilItIsSavedOrGivenUp) {
   EXPECT_EQ(LostNames(), Names());
   session->Open("uno");
   EXPECT_EQ(session->History().LineaAperta()->Quanti(), 2u);
+}
+
+TEST_F(Chronology, AFileThatHoldsAnotherCrosswordIsNoStep) {
+  session->Open("uno");
+  session->Document().Registra(
+      {session->File("uno"), DrawnCrossword({"ZZZZ"}), ImprontaDi("altro"), false});
+  EXPECT_FALSE(session->History().LineaAperta()->PostoDelFile());
+  session->Letter({1, 1}, 'X');
+  EXPECT_EQ(After("<"), "AAAA uno*");
 }
 
 TEST_F(Chronology, SeveralStrokesOfOneCommandAreOneStep) {
@@ -263,7 +284,7 @@ TEST_F(Chronology, TheOldestFilesGoButThoseWithLostWorkAndOfNewerVersions) {
   EXPECT_EQ(left({}), 11u);
   EXPECT_EQ(left({std::chrono::days(9)}), 10u);  // the first one is ten days old
   EXPECT_EQ(left({std::chrono::days(30), 5}), 7u);
-  const auto bytes = fs::file_size(InFolder("passi") / Journals().back());
+  const auto bytes = fs::file_size(JournalOf("file9"));
   EXPECT_EQ(left({std::chrono::days(30), 50, 2 * bytes + bytes / 2}), 4u);
   EXPECT_EQ(LostNames(), Names{"file2"});
   EXPECT_EQ(left({std::chrono::days(1), 50, 0}), 1u);
@@ -280,6 +301,8 @@ TEST_F(Chronology, DamageAndStrangersInTheFolderCostNothingElse) {
   const Percorso stranger = fs::path(journal).replace_filename("00-00.passi");
   WriteFile(stranger, std::string(1000, '\xFF'));
   fs::create_directory(journal.string() + ".passi");
+  std::error_code error;
+  EXPECT_FALSE(FileBloccato::Apri("/dev/null", error));
   ASSERT_EQ(LostNames(), Names{"uno"});
   ASSERT_TRUE(session->History().Recupera(session->Lost()[0]));
   EXPECT_EQ(Seen(), "XAAA uno*");
@@ -308,29 +331,63 @@ TEST_F(Chronology, WhereNothingCanBeWrittenUndoWorksAndItIsToldOnce) {
   EXPECT_EQ(LostNames(), Names{"uno"});
 }
 
+TEST_F(Chronology, ASaveUnderAnotherNameThatTheFolderDoesNotTakeKeepsTheFile) {
+  session->Open("uno");
+  session->Letter({1, 1}, 'X');
+  fs::rename(InFolder("passi"), InFolder("altrove"));
+  WriteFile("passi", "");
+  session->Save("tre");
+  session->Letter({2, 1}, 'Y');
+  fs::remove(InFolder("passi"));
+  fs::rename(InFolder("altrove"), InFolder("passi"));
+  session->Restart();
+  ASSERT_EQ(LostNames(), Names{"tre"});
+  EXPECT_EQ(session->Lost()[0].cruciverba, DrawnCrossword({"XYAA"}));
+}
+
 TEST_F(Chronology, AFullDiskKeepsTheStepsThatItHas) {
-  session.reset();  // and its threads, before the process is doubled
-  const bool ok = AsOrdinaryUser([] {
-    // Files of this process may have so many bytes.
-    std::signal(SIGXFSZ, SIG_IGN);
-    const CartellaTemporanea folder;
-    HistorySession full(folder.Nome(), folder.Nome() / "passi");
-    full.New({"...."});
-    full.Letter({1, 1}, 'A');
-    full.History().Attendi();
-    const Percorso steps = folder.Nome() / "passi";
-    const Percorso journal = steps / ElencaFile(steps, "*.passi").at(0);
-    const rlimit limit{fs::file_size(journal) + 60, RLIM_INFINITY};
-    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
-    for (char letter = 'B'; letter <= 'Z'; ++letter)
-      full.Letter({1, 1}, letter);
-    full.History().Attendi();
-    const bool told = !full.History().Guasto().empty() && full.History().Guasto().empty();
-    full.Restart();
-    const auto lost = full.Lost();
-    return told && lost.size() == 1 && CarattereDi(lost[0].cruciverba, {1, 1}) >= 'A';
-  });
-  EXPECT_TRUE(ok);
+  session->New({"...."});
+  session->Letter({1, 1}, 'A');
+  session->History().Attendi();
+  // Files of this process may have no more bytes.
+  const auto old = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit before;
+  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+  const rlimit full{fs::file_size(InFolder("passi") / Journals().at(0)) + 5, before.rlim_max};
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &full), 0);
+  session->Letter({1, 1}, 'B');
+  session->History().Attendi();
+  const std::string told = session->History().Guasto();
+  for (char letter = 'C'; letter <= 'Z'; ++letter)
+    session->Letter({1, 1}, letter);
+  const std::vector<Percorso> journals = Journals();
+  ::setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, old);
+  EXPECT_TRUE(told.ends_with(".")) << told;
+  ASSERT_EQ(journals.size(), 1u);
+  const Percorso copy = InFolder("passi") / "copia.passi";
+  fs::copy_file(InFolder("passi") / journals[0], copy);
+  ASSERT_EQ(session->Lost().size(), 1u);
+  EXPECT_EQ(session->Lost()[0].cruciverba, DrawnCrossword({"A..."}));
+  fs::remove(copy);
+  // When there is room again the whole line comes to the disk after a while.
+  for (char letter = 'A'; letter <= 'Z'; ++letter)
+    session->Letter({2, 1}, letter);
+  session->Restart();
+  ASSERT_EQ(session->Lost().size(), 1u);
+  EXPECT_EQ(session->Lost()[0].cruciverba, DrawnCrossword({"ZZ.."}));
+}
+
+TEST_F(Chronology, ManyCrosswordsLaterTheFirstOnesAreLeft) {
+  for (int i = 0; i < 70; ++i) {
+    session->New({"...."});
+    session->Letter({1, 1}, static_cast<char>('A' + i % 26));
+  }
+  std::string seen;
+  for (int i = 0; i < 200; ++i)
+    seen = After("<");
+  EXPECT_EQ(seen, ".... NuovoCruciverba.tlrm");
+  EXPECT_EQ(session->History().DaRipetere(), "Lettera G");  // the seventh one
 }
 
 }  // namespace

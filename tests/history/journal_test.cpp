@@ -111,6 +111,24 @@ TEST(Journal, ItsLastRecordTellsWhetherAllIsSaved) {
   }
 }
 
+TEST(Journal, ASoundRecordThatFitsNoLineEndsTheReading) {
+  Linea line({"apre", WithClue("a"), {}});
+  const std::string start = InizioDelGiornale({"uno", WithClue("a"), 1, false}, line);
+  const Cruciverba large = DrawnCrossword({"A", "A", "A", "A"});
+  const Cruciverba other = DrawnCrossword({"A", "A", "A", "B"});
+  const std::string step = RecordDelPasso(large, {"passo", other, {}});
+  line.Aggiungi({"passo", large, {}});
+  for (const std::string& record :
+       {RecordDelPosto(line, true), step, RecordDellaCorrezione(large, other), start.substr(12),
+        RecordDelFile({"due", other, 1, false}, line)}) {
+    const auto read = LeggiGiornale(start + record + RecordDellaRinuncia()).giornale;
+    EXPECT_EQ(Told(read), (Words{">apre a", "uno"}));
+    EXPECT_FALSE(read->rinunciato);
+    EXPECT_EQ(LeggiGiornale(start.substr(0, 12) + record).giornale.has_value(),
+              record == start.substr(12));
+  }
+}
+
 TEST(Journal, OneOfANewerVersionIsKnownAsSuch) {
   std::string bytes = MakeExample().bytes;
   ++bytes[8];
