@@ -95,13 +95,29 @@ bool FinisceSenzaLavoroPerso(FileBloccato& file) {
          SenzaLavoroPerso(inizio, fine);
 }
 
-std::optional<LavoroPerso> LavoroIn(const Percorso& nome) {
+// What a file of steps holds if there is lost work in it.
+std::optional<Giornale> GiornaleConLavoroPerso(const Percorso& nome) {
   std::error_code errore;
   auto file = FileBloccato::Apri(nome, errore);
   std::string contenuto;
   if (!file || FinisceSenzaLavoroPerso(*file) || file->Leggi(contenuto)) return std::nullopt;
-  const auto giornale = LeggiGiornale(contenuto).giornale;
-  if (!giornale || !giornale->HaLavoroPerso() || GiaNelFile(*giornale)) return std::nullopt;
+  auto giornale = LeggiGiornale(contenuto).giornale;
+  return giornale && giornale->HaLavoroPerso() ? std::move(giornale) : std::nullopt;
+}
+
+// Gives up what is not saved in a file of steps. It does not become the youngest one of its
+// crossword by that.
+std::error_code Rinuncia(FileBloccato& file) {
+  std::error_code ignorato;
+  const auto scritto = fs::last_write_time(file.Nome(), ignorato);
+  const auto errore = file.Aggiungi(RecordDellaRinuncia());
+  if (!ignorato) fs::last_write_time(file.Nome(), scritto, ignorato);
+  return errore ? errore : file.Consolida();
+}
+
+std::optional<LavoroPerso> LavoroIn(const Percorso& nome) {
+  const auto giornale = GiornaleConLavoroPerso(nome);
+  if (!giornale || GiaNelFile(*giornale)) return std::nullopt;
   const Linea& linea = giornale->linea;
   return LavoroPerso{nome, giornale->file.nome, !giornale->file.impronta,
                      linea[linea.Posto()].quando, linea.Attuale()};
@@ -170,13 +186,16 @@ std::error_code ArchivioDelleCronologie::Scarta(const LavoroPerso& lavoro) const
   std::error_code errore;
   auto file = FileBloccato::Apri(lavoro.giornale, errore);
   if (!file) return errore;
-  if (lavoro.maiSalvato) return file->Elimina();
-  // It does not become the youngest file of its crossword by that.
-  std::error_code ignorato;
-  const auto scritto = fs::last_write_time(lavoro.giornale, ignorato);
-  errore = file->Aggiungi(RecordDellaRinuncia());
-  if (!ignorato) fs::last_write_time(lavoro.giornale, scritto, ignorato);
-  return errore ? errore : file->Consolida();
+  return lavoro.maiSalvato ? file->Elimina() : Rinuncia(*file);
+}
+
+void ArchivioDelleCronologie::Salvato(const FileDelCruciverba& file) const {
+  for (const VoceDiCartella& voce : VociDi(cartella_, InizioNome(file.nome))) {
+    const auto giornale = GiornaleConLavoroPerso(voce.nome);
+    if (!giornale || DiversoDalFile(giornale->linea.Attuale(), file)) continue;
+    std::error_code errore;
+    if (auto suo = FileBloccato::Apri(voce.nome, errore)) Rinuncia(*suo);
+  }
 }
 
 void ArchivioDelleCronologie::Sfoltisci(const LimitiDellArchivio& limiti,

@@ -63,6 +63,9 @@ class ArchivioDelleCronologie {
   /// was never saved nothing does.
   std::error_code Scarta(const LavoroPerso& lavoro) const;
 
+  /// The file of a crossword has been written: lost work that is in it now is lost no more.
+  void Salvato(const FileDelCruciverba& file) const;
+
   /// Removes what is past the limits, but for files in use and those of newer versions.
   void Sfoltisci(const LimitiDellArchivio& limiti, std::chrono::sys_seconds adesso) const;
 

@@ -187,6 +187,7 @@ void Cronologia::Registrato() {
   Linea& linea = voce.linea;
   if (!DiversoDalFile(linea.Attuale(), voce.file)) {
     linea.PostoDelFile(linea.Posto());
+    NotaIlSalvataggio(voce);
   } else if (prima.impronta != voce.file.impronta) {
     linea.PostoDelFile(std::nullopt);
   }
@@ -354,6 +355,18 @@ void Cronologia::RinnovaGiornale(Voce& voce) {
   nuovo->voce = voce.numero;
   if (voce.giornale && voce.giornale->voce == voce.numero) voce.giornale->LasciaIlPostoA(*nuovo);
   voce.giornale = std::move(nuovo);
+}
+
+// What the file holds now is lost nowhere, neither where it was left in this run nor before.
+void Cronologia::NotaIlSalvataggio(const Voce& voce) {
+  if (!scrittore_ || !voce.file.impronta) return;
+  for (const Voce& una : voci_) {
+    if (una.numero != voce.numero && una.giornale && una.giornale->voce == una.numero &&
+        ArchivioDelleCronologie::StessoCruciverba(una.file.nome, voce.file.nome) &&
+        !DiversoDalFile(una.linea.Attuale(), voce.file))
+      una.giornale->Aggiungi(RecordDellaRinuncia());
+  }
+  archivio_.Salvato(voce.file);
 }
 
 // The line goes on under the new name. The file of the old one, if there is one, keeps its steps,

@@ -95,6 +95,7 @@ class Cronologia : public OsservatoreDelDocumento {
   void Mostra();
   void Scrivi(Voce& voce, std::string record);
   void RinnovaGiornale(Voce& voce);
+  void NotaIlSalvataggio(const Voce& voce);
   void PassaAdAltroNome(Voce& voce, const FileDelCruciverba& prima);
 
   Documento& documento_;

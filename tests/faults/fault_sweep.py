@@ -69,7 +69,7 @@ COMMANDS = [
 
 def run(program, folder, words, environment=None):
     own = {"TMPDIR": str(folder / "tmp"), "HOME": str(folder / "home"), "XDG_CACHE_HOME": str(folder / "cache"),
-           "TELARIUM_CARTELLA": str(folder / "program")}
+           "XDG_STATE_HOME": str(folder / "state"), "TELARIUM_CARTELLA": str(folder / "program")}
     return subprocess.run([program, *words], cwd=folder, env={**os.environ, **own, **(environment or {})},
                           capture_output=True, timeout=LIMIT)
 

@@ -177,6 +177,22 @@ TEST_F(Chronology, LostWorkIsOfferedOnAlthoughItsFileWasOpenedAgain) {
   }
 }
 
+TEST_F(Chronology, LostWorkThatIsRedoneAndSavedIsLostNoMore) {
+  for (const bool restarted : {false, true}) {
+    const std::string name = restarted ? "uno" : "due";
+    session->Open(name);
+    session->Letter({1, 1}, 'X');
+    if (restarted) session->Restart();
+    session->Open(name);
+    session->History().Ripeti();
+    session->Save(name);
+    session->Letter({1, 1}, 'Y');
+    session->Save(name);
+    session->Restart();
+    EXPECT_EQ(LostNames(), Names());
+  }
+}
+
 TEST_F(Chronology, WhatWasNotSavedIsOfferedUntilItIsSavedOrGivenUp) {
   session->New({"...."});
   session->Restart();
