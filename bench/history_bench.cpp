@@ -119,7 +119,7 @@ int Main() {
               }),
         "");
   }
-  Row("looking for lost work in 221 files",
+  Row("looking for lost work, 10,000 steps",
       Times(3, [&](int) { ArchivioDelleCronologie(folder.Nome()).LavoriPersi(); }), "");
   return 0;
 }

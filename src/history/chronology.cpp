@@ -175,8 +175,7 @@ void Cronologia::Sostituito(const std::string& motivo) {
   if (file.nome.empty()) return;
   Voce voce = NuovaVoce(motivo, file, Linea(NuovoPasso(motivo)));
   if (!DiversoDalFile(voce.linea.Attuale(), file)) voce.linea.PostoDelFile(0);
-  const bool ripresa = file.impronta && (RiprendiDallaMemoria(voce) || RiprendiDallArchivio(voce));
-  if (!ripresa) RinnovaGiornale(voce);
+  if (file.impronta && !RiprendiDallaMemoria(voce)) RiprendiDallArchivio(voce);
   Entra(std::move(voce));
 }
 
@@ -250,11 +249,11 @@ bool Cronologia::RiprendiDallaMemoria(Voce& voce) {
   return true;
 }
 
-bool Cronologia::RiprendiDallArchivio(Voce& voce) {
-  if (!scrittore_) return false;
+void Cronologia::RiprendiDallArchivio(Voce& voce) {
+  if (!scrittore_) return;
   scrittore_->Attendi();  // it may be one that was let go of a moment ago
   auto trovato = archivio_.Trova(voce.file.nome);
-  if (!trovato) return false;
+  if (!trovato) return;
   const bool perso = trovato->giornale.HaLavoroPerso();
   voce.linea = std::move(trovato->giornale.linea);
   if (!Resta(perso, voce)) {
@@ -263,7 +262,6 @@ bool Cronologia::RiprendiDallArchivio(Voce& voce) {
     voce.giornale->voce = voce.numero;
   }
   PortaAlFile(voce, trovato->giornale.file);
-  return true;
 }
 
 // The line of a crossword that is opened again goes to what its file holds: to the step of that, or
@@ -335,9 +333,10 @@ void Cronologia::Scrivi(Voce& voce, std::string record) {
   RinnovaGiornale(voce);
 }
 
-// Begins a new file with the whole line, in place of the one that there is.
+// Begins a new file with the whole line, in place of the one that there is. A crossword that was
+// only opened needs none.
 void Cronologia::RinnovaGiornale(Voce& voce) {
-  if (!scrittore_) return;
+  if (!scrittore_ || voce.linea.Quanti() == 1) return;
   const auto adesso = orologio_();
   if (guasto_ && adesso - tentativo_ < TraDueTentativi) return;
   tentativo_ = adesso;

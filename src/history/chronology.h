@@ -87,7 +87,7 @@ class Cronologia : public OsservatoreDelDocumento {
   Voce NuovaVoce(const std::string& motivo, FileDelCruciverba file, Linea linea);
   static bool Resta(bool perso, const Voce& voce);
   bool RiprendiDallaMemoria(Voce& voce);
-  bool RiprendiDallArchivio(Voce& voce);
+  void RiprendiDallArchivio(Voce& voce);
   void PortaAlFile(Voce& voce, const FileDelCruciverba& conosciuto);
   void Lascia();
   void Entra(Voce voce);
