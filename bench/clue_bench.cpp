@@ -139,7 +139,6 @@ void BM_MaskedSearch(benchmark::State& state) {
   IlDizionario() = Dizionario(TELARIUM_DATA_DIR);
   Expect(ApriDizionario(IlDizionario()));
   Expect(NuovoVuoto(12, 3) == EsitoNuovo::Fatto);
-  RicalcolaCaselle();
   TelarDef window({.testo = {ParolaCasella(1, 1, Orizzontale), {}}, .numero = 1}, nullptr);
   ShowPainted(window);
   for (auto _ : state) {

@@ -68,7 +68,8 @@ void BM_Repaint(benchmark::State& state, Form1& form) {
 void BM_Click(benchmark::State& state, Form1& form) {
   FullGrid();
   AttivaCasellaNera();
-  const QPointF cell(BordoSinistro(1) + LatoCasella / 2.0, BordoAlto(1) + LatoCasella / 2.0);
+  const QPointF cell(GeometriaDelloSchema().BordoSinistro(1) + LatoCasella / 2.0,
+                     GeometriaDelloSchema().BordoAlto(1) + LatoCasella / 2.0);
   const bool black = LetteraCasella(1, 1) == CellaNera;
   Qt::MouseButton button = black ? Qt::RightButton : Qt::LeftButton;
   for (auto _ : state) {

@@ -21,6 +21,7 @@
 #include <string>
 
 #include "editor/cell_editing.h"
+#include "editor/geometry.h"
 #include "editor/startup.h"
 #include "editor/windows/Form1.h"
 #include "model/state.h"

@@ -7,8 +7,8 @@
 #include "clues/encyclopedia.h"
 #include "clues/merging.h"
 #include "clues/store_use.h"
-#include "model/current_crossword.h"
 #include "model/derivation.h"
+#include "model/documento.h"
 #include "model/pointer.h"
 #include "model/state.h"
 #include "model/word_edit.h"
@@ -100,12 +100,12 @@ std::optional<Prelievo> PrelevaPer(Cruciverba cruciverba, std::int16_t modo) {
 }
 
 std::optional<RapportoDefinizioni> PrelevaTutte(std::int16_t modo) {
-  const auto prelievo = PrelevaPer(CruciverbaCorrente(), modo);
+  const auto prelievo = PrelevaPer(IlDocumento().Valore(), modo);
   if (!prelievo) return std::nullopt;
-  const bool cambiato = ModificaCruciverba(
+  const bool cambiato = IlDocumento().Modifica(
       "Prelievo delle definizioni",
       [&](Cruciverba& cruciverba) { cruciverba.definizioni = prelievo->cruciverba.definizioni; });
-  if (cambiato) SchemaModificato = Vero;
+  if (cambiato) IlDocumento().SegnaModificato(true);
   return prelievo->rapporto;
 }
 
@@ -119,7 +119,7 @@ std::optional<RapportoDefinizioni> SalvaTutte() {
     const EnciclopediaAperta enciclopedia = ApriEnciclopedia();
     const Clessidra clessidra;
     enciclopedia->IniziaSerie();
-    for (const auto& [slot, testo] : ParoleComplete(CruciverbaCorrente())) {
+    for (const auto& [slot, testo] : ParoleComplete(IlDocumento().Valore())) {
       const auto& [parola, definizione] = testo;
       if (!definizione.empty()) UnisciDefinizione(*enciclopedia, parola, definizione, conto);
     }

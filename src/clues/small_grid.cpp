@@ -82,7 +82,6 @@ void EsigiSchemaSemplice(const Derivati& derivati) {
 void DisegnaSchemaPiccolo(Superficie& superficie, const Derivati& derivati, const Slot* evidente) {
   superficie.Pulisci();
   if (derivati.Colonne() == 0) return;
-  RiprendiGeometria();
   const AnteprimaDiSchema schema(superficie, derivati.Colonne(), derivati.Righe(), Margine,
                                  AnteprimaDiSchema::Misura::Troncata);
   if (schema.Lato() == 0) return;

@@ -5,7 +5,7 @@
 #include "editor/main_window.h"
 #include "editor/redraw.h"
 #include "model/crossword_file.h"
-#include "model/current_crossword.h"
+#include "model/documento.h"
 #include "model/pointer.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
@@ -61,21 +61,22 @@ void BozzaDiTabella::Scrivi(const Slot& slot, const ParolaDefinita& testo) {
 }
 
 BozzaDiTabella ApriBozza() {
-  return BozzaDiTabella(CruciverbaCorrente());
+  return BozzaDiTabella(IlDocumento().Valore());
 }
 
 bool VariaRiga(BozzaDiTabella& bozza, const Slot& slot, const ParolaDefinita& testo) {
   if (!ParolaAccettata(testo.parola, slot.lunghezza)) return false;
   const Clessidra attesa;
   bozza.Scrivi(slot, testo);
-  SchemaModificato = Vero;
-  if (const Superficie* superficie = FinestraPrincipale()) CalcolaGeometria(*superficie, 0, 0);
+  IlDocumento().SegnaModificato(true);
+  if (const Superficie* superficie = FinestraPrincipale())
+    ImpostaGeometria(CalcolaGeometria(*superficie, 0, 0));
   return true;
 }
 
 void ConfermaBozza(const BozzaDiTabella& bozza) {
-  ModificaCruciverba("Vista tabellare",
-                     [&](Cruciverba& cruciverba) { cruciverba = bozza.Valore(); });
+  IlDocumento().Modifica("Vista tabellare",
+                         [&](Cruciverba& cruciverba) { cruciverba = bozza.Valore(); });
   static_cast<void>(ScriviIstantanea());
 }
 

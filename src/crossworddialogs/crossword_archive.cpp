@@ -4,6 +4,8 @@
 #include <cctype>
 
 #include "model/crossword_file.h"
+#include "model/documento.h"
+#include "model/state.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
@@ -60,13 +62,12 @@ bool RiscrivereFile(const Percorso& nome) {
   return ChiUsa().MostraMessaggio(domanda) == Risposta::Ok;
 }
 
-bool ScriviConAutore(const Percorso& nome, const std::string& autore) {
-  const std::string prima = Schema(1);
-  Schema(1).resize(LunghezzaEtichetta, ' ');
-  Schema(1) += autore;
-  const bool scritto = ScriviCruciverba(nome);
-  if (!scritto) Schema(1) = prima;
-  return scritto;
+bool SalvaConAutore(const Percorso& nome, const std::string& autore) {
+  Cruciverba cruciverba = IlDocumento().Valore();
+  std::string& riga = cruciverba.intestazione.Proprio().front();
+  riga.resize(LunghezzaEtichetta, ' ');
+  riga += autore;
+  return SalvaComeFile(std::move(cruciverba), nome);
 }
 
 }  // namespace
@@ -102,9 +103,7 @@ bool SalvaNellArchivio(const Percorso& cartella, const Percorso& nome, const std
   }
   std::error_code ignorato;
   if (!fs::exists(intero, ignorato) || RiscrivereFile(intero)) {
-    if (!ScriviConAutore(intero, autore)) return false;
-    NomeCruciverba = intero;
-    SchemaModificato = Falso;
+    if (!SalvaConAutore(intero, autore)) return false;
   }
   static_cast<void>(ScriviIstantanea());  // a failure has shown its message
   return true;

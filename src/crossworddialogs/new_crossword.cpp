@@ -1,9 +1,9 @@
 #include "crossworddialogs/new_crossword.h"
 
 #include "crossworddialogs/model_file.h"
-#include "model/crossword_copy.h"
 #include "model/crossword_file.h"
-#include "model/words.h"
+#include "model/documento.h"
+#include "model/state.h"
 #include "platform/platform.h"
 
 namespace telarium {
@@ -18,30 +18,24 @@ void AvvisaDimensione(std::string_view quali, int massimo) {
   Avvisa(Unisci("Numero caselle ", quali, " consentito da ", MinCelle, " a ", massimo, '.'));
 }
 
-// The four header lines of a new crossword, with today's date.
-void ScriviIntestazione(int colonne, int righe) {
-  Schema(1) = "Autore     : Zanotti Graziella";
-  Schema(2) = "Data       : " + DataDiOggi();
-  Schema(3) = "Tipo       : Crociate Normale";
-  Schema(4) = "Dimensioni : ";
-  ScriviDimensioni(colonne, righe);
+// The header of a new crossword, with today's date.
+Intestazione IntestazioneNuova() {
+  return {"Autore     : Zanotti Graziella", "Data       : " + DataDiOggi(),
+          "Tipo       : Crociate Normale", "Dimensioni : "};
 }
 
-// Lets `riga` make the grid lines, r from 1, and leaves the crossword in the snapshot.
+// Opens the new crossword of which `riga` makes the grid lines, r from 1, once the snapshot can
+// hold it.
 template <class Riga>
 EsitoNuovo Finisci(int colonne, int righe, Riga riga) {
-  CruciverbaDiPrima prima;
-  SvuotaDefinizioni();
-  LaboratorioDelCruciverba = {};
-  ScriviIntestazione(colonne, righe);
+  Cruciverba nuovo;
+  nuovo.intestazione = IntestazioneNuova();
+  Ridimensiona(nuovo, colonne, righe);
   for (int r = 1; r <= righe; ++r)
-    Schema(r + RigheIntestazione) = riga(r);
-  NumColonne = static_cast<std::int16_t>(colonne);
-  NumRighe = static_cast<std::int16_t>(righe);
-  if (!ScriviIstantanea()) return EsitoNuovo::NonScritto;
-  prima.Sostituito();
-  SchemaModificato = Falso;
-  NomeCruciverba = NomeMaiSalvato;
+    nuovo.griglia[static_cast<std::size_t>(r) - 1] = riga(r);
+  if (!ScriviIstantanea(nuovo)) return EsitoNuovo::NonScritto;
+  IlDocumento().Sostituisci("Nuovo cruciverba",
+                            {std::move(nuovo), SoloNome(NomeMaiSalvato), false});
   return EsitoNuovo::Fatto;
 }
 

@@ -6,8 +6,8 @@
 #include "editor/redraw.h"
 #include "editor/word_pointing.h"
 #include "model/crossword_file.h"
-#include "model/current_crossword.h"
 #include "model/derivation.h"
+#include "model/documento.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
@@ -27,13 +27,20 @@ void AttivaStrumento(std::int16_t modo, int puntatore) {
   ImpostaPuntatoreMouse(puntatore);
 }
 
-// Writes the cell into Schema and commits it; from then on the pointer is that of the tool.
+std::string MotivoDi(std::string_view cosa, Casella casella) {
+  return Unisci(cosa, ' ', casella.colonna, ',', casella.riga);
+}
+
+// Turns the cell and commits it; from then on the pointer is that of the tool.
 void Trasforma(Casella casella, bool nera) {
   ImpostaPuntatoreMouse(PuntatoreClessidra);
   AnticipaCasella(casella, nera);
-  ScriviInSchema(casella, nera ? CellaNera : CellaVuota);
+  IlDocumento().Modifica(MotivoDi(nera ? "Casella nera" : "Casella bianca", casella),
+                         [&](Cruciverba& cruciverba) {
+                           ScriviCarattere(cruciverba, casella, nera ? CellaNera : CellaVuota);
+                         });
   ConsolidaSchema();
-  SchemaModificato = Vero;
+  IlDocumento().SegnaModificato(true);
   ImpostaPuntatoreMouse(nera ? PuntatoreCasellaNera : PuntatoreCasellaBianca);
   LaFinestra().PremiEdit(false);
 }
@@ -44,13 +51,13 @@ void TrasformaSeDiversa(Casella casella, bool nera) {
 }
 
 void Colora(Casella casella) {
-  const auto [c, r] = casella;
-  ColoreScelto = ChiUsa().ScegliColore(ColoreCasella(c, r));
+  ColoreScelto = ChiUsa().ScegliColore(ColoreCasella(casella.colonna, casella.riga));
   if (ColoreScelto < 0) return;
-  const bool cambiato = ModificaCruciverba(
-      Unisci("Colore della casella ", c, ',', r),
-      [&, c = c, r = r](Cruciverba& cruciverba) { cruciverba.colori.Imposta(ColoreScelto, c, r); });
-  if (cambiato) SchemaModificato = Vero;
+  const bool cambiato = IlDocumento().Modifica(
+      MotivoDi("Colore della casella", casella), [casella](Cruciverba& cruciverba) {
+        cruciverba.colori.Imposta(ColoreScelto, casella.colonna, casella.riga);
+      });
+  if (cambiato) IlDocumento().SegnaModificato(true);
   // Else the redraw does it. No older colour shall come back.
   if (!SchemaColorato()) AggiornaIstantanea();
   RidisegnaSchema();
@@ -83,20 +90,20 @@ Slot ParolaDaDefinire(const Slot& slot, const Derivati& derivati) {
 
 // Carries what the clue editor gave back into the grid.
 void Applica(const Slot& slot, const ParolaDefinita& prima, const ParolaDefinita& dopo) {
-  Cruciverba conParola = CruciverbaCorrente();
+  Cruciverba conParola = IlDocumento().Valore();
   ScriviCaratteri(conParola, slot, dopo.parola);
   const Derivati derivati = Deriva(conParola);
   const bool nuova = dopo.definizione != prima.definizione;
   const Slot definita =
       nuova && !dopo.definizione.empty() ? ParolaDaDefinire(slot, derivati) : slot;
-  ModificaCruciverba(Unisci(nuova ? "Definizione di " : "Parola ", derivati.Lettere(definita)),
-                     [&](Cruciverba& cruciverba) {
-                       ScriviCaratteri(cruciverba, slot, dopo.parola);
-                       const auto [c, r] = definita.inizio;
-                       if (nuova)
-                         cruciverba.definizioni.Imposta(dopo.definizione, c, r, slot.direzione);
-                     });
-  SchemaModificato = Vero;
+  IlDocumento().Modifica(Unisci(nuova ? "Definizione di " : "Parola ", derivati.Lettere(definita)),
+                         [&](Cruciverba& cruciverba) {
+                           ScriviCaratteri(cruciverba, slot, dopo.parola);
+                           const auto [c, r] = definita.inizio;
+                           if (nuova)
+                             cruciverba.definizioni.Imposta(dopo.definizione, c, r, slot.direzione);
+                         });
+  IlDocumento().SegnaModificato(true);
   ConsolidaSchema();
 }
 
@@ -106,11 +113,12 @@ void ModificaParola(Casella casella, int direzione) {
   const ParolaDefinita prima{ParolaCasella(c, r, direzione), Definizione(c, r, direzione)};
   if (prima.parola.empty()) return;  // the pointer keeps its shape over cells without a word there
   const Slot slot = SlotDa(casella, direzione);
-  const auto dopo = LaFinestra().ModificaParola({.testo = prima,
-                                                 .numero = NumeroCasella(c, r),
-                                                 .direzione = direzione,
-                                                 .destra = BordoSinistro(c + 1),
-                                                 .fondo = BordoAlto(r + 1)});
+  const auto dopo =
+      LaFinestra().ModificaParola({.testo = prima,
+                                   .numero = NumeroCasella(c, r),
+                                   .direzione = direzione,
+                                   .destra = GeometriaDelloSchema().BordoSinistro(c + 1),
+                                   .fondo = GeometriaDelloSchema().BordoAlto(r + 1)});
   if (dopo && *dopo != prima) Applica(slot, prima, *dopo);
 }
 
@@ -140,7 +148,6 @@ void PremiSullaSuperficie(TastoMouse tasto, double x, double y) {
   const bool sinistro = tasto == TastoMouse::Sinistro;
   if (!strumento && ModoGriglia != ModoModifica) return EntraInModifica();
   LaFinestra().MostraCommand3d15(false);
-  RiprendiGeometria();
   if (LatoCasella == 0) return;
   const Casella casella = CasellaSotto(x, y);
   const bool dentro = NelloSchema(casella);

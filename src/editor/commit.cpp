@@ -24,7 +24,6 @@ void AbilitaComandi(bool abilitati) {
 
 bool ConsolidaSchema() {
   const bool scritta = ScriviIstantanea();
-  if (scritta) LeggiIstantanea();
   RidisegnaSchema();
   return scritta;
 }
@@ -33,8 +32,7 @@ void RiprendiSchema() {
   AbilitaComandi(!NomeCruciverba.empty());
   if (NomeCruciverba.empty()) return;
   LaFinestra().MettiGraficaAiMenu();
-  // A change that never reached the snapshot must not be undone by it.
-  if (!IstantaneaSuperata() || AggiornaIstantanea()) LeggiIstantanea();
+  RivediIstantanea();
   RidisegnaSchema();
 }
 

@@ -1,16 +1,15 @@
 #pragma once
 
-// How a change reaches the grid: through the snapshot file, in the form in which a file holds it.
+// How a change of the document reaches the snapshot and the window.
 namespace telarium {
 
-/// Commits a change made in Schema: writes the snapshot, reads it back, redraws. When the snapshot
-/// cannot be written (its message shows) the older one is not read back, now or later, so that the
-/// change stays; gives whether it could be.
+/// Commits a change of the document: writes the snapshot and redraws. When the snapshot cannot be
+/// written (its message shows) the change stays all the same; gives whether it could be.
 bool ConsolidaSchema();
 
-/// Takes over the crossword that a dialog left in the snapshot: allows the commands that need a
-/// crossword, reads it, unless the last writing of the snapshot failed and fails again, and
-/// redraws. While NomeCruciverba is empty those commands are disabled.
+/// Shows the document anew: allows the commands that need a crossword, takes over what another
+/// program has left in the snapshot, and redraws. While NomeCruciverba is empty those commands are
+/// disabled.
 void RiprendiSchema();
 
 }  // namespace telarium

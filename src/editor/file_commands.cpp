@@ -4,8 +4,10 @@
 #include "editor/main_window.h"
 #include "editor/redraw.h"
 #include "editor/startup.h"
-#include "model/words.h"
+#include "model/documento.h"
+#include "model/state.h"
 #include "platform/codepage.h"
+#include "platform/digest.h"
 #include "platform/platform.h"
 #include "platform/text.h"
 
@@ -53,6 +55,28 @@ void AvvisaInesistente(const Percorso& nome) {
   Avvisa(ConCausa("Errore: file inesistente!", nome, errore));
 }
 
+// What a save under the current name would cost, behind the file's name; empty when nothing that
+// the user does not know of.
+std::string_view DannoDelSalvataggio() {
+  const FileDelCruciverba& file = IlDocumento().Stato().file;
+  std::string contenuto;
+  if (LeggiFile(file.nome, MaxByteCruciverba, contenuto) != EsitoLettura::Letto) return {};
+  if (!file.impronta) return "contiene un altro cruciverba";
+  if (ImprontaDi(contenuto) != *file.impronta) return "è stato cambiato da un altro programma"_cp;
+  return file.lettoInParte ? "non è stato letto per intero, e il resto andrebbe perduto"_cp : "";
+}
+
+// Asks where it would cost something.
+bool SovrascrivereFile() {
+  const std::string_view danno = DannoDelSalvataggio();
+  if (danno.empty()) return true;
+  const Messaggio domanda{.testo = Unisci("Il file ", TestoPercorso(NomeCruciverba), ' ', danno,
+                                          ": si desidera sovrascriverlo?"),
+                          .titolo = "Salvataggio file",
+                          .pulsanti = Pulsanti::OkAnnulla};
+  return ChiUsa().MostraMessaggio(domanda) == Risposta::Ok;
+}
+
 bool MaiSalvato() {
   return NumColonne == 0 || NomeCruciverba.empty() || NomeCruciverba == NomeMaiSalvato;
 }
@@ -74,8 +98,8 @@ void GestisciModelli() {
 void SalvaCruciverba() {
   LasciaLoSchema();
   RidisegnaSchema();
-  if (MaiSalvato()) return SalvaConNome();
-  if (ScriviCruciverba(NomeCruciverba)) SchemaModificato = Falso;
+  if (MaiSalvato() || !SovrascrivereFile()) return SalvaConNome();
+  static_cast<void>(SalvaComeFile(IlDocumento().Valore(), NomeCruciverba));
 }
 
 void SalvaConNome() {
@@ -104,17 +128,9 @@ void EsciDalProgramma() {
 bool ApriFileDiCruciverba(const Percorso& nome) {
   const Apertura esito = ApriCruciverba(nome);
   if (esito == Apertura::Assente) AvvisaInesistente(nome);
-  if (!AccogliCruciverba(esito)) return false;
-  NomeCruciverba = nome;
-  SchemaModificato = Falso;
-  ModoGriglia = ModoModifica;
-  return true;
-}
-
-bool AccogliCruciverba(Apertura esito) {
   if (esito == Apertura::Assente || esito == Apertura::Rifiutata) return false;
-  RicalcolaCaselle();
   static_cast<void>(ScriviIstantanea());  // a failure has shown its message
+  ModoGriglia = ModoModifica;
   return true;
 }
 

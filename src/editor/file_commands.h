@@ -16,7 +16,8 @@ void ApriConFinestra();
 void GestisciModelli();
 
 /// menuSalva: saves under the current name and sets SchemaModificato to 0. A failure shows its
-/// message and leaves both. A crossword that was never saved, or has no grid, goes to SalvaConNome.
+/// message and leaves both. A crossword that was never saved, or has no grid, goes to SalvaConNome;
+/// so does one whose file holds what would be lost, unless the user wants it written over.
 void SalvaCruciverba();
 
 /// MenuSalvaCN: shows TelarSav.
@@ -35,10 +36,6 @@ void EsciDalProgramma();
 /// is told, and is taken as far as it goes; a snapshot that cannot be written is told, and is tried
 /// again later.
 [[nodiscard]] bool ApriFileDiCruciverba(const Percorso& nome);
-
-/// What follows the opening of a crossword: its words are found and the snapshot is written, for
-/// the activation that follows. False, with nothing done, when none was opened.
-[[nodiscard]] bool AccogliCruciverba(Apertura esito);
 
 /// Opens a crossword that another start of the program was given, after the saving question, unless
 /// the save that was wanted failed.

@@ -5,7 +5,7 @@
 #include "editor/placed_word.h"
 #include "editor/redraw.h"
 #include "model/crossword_file.h"
-#include "model/current_crossword.h"
+#include "model/documento.h"
 #include "model/pointer.h"
 #include "model/state.h"
 #include "platform/codepage.h"
@@ -13,6 +13,8 @@
 
 namespace telarium {
 namespace {
+
+constexpr const char* Motivo = "Estrazione automatica";
 
 Seguito ChiediVicoloCieco(const std::string& domanda) {
   switch (ChiUsa().ChiediVicoloCieco(domanda)) {
@@ -23,6 +25,10 @@ Seguito ChiediVicoloCieco(const std::string& domanda) {
     default:
       return Seguito::Avanti;
   }
+}
+
+void Accogli(const Cruciverba& cruciverba) {
+  IlDocumento().Modifica(Motivo, [&](Cruciverba& attuale) { attuale = cruciverba; });
 }
 
 // Shows a run on the main window: the words are painted straight on the screen, and the surface
@@ -40,7 +46,7 @@ class EstrazioneInVista : public OsservatoreEstrazione {
     pittore_.DirettoSulloSchermo();
     bool accolta = true;
     if (tentativo == 1) {
-      PrendiCruciverba(cruciverba);
+      Accogli(cruciverba);
       accolta = ConsolidaSchema();
     } else {
       RidisegnaSenzaIstantanea();
@@ -60,7 +66,7 @@ class EstrazioneInVista : public OsservatoreEstrazione {
   void Fine(const RisultatoEstrazione& risultato) {
     const EsitoEstrazione esito = risultato.esito;
     if (esito == EsitoEstrazione::SenzaParole) Avvisa(risultato.errore);
-    if (esito != EsitoEstrazione::NonRegistrata) PrendiCruciverba(risultato.cruciverba);
+    if (esito != EsitoEstrazione::NonRegistrata) Accogli(risultato.cruciverba);
     if (esito == EsitoEstrazione::Completa) RidisegnaSchema();
     pittore_.Fine();
     if (esito == EsitoEstrazione::NonRegistrata) {
@@ -102,11 +108,12 @@ EsitoEstrazione ComandoEstrazione::EseguiEstrazione() {
   }
   if (!ScriviIstantanea()) return EsitoEstrazione::NonRegistrata;
   ModoGriglia = ModoNeutro;
-  SchemaModificato = Vero;
+  IlDocumento().SegnaModificato(true);
+  const PassoUnico passo(IlDocumento(), Motivo);
   const Clessidra clessidra;
   EstrazioneInVista vista(segue_, ProvaInfinita);
   Estrazione estrazione(
-      CruciverbaCorrente(), dizionario, [] { return Sistema().Casuale(); }, vista);
+      IlDocumento().Valore(), dizionario, [] { return Sistema().Casuale(); }, vista);
   const RisultatoEstrazione risultato = estrazione.Esegui();
   vista.Fine(risultato);
   return risultato.esito;

@@ -1,6 +1,7 @@
 #include "editor/placed_word.h"
 
 #include "editor/cell_drawing.h"
+#include "editor/geometry.h"
 #include "platform/text.h"
 
 namespace telarium {

@@ -28,28 +28,21 @@ void DisegnaFondoECornice(Superficie& superficie) {
     superficie.Riquadro(x1 - i, y1 - i, x2 + i, y2 + i, ColoreCornice);
 }
 
-// Of LatoCasella, OrigineX and OrigineY.
-bool geometriaCeduta = false;
-const AzzeramentoDiSottosistema azzeramento([] { geometriaCeduta = false; });
-
-void CalcolaGeometriaDellaFinestra(const Superficie& superficie) {
-  CalcolaGeometria(superficie, LaFinestra().AltezzaToolbar1(), LaFinestra().AltezzaStatusBar1());
-  geometriaCeduta = false;
-}
-
 void DisegnaSchema(Superficie& superficie) {
   superficie.Pulisci();
   LaFinestra().MostraCommand3d15(false);
   LaFinestra().Titolo(
       Unisci("Telarium - ", NumColonne, 'x', NumRighe, "  ", TestoPercorso(NomeCruciverba)));
-  CalcolaGeometriaDellaFinestra(superficie);
+  const Geometria geometria = CalcolaGeometria(superficie, LaFinestra().AltezzaToolbar1(),
+                                               LaFinestra().AltezzaStatusBar1());
+  ImpostaGeometria(geometria);
   if (LatoCasella > 0) {  // in a tiny window no cell has room
     DisegnaFondoECornice(superficie);
     superficie.CorpoCarattere(CorpoLettere(LatoCasella, MinCorpoLettere));
     superficie.Carattere(FontDelleLettere());
-    DisegnaCaselle(superficie, !NascondiSoluzioni);
+    DisegnaCaselle(superficie, geometria, !NascondiSoluzioni);
     superficie.CorpoCarattere(CorpoNumeri(LatoCasella));
-    DisegnaNumeri(superficie);
+    DisegnaNumeri(superficie, geometria);
   }
   LaFinestra().RinfrescaToolbar1();
 }
@@ -63,19 +56,19 @@ void RidisegnaSchema() {
 
 void RidisegnaSenzaIstantanea() {
   if (NumColonne == 0) return;
-  RicalcolaCaselle();
   if (Superficie* superficie = FinestraPrincipale()) DisegnaSchema(*superficie);
 }
 
-void CalcolaGeometria(const Superficie& superficie, double cima, double fondo) {
+Geometria CalcolaGeometria(const Superficie& superficie, double cima, double fondo) {
   const double w = superficie.LarghezzaSuperficie();
   const double h = superficie.AltezzaSuperficie();
   const int a = ArrotondaPari((w - 2 * MargineProvvisorio - 4) / NumColonne);
   const int b = ArrotondaPari((h - cima - fondo - 2 - 2 * MargineProvvisorio - 4) / NumRighe);
-  LatoCasella = static_cast<std::int16_t>(std::max(std::min(a, b), 0));
-  OrigineX = static_cast<std::int16_t>(ArrotondaPari((w - LatoCasella * NumColonne) / 2));
-  OrigineY =
-      static_cast<std::int16_t>(ArrotondaPari((cima + h - 2 - fondo - LatoCasella * NumRighe) / 2));
+  const auto lato = static_cast<std::int16_t>(std::max(std::min(a, b), 0));
+  return {
+      .lato = lato,
+      .x = static_cast<std::int16_t>(ArrotondaPari((w - lato * NumColonne) / 2)),
+      .y = static_cast<std::int16_t>(ArrotondaPari((cima + h - 2 - fondo - lato * NumRighe) / 2))};
 }
 
 Zona ZonaDelloSchema() {
@@ -87,39 +80,33 @@ Zona ZonaDelloSchema() {
           .altezza = LatoCasella * NumRighe + 2.0 * intorno + 1};
 }
 
-void CediGeometria() {
-  geometriaCeduta = true;
-}
-
-void RiprendiGeometria() {
-  const Superficie* superficie = FinestraPrincipale();
-  if (geometriaCeduta && NumColonne > 0 && superficie) CalcolaGeometriaDellaFinestra(*superficie);
-}
-
-void DisegnaCaselle(Superficie& superficie, bool conLettere, const PostoInCasella& posto) {
-  const double meta = LatoCasella / 2.0;
+void DisegnaCaselle(Superficie& superficie, const Geometria& geometria, bool conLettere,
+                    const PostoInCasella& posto) {
+  const int lato = geometria.lato;
+  const double meta = lato / 2.0;
   for (int r = 1; r <= NumRighe; ++r) {
     for (int c = 1; c <= NumColonne; ++c) {
-      const double x = BordoSinistro(c);
-      const double y = BordoAlto(r);
-      DisegnaContorno(superficie, x, y, LatoCasella);
+      const double x = geometria.BordoSinistro(c);
+      const double y = geometria.BordoAlto(r);
+      DisegnaContorno(superficie, x, y, lato);
       const char lettera = LetteraCasella(c, r);
       if (lettera == CellaNera) {
-        DisegnaCasellaNera(superficie, x, y, LatoCasella, ColoreCasella(c, r));
+        DisegnaCasellaNera(superficie, x, y, lato, ColoreCasella(c, r));
       } else if (lettera != CellaVuota && conLettere) {
-        ScriviLettera(superficie, x + meta, y + meta, LatoCasella, lettera, posto);
+        ScriviLettera(superficie, x + meta, y + meta, lato, lettera, posto);
       }
     }
   }
 }
 
-void DisegnaNumeri(Superficie& superficie, const PostoInCasella& posto) {
-  const double distanza = LatoCasella / 100.0 * DistanzaDaSpigolo;
+void DisegnaNumeri(Superficie& superficie, const Geometria& geometria,
+                   const PostoInCasella& posto) {
+  const double distanza = geometria.lato / 100.0 * DistanzaDaSpigolo;
   for (int r = 1; r <= NumRighe; ++r) {
     for (int c = 1; c <= NumColonne; ++c) {
       if (NumeroCasella(c, r) == 0) continue;
-      ScriviNumero(superficie, BordoSinistro(c), BordoAlto(r), distanza, NumeroCasella(c, r),
-                   posto);
+      ScriviNumero(superficie, geometria.BordoSinistro(c), geometria.BordoAlto(r), distanza,
+                   NumeroCasella(c, r), posto);
     }
   }
 }
@@ -133,19 +120,11 @@ bool SchemaColorato() {
   return false;
 }
 
-double BordoSinistro(int colonna) {
-  return (colonna - 1) * LatoCasella + OrigineX;
-}
-
-double BordoAlto(int riga) {
-  return (riga - 1) * LatoCasella + OrigineY;
-}
-
 void AnticipaCasella(Casella casella, bool nera) {
   Superficie* superficie = FinestraPrincipale();
   if (!superficie) return;
-  const double x = BordoSinistro(casella.colonna);
-  const double y = BordoAlto(casella.riga);
+  const double x = GeometriaDelloSchema().BordoSinistro(casella.colonna);
+  const double y = GeometriaDelloSchema().BordoAlto(casella.riga);
   if (nera) {
     DisegnaCasellaNera(*superficie, x, y, LatoCasella,
                        ColoreCasella(casella.colonna, casella.riga));

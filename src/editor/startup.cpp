@@ -12,6 +12,7 @@
 #include "editor/settings.h"
 #include "editor/update_check.h"
 #include "model/crossword_file.h"
+#include "model/documento.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/temporary.h"
@@ -62,11 +63,10 @@ void LeggiImpostazioniOTermina() {
 
 // Whatever could not be opened leaves the program as it is without a crossword.
 void ApriRigaDiComando() {
-  FileComando = NomeCruciverba = RigaDiComando;
-  const Apertura esito = ApriCruciverba(NomeCruciverba);
-  if (esito == Apertura::Assente) TerminaSenzaCruciverba(NomeCruciverba);
+  FileComando = RigaDiComando;
+  const Apertura esito = ApriCruciverba(RigaDiComando);
+  if (esito == Apertura::Assente) TerminaSenzaCruciverba(RigaDiComando);
   if (esito == Apertura::Rifiutata) {
-    NomeCruciverba.clear();
     LaFinestra().MostraPicture1(true);
     return;
   }
@@ -88,7 +88,7 @@ void CaricaProgramma(const Percorso& cartella) {
   ScegliCartellaIstantanea();
   EliminaIstantanea();
   ApriDizionario(IlDizionario());
-  SchemaModificato = Falso;
+  IlDocumento().SegnaModificato(false);
   FontDelleLettere();
 }
 

@@ -70,11 +70,12 @@ void MostraRettangolo(const Slot& slot) {
   const double lungo = slot.lunghezza * LatoCasella - 2;
   const double corto = LatoCasella - 2;
   const bool orizzontale = slot.direzione == Orizzontale;
-  LaFinestra().MostraShape1({.sinistra = BordoSinistro(slot.inizio.colonna) + 1,
-                             .cima = BordoAlto(slot.inizio.riga) + 1,
-                             .larghezza = orizzontale ? lungo : corto,
-                             .altezza = orizzontale ? corto : lungo,
-                             .colore = orizzontale ? ColoreOrizzontale : ColoreVerticale});
+  LaFinestra().MostraShape1(
+      {.sinistra = GeometriaDelloSchema().BordoSinistro(slot.inizio.colonna) + 1,
+       .cima = GeometriaDelloSchema().BordoAlto(slot.inizio.riga) + 1,
+       .larghezza = orizzontale ? lungo : corto,
+       .altezza = orizzontale ? corto : lungo,
+       .colore = orizzontale ? ColoreOrizzontale : ColoreVerticale});
 }
 
 void MostraParola(const Slot& slot, double x, double y) {
@@ -84,7 +85,8 @@ void MostraParola(const Slot& slot, double x, double y) {
 }
 
 void PassaSuUnaCasella(Casella casella, double x, double y) {
-  const bool altoDestra = y - BordoAlto(casella.riga) <= x - BordoSinistro(casella.colonna);
+  const bool altoDestra = y - GeometriaDelloSchema().BordoAlto(casella.riga) <=
+                          x - GeometriaDelloSchema().BordoSinistro(casella.colonna);
   const Indicazione indicazione = IndicazioneDa(casella, altoDestra);
   MouseCol = indicazione.casella.colonna;
   MouseRiga = indicazione.casella.riga;
@@ -122,7 +124,6 @@ void PassaSullaSuperficie(double x, double y) {
   if (PuntatoreMouse == PuntatoreCasellaBianca) return MostraStrumento(" Casella bianca ", x, y);
   if (PuntatoreMouse == PuntatoreCasellaNera) return MostraStrumento(" Casella nera ", x, y);
   if (ModoGriglia != ModoModifica) return LaFinestra().TogliLabel1();
-  RiprendiGeometria();
   if (LatoCasella == 0) return;
   const Casella casella = CasellaSotto(x, y);
   if (NelloSchema(casella)) return PassaSuUnaCasella(casella, x, y);

@@ -4,7 +4,8 @@
 
 #include "model/crossword_reader.h"
 #include "model/crossword_writer.h"
-#include "model/current_crossword.h"
+#include "model/documento.h"
+#include "platform/digest.h"
 #include "platform/platform.h"
 
 namespace telarium {
@@ -31,16 +32,6 @@ bool Riferisci(const LetturaDelFile& lettura, const Percorso& nome) {
   return !grave;
 }
 
-// Makes what was read the current crossword, in place of the one that is there.
-Apertura Apri(const LetturaDelFile& lettura, const Percorso& nome) {
-  if (lettura.cruciverba.colonne > 0) {
-    SvuotaCruciverba();
-    PrendiCruciverba(lettura.cruciverba);
-  }
-  if (Riferisci(lettura, nome)) return Apertura::Intera;
-  return lettura.cruciverba.colonne > 0 ? Apertura::Parziale : Apertura::Rifiutata;
-}
-
 // Reads a file; what fails is told, but for a missing one.
 EsitoLettura LeggiOAvvisa(const Percorso& nome, std::string& contenuto) {
   std::error_code errore;
@@ -50,18 +41,22 @@ EsitoLettura LeggiOAvvisa(const Percorso& nome, std::string& contenuto) {
   return esito;
 }
 
-bool LeggiDa(const Percorso& percorso, const Percorso& nomeMostrato) {
-  std::string contenuto;
-  const EsitoLettura esito = LeggiOAvvisa(percorso, contenuto);
-  if (esito == EsitoLettura::Assente) TerminaSenzaCruciverba(nomeMostrato);
-  return esito == EsitoLettura::Letto && InterpretaCruciverba(contenuto, percorso);
+// What came of a reading, after its faults have been told.
+Apertura EsitoDella(const LetturaDelFile& lettura, const Percorso& nome) {
+  if (Riferisci(lettura, nome)) return Apertura::Intera;
+  return lettura.cruciverba.colonne > 0 ? Apertura::Parziale : Apertura::Rifiutata;
 }
 
-// Writes the crossword; why that was not possible, empty when it was.
-std::string Scrivi(const Percorso& percorso, Permanenza permanenza) {
-  const auto testo = TestoDelCruciverba();
-  if (!testo) return std::string(CruciverbaNonScrivibile);
-  const auto errore = ScriviFile(percorso, *testo, permanenza);
+// The bytes of a crossword, for a file; else why there are none.
+std::optional<std::string> Testo(const Cruciverba& cruciverba, std::string& causa) {
+  auto testo = ContenutoDelFile(cruciverba);
+  if (!testo) causa = CruciverbaNonScrivibile;
+  return testo;
+}
+
+// Writes bytes; why that was not possible, empty when it was.
+std::string Scrivi(const Percorso& percorso, std::string_view testo, Permanenza permanenza) {
+  const auto errore = ScriviFile(percorso, testo, permanenza);
   return errore ? DescrizioneErrore(errore) : std::string();
 }
 
@@ -71,37 +66,38 @@ bool Riferisci(const Percorso& percorso, const std::string& causa) {
   return causa.empty();
 }
 
-bool istantaneaSuperata = false;
-
 // Writes the snapshot; why that was not possible, empty when it was.
-std::string FallimentoDellIstantanea() {
-  std::string causa = Scrivi(PercorsoIstantanea(), Permanenza::Provvisoria);
-  istantaneaSuperata = !causa.empty();
+std::string FallimentoDellIstantanea(const Cruciverba& cruciverba) {
+  std::string causa;
+  const auto testo = Testo(cruciverba, causa);
+  if (testo) causa = Scrivi(PercorsoIstantanea(), *testo, Permanenza::Provvisoria);
+  StatoIstantanea stato = IlDocumento().Istantanea();
+  stato.superata = !causa.empty();
+  if (causa.empty()) stato.impronta = ImprontaDi(*testo);
+  IlDocumento().NotaIstantanea(stato);
   return causa;
 }
 
-const AzzeramentoDiSottosistema azzeramento([] { istantaneaSuperata = false; });
+// Takes over what another program has left in the snapshot, as a change of the crossword.
+void PrendiIstantanea(const std::string& contenuto) {
+  Documento& documento = IlDocumento();
+  documento.NotaIstantanea({ImprontaDi(contenuto)});
+  LetturaDelFile lettura = LeggiContenuto(contenuto, documento.Valore());
+  documento.Modifica("Cruciverba cambiato da un altro programma",
+                     [&](Cruciverba& cruciverba) { cruciverba = std::move(lettura.cruciverba); });
+  Riferisci(lettura, PercorsoIstantanea());
+}
 
 }  // namespace
 
 std::optional<std::string> TestoDelCruciverba() {
-  return ContenutoDelFile(CruciverbaCorrente());
+  return ContenutoDelFile(IlDocumento().Valore());
 }
 
 std::optional<std::string> TestoDaPubblicare() {
-  Cruciverba cruciverba = CruciverbaCorrente();
+  Cruciverba cruciverba = IlDocumento().Valore();
   cruciverba.laboratorio = Laboratorio{};
   return ContenutoDelFile(cruciverba);
-}
-
-bool InterpretaCruciverba(std::string_view contenuto, const Percorso& nome) {
-  const LetturaDelFile lettura = LeggiContenuto(contenuto, CruciverbaCorrente());
-  PrendiCruciverba(lettura.cruciverba);
-  return Riferisci(lettura, nome);
-}
-
-bool LeggiCruciverba(const Percorso& nome) {
-  return LeggiDa(CartellaProgramma / nome, nome);
 }
 
 void TerminaSenzaCruciverba(const Percorso& nome) {
@@ -113,43 +109,83 @@ void TerminaSenzaCruciverba(const Percorso& nome) {
 
 Apertura ApriCruciverba(const Percorso& nome) {
   std::string contenuto;
-  const EsitoLettura esito = LeggiOAvvisa(nome, contenuto);
-  if (esito == EsitoLettura::Assente) return Apertura::Assente;
-  if (esito != EsitoLettura::Letto) return Apertura::Rifiutata;
-  return Apri(LeggiContenuto(contenuto), nome);
+  const EsitoLettura letto = LeggiOAvvisa(nome, contenuto);
+  if (letto == EsitoLettura::Assente) return Apertura::Assente;
+  if (letto != EsitoLettura::Letto) return Apertura::Rifiutata;
+  LetturaDelFile lettura = LeggiContenuto(contenuto);
+  const bool rifiutata = lettura.cruciverba.colonne == 0;
+  if (!rifiutata) {
+    ComeNelFile(lettura.cruciverba);
+    const bool inParte = lettura.guasto && lettura.guasto->Grave();
+    IlDocumento().Sostituisci(
+        "Apertura",
+        {lettura.cruciverba, {nome, lettura.cruciverba, ImprontaDi(contenuto), inParte}, false});
+  }
+  return EsitoDella(lettura, nome);
 }
 
-Apertura ApriTestoDiCruciverba(std::string_view contenuto) {
-  return Apri(LeggiContenuto(contenuto, {}, Coda::Estranea), {});
+bool ApriTestoDiCruciverba(std::string_view contenuto) {
+  LetturaDelFile lettura = LeggiContenuto(contenuto, {}, Coda::Estranea);
+  if (EsitoDella(lettura, {}) != Apertura::Intera) return false;
+  ComeNelFile(lettura.cruciverba);
+  Documento& documento = IlDocumento();
+  const Percorso nome = NomeCruciverba.empty() ? Percorso(NomeMaiSalvato) : NomeCruciverba;
+  documento.Sostituisci("Apertura da Internet", {std::move(lettura.cruciverba), SoloNome(nome),
+                                                 documento.Stato().modificato});
+  return true;
+}
+
+bool ScriviCruciverba(const Cruciverba& cruciverba, const Percorso& nome) {
+  std::string causa;
+  const auto testo = Testo(cruciverba, causa);
+  if (testo) causa = Scrivi(nome, *testo, Permanenza::SulDisco);
+  return Riferisci(nome, causa);
 }
 
 bool ScriviCruciverba(const Percorso& nome) {
-  return Riferisci(nome, Scrivi(nome, Permanenza::SulDisco));
+  return ScriviCruciverba(IlDocumento().Valore(), nome);
 }
 
-bool LeggiIstantanea() {
-  return LeggiDa(PercorsoIstantanea(), NomeIstantanea);
+bool SalvaComeFile(Cruciverba cruciverba, const Percorso& nome) {
+  std::string causa;
+  const auto testo = Testo(cruciverba, causa);
+  if (testo) causa = Scrivi(nome, *testo, Permanenza::SulDisco);
+  if (!Riferisci(nome, causa)) return false;
+  Documento& documento = IlDocumento();
+  documento.Modifica("Autore", [&](Cruciverba& attuale) { attuale = cruciverba; });
+  documento.Registra({nome, documento.Valore(), ImprontaDi(*testo)});
+  documento.SegnaModificato(false);
+  return true;
 }
 
 bool ScriviIstantanea() {
-  return Riferisci(PercorsoIstantanea(), FallimentoDellIstantanea());
+  return ScriviIstantanea(IlDocumento().Valore());
 }
 
-bool IstantaneaSuperata() {
-  return istantaneaSuperata;
+bool ScriviIstantanea(const Cruciverba& cruciverba) {
+  return Riferisci(PercorsoIstantanea(), FallimentoDellIstantanea(cruciverba));
+}
+
+bool AggiornaIstantanea() {
+  return FallimentoDellIstantanea(IlDocumento().Valore()).empty();
+}
+
+void RivediIstantanea() {
+  // A change that never reached the snapshot must not be undone by it.
+  if (IlDocumento().Istantanea().superata && !AggiornaIstantanea()) return;
+  std::string contenuto;
+  const EsitoLettura esito = LeggiOAvvisa(PercorsoIstantanea(), contenuto);
+  if (esito == EsitoLettura::Assente) {
+    AggiornaIstantanea();
+  } else if (esito == EsitoLettura::Letto &&
+             IlDocumento().Istantanea().impronta != ImprontaDi(contenuto)) {
+    PrendiIstantanea(contenuto);
+  }
 }
 
 void EliminaIstantanea() {
   std::error_code ignorato;
   std::filesystem::remove(PercorsoIstantanea(), ignorato);
-}
-
-bool AggiornaIstantanea() {
-  return FallimentoDellIstantanea().empty();
-}
-
-void ScriviDimensioni(int colonne, int righe) {
-  Schema(RigheIntestazione) = ConDimensioni(std::move(Schema(RigheIntestazione)), {colonne, righe});
 }
 
 }  // namespace telarium

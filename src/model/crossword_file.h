@@ -8,71 +8,67 @@
 #include "model/state.h"
 #include "platform/codepage.h"
 
-// The crossword file and the current crossword: model/crossword_reader.h and crossword_writer.h do
-// the work on values.
+// The crossword file and the snapshot, and the document: model/crossword_reader.h and
+// crossword_writer.h do the work on values.
 namespace telarium {
-
-/// Reads the file `nome` of the program folder (or an absolute `nome`) into Schema, NumColonne,
-/// NumRighe, those entries of Definizione and ColoreCasella that it names, and, if it has a section
-/// of it, LaboratorioDelCruciverba; clears nothing. A missing file ends the program, any other
-/// failure shows its message and gives false: what was read until then stays, and after a bad size
-/// both numbers are 0.
-bool LeggiCruciverba(const Percorso& nome);
 
 /// What became of a crossword that the user wanted opened.
 enum class Apertura {
   Intera,
   Parziale,   // up to a read error, which was told
-  Rifiutata,  // told; the state is as it was
-  Assente,    // there is no such file: not told; the state is as it was
+  Rifiutata,  // told; the document is as it was
+  Assente,    // there is no such file: not told; the document is as it was
 };
 
-/// Opens a crossword for the user, by its path as given: as LeggiCruciverba, but a file that cannot
-/// be read or has no valid header changes nothing, and any other clears by SvuotaCruciverba what is
-/// there before its grid is taken.
+/// Opens a crossword for the user, by its path as given, in place of the one that is open. A file
+/// that cannot be read or has no valid header changes nothing.
 [[nodiscard]] Apertura ApriCruciverba(const Percorso& nome);
 
-/// ApriCruciverba for contents from elsewhere than a file. Behind the colours stands the rest of a
-/// page, of which nothing is read.
-[[nodiscard]] Apertura ApriTestoDiCruciverba(std::string_view contenuto);
+/// The same with the contents of a page, behind whose colours nothing is read: only a whole
+/// crossword is taken, since it goes on under the name, and with the mark, of the one that was
+/// open. False when there was none, which has been told.
+[[nodiscard]] bool ApriTestoDiCruciverba(std::string_view contenuto);
 
 /// Ends the program with the message that a crossword file is missing.
 [[noreturn]] void TerminaSenzaCruciverba(const Percorso& nome);
 
-/// What LeggiCruciverba does with the contents of a file, and its name for a message: contents from
-/// elsewhere have none.
-bool InterpretaCruciverba(std::string_view contenuto, const Percorso& nome = {});
-
-/// Writes the crossword to a path as given. The state stays as it is. A failure shows its message,
-/// gives false and leaves the old file.
+/// Writes a crossword, or the document's, to a path as given. A failure shows its message, gives
+/// false and leaves the old file.
+[[nodiscard]] bool ScriviCruciverba(const Cruciverba& cruciverba, const Percorso& nome);
 [[nodiscard]] bool ScriviCruciverba(const Percorso& nome);
 
-/// The cause when there is nothing that it could write.
+/// Saves the document in this form, which may have another author, and under this name, and clears
+/// its mark. False when it cannot be written, which has been told; then all is as it was.
+[[nodiscard]] bool SalvaComeFile(Cruciverba cruciverba, const Percorso& nome);
+
+/// The cause when there is nothing that could be written.
 inline constexpr std::string_view CruciverbaNonScrivibile =
     "il cruciverba ha caratteri che il file non ammette, o è troppo grande"_cp;
 
-/// What ScriviCruciverba writes. None when it could not be read again: a cell has a character that
-/// the file cannot hold, or it would be too large.
+/// The bytes of the document's file. None when they could not be read again: a cell has a character
+/// that the file cannot hold, or it would be too large.
 std::optional<std::string> TestoDelCruciverba();
 
 /// The same for others to read, without what the laboratory keeps.
 std::optional<std::string> TestoDaPubblicare();
 
-/// LeggiCruciverba and ScriviCruciverba with the snapshot, which is never forced to the disk.
-bool LeggiIstantanea();
+// The snapshot: the document, or what is about to become it, for other programs to see and to
+// change. It is never forced to the disk.
+
+/// Writes it; a failure shows its message, gives false and leaves the old one.
 [[nodiscard]] bool ScriviIstantanea();
+[[nodiscard]] bool ScriviIstantanea(const Cruciverba& cruciverba);
 
-/// Whether the last writing of the snapshot failed: it holds less than the state.
-bool IstantaneaSuperata();
-
-/// Removes the snapshot if there is one.
-void EliminaIstantanea();
-
-/// ScriviIstantanea without a message: for a redraw, which runs at every change of the window's
-/// size. The next commit tells what is wrong. Gives whether it could be written.
+/// The same without a message: for a redraw, which runs at every change of the window's size. The
+/// next commit tells what is wrong.
 bool AggiornaIstantanea();
 
-/// Writes a size into the header line of Schema: what it held before character 14 stays.
-void ScriviDimensioni(int colonne, int righe);
+/// Looks whether another program has changed it: what that left is taken as a change of the
+/// document, over which it is read; its faults are told, and after one of the size the grid has
+/// none. A snapshot that is gone is written again.
+void RivediIstantanea();
+
+/// Removes it if there is one.
+void EliminaIstantanea();
 
 }  // namespace telarium

@@ -40,9 +40,15 @@ std::optional<std::string> RigaDiSchema(std::string_view riga) {
   return schema;
 }
 
+std::string ConSegni(std::string riga) {
+  for (std::size_t p = 1; p < riga.size(); p += 2)
+    riga[p] = riga[p - 1] == CellaNera ? CellaNera : CellaVuota;
+  return riga;
+}
+
 std::optional<std::string> RigaDelFile(std::string riga) {
+  riga = ConSegni(std::move(riga));
   for (std::size_t p = 0; p < riga.size(); p += 2) {
-    if (p + 1 < riga.size()) riga[p + 1] = riga[p] == CellaNera ? CellaNera : CellaVuota;
     const int codice = Codice(riga[p]) + Spostamento;
     if (codice > 255) return std::nullopt;
     riga[p] = static_cast<char>(codice);

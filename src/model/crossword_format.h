@@ -51,6 +51,9 @@ std::optional<std::string> RigaDiSchema(std::string_view riga);
 /// shift.
 std::optional<std::string> RigaDelFile(std::string riga);
 
+/// A grid line with its marks in step.
+std::string ConSegni(std::string riga);
+
 /// Whether a white cell can hold a character and the file can hold the cell: a letter or another
 /// printable character with a code up to 229.
 bool LetteraScrivibile(char carattere);

@@ -55,7 +55,44 @@ void AggiungiColori(std::string& testo, const Cruciverba& cruciverba) {
   }
 }
 
+void AllineaSegni(Cruciverba& cruciverba) {
+  cruciverba.griglia.resize(static_cast<std::size_t>(cruciverba.righe));
+  for (Condiviso<std::string>& riga : cruciverba.griglia) {
+    std::string allineata = ConSegni(*riga);
+    if (allineata != *riga) riga = std::move(allineata);
+  }
+}
+
+void UnisciIntestazione(Cruciverba& cruciverba) {
+  Intestazione unita = *cruciverba.intestazione;
+  for (std::string& riga : unita)
+    riga = InUnaRiga(riga);
+  if (unita != *cruciverba.intestazione) cruciverba.intestazione = std::move(unita);
+}
+
+void UnisciDefinizioni(Cruciverba& cruciverba) {
+  constexpr std::string_view interruzioni("\r\n\0", 3);
+  std::vector<InizioDiParola> interrotte;
+  cruciverba.definizioni.PerOgni([&](const std::string& definizione, int c, int r, int d) {
+    if (definizione.find_first_of(interruzioni) != std::string::npos)
+      interrotte.push_back({{c, r}, d});
+  });
+  if (interrotte.empty()) return;
+  const Derivati derivati = Deriva(cruciverba);
+  for (const auto& [casella, d] : interrotte) {
+    if (!derivati.Dentro(casella) || !derivati.Inizia(casella, d)) continue;
+    const auto [c, r] = casella;
+    cruciverba.definizioni.Imposta(InUnaRiga(cruciverba.definizioni(c, r, d)), c, r, d);
+  }
+}
+
 }  // namespace
+
+void ComeNelFile(Cruciverba& cruciverba) {
+  AllineaSegni(cruciverba);
+  UnisciIntestazione(cruciverba);
+  UnisciDefinizioni(cruciverba);
+}
 
 std::optional<std::string> ContenutoDelFile(const Cruciverba& cruciverba) {
   const auto laboratorio = SezioneDelLaboratorio(cruciverba.laboratorio);

@@ -1,6 +1,7 @@
 #include "model/cruciverba.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "model/crossword_format.h"
 
@@ -32,11 +33,13 @@ void Ridimensiona(Cruciverba& cruciverba, int colonne, int righe) {
   Verifica(colonne >= 1 && colonne <= MaxColonne && righe >= 1 && righe <= MaxRighe,
            "Cruciverba: dimensioni fuori dai limiti");
   const auto prima = 2 * static_cast<std::size_t>(cruciverba.colonne);
-  cruciverba.griglia.resize(static_cast<std::size_t>(righe));
+  const auto dopo = 2 * static_cast<std::size_t>(colonne);
+  cruciverba.griglia.resize(static_cast<std::size_t>(righe), std::string(dopo, CellaVuota));
   for (Condiviso<std::string>& condivisa : cruciverba.griglia) {
+    if (colonne == cruciverba.colonne) break;
     std::string& riga = condivisa.Proprio();
     if (riga.size() > prima) riga.resize(prima);  // what a line holds past its last cell is no cell
-    riga.resize(2 * static_cast<std::size_t>(colonne), CellaVuota);
+    riga.resize(dopo, CellaVuota);
   }
   cruciverba.colonne = colonne;
   cruciverba.righe = righe;

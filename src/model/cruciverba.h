@@ -49,11 +49,12 @@ char CarattereDi(const Cruciverba& cruciverba, Casella casella);
 /// is too short for the cell is first made longer by empty white cells.
 void ScriviCarattere(Cruciverba& cruciverba, Casella casella, char carattere);
 
-/// Writes the characters of a word into its cells; what it has beyond them is left out.
+/// Writes the characters of a word into its cells, likewise; what it has beyond them is left out.
 void ScriviCaratteri(Cruciverba& cruciverba, const Slot& slot, std::string_view parola);
 
-/// Gives the grid another size, within the limits, and says so in the header. Its row lines come to
-/// the length of the grid, new cells are empty; clues, colours and locks stay in their places.
+/// Gives the grid another size, within the limits, and says so in the header. New cells are empty,
+/// and with another number of columns the row lines come to the length of the grid; clues, colours
+/// and locks stay in their places.
 void Ridimensiona(Cruciverba& cruciverba, int colonne, int righe);
 
 }  // namespace telarium

@@ -8,6 +8,7 @@
 
 #include "model/cruciverba.h"
 #include "model/derivation.h"
+#include "model/tables.h"
 #include "platform/files.h"
 
 // The crossword that is open. There is one document and one thread that touches it; everybody reads
@@ -41,6 +42,11 @@ struct FileDelCruciverba {
   bool operator==(const FileDelCruciverba&) const = default;
 };
 
+/// The file of a crossword that goes under a name and is in no file yet.
+inline FileDelCruciverba SoloNome(const Percorso& nome) {
+  return {nome, {}, {}, false};
+}
+
 /// What is open: a crossword, its file, and whether it counts as changed at the saving question.
 struct StatoDelDocumento {
   Cruciverba cruciverba;
@@ -50,20 +56,33 @@ struct StatoDelDocumento {
   bool operator==(const StatoDelDocumento&) const = default;
 };
 
+/// What is known of the snapshot: the digest of its bytes as last written or read, none before the
+/// first time, and whether it holds less than the document, since the last writing failed.
+struct StatoIstantanea {
+  std::optional<std::uint64_t> impronta = {};
+  bool superata = false;
+};
+
 class PassoUnico;
 
 class Documento {
  public:
+  Documento() = default;
+  /// The tables follow whatever happens to the document.
+  explicit Documento(TavoleDelCruciverba& specchio) : specchio_(&specchio) {}
+  Documento(const Documento&) = delete;
+  Documento& operator=(const Documento&) = delete;
+
   const Cruciverba& Valore() const { return stato_.cruciverba; }
   const StatoDelDocumento& Stato() const { return stato_; }
   /// What follows from the grid as it stands.
   const Derivati& Derivata() const { return derivati_; }
 
-  /// The gate: calls the function with the crossword to be changed. Afterwards the derived tables
-  /// follow, and if it is another one than before the observer is told, with the words that name
-  /// the change in the list of steps ("Casella nera 4,7"). An exception leaves all as it was. The
-  /// function must not come back here, nor show a window. The mark stays as it is. True when the
-  /// crossword has changed.
+  /// The gate: calls the function with the crossword to be changed, and gives that the form in
+  /// which a file holds it (see ComeNelFile). If it then is another one than before the observer is
+  /// told, with the words that name the change in the list of steps ("Casella nera 4,7"). An
+  /// exception leaves all as it was. The function must not come back here, nor show a window. The
+  /// mark stays as it is. True when the crossword has changed.
   bool Modifica(std::string_view motivo, const std::function<void(Cruciverba&)>& funzione);
 
   /// Another crossword takes the place of this one, under its own name; it begins a line of steps.
@@ -78,6 +97,10 @@ class Documento {
   /// The mark of a crossword that is to be saved.
   void SegnaModificato(bool modificato);
 
+  /// What is known of the snapshot.
+  const StatoIstantanea& Istantanea() const { return istantanea_; }
+  void NotaIstantanea(const StatoIstantanea& stato) { istantanea_ = stato; }
+
   /// As at program start.
   void Azzera();
 
@@ -87,8 +110,14 @@ class Documento {
  private:
   friend class PassoUnico;
 
+  // Takes a crossword over, with all that follows from it.
+  void Prendi(Cruciverba cruciverba);
+  void RispecchiaNomeESegno();
+
   StatoDelDocumento stato_;
+  StatoIstantanea istantanea_;
   Derivati derivati_;
+  TavoleDelCruciverba* specchio_ = nullptr;
   PassoUnico* passo_ = nullptr;  // the one that is open
   OsservatoreDelDocumento* osservatore_ = nullptr;
 };

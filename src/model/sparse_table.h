@@ -62,9 +62,16 @@ class TabellaRada {
   /// Calls `visita` with each of them and its indices, in their order.
   template <class Visita>
   void PerOgni(Visita visita) const {
+    for (int primo = Asse::primo; primo <= Asse::ultimo; ++primo)
+      VisitaColonna(primo, visita);
+  }
+
+  /// The same, but for the columns that the other table is known to have likewise: they share them.
+  template <class Visita>
+  void PerOgni(const TabellaRada& altra, Visita visita) const {
     for (int primo = Asse::primo; primo <= Asse::ultimo; ++primo) {
-      for (const auto& [posto, valore] : *colonne_[static_cast<std::size_t>(primo - Asse::primo)])
-        std::apply([&](auto... altri) { visita(valore, primo, altri...); }, IndiciDi(posto));
+      const auto colonna = static_cast<std::size_t>(primo - Asse::primo);
+      if (!colonne_[colonna].StessoDi(altra.colonne_[colonna])) VisitaColonna(primo, visita);
     }
   }
 
@@ -100,6 +107,12 @@ class TabellaRada {
   using Colonna = std::vector<Elemento>;
   static constexpr std::size_t perColonna = (static_cast<std::size_t>(Altri::quanti) * ...);
   static_assert(perColonna <= std::numeric_limits<std::uint16_t>::max());
+
+  template <class Visita>
+  void VisitaColonna(int primo, Visita& visita) const {
+    for (const auto& [posto, valore] : *colonne_[static_cast<std::size_t>(primo - Asse::primo)])
+      std::apply([&](auto... altri) { visita(valore, primo, altri...); }, IndiciDi(posto));
+  }
 
   // Which column, from 0, and the place in it.
   template <class... Indice>

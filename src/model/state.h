@@ -5,59 +5,43 @@
 
 #include "model/boolean.h"
 #include "model/cells.h"
-#include "model/laboratory_section.h"
-#include "model/table.h"
-#include "platform/files.h"
-#include "platform/surface.h"
+#include "model/tables.h"
 #include "platform/user.h"
 
-// The one current crossword and what is shared about it. There is one thread, and every routine
-// reads and writes these variables directly. Tables count from 1: (column, row), (column, row,
+// The given names: the crossword that is open, which the document holds (model/documento.h) and
+// alone can change, and what is shared about it. Tables count from 1: (column, row), (column, row,
 // direction).
 namespace telarium {
 
-inline constexpr int RigheSchema = 350;  // lines of Schema, of which NumRighe + 4 have a meaning
-
-// --- The grid as text: the primary copy ---
+// --- The grid as text ---
 
 /// Line 1 author, 2 date, 3 kind, 4 size; from line 5 on one line per grid row. In a row line cell
 /// c has its character at 2c-1 and a companion mark at 2c ("*" black, "." else), which decides
-/// nothing and may be out of date.
-extern Tabella<std::string, Indici<1, RigheSchema>> Schema;
-extern std::int16_t NumColonne;  // 0 while there is no crossword
-extern std::int16_t NumRighe;    // 0 while there is no crossword
+/// nothing.
+extern const Tabella<std::string, Indici<1, RigheSchema>>& Schema;
+extern const std::int16_t& NumColonne;  // 0 while there is no crossword
+extern const std::int16_t& NumRighe;    // 0 while there is no crossword
 /// Path of the crossword file; empty: no crossword; NomeMaiSalvato: never saved.
-extern Percorso NomeCruciverba;
-extern Booleano16 SchemaModificato;
-
-// --- Primary side tables ---
+extern const Percorso& NomeCruciverba;
+extern const Booleano16& SchemaModificato;
 
 /// The clue of the word that starts at the cell in that direction; empty if it has none.
-extern Tabella<std::string, AsseColonne, AsseRighe, AsseDirezioni> Definizione;
+extern const Tabella<std::string, AsseColonne, AsseRighe, AsseDirezioni>& Definizione;
 /// Fill colour of a black cell; 0 is plain black. No effect on white cells.
-extern Tabella<Colore, AsseColonne, AsseRighe> ColoreCasella;
-/// What the laboratory keeps with the crossword.
-extern Laboratorio LaboratorioDelCruciverba;
+extern const Tabella<Colore, AsseColonne, AsseRighe>& ColoreCasella;
 
-// --- Derived from Schema by RicalcolaCaselle ---
+// --- What follows from the grid; outside of it as in an empty one ---
 
-extern Tabella<char, AsseColonne, AsseRighe> LetteraCasella;
+extern const Tabella<char, AsseColonne, AsseRighe>& LetteraCasella;
 /// 0 black, 1 white without a start, 2 horizontal start, 3 vertical start, 5 both. There is no 4.
-extern Tabella<std::int16_t, AsseColonne, AsseRighe> TipoCasella;
+extern const Tabella<std::int16_t, AsseColonne, AsseRighe>& TipoCasella;
 /// Clue number of a start cell, from 1 in reading order; 0 elsewhere.
-extern Tabella<std::int16_t, AsseColonne, AsseRighe> NumeroCasella;
+extern const Tabella<std::int16_t, AsseColonne, AsseRighe>& NumeroCasella;
 /// The characters from the cell to the end of its run in that direction: the whole word at a start
 /// cell, empty where no white cell follows.
-extern Tabella<std::string, AsseColonne, AsseRighe, AsseDirezioni> ParolaCasella;
+extern const Tabella<std::string, AsseColonne, AsseRighe, AsseDirezioni>& ParolaCasella;
 
 // --- Position and mode ---
-
-// Side of a cell as last drawn, and left and top of the grid: on the main window in pixels, behind
-// a print or in a preview in the units of the sheet (see CediGeometria of the editor). 0 before the
-// first redraw.
-extern std::int16_t LatoCasella;
-extern std::int16_t OrigineX;
-extern std::int16_t OrigineY;
 
 // Values of ModoGriglia. Only ModoModifica and ModoAnteprima are ever tested; the others tell which
 // command was the last.
@@ -93,14 +77,6 @@ Percorso PercorsoIstantanea();
 
 /// Puts every shared variable, also those that a subsystem owns, as at program start.
 void AzzeraStato();
-
-/// Empties all clues, as a new crossword needs it.
-void SvuotaDefinizioni();
-
-/// Empties the grid lines, clues, colours, what the laboratory keeps and the derived tables, so
-/// that a crossword that is opened shows nothing of an earlier one, even if its file breaks off.
-/// Cells that its file does not hold count as empty white ones.
-void SvuotaCruciverba();
 
 /// Sets PuntatoreMouse and the visible shape.
 void ImpostaPuntatoreMouse(int forma);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string_view>
+#include <string>
 
 #include "model/state.h"
 
@@ -12,14 +12,6 @@ inline bool NelloSchema(Casella casella) {
   return casella.colonna >= 1 && casella.colonna <= NumColonne && casella.riga >= 1 &&
          casella.riga <= NumRighe;
 }
-
-/// Sets LetteraCasella, TipoCasella, NumeroCasella and ParolaCasella of all cells of the current
-/// grid from Schema. Entries outside the grid, and letters that a short row line does not hold,
-/// stay as they were.
-void RicalcolaCaselle();
-
-/// RicalcolaCaselle but for NumeroCasella, for a change that moves no black cell.
-void RicalcolaCaselleSenzaNumeri();
 
 /// Whether, by TipoCasella, a word starts at the cell in that direction.
 bool IniziaParola(Casella casella, int direzione);
@@ -50,12 +42,5 @@ void PerOgniParola(int direzione, Visita visita) {
     if (slot.direzione == direzione) visita(slot);
   });
 }
-
-/// Writes the character of a cell into its row line of Schema; the companion mark stays as it is. A
-/// line that is too short for the cell is first made longer by empty white cells.
-void ScriviInSchema(Casella casella, char carattere);
-
-/// Writes the characters of a word into its cells in Schema; what it has beyond them is left out.
-void ScriviInSchema(const Slot& slot, std::string_view parola);
 
 }  // namespace telarium

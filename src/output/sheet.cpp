@@ -27,25 +27,25 @@ std::int16_t Intero16(double valore) {
       ArrotondaPari(std::clamp<double>(valore, Limiti::min(), Limiti::max())));
 }
 
-void CalcolaGeometriaDelFoglio(const Superficie& superficie, const Foglio& foglio) {
+Geometria GeometriaDelFoglio(const Superficie& superficie, const Foglio& foglio) {
   const auto lato = [&foglio](double misura, int caselle) {
     const auto intero = Intero16((misura - 2 * MargineProvvisorio - 4) / caselle);
     return std::max<int>(intero, foglio.latoMinimo);
   };
-  LatoCasella = static_cast<std::int16_t>(
+  const auto cella = static_cast<std::int16_t>(
       std::min(lato(foglio.larghezza, NumColonne), lato(foglio.altezza / 2, NumRighe)));
-  OrigineX = Intero16((superficie.LarghezzaSuperficie() - NumColonne * LatoCasella) / 2);
-  OrigineY = Intero16((foglio.altezzaPerCentrare / 2 - NumRighe * LatoCasella) / 2);
-  CediGeometria();
+  return {.lato = cella,
+          .x = Intero16((superficie.LarghezzaSuperficie() - NumColonne * cella) / 2),
+          .y = Intero16((foglio.altezzaPerCentrare / 2 - NumRighe * cella) / 2)};
 }
 
-void DisegnaGriglia(Superficie& superficie, const Foglio& foglio) {
+void DisegnaGriglia(Superficie& superficie, const Geometria& geometria, const Foglio& foglio) {
+  const auto& [lato, x, y] = geometria;
   const int d = foglio.distanzaCornice;
-  superficie.Riquadro(OrigineX - d, OrigineY - d, OrigineX + NumColonne * LatoCasella + d,
-                      OrigineY + NumRighe * LatoCasella + d, ColoreNero);
-  DisegnaCaselle(superficie, !StampaSoluzioni, foglio.posto);
-  superficie.CorpoCarattere(CorpoNumeri(LatoCasella / foglio.riduzioneCorpi));
-  DisegnaNumeri(superficie, foglio.posto);
+  superficie.Riquadro(x - d, y - d, x + NumColonne * lato + d, y + NumRighe * lato + d, ColoreNero);
+  DisegnaCaselle(superficie, geometria, !StampaSoluzioni, foglio.posto);
+  superficie.CorpoCarattere(CorpoNumeri(lato / foglio.riduzioneCorpi));
+  DisegnaNumeri(superficie, geometria, foglio.posto);
 }
 
 void VaiAlMargine(Superficie& superficie, int margine) {
@@ -95,20 +95,20 @@ void ScriviRigheFinali(Superficie& superficie, int margine) {
 
 }  // namespace
 
-void DisegnaFoglio(Superficie& superficie, const Foglio& foglio) {
-  RicalcolaCaselle();
-  CalcolaGeometriaDelFoglio(superficie, foglio);
-  superficie.CorpoCarattere(CorpoLettereIntero(LatoCasella, foglio.riduzioneCorpi));
+Geometria DisegnaFoglio(Superficie& superficie, const Foglio& foglio) {
+  const Geometria geometria = GeometriaDelFoglio(superficie, foglio);
+  superficie.CorpoCarattere(CorpoLettereIntero(geometria.lato, foglio.riduzioneCorpi));
   superficie.Carattere(FontDelleLettere());
-  if (LatoCasella > 0) DisegnaGriglia(superficie, foglio);
+  if (geometria.lato > 0) DisegnaGriglia(superficie, geometria, foglio);
 
   superficie.CorpoCarattere(foglio.corpoDefinizioni);
-  superficie.Posizione(foglio.margine, OrigineY + NumRighe * LatoCasella + SottoLoSchema);
+  superficie.Posizione(foglio.margine, geometria.BordoAlto(NumRighe + 1) + SottoLoSchema);
   ScriviElenco(superficie, foglio, "ORIZZONTALI:", Orizzontale);
   VaiACapo(superficie, 2);
   ScriviElenco(superficie, foglio, "VERTICALI:", Verticale);
   VaiACapo(superficie, foglio.aCapoPrimaDellaData);
   ScriviRigheFinali(superficie, foglio.margine);
+  return geometria;
 }
 
 void ScriviDefinizione(Superficie& superficie, std::string_view voce, int margine, double limite) {

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "editor/cell_drawing.h"
+#include "editor/geometry.h"
 #include "platform/surface.h"
 
 // The sheet of a crossword, on paper and as its preview on the main window: the grid in the upper
@@ -28,11 +29,10 @@ struct Foglio {
   int aCapoPrimaDellaData;
 };
 
-/// Draws the sheet of the current crossword. Brings the derived tables into line with Schema first
-/// and leaves LatoCasella, OrigineX and OrigineY as they are on the sheet; bold is off behind it.
-/// From the clues on a line that would pass the lower edge goes to the top of another page, where
+/// Draws the sheet of the document and gives where its grid lies there; bold is off behind it. From
+/// the clues on a line that would pass the lower edge goes to the top of another page, where
 /// the surface has one. Wants a grid.
-void DisegnaFoglio(Superficie& superficie, const Foglio& foglio);
+Geometria DisegnaFoglio(Superficie& superficie, const Foglio& foglio);
 
 /// Writes a clue entry, what stands before its first blank in bold. An entry that would come closer
 /// to the right edge than `limite` begins a new line at `margine`; it is never broken.

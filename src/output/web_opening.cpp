@@ -8,7 +8,6 @@
 #include "editor/commit.h"
 #include "editor/file_commands.h"
 #include "editor/main_window.h"
-#include "model/crossword_copy.h"
 #include "model/crossword_file.h"
 #include "output/interactive_page.h"
 #include "platform/codepage.h"
@@ -56,16 +55,6 @@ std::string ChiediIndirizzo() {
   return std::string(SenzaSpazi(risposta.value_or("")));
 }
 
-// A block whose reading breaks off would pass for the crossword whose name it comes under, and be
-// saved over its file: it is told, and the crossword stays.
-bool PrendiIlBlocco(std::string_view blocco) {
-  CruciverbaDiPrima prima;
-  const Apertura esito = ApriTestoDiCruciverba(blocco);
-  if (esito != Apertura::Intera) return false;
-  prima.Sostituito();
-  return AccogliCruciverba(esito);
-}
-
 }  // namespace
 
 std::optional<std::string_view> BloccoDiSalvataggio(std::string_view pagina) {
@@ -97,8 +86,8 @@ void ApriDaIndirizzo() {
   const auto blocco = PrelevaBlocco(AUtf8(indirizzo));
   if (!blocco) return;
   if (SchemaModificato && !ChiediSalvataggio()) return;
-  if (!PrendiIlBlocco(*blocco)) return;
-  if (NomeCruciverba.empty()) NomeCruciverba = NomeMaiSalvato;  // empty, there would be none
+  if (!ApriTestoDiCruciverba(*blocco)) return;
+  static_cast<void>(ScriviIstantanea());  // a failure has shown its message
   LaFinestra().MostraPicture1(false);
   LaFinestra().NascondiShape1();  // it lies over a word of the other grid
   RiprendiSchema();

@@ -4,7 +4,7 @@
 
 #include "composer/lookahead.h"
 #include "laboratory/composition.h"
-#include "model/current_crossword.h"
+#include "model/documento.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
@@ -94,7 +94,7 @@ Stato Candidati(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   if (!copertura && parole->definizioni == UsoDefinizioni::Obbligatorie) return Stato::Fallito;
   std::string messaggio;
   const auto composizione = PreparaComposizione(
-      CruciverbaCorrente(), {.parole = std::move(*parole)}, *lessico, copertura.get(), messaggio);
+      IlDocumento().Valore(), {.parole = std::move(*parole)}, *lessico, copertura.get(), messaggio);
   if (!messaggio.empty()) Avvisa(messaggio);
   if (!composizione) return Stato::Fallito;
   const auto slot = TrovaSlot(*composizione, inizio);

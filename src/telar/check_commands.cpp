@@ -2,7 +2,7 @@
 
 #include "clues/hard_clues.h"
 #include "laboratory/checks.h"
-#include "model/current_crossword.h"
+#include "model/documento.h"
 #include "platform/platform.h"
 #include "telar/command.h"
 #include "telar/files.h"
@@ -91,7 +91,7 @@ Stato Controlla(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   criteri.grado = [&](std::string_view parola, std::string_view definizione) {
     return GradoDefinizione{.difficile = copertura && difficili.Ha(parola, definizione)};
   };
-  const Verdetto verdetto = telarium::Controlla(CruciverbaCorrente(), criteri);
+  const Verdetto verdetto = telarium::Controlla(IlDocumento().Valore(), criteri);
   if (sorveglianza.Fermata()) return Stato::Interrotto;
   if (argomenti.Ha(OpzioneJson.nome)) {
     StampaJson(verdetto);

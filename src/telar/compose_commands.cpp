@@ -5,7 +5,7 @@
 #include <thread>
 
 #include "laboratory/composing.h"
-#include "model/current_crossword.h"
+#include "model/documento.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
@@ -149,8 +149,8 @@ class Esecuzione {
     const bool vuoleDefinizioni = scelta_.parole.definizioni == UsoDefinizioni::Obbligatorie;
     if (!copertura_ && vuoleDefinizioni && !sorveglianza_.Fermata()) return false;
     std::string messaggio;
-    composizione_ =
-        PreparaComposizione(CruciverbaCorrente(), scelta_, *lessico_, copertura_.get(), messaggio);
+    composizione_ = PreparaComposizione(IlDocumento().Valore(), scelta_, *lessico_,
+                                        copertura_.get(), messaggio);
     if (!messaggio.empty()) Avvisa(messaggio);
     return composizione_.has_value();
   }
@@ -215,8 +215,7 @@ class Esecuzione {
 
   // Of several proposals each has a file of its own, by its number.
   bool ScriviComposto(const Cruciverba& composto, std::size_t numero) const {
-    PrendiCruciverba(composto);
-    return Scrivi(numerate_ ? ConNumero(uscita_, numero + 1) : uscita_) == Stato::Fatto;
+    return Scrivi(composto, numerate_ ? ConNumero(uscita_, numero + 1) : uscita_) == Stato::Fatto;
   }
 
   void StampaEsito(Esito esito) const {

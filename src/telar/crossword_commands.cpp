@@ -5,7 +5,7 @@
 #include "editor/commit.h"
 #include "fill/extraction.h"
 #include "model/crossword_file.h"
-#include "model/current_crossword.h"
+#include "model/documento.h"
 #include "model/words.h"
 #include "platform/platform.h"
 #include "platform/temporary.h"
@@ -103,7 +103,6 @@ Stato Nuovo(const Argomenti& argomenti, PiattaformaConsole&) {
                                ? NuovoConDimensioni(argomenti.Valore("--dimensioni"))
                                : NuovoConModello(argomenti);
   if (esito != EsitoNuovo::Fatto) return Stato::Fallito;
-  RiprendiSchema();
   return Scrivi(argomenti.liberi[0]);
 }
 
@@ -156,13 +155,12 @@ Stato Estrai(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   if (!dizionario) return Stato::Fallito;
   AscoltaInterruzione();
   Estrazione estrazione(
-      CruciverbaCorrente(), *dizionario, [] { return Sistema().Casuale(); }, risposte);
+      IlDocumento().Valore(), *dizionario, [] { return Sistema().Casuale(); }, risposte);
   const RisultatoEstrazione risultato = estrazione.Esegui();
   switch (risultato.esito) {
     case EsitoEstrazione::Completa:
     case EsitoEstrazione::Annullata:
-      PrendiCruciverba(risultato.cruciverba);
-      return Scrivi(argomenti.liberi[1]);
+      return Scrivi(risultato.cruciverba, argomenti.liberi[1]);
     case EsitoEstrazione::SenzaParole:
       Avvisa(risultato.errore);
       return Stato::Fallito;

@@ -1,8 +1,8 @@
 #include "telar/files.h"
 
 #include "dictionary/open_dictionary.h"
-#include "editor/redraw.h"
 #include "model/crossword_file.h"
+#include "model/documento.h"
 #include "platform/codepage.h"
 #include "platform/platform.h"
 #include "platform/text.h"
@@ -25,17 +25,18 @@ std::string NonLetta(std::string_view nomeDellaLista, const Percorso& file, Esit
 }  // namespace
 
 bool Apri(const std::string& file) {
-  NomeCruciverba = file;
-  const Apertura esito = ApriCruciverba(NomeCruciverba);
-  if (esito == Apertura::Assente) TerminaSenzaCruciverba(NomeCruciverba);
-  if (esito != Apertura::Intera) return false;
-  RidisegnaSchema();
-  return true;
+  const Apertura esito = ApriCruciverba(file);
+  if (esito == Apertura::Assente) TerminaSenzaCruciverba(file);
+  return esito == Apertura::Intera;
 }
 
 Stato Scrivi(const std::string& uscita) {
+  return Scrivi(IlDocumento().Valore(), uscita);
+}
+
+Stato Scrivi(const Cruciverba& cruciverba, const std::string& uscita) {
   AscoltaInterruzione();
-  return ScriviCruciverba(uscita) ? Stato::Fatto : Stato::Fallito;
+  return ScriviCruciverba(cruciverba, uscita) ? Stato::Fatto : Stato::Fallito;
 }
 
 std::optional<Dizionario> ApriDizionario(const std::string& nome) {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "dictionary/dictionary.h"
+#include "model/cruciverba.h"
 #include "platform/files.h"
 #include "telar/command.h"
 
@@ -16,8 +17,9 @@ namespace telarium::telar {
 /// it could not be taken, which has been told.
 bool Apri(const std::string& file);
 
-/// Writes the crossword as the result of the command.
+/// Writes the document, or another crossword, as the result of the command.
 Stato Scrivi(const std::string& uscita);
+Stato Scrivi(const Cruciverba& cruciverba, const std::string& uscita);
 
 /// Opens a dictionary of the program folder: a missing one ends the program. None when it cannot be
 /// read, which has been told.

@@ -69,7 +69,7 @@ Stato ApriPagina(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   const auto blocco = PrelevaBlocco(argomenti.liberi[0]);
   if (!blocco && piattaforma.ChiUsa().Interrotto())
     Avvisa("Prelievo interrotto: nessun file scritto.");
-  if (!blocco || ApriTestoDiCruciverba(*blocco) != Apertura::Intera) return Stato::Fallito;
+  if (!blocco || !ApriTestoDiCruciverba(*blocco)) return Stato::Fallito;
   return Scrivi(argomenti.liberi[1]);
 }
 

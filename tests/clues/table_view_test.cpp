@@ -132,7 +132,7 @@ TEST_F(TableView, TheSmallGridIsDrawnCallByCall) {
   PercentualeRiquadro = 90;
   DistanzaDaSpigolo = 5;
   DistanzaDaCentro = 10;
-  LatoCasella = 40;  // of the main grid, from which the numbers take their distance
+  SetGeometry(40);  // of the main grid, from which the numbers take their distance
   SetColour(3, 1, 0x00FF00);
   Draw({"A.#"});
   RecordingSurface surface;

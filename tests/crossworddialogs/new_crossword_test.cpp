@@ -1,5 +1,6 @@
 #include "crossworddialogs/new_crossword.h"
 
+#include "model/documento.h"
 #include "platform/codepage.h"
 #include "support/telarium_test.h"
 
@@ -30,7 +31,7 @@ class NewCrossword : public TelariumTest {
     EXPECT_EQ(Schema(4) + Schema(5) + Schema(6), "Dimensioni : 02x02A.B.C.D.");
     EXPECT_EQ(NumColonne + NumRighe, 4);
     EXPECT_EQ(Definizione(1, 1, Orizzontale), "di prima");
-    EXPECT_EQ(LaboratorioDelCruciverba.vietate, Texts{"AB"});
+    EXPECT_EQ(IlDocumento().Valore().laboratorio->vietate, Texts{"AB"});
     EXPECT_EQ(SchemaModificato, Vero);
     EXPECT_EQ(NomeCruciverba, "prova.tlrm");
     EXPECT_FALSE(std::filesystem::exists(PercorsoIstantanea()));
@@ -39,7 +40,7 @@ class NewCrossword : public TelariumTest {
   void ExpectMade(const std::string& snapshot) const {
     EXPECT_EQ(FirstDifference(ReadFile(InFolder("_tlma_32.tmp")), snapshot), "");
     EXPECT_EQ(Definizione(1, 1, Orizzontale) + Definizione(53, 30, Verticale), "");
-    EXPECT_EQ(ColoreCasella(1, 2), 255);
+    EXPECT_EQ(ColoreCasella(1, 2), 0);
     EXPECT_EQ(SchemaModificato, 0);
     EXPECT_EQ(NomeCruciverba, "NuovoCruciverba.tlrm");
   }
@@ -51,7 +52,7 @@ TEST_F(NewCrossword, EmptyGridIsHandedOverInTheSnapshot) {
   EXPECT_EQ(Schema(34), std::string(106, '.'));
   EXPECT_EQ(NuovoVuoto(3, 3), EsitoNuovo::Fatto);
   ExpectMade(Unisci(Beginning, "03x03\r\nH.H.H.\r\nH.H.H.\r\nH.H.H.\r\n[Colori caselle]\r\n",
-                    " 0  255  0 \r\n 0  0  0 \r\n 0  0  0 \r\n"));
+                    " 0  0  0 \r\n 0  0  0 \r\n 0  0  0 \r\n"));
   EXPECT_EQ(NumColonne + NumRighe, 6);
 }
 
@@ -59,7 +60,7 @@ TEST_F(NewCrossword, ModelIsHandedOverWithItsLetters) {
   const Percorso path = WriteFile("m.dfc", "XX\r\nXX\r\n-\r\nCA*\r\n.B.\r\n-\r\nno\r\n");
   EXPECT_EQ(NuovoDaModello(path, 1), EsitoNuovo::Fatto);
   ExpectMade(Unisci(Beginning, "03x02\r\n].[.D*\r\nH.\\.H.\r\n[Colori caselle]\r\n",
-                    " 0  255 \r\n 0  0 \r\n 0  0 \r\n"));
+                    " 0  0 \r\n 0  0 \r\n 0  0 \r\n"));
   EXPECT_EQ(Schema(5) + Schema(6), "CCAA**..BB..");
   EXPECT_EQ(NuovoDaModello(path, 2), EsitoNuovo::ModelloAssente);
 }

@@ -34,11 +34,12 @@ class Editing : public TelariumTest {
   void MoveTo(int column, int row, bool upperRight = true) {
     const double high = LatoCasella * 0.25;
     const double low = LatoCasella * 0.75;
-    PassaSullaSuperficie(BordoSinistro(column) + (upperRight ? low : high),
-                         BordoAlto(row) + (upperRight ? high : low));
+    PassaSullaSuperficie(GeometriaDelloSchema().BordoSinistro(column) + (upperRight ? low : high),
+                         GeometriaDelloSchema().BordoAlto(row) + (upperRight ? high : low));
   }
   void Press(TastoMouse button, int column, int row) {
-    PremiSullaSuperficie(button, BordoSinistro(column) + 3, BordoAlto(row) + 3);
+    PremiSullaSuperficie(button, GeometriaDelloSchema().BordoSinistro(column) + 3,
+                         GeometriaDelloSchema().BordoAlto(row) + 3);
   }
   void PressBeside(TastoMouse button = Left) { PremiSullaSuperficie(button, 1, 1); }
 
@@ -93,8 +94,8 @@ TEST_F(Editing, ACellShowsItsNewGroundBeforeTheSnapshotIsWritten) {
   calls.clear();
   AttivaCasellaNera();
   EXPECT_FALSE(calls.empty()) << "a tool leaves the preview that shows";
-  const double left = BordoSinistro(1) + 2, right = left + LatoCasella - 4;
-  const double top = BordoAlto(1) + 2, bottom = top + LatoCasella - 4;
+  const double left = GeometriaDelloSchema().BordoSinistro(1) + 2, right = left + LatoCasella - 4;
+  const double top = GeometriaDelloSchema().BordoAlto(1) + 2, bottom = top + LatoCasella - 4;
   calls.clear();
   Press(Left, 1, 1);
   EXPECT_TRUE(calls.front().starts_with("RiquadroPieno") && calls.front().ends_with(" 0"));

@@ -181,7 +181,7 @@ TEST_F(RedrawTest, DoesNothingWithoutAWindowOrACrossword) {
   EXPECT_TRUE(Redraw().empty());
   platform.hasWindow = true;
   NoGrid();
-  LatoCasella = 7;
+  SetGeometry(7);
   EXPECT_TRUE(Redraw().empty());
   EXPECT_EQ(LatoCasella, 7);
 }

@@ -43,9 +43,7 @@ class WordPointing : public TelariumTest {
     Draw(rows);
     window.toolbarHeight = window.statusBarHeight = 0;
     RidisegnaSchema();
-    LatoCasella = 100;
-    OrigineX = 50;
-    OrigineY = 60;
+    SetGeometry(100, 50, 60);
   }
 
   void ExpectOutOfView(int pointer) {
@@ -168,11 +166,11 @@ TEST_F(WordPointing, BesideTheGridNothingIsMeant) {
   PassaSullaSuperficie(60, 70);
   ExpectOutOfView(9);
   ModoGriglia = ModoModifica;
-  LatoCasella = 0;
+  SetGeometry(0, 50, 60);
   PassaSullaSuperficie(60, 70);
   ExpectOutOfView(9);
   NoGrid();
-  LatoCasella = 100;
+  SetGeometry(100, 50, 60);
   PassaSullaSuperficie(60, 70);
   ExpectOutOfView(0);
 }

@@ -40,7 +40,8 @@ bool WriteSettings() {
 
 bool WriteSnapshot() {
   CartellaIstantanea = CartellaProgramma;
-  return LeggiCruciverba(std::filesystem::absolute("grid")) && ScriviIstantanea();
+  return ApriCruciverba(std::filesystem::absolute("grid")) == Apertura::Intera &&
+         ScriviIstantanea();
 }
 
 }  // namespace

@@ -370,9 +370,7 @@ TEST_F(ExtractionTest, EverySlotWithoutADeadEndHoldsAWord) {
 
 TEST_F(ExtractionTest, LettersArePaintedInTheMiddleOfTheirCells) {
   RecordingSurface surface;
-  LatoCasella = 31;
-  OrigineX = 17;
-  OrigineY = 40;
+  SetGeometry(31, 17, 40);
   AltezzaCaratteri = 60;
   DistanzaDaCentro = 10;
   surface.CorpoCarattere(13);  // the half of it goes to the even number, 6
@@ -381,7 +379,7 @@ TEST_F(ExtractionTest, LettersArePaintedInTheMiddleOfTheirCells) {
   painter.PreparaCarattere();
   painter.Dipingi({{2, 3}, Verticale, 2}, "SI");
   painter.Fine();
-  LatoCasella = 8;
+  SetGeometry(8, 17, 40);
   painter.PreparaCarattere();
   EXPECT_EQ(surface.calls,
             (Words{"CorpoCarattere 13", "DisegnoPersistente no", "CorpoCarattere 18.6",

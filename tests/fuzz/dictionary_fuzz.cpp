@@ -47,9 +47,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     TrySection(dictionary, length, size);
   }
   if (OneIn(16, input) && NuovoVuoto(7, 5) == EsitoNuovo::Fatto) {
-    RicalcolaCaselle();
     ComandoEstrazione().EseguiEstrazione();
-    Verifica(!ScriviIstantanea() || LeggiIstantanea(), "a filled crossword cannot be read");
+    Verifica(!ScriviIstantanea() || ApriCruciverba(PercorsoIstantanea()) == Apertura::Intera,
+             "a filled crossword cannot be read");
   }
   return 0;
 }

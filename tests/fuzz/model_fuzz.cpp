@@ -12,7 +12,8 @@ namespace {
 void TryNew(const Percorso& file, int number) {
   try {
     if (NuovoDaModello(file, number) != EsitoNuovo::Fatto) return;
-    Verifica(LeggiIstantanea(), "the new crossword cannot be read");
+    Verifica(ApriCruciverba(PercorsoIstantanea()) == Apertura::Intera,
+             "the new crossword cannot be read");
   } catch (const ProgramEnded&) {
     // A bad row or character.
   }

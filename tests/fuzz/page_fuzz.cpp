@@ -40,6 +40,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // What is written reads as the same.
   const auto first = TestoDelCruciverba();
   Verifica(first.has_value(), "a crossword that no file can hold");
-  Verifica(ApriTestoDiCruciverba(*first) == Apertura::Intera, "it cannot be read again");
+  Verifica(ApriTestoDiCruciverba(*first), "it cannot be read again");
   return 0;
 }

@@ -10,6 +10,7 @@
 #include "editor/startup.h"
 #include "editor/word_pointing.h"
 #include "model/crossword_file.h"
+#include "model/documento.h"
 #include "output/picture_page.h"
 #include "output/web_opening.h"
 #include "support/drawn_crossword.h"
@@ -32,11 +33,11 @@ using State = TelariumTest;
 std::vector<std::string> Everything() {
   std::vector<std::string> all;
   const auto add = [&](const auto&... values) { (all.push_back(Unisci(values)), ...); };
-  all.push_back(Unisci(LaboratorioDelCruciverba.vietate.size()));
+  all.push_back(Unisci(IlDocumento().Valore().laboratorio->vietate.size()));
   add(Schema(34), Definizione(53, 30, 2), ParolaCasella(52, 30, 1), LetteraCasella(53, 30));
   add(NumColonne, NumRighe, SchemaModificato, ColoreCasella(53, 30), TipoCasella(1, 30));
   add(NumeroCasella(1, 30), LatoCasella, OrigineX, OrigineY, ModoGriglia, PuntatoreMouse);
-  add(MouseCol, MouseRiga, ColoreScelto, IstantaneaSuperata());
+  add(MouseCol, MouseRiga, ColoreScelto, int{IlDocumento().Istantanea().superata});
   add(NomeFont, AltezzaCaratteri, AltezzaNumeri, PercentualeRiquadro, DistanzaDaSpigolo);
   add(DistanzaDaCentro, SpessoreBordo, RettangoloParola, StampaSoluzioni, TastoSin);
   add(NascondiSoluzioni, GiaAttivata, MostraSuggerimenti);
@@ -64,14 +65,14 @@ TEST_F(State, ResetPutsEveryVariableAsAtProgramStart) {
   SetColour(MaxColonne, MaxRighe, 7);
   SetName("x");
   MarkModified();
+  SetGeometry(7, 7, 7);
   NomeFont = "x";
   ElencoDefinizioni(1) = IndirizzoWeb = "x";
   RigaDiComando = FileComando = "x";
   for (std::int16_t* one :
-       {&LatoCasella, &OrigineX, &OrigineY, &ModoGriglia, &PuntatoreMouse, &AltezzaCaratteri,
-        &AltezzaNumeri, &PercentualeRiquadro, &DistanzaDaSpigolo, &DistanzaDaCentro, &SpessoreBordo,
-        &RettangoloParola, &StampaSoluzioni, &TastoSin, &NascondiSoluzioni, &GiaAttivata,
-        &LarghezzaPicture})
+       {&ModoGriglia, &PuntatoreMouse, &AltezzaCaratteri, &AltezzaNumeri, &PercentualeRiquadro,
+        &DistanzaDaSpigolo, &DistanzaDaCentro, &SpessoreBordo, &RettangoloParola, &StampaSoluzioni,
+        &TastoSin, &NascondiSoluzioni, &GiaAttivata, &LarghezzaPicture})
     *one = 7;
   MouseCol = MouseRiga = ColoreScelto = MostraSuggerimenti = 7;
   const auto changed = Everything();

@@ -66,9 +66,9 @@ TEST_F(Words, LinesOfAnyLengthFillTheGridAsFarAsTheyGo) {
   EXPECT_EQ(ParolaCasella(1, 1, Orizzontale), std::string(53, 'A'));
 }
 
-TEST_F(Words, WritingACellKeepsItsMarkAndMakesAShortLineLonger) {
+TEST_F(Words, WritingACellMakesAShortLineLongerAndKeepsMarksInStep) {
   const std::pair<const char*, const char*> cases[] = {
-      {"A.B.**D.", "A.B.C*D."}, {"A", "A...C."}, {"A.", "A...C."}, {"A.B.*", "A.B.C."}};
+      {"A.B.**D.", "A.B.C.D."}, {"A", "A...C."}, {"A.", "A...C."}, {"A.B.*", "A.B.C."}};
   Draw({"...."});
   for (const auto& [before, after] : cases) {
     SetLine(1, before);

@@ -142,7 +142,7 @@ TEST_P(Pages, AreTheSameToTheByte) {
 TEST_P(Pages, GiveTheCrosswordBack) {
   const std::string page = PaginaInterattiva().value();
   const std::string block = page.substr(page.find(InizioDelBlocco) + InizioDelBlocco.size());
-  ASSERT_EQ(ApriTestoDiCruciverba(block), Apertura::Intera);
+  ASSERT_TRUE(ApriTestoDiCruciverba(block));
   RidisegnaSchema();
   EXPECT_EQ(FirstDifference(TestoDelCruciverba().value(), ReadFile(Source("crossword.tlrm"))), "");
   EXPECT_EQ(FirstDifference(PaginaInterattiva().value(), page), "");

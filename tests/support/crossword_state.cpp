@@ -1,17 +1,17 @@
 #include "support/crossword_state.h"
 
-#include "model/current_crossword.h"
+#include "editor/geometry.h"
+#include "model/crossword_format.h"
 #include "model/derivation.h"
-#include "model/words.h"
+#include "model/documento.h"
+#include "model/state.h"
 #include "platform/check.h"
+#include "platform/digest.h"
 
 namespace telarium {
 
 void Change(const std::function<void(Cruciverba&)>& how) {
-  Cruciverba crossword = CruciverbaCorrente();
-  how(crossword);
-  PrendiCruciverba(crossword);
-  RicalcolaCaselle();
+  IlDocumento().Modifica("", how);
 }
 
 void SetClue(int column, int row, int direction, std::string_view clue) {
@@ -67,11 +67,20 @@ void NoGrid() {
 }
 
 void SetName(const Percorso& path) {
-  NomeCruciverba = path;
+  FileDelCruciverba file = SoloNome(path);
+  std::string bytes;
+  if (LeggiFile(path, MaxByteCruciverba, bytes) == EsitoLettura::Letto)
+    file.impronta = ImprontaDi(bytes);
+  IlDocumento().Registra(file);
 }
 
 void MarkModified(bool modified) {
-  SchemaModificato = modified ? Vero : Falso;
+  IlDocumento().SegnaModificato(modified);
+}
+
+void SetGeometry(int side, int left, int top) {
+  const auto narrow = [](int value) { return static_cast<std::int16_t>(value); };
+  ImpostaGeometria({.lato = narrow(side), .x = narrow(left), .y = narrow(top)});
 }
 
 void Forget() {

@@ -30,9 +30,12 @@ void SetHeader(int line, std::string_view text);
 /// Takes the grid away, as a damaged snapshot does; name, clues and colours stay.
 void NoGrid();
 
-/// The path of its file, and whether it is to be saved.
+/// The path of its file, whose bytes count as known if there is one, and whether it is to be saved.
 void SetName(const Percorso& path);
 void MarkModified(bool modified = true);
+
+/// Where the grid lies on the window: side of a cell, left, top.
+void SetGeometry(int side, int left = 0, int top = 0);
 
 /// Everything as at program start.
 void Forget();

@@ -34,6 +34,9 @@ class ScriptedUser : public Utente {
   /// Answers the next input box; none is its cancel button.
   void AnswerText(std::optional<std::string> text) { textAnswers_.push_back(std::move(text)); }
 
+  /// Whether no message waits to be looked at.
+  bool Silent() const { return messages_.empty(); }
+
   /// The texts shown so far, dead ends included; they count as looked at.
   std::vector<std::string> TakeTexts();
   /// The messages shown so far with titles and buttons; they count as looked at.

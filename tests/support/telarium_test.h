@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "dictionary/open_dictionary.h"
+#include "editor/geometry.h"
 #include "model/state.h"
 #include "platform/temporary.h"
 #include "support/crossword_state.h"

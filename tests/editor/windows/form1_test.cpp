@@ -350,7 +350,8 @@ class RoadTest : public Form1Test {
 
  private:
   static QPointF Middle(int column, int row) {
-    return {BordoSinistro(column) + LatoCasella / 2.0, BordoAlto(row) + LatoCasella / 2.0};
+    return {GeometriaDelloSchema().BordoSinistro(column) + LatoCasella / 2.0,
+            GeometriaDelloSchema().BordoAlto(row) + LatoCasella / 2.0};
   }
   void SendMouse(QEvent::Type type, Qt::MouseButton button, QPointF point) {
     QMouseEvent event(type, point, form->Area->mapToGlobal(point), button, button, Qt::NoModifier);
@@ -388,7 +389,8 @@ TEST_F(RoadTest, ACrosswordFromNothingToTheArchiveAndBack) {
   EXPECT_EQ(PuntatoreMouse, 0);
   user.colours = {0x3060C0};
   Press(2, 2);
-  EXPECT_EQ(Shown(BordoSinistro(2) + LatoCasella / 2.0, BordoAlto(2) + LatoCasella / 2.0),
+  EXPECT_EQ(Shown(GeometriaDelloSchema().BordoSinistro(2) + LatoCasella / 2.0,
+                  GeometriaDelloSchema().BordoAlto(2) + LatoCasella / 2.0),
             QColor(0xC0, 0x60, 0x30));
   MoveTo(1, 2);
   EXPECT_EQ(form->Label1->text(), QStringLiteral("  4 vert. - "));
