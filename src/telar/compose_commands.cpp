@@ -98,11 +98,16 @@ std::string ConNumero(const Percorso& uscita, std::size_t numero) {
          Unisci(uscita.stem().string(), '-', numero, uscita.extension().string());
 }
 
-void AvvisaVolute(const std::vector<std::string>& volute) {
-  std::string elenco;
-  for (const std::string& parola : volute)
-    elenco += Unisci(elenco.empty() ? "" : ", ", parola);
-  if (!elenco.empty()) Avvisa(Unisci("Parole volute che non trovano posto: ", elenco, '.'));
+// Why the wanted words for which there is no place have none.
+void AvvisaVolute(const Composizione& composizione, const std::vector<std::string>& volute) {
+  if (volute.empty()) return;
+  std::string perche = TroppeVolute(composizione);
+  if (perche.empty()) {
+    for (const std::string& parola : volute)
+      perche += Unisci(perche.empty() ? "Parole volute che non trovano posto: " : ", ", parola);
+    perche += '.';
+  }
+  Avvisa(perche);
 }
 
 void StampaRimedio(const Rimedio& rimedio) {
@@ -164,7 +169,7 @@ class Esecuzione {
       case Esito::Impossibile:
         if (!ConsegnaParziale(risultato)) return Stato::Fallito;
         Avvisa("Con queste parole e queste richieste lo schema non si può riempire."_cp);
-        AvvisaVolute(risultato.volute);
+        AvvisaVolute(*composizione_, risultato.volute);
         return Stato::Negativo;
       default:
         if (!ConsegnaParziale(risultato)) return Stato::Fallito;

@@ -4,6 +4,9 @@ from reference import is_finite
 LIMITING = {"nome", "sigla", "straniera", "gioco", "tronca"}
 LEMMA_CATEGORIES = {"s", "a", "v", "avv", "num", "np"}
 COMMON_LEMMAS = {"essere", "avere"}
+# Lemmas that are forms of one word.
+ONE_WORD = {(stem + end, "prep"): (stem + "l", "prep") for stem in ("a", "co", "da", "de", "ne")
+            for end in ("l", "llo", "lla", "i", "gli", "lle")} | {("miei", "a"): ("mio", "a")}
 # One in so many; 0 is none.
 SHARES = {
     "severe": {"finita": 0, "tronca": 0, "straniera": 20},
@@ -25,8 +28,9 @@ class Word:
 
     def lemmas(self):
         """Lemmas with their part of speech, that of the commonest reading first."""
-        found = [(lemma, code[0]) for code, lemma in self.readings
-                 if code[0] in LEMMA_CATEGORIES and lemma not in COMMON_LEMMAS]
+        read = [(lemma, "a" if code[0] == "pron" else code[0]) for code, lemma in self.readings]
+        found = [ONE_WORD.get(one, one) for one in read
+                 if one in ONE_WORD or one[1] in LEMMA_CATEGORIES and one[0] not in COMMON_LEMMAS]
         return list(dict.fromkeys(found))
 
 

@@ -83,6 +83,11 @@ TEST_F(TelarCompose, EndsWithTheStatusOfWhatHappened) {
       {"square part --secondi 0 --parziale", "Interrotto", 4},
       {"square old --vieta ala", "Con queste parole", 3},
       {"square old --vieta ala --vuole ala", "", 1},
+      {"square old --vuole tra,tre,tri,tro,tru,tur,ter",
+       "Con queste parole e queste richieste lo schema non si può riempire.\n"
+       "Parole volute di 3 lettere: 7 (TER, TRA, TRE, TRI, TRO, TRU, TUR); posti di questa "
+       "lunghezza: 6.\n",
+       3},
       {"given old --maschera 1,1,O:.E.", "", 1},
       {"square old --maschera 2,2,O:SEI", "", 1},
       {"manca old", "", 1},
