@@ -1,4 +1,6 @@
+#include <fcntl.h>
 #include <regex>
+#include <unistd.h>
 
 #include "telar/telar_fixture.h"
 
@@ -22,6 +24,18 @@ class TelarCompose : public Telar {
     Write("few", List.substr(0, List.find("aie")));
     Write("clues", "ALA\tF\tVola\nSEI\tD\tMezza dozzina\n");
     Out("enc-crea clues");
+  }
+
+  // "places" with the words of "triples" has as many places as words and one more: a search tries
+  // them in all orders.
+  void WriteEndless() {
+    std::string rows, words;
+    for (char letter = 'a'; letter <= 'l'; ++letter) {
+      rows += "H.H.H.\r\nD*D*D*\r\n";
+      if (letter < 'l') words += Unisci(std::string(3, letter), '\n');
+    }
+    Write("places", Unisci(Head, "03x24\r\n", rows));
+    Write("triples", words);
   }
 
   // The grid of a crossword file, its rows divided by blanks.
@@ -116,15 +130,7 @@ TEST_F(TelarCompose, EndsWithTheStatusOfWhatHappened) {
 }
 
 TEST_F(TelarCompose, ControlCEndsASearchAndKeepsAFill) {
-  // As many words of three letters as there are places, less one: a search tries them in all
-  // orders.
-  std::string rows, words;
-  for (char letter = 'a'; letter <= 'l'; ++letter) {
-    rows += "H.H.H.\r\nD*D*D*\r\n";
-    if (letter < 'l') words += Unisci(std::string(3, letter), '\n');
-  }
-  Write("places", Unisci(Head, "03x24\r\n", rows));
-  Write("triples", words);
+  WriteEndless();
   const struct {
     const char* call;
     int status;
@@ -158,6 +164,22 @@ TEST_F(TelarCompose, ListsCandidatesWithWhatBecomesOfThem) {
   EXPECT_EQ(Told("candidati square 2 1 O --lessico words", 1),
             "Nella colonna 2, riga 1, non comincia nessuna parola orizzontale.\n");
   EXPECT_NE(Told("candidati square 1 1 X --lessico words", 2), "");
+}
+
+TEST_F(TelarCompose, CandidatesEndQuietlyWhenTheirReaderGoes) {
+  WriteEndless();
+  int ends[2];
+  ASSERT_EQ(::pipe2(ends, O_CLOEXEC), 0);
+  Descrittore reader(ends[0]);
+  const Descrittore writer(ends[1]);
+  call.output = writer.Numero();
+  call.arguments = Split("candidati places 1 1 O --lessico triples --passi 999999999999", ' ');
+  TelarProcess process(call);
+  process.WaitUntil([&] { return fs::exists(InFolder("cache/telarium")); });
+  reader.Chiudi();
+  const TelarResult result = process.WaitForEnd();
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.err, "");
 }
 
 }  // namespace
