@@ -239,15 +239,19 @@ class Esecuzione {
     StampaEsito(risultato.esito);
     StampaIntero("voci", static_cast<std::uint64_t>(cifre.voci));
     StampaCampi({"punteggio", cifre.media, cifre.minimo});
-    if (risultato.soglia) {
-      const auto& [fino, oltre] = *risultato.soglia;
-      StampaCampi({"provato", std::to_string(fino), oltre ? std::to_string(*oltre) : ""});
-    }
+    if (risultato.soglia) StampaSoglia(*risultato.soglia, cifre);
     StampaIntero("definite", static_cast<std::uint64_t>(cifre.definite));
     StampaIntero("passi", static_cast<std::uint64_t>(proposta.passi));
     StampaDurata("primo", proposta.primo);
     StampaDurata("in tutto", std::chrono::steady_clock::now());
     if (proposta.interrotta) StampaCampi({"interrotto"});
+  }
+
+  // Where no score counts there is no lowest one.
+  void StampaSoglia(const SogliaTrovata& soglia, const CifreRiempimento& cifre) const {
+    const bool conta = !cifre.minimo.empty();
+    StampaCampi({"provato", conta ? std::to_string(soglia.fino) : "",
+                 conta && soglia.oltre ? std::to_string(*soglia.oltre) : ""});
   }
 
   void StampaColpevoli(const RisultatoComposizione& risultato) const {
