@@ -1,5 +1,5 @@
 """What the words of one crossword are, by the layers, rules and bans that a person has chosen."""
-from reference import is_finite
+from reference import only_a_verb
 
 LIMITING = {"nome", "sigla", "straniera", "gioco", "tronca"}
 LEMMA_CATEGORIES = {"s", "a", "v", "avv", "num", "np"}
@@ -23,7 +23,7 @@ class Word:
         self.in_kit, self.of_a_list = in_kit, of_a_list
 
     def kinds(self):
-        finite = bool(self.readings) and all(is_finite(code) for code, _ in self.readings)
+        finite = bool(self.readings) and all(only_a_verb(code) for code, _ in self.readings)
         return (self.marks & LIMITING) | ({"finita"} if finite and not self.in_kit else set())
 
     def lemmas(self):

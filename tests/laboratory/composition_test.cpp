@@ -186,7 +186,8 @@ TEST(CrosswordToProblem, DemandsThatContradictEachOtherAreTold) {
       {"Le parole volute SEGUITO (7), TRE (3) non hanno posto: nessuna parola da riempire ha tante "
        "lettere.",
        {.parole = {}, .volute = {"CASA", "NOTO", "SEGUITO", "TRE"}}},
-      {"La parola voluta SEGUO è una forma finita di un verbo: le regole «severe» non l'ammettono.",
+      {"La parola voluta SEGUO è una forma di verbo finita o un gerundio: le regole «severe» non "
+       "l'ammettono.",
        Wanting("SEGUO")},
       {"La parola voluta ARMA ha punteggio 20: il minimo chiesto è 30.", scored},
       {"La parola voluta TAXI non ha una definizione, che qui ci vuole.", clued},
