@@ -12,7 +12,7 @@ Stesura::Stesura(const Partenza& partenza, const std::string& lettere)
       lettere_(lettere),
       parole_(S(partenza.Griglia().Slot()), SenzaParola),
       mutabili_(lettere.size(), false),
-      parentele_(partenza.Parole()) {
+      parenti_(partenza.Parole()) {
   Verifica(lettere.size() == S(Griglia().Caselle()), "un riempimento ha le caselle del problema");
   for (int lunghezza = MinLunghezzaVoce; lunghezza <= MaxLunghezzaVoce; ++lunghezza) {
     divieti_[S(lunghezza)].assign(S(Parole().Quante(lunghezza)), 0);
@@ -94,7 +94,7 @@ void Stesura::Vieta(NumeroParola parola, int segno) {
 
 std::span<const NumeroParola> Stesura::ParentiDi(NumeroParola parola) const {
   if (Di().ammetteForme || !Parole().HaParentele()) return {};
-  return parentele_.Di(parola);
+  return parenti_.Di(parola);
 }
 
 Genie Stesura::Limitate(NumeroParola parola) const {
