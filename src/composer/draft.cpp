@@ -87,9 +87,7 @@ void Stesura::Vieta(NumeroParola parola, int segno) {
   std::uint16_t& quante = divieti_[S(parola.lunghezza)][S(parola.numero)];
   VerificaInvariante(quante != 0 || segno > 0, "un divieto che si toglie vale");
   quante = static_cast<std::uint16_t>(quante + segno);
-  Blocco& blocco = vietate_[S(parola.lunghezza)][S(parola.numero / ParolePerBlocco)];
-  const Blocco bit = Blocco{1} << (parola.numero % ParolePerBlocco);
-  blocco = quante != 0 ? blocco | bit : blocco & ~bit;
+  (quante != 0 ? Metti : Leva)(vietate_[S(parola.lunghezza)].data(), parola.numero);
 }
 
 std::span<const NumeroParola> Stesura::ParentiDi(NumeroParola parola) const {
