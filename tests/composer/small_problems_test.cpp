@@ -56,6 +56,7 @@ Problema OnlyOf(const Problema& whole, const std::vector<int>& slots,
   for (const int slot : slots)
     part.slot.push_back(whole.slot.at(static_cast<std::size_t>(slot)));
   part.volute = wanted;
+  part.esenti = whole.volute;
   return part;
 }
 
