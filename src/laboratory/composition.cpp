@@ -1,6 +1,7 @@
 #include "laboratory/composition.h"
 
 #include <algorithm>
+#include <bit>
 #include <iterator>
 #include <limits>
 #include <map>
@@ -265,9 +266,9 @@ class Preparazione {
     }
     if (quante == 0) return {};
     return quante == 1 ? Unisci("La parola voluta ", elenco,
-                                " non ha posto: nessuna parola da riempire ha tante lettere.")
+                                " non ha posto: nessuna parola da completare ha tante lettere.")
                        : Unisci("Le parole volute ", elenco,
-                                " non hanno posto: nessuna parola da riempire ha tante lettere.");
+                                " non hanno posto: nessuna parola da completare ha tante lettere.");
   }
 
   std::string ContrastoDellaVoluta(const std::string& parola) {
@@ -374,6 +375,20 @@ std::optional<Composizione> PreparaComposizione(const Cruciverba& cruciverba,
   messaggio = preparazione.Esegui();
   if (!messaggio.empty()) return std::nullopt;
   return std::move(preparazione).Composta();
+}
+
+std::string LettereChieste(const Composizione& composizione, const Slot& slot) {
+  std::string lettere = composizione.griglia.Lettere(slot);
+  for (int k = 1; k <= slot.lunghezza; ++k) {
+    const auto dove = std::ranges::find(composizione.caselle, slot.Cella(k));
+    char& lettera = lettere[static_cast<std::size_t>(k) - 1];
+    if (lettera != CellaVuota || dove == composizione.caselle.end()) continue;
+    const Lettere ammesse =
+        composizione.problema
+            .lettere[static_cast<std::size_t>(dove - composizione.caselle.begin())];
+    if (UnaSola(ammesse)) lettera = static_cast<char>('A' + std::countr_zero(ammesse));
+  }
+  return lettere;
 }
 
 std::string TroppeVolute(const Composizione& composizione) {

@@ -259,7 +259,7 @@ class Esecuzione {
       const auto [colonna, riga] = slot.inizio;
       StampaCampi({"colpevole", std::to_string(composizione_->griglia.Numero(slot.inizio)),
                    Sigla(slot.direzione), std::to_string(colonna), std::to_string(riga),
-                   std::to_string(slot.lunghezza), composizione_->griglia.Lettere(slot)});
+                   std::to_string(slot.lunghezza), LettereChieste(*composizione_, slot)});
     }
   }
 

@@ -181,9 +181,10 @@ TEST(CrosswordToProblem, DemandsThatContradictEachOtherAreTold) {
   const Contradiction rows[] = {
       {"La parola voluta CASA è vietata.", Wanting("CASA")},
       {"La parola voluta VIETA è vietata.", Wanting("VIETA")},
-      {"La parola voluta SEGUITO (7) non ha posto: nessuna parola da riempire ha tante lettere.",
+      {"La parola voluta SEGUITO (7) non ha posto: nessuna parola da completare ha tante lettere.",
        Wanting("SEGUITO")},
-      {"Le parole volute SEGUITO (7), TRE (3) non hanno posto: nessuna parola da riempire ha tante "
+      {"Le parole volute SEGUITO (7), TRE (3) non hanno posto: nessuna parola da completare ha "
+       "tante "
        "lettere.",
        {.parole = {}, .volute = {"CASA", "NOTO", "SEGUITO", "TRE"}}},
       {"La parola voluta SEGUO è una forma di verbo finita o un gerundio: le regole «severe» non "
