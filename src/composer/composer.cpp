@@ -98,6 +98,12 @@ class Corsie {
     return vincente;
   }
 
+  // That has met the most whole entries; the lower one of equals.
+  const Corsia& LaPiuPiena() const {
+    return **std::ranges::max_element(corsie_, {},
+                                      [](const auto& una) { return una->ricerca.PiuPosati(); });
+  }
+
   Riempimento Risposta() const {
     const Corsia* corsia = Vincente();
     Riempimento risposta;
@@ -110,7 +116,8 @@ class Corsie {
           corsia->fine == Ricerca::Fine::Riempito ? Esito::Riempito : Esito::Impossibile;
       risposta.passi = corsia->ricerca.Passi();
     }
-    risposta.lettere = corsia->ricerca.LettereTrovate();
+    risposta.lettere =
+        (risposta.esito == Esito::Riempito ? *corsia : LaPiuPiena()).ricerca.LettereTrovate();
     risposta.pesi = corsia->ricerca.Pesi();
     return risposta;
   }

@@ -8,10 +8,6 @@
 namespace telarium {
 namespace {
 
-bool Contiene(const Blocco* blocchi, int numero) {
-  return (blocchi[numero / ParolePerBlocco] >> (numero % ParolePerBlocco) & 1) != 0;
-}
-
 // So many words are gone through sooner as a list than as blocks.
 int SogliaElenco(int blocchi) {
   return 16 + blocchi / 2;
@@ -116,8 +112,7 @@ void Revisione::FiltraBlocchi(const Dominio& dominio, std::span<const Cambio> ca
 bool Revisione::Togli(int numero) {
   if (!elencata_) {
     if (!Contiene(blocchi_.data(), numero)) return false;
-    blocchi_[static_cast<std::size_t>(numero / ParolePerBlocco)] &=
-        ~(Blocco{1} << (numero % ParolePerBlocco));
+    Leva(blocchi_.data(), numero);
     return true;
   }
   const auto dove = std::lower_bound(elenco_.begin(), elenco_.end(), numero);

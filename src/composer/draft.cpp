@@ -12,7 +12,7 @@ Stesura::Stesura(const Partenza& partenza, const std::string& lettere)
       lettere_(lettere),
       parole_(S(partenza.Griglia().Slot()), SenzaParola),
       mutabili_(lettere.size(), false),
-      parentele_(partenza.Parole()) {
+      parenti_(partenza.Parole()) {
   Verifica(lettere.size() == S(Griglia().Caselle()), "un riempimento ha le caselle del problema");
   for (int lunghezza = MinLunghezzaVoce; lunghezza <= MaxLunghezzaVoce; ++lunghezza) {
     divieti_[S(lunghezza)].assign(S(Parole().Quante(lunghezza)), 0);
@@ -87,14 +87,12 @@ void Stesura::Vieta(NumeroParola parola, int segno) {
   std::uint16_t& quante = divieti_[S(parola.lunghezza)][S(parola.numero)];
   VerificaInvariante(quante != 0 || segno > 0, "un divieto che si toglie vale");
   quante = static_cast<std::uint16_t>(quante + segno);
-  Blocco& blocco = vietate_[S(parola.lunghezza)][S(parola.numero / ParolePerBlocco)];
-  const Blocco bit = Blocco{1} << (parola.numero % ParolePerBlocco);
-  blocco = quante != 0 ? blocco | bit : blocco & ~bit;
+  (quante != 0 ? Metti : Leva)(vietate_[S(parola.lunghezza)].data(), parola.numero);
 }
 
 std::span<const NumeroParola> Stesura::ParentiDi(NumeroParola parola) const {
   if (Di().ammetteForme || !Parole().HaParentele()) return {};
-  return parentele_.Di(parola);
+  return parenti_.Di(parola);
 }
 
 Genie Stesura::Limitate(NumeroParola parola) const {

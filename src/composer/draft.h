@@ -68,7 +68,7 @@ class Stesura {
   std::array<std::vector<Blocco>, MaxLunghezzaVoce + 1> vietate_;
   std::array<int, NumGenie> conteggi_{};
   Genie limitate_ = 0;
-  mutable Parentele parentele_;
+  mutable ParentiNoti parenti_;
 };
 
 }  // namespace telarium

@@ -105,7 +105,7 @@ class RicercaSoglia {
 
   void ScartaPerCoerenza() {
     int coerente = primaPossibile_ - 1;
-    while (coerente + 1 < primaImpossibile_) {
+    while (coerente + 1 < primaImpossibile_ && !limiti_.ferma.stop_requested()) {
       const int mezzo = (coerente + 1 + primaImpossibile_) / 2;
       const Problema piuDuro = ConMinimo(problema_, livelli_[S(mezzo)]);
       const Partenza partenza(piuDuro);

@@ -37,14 +37,6 @@ constexpr std::size_t S(int numero) {
   return static_cast<std::size_t>(numero);
 }
 
-bool Contiene(const std::vector<Blocco>& parole, int numero) {
-  return (parole[S(numero / ParolePerBlocco)] >> (numero % ParolePerBlocco) & 1) != 0;
-}
-
-bool UnaSola(Lettere lettere) {
-  return std::has_single_bit(lettere);
-}
-
 // The words of a slot before any propagation, with one of these letters at each place.
 std::vector<Blocco> Adatte(const Partenza& partenza, int slot, std::span<const Lettere> lettere) {
   std::vector<Blocco> adatte = partenza.BaseDi(slot).parole;
@@ -228,7 +220,7 @@ class Vaglio {
     std::vector<Blocco> adatte = Adatte(partenza_, slot_, lettere);
     for (const int altro : partenza_.Griglia().DiLunghezza(lunghezza_)) {
       const int sta = altro == slot_ ? -1 : ParolaData(altro);
-      if (sta >= 0) adatte[S(sta / ParolePerBlocco)] &= ~(Blocco{1} << (sta % ParolePerBlocco));
+      if (sta >= 0) Leva(adatte.data(), sta);
     }
     std::vector<int> parole;
     for (std::size_t k = 0; k < adatte.size(); ++k) {
@@ -325,7 +317,7 @@ class Vaglio {
     return QualcheLettera(numero, [&](Lettera& una, int casella, int lettera) {
       if (una.morti < MortiPerLettera || ricerca_.Ora().Fissa(casella)) return false;
       if (!una.nota) Guarda(una, casella, lettera);
-      return !Contiene(una.parole, numero);
+      return !Contiene(una.parole.data(), numero);
     });
   }
 
@@ -345,7 +337,7 @@ class Vaglio {
       const Dominio& dominio = ricerca_.Ora().DominioDi(slot_);
       dominio.Prime(dominio.conta, rimaste);
       for (const int parola : rimaste)
-        una.parole[S(parola / ParolePerBlocco)] |= Blocco{1} << (parola % ParolePerBlocco);
+        Metti(una.parole.data(), parola);
     }
     ricerca_.Rinuncia(0);
   }

@@ -27,6 +27,8 @@ Problema ParteDi(const Problema& problema, const std::vector<int>& slot,
   parte.vocabolario = problema.vocabolario;
   parte.altrove = problema.altrove;
   parte.volute = std::move(volute);
+  parte.esenti = problema.esenti;
+  parte.esenti.insert(parte.esenti.end(), problema.volute.begin(), problema.volute.end());
   parte.alMassimo = problema.alMassimo;
   parte.soloDefinite = problema.soloDefinite;
   parte.ammetteForme = problema.ammetteForme;

@@ -11,7 +11,8 @@ namespace telarium {
 
 /// The part of a problem that is about these slots, in their order, and these wanted words. Its
 /// cells are theirs, numbered anew in the order in which they are met: one whose other slot is left
-/// out is free within its letters. Words that stand elsewhere, kinds and kinship hold as before.
+/// out is free within its letters. Words that stand elsewhere, kinds and kinship hold as before,
+/// and wanted words that are left out still need no clue.
 Problema ParteDi(const Problema& problema, const std::vector<int>& slot,
                  std::vector<std::string> volute = {});
 

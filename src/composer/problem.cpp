@@ -65,13 +65,9 @@ class Lettore {
     const Vocabolario& vocabolario = *problema_.vocabolario;
     if (vocabolario.Propria(numero)) return;
     if (vocabolario.Punteggio(numero) < uno.minimo) Nota(slot, "under its least score");
-    if (problema_.soloDefinite && !vocabolario.Definita(numero) && !Voluta(numero))
+    if (problema_.soloDefinite && !vocabolario.Definita(numero) &&
+        !problema_.Esente(vocabolario.Parola(numero)))
       Nota(slot, "without a clue");
-  }
-
-  bool Voluta(NumeroParola numero) const {
-    const std::string_view parola = problema_.vocabolario->Parola(numero);
-    return std::ranges::find(problema_.volute, parola) != problema_.volute.end();
   }
 
   void ConfrontaConAltrove() {
@@ -119,6 +115,13 @@ class Lettore {
 };
 
 }  // namespace
+
+bool Problema::Esente(std::string_view parola) const {
+  const auto ha = [parola](const std::vector<std::string>& parole) {
+    return std::ranges::find(parole, parola) != parole.end();
+  };
+  return ha(volute) || ha(esenti);
+}
 
 std::string Maschera(const Problema& problema, int slot, const std::string& lettere) {
   std::string maschera;

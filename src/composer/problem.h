@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "composer/vocabulary.h"
@@ -39,14 +40,18 @@ struct Problema {
   std::vector<std::string> altrove;
   /// Words that must stand in some slot.
   std::vector<std::string> volute;
+  /// Words that are words without a clue too, as wanted ones are.
+  std::vector<std::string> esenti = {};
   /// The most entries of each kind, by Genia.
   std::array<int, NumGenie> alMassimo = {SenzaLimite, SenzaLimite, SenzaLimite, SenzaLimite,
                                          SenzaLimite};
-  bool soloDefinite = false;  // words without a clue are no words, but wanted ones are
+  bool soloDefinite = false;  // words without a clue are no words, but for `volute` and `esenti`
   bool ammetteForme = false;  // words akin to each other may stand together
 
   int Caselle() const { return static_cast<int>(lettere.size()); }
   int Slot() const { return static_cast<int>(slot.size()); }
+  /// Whether a word needs no clue where others do.
+  bool Esente(std::string_view parola) const;
   bool Lasciata(int casella) const {
     return !lasciate.empty() && lasciate[static_cast<std::size_t>(casella)];
   }

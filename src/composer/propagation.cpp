@@ -199,7 +199,7 @@ bool Stato::Posa(int slot, StatoSlot& stato) {
   const NumeroParola parola = {Griglia().Lunghezza(slot), stato.dominio.elenco[0]};
   Escludi(parola, slot);
   if (!Di().ammetteForme && Parole().HaParentele()) {
-    for (const NumeroParola parente : parentele_.Di(parola))
+    for (const NumeroParola parente : parenti_.Di(parola))
       Escludi(parente, slot);
   }
   return ContaGenie(slot, Parole().GenieDi(parola));

@@ -16,7 +16,9 @@ struct Colpevoli {
   /// The wanted words without which it would be possible; then all slots that have room for one of
   /// them are among the guilty. Mostly none.
   std::vector<std::string> volute;
-  bool minimo = false;  // leaving out any of them makes the part possible: each was filled
+  /// Leaving out any of them makes the part possible, as a fill of each showed; but for the slots
+  /// that are there for their room alone.
+  bool minimo = false;
   std::int64_t passi = 0;
 };
 

@@ -75,6 +75,7 @@ void Ricerca::Rinuncia(int livelli) {
 }
 
 Ricerca::Fine Ricerca::Continua(std::int64_t passi, const std::stop_token& ferma) {
+  if (ferma.stop_requested()) return Fine::Sospesa;  // before the root is gone through
   if (!Comincia()) return Fine::Impossibile;
   while (passi_ < passi && !ferma.stop_requested()) {
     Annota();

@@ -65,7 +65,8 @@ class Ricerca {
 
   std::int64_t Passi() const { return passi_; }
   const Stato& Ora() const { return stato_; }
-  /// By cell: of a fill all letters, else the most whole entries that were met.
+  /// The most whole entries that were met, and by cell their letters; of a fill all letters.
+  int PiuPosati() const { return piuPosati_; }
   std::string LettereTrovate() const;
   void PrendiPesi(const std::vector<std::uint32_t>& pesi);
   const std::vector<std::uint32_t>& Pesi() const { return pesi_; }

@@ -35,7 +35,7 @@ Partenza::Partenza(const Problema& problema) : problema_(problema), reticolo_(pr
     Base& base = dove->second;
     if (nuova) {
       base.parole = Parole().Ammesse(lunghezza, minimo, problema.soloDefinite);
-      AmmettiVolute(lunghezza, minimo, base);
+      AmmettiEsenti(lunghezza, minimo, base);
       TogliAltrove(lunghezza, base);
       base.conta = nuclei::Conta(base.parole.data(), base.parole.size());
       for (int posto = 0; posto < lunghezza; ++posto)
@@ -45,22 +45,21 @@ Partenza::Partenza(const Problema& problema) : problema_(problema), reticolo_(pr
   }
 }
 
-// Wanted words are words without a clue too.
-void Partenza::AmmettiVolute(int lunghezza, int minimo, Base& base) const {
+// Of words without a clue.
+void Partenza::AmmettiEsenti(int lunghezza, int minimo, Base& base) const {
   if (!problema_.soloDefinite) return;
-  for (const std::string& parola : problema_.volute) {
-    const auto numero = Parole().Cerca(parola);
-    if (!numero || numero->lunghezza != lunghezza || Parole().Punteggio(*numero) < minimo) continue;
-    base.parole[static_cast<std::size_t>(numero->numero / ParolePerBlocco)] |=
-        Blocco{1} << (numero->numero % ParolePerBlocco);
+  for (const auto* const esenti : {&problema_.volute, &problema_.esenti}) {
+    for (const std::string& parola : *esenti) {
+      const auto numero = Parole().Cerca(parola);
+      if (numero && numero->lunghezza == lunghezza && Parole().Punteggio(*numero) >= minimo)
+        Metti(base.parole.data(), numero->numero);
+    }
   }
 }
 
 void Partenza::TogliAltrove(int lunghezza, Base& base) const {
   for (const NumeroParola numero : altrove_) {
-    if (numero.lunghezza != lunghezza) continue;
-    base.parole[static_cast<std::size_t>(numero.numero / ParolePerBlocco)] &=
-        ~(Blocco{1} << (numero.numero % ParolePerBlocco));
+    if (numero.lunghezza == lunghezza) Leva(base.parole.data(), numero.numero);
   }
 }
 

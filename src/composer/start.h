@@ -30,7 +30,7 @@ class Partenza {
   const Base& BaseDi(int slot) const { return *basi_[static_cast<std::size_t>(slot)]; }
 
  private:
-  void AmmettiVolute(int lunghezza, int minimo, Base& base) const;
+  void AmmettiEsenti(int lunghezza, int minimo, Base& base) const;
   void TogliAltrove(int lunghezza, Base& base) const;
 
   const Problema& problema_;

@@ -13,7 +13,7 @@ constexpr int BitPerBlocco = 64;
 
 }  // namespace
 
-std::span<const NumeroParola> Parentele::Di(NumeroParola parola) {
+std::span<const NumeroParola> ParentiNoti::Di(NumeroParola parola) {
   const std::int64_t chiave = std::int64_t{parola.lunghezza} << 32 | parola.numero;
   const auto [dove, nuova] = note_.try_emplace(chiave);
   if (nuova) dove->second = parole_.Parenti(parole_.Parola(parola));
@@ -23,7 +23,7 @@ std::span<const NumeroParola> Parentele::Di(NumeroParola parola) {
 // --- Levels ---
 
 Stato::Stato(const Partenza& partenza)
-    : partenza_(partenza), parentele_(partenza.Parole()), revisione_(partenza.Parole()) {
+    : partenza_(partenza), parenti_(partenza.Parole()), revisione_(partenza.Parole()) {
   Prepara();
 }
 

@@ -31,9 +31,9 @@
 namespace telarium {
 
 /// Words akin to each word that was asked for. For one thread.
-class Parentele {
+class ParentiNoti {
  public:
-  explicit Parentele(const Vocabolario& parole) : parole_(parole) {}
+  explicit ParentiNoti(const Vocabolario& parole) : parole_(parole) {}
   std::span<const NumeroParola> Di(NumeroParola parola);
 
  private:
@@ -183,7 +183,7 @@ class Stato {
   std::array<int, NumGenie> conteggi_{};
   Genie esaurite_ = 0;
   std::vector<std::pair<Genie, int>> posatiDiGenia_;  // slots with a limited kind
-  Parentele parentele_;
+  ParentiNoti parenti_;
 
   // Slots to be revised, listed ones first: they cost little and find the conflicts, and the sets
   // of blocks then take in all changes at once.

@@ -10,18 +10,6 @@
 namespace telarium {
 namespace {
 
-constexpr std::size_t BloccoDi(int numero) {
-  return static_cast<std::size_t>(numero / ParolePerBlocco);
-}
-
-constexpr Blocco BitDi(int numero) {
-  return Blocco{1} << (numero % ParolePerBlocco);
-}
-
-bool Contiene(const std::vector<Blocco>& insieme, int numero) {
-  return (insieme[BloccoDi(numero)] & BitDi(numero)) != 0;
-}
-
 void Controlla(std::span<const ParolaDaUsare> parole, int lunghezza) {
   for (const ParolaDaUsare& parola : parole) {
     Verifica(parola.lettere.size() == static_cast<std::size_t>(lunghezza),
@@ -124,15 +112,15 @@ void Vocabolario::Fascia::Aggiungi(const ParolaDaUsare& parola) {
   lettere.insert(lettere.end(), parola.lettere.begin(), parola.lettere.end());
   pregi.push_back(static_cast<std::uint16_t>(parola.pregio));
   punteggi.push_back(static_cast<std::uint8_t>(parola.punteggio));
-  if (parola.definita) definite[BloccoDi(numero)] |= BitDi(numero);
-  if (parola.propria) proprie[BloccoDi(numero)] |= BitDi(numero);
-  Estremi& estremo = estremi[BloccoDi(numero)];
+  if (parola.definita) Metti(definite.data(), numero);
+  if (parola.propria) Metti(proprie.data(), numero);
+  Estremi& estremo = estremi[static_cast<std::size_t>(numero / ParolePerBlocco)];
   estremo.minimo = std::min(estremo.minimo, punteggi.back());
   estremo.massimo = std::max(estremo.massimo, punteggi.back());
   const Genie limitate = parola.propria ? Genie{0} : parola.genie;
   genie.push_back(limitate);
   for (std::size_t genia = 0; limitate >> genia != 0; ++genia) {
-    if (limitate >> genia & 1) perGenia[genia][BloccoDi(numero)] |= BitDi(numero);
+    if (limitate >> genia & 1) Metti(perGenia[genia].data(), numero);
   }
 }
 
@@ -182,11 +170,11 @@ int Vocabolario::Punteggio(NumeroParola parola) const {
 }
 
 bool Vocabolario::Definita(NumeroParola parola) const {
-  return Contiene(Di(parola.lunghezza).definite, parola.numero);
+  return Contiene(Di(parola.lunghezza).definite.data(), parola.numero);
 }
 
 bool Vocabolario::Propria(NumeroParola parola) const {
-  return Contiene(Di(parola.lunghezza).proprie, parola.numero);
+  return Contiene(Di(parola.lunghezza).proprie.data(), parola.numero);
 }
 
 Genie Vocabolario::GenieDi(NumeroParola parola) const {

@@ -20,6 +20,15 @@ namespace telarium {
 /// A part of a set of words of one length: bit k of block j is the word 64j+k.
 using Blocco = std::uint64_t;
 inline constexpr int ParolePerBlocco = 64;
+constexpr bool Contiene(const Blocco* insieme, int numero) {
+  return (insieme[numero / ParolePerBlocco] >> (numero % ParolePerBlocco) & 1) != 0;
+}
+constexpr void Metti(Blocco* insieme, int numero) {
+  insieme[numero / ParolePerBlocco] |= Blocco{1} << (numero % ParolePerBlocco);
+}
+constexpr void Leva(Blocco* insieme, int numero) {
+  insieme[numero / ParolePerBlocco] &= ~(Blocco{1} << (numero % ParolePerBlocco));
+}
 
 /// Letters as bits, A the lowest.
 using Lettere = std::uint32_t;

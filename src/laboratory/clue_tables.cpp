@@ -110,12 +110,8 @@ bool ParolaVuota(std::string_view parola) {
   return std::binary_search(ElencoVuote.begin(), ElencoVuote.end(), parola);
 }
 
-std::span<const std::string_view> LemmiVuoti() {
-  return ElencoLemmiVuoti;
-}
-
 bool LemmaVuoto(std::string_view lemma) {
-  return std::ranges::find(LemmiVuoti(), lemma) != LemmiVuoti().end();
+  return std::ranges::find(ElencoLemmiVuoti, lemma) != std::end(ElencoLemmiVuoti);
 }
 
 }  // namespace telarium::tabelle

@@ -26,7 +26,6 @@ std::span<const std::string_view> PrefissiComuni();
 bool ParolaVuota(std::string_view parola);
 
 /// Verbs whose forms are everywhere, in small letters.
-std::span<const std::string_view> LemmiVuoti();
 bool LemmaVuoto(std::string_view lemma);
 
 }  // namespace telarium::tabelle

@@ -1,7 +1,10 @@
 #include "laboratory/composition.h"
 
 #include <algorithm>
+#include <bit>
+#include <iterator>
 #include <limits>
+#include <map>
 #include <utility>
 
 #include "laboratory/checks.h"
@@ -70,6 +73,13 @@ void TogliLettere(Cruciverba& cruciverba, Riempibile riempibile) {
   }
 }
 
+// The slots that a wanted word of a length may stand in.
+int PostiDi(const Problema& problema, std::size_t lunghezza) {
+  return static_cast<int>(std::ranges::count_if(problema.slot, [&](const SlotDaRiempire& slot) {
+    return !slot.aperto && slot.caselle.size() == lunghezza;
+  }));
+}
+
 // With the wanted words that no layer has, which are the author's own.
 ParoleDiCruciverba ConVolute(ParoleDiCruciverba parole, const Problema& problema,
                              const Lessico& lessico) {
@@ -100,9 +110,7 @@ class Preparazione {
     for (const MascheraDiParola& maschera : scelta_.maschere) {
       if (auto contrasto = PrendiMaschera(maschera); !contrasto.empty()) return contrasto;
     }
-    for (const std::string& parola : scelta_.volute) {
-      if (auto contrasto = PrendiVoluta(parola); !contrasto.empty()) return contrasto;
-    }
+    if (auto contrasto = PrendiVolute(); !contrasto.empty()) return contrasto;
     Limita();
     PrendiVocabolario();
     return {};
@@ -235,19 +243,37 @@ class Preparazione {
 
   // --- Wanted words ---
 
-  std::string PrendiVoluta(const std::string& parola) {
+  std::string PrendiVolute() {
     const auto& altrove = problema_.altrove;
-    if (std::ranges::find(altrove, parola) != altrove.end()) return {};
-    auto contrasto = ContrastoDellaVoluta(parola);
-    if (contrasto.empty()) problema_.volute.push_back(parola);
-    return contrasto;
+    std::ranges::copy_if(scelta_.volute, std::back_inserter(problema_.volute),
+                         [&](const std::string& parola) {
+                           return std::ranges::find(altrove, parola) == altrove.end();
+                         });
+    if (auto contrasto = ContrastoDelleLunghezze(); !contrasto.empty()) return contrasto;
+    for (const std::string& parola : problema_.volute) {
+      if (auto contrasto = ContrastoDellaVoluta(parola); !contrasto.empty()) return contrasto;
+    }
+    return {};
+  }
+
+  // All wanted words that no slot is as long as.
+  std::string ContrastoDelleLunghezze() const {
+    int quante = 0;
+    std::string elenco;
+    for (const std::string& parola : problema_.volute) {
+      if (PostiDi(problema_, parola.size()) > 0) continue;
+      elenco += Unisci(quante++ > 0 ? ", " : "", parola, " (", parola.size(), ')');
+    }
+    if (quante == 0) return {};
+    return quante == 1 ? Unisci("La parola voluta ", elenco,
+                                " non ha posto: nessuna parola da completare ha tante lettere.")
+                       : Unisci("Le parole volute ", elenco,
+                                " non hanno posto: nessuna parola da completare ha tante lettere.");
   }
 
   std::string ContrastoDellaVoluta(const std::string& parola) {
     const std::string nome = Unisci("La parola voluta ", parola);
     if (vietate_.Ha(parola)) return nome + std::string(" è vietata."_cp);
-    if (parola.size() > LetterePerVolute())
-      return nome + std::string(" è più lunga di tutte le parole da riempire."_cp);
     const bool libera =
         parola.size() == MinLunghezzaVoce && scelta_.parole.regole.due == DueLettere::Tutte;
     if (libera || delCruciverba_.proprie.contains(parola)) return {};
@@ -255,14 +281,6 @@ class Preparazione {
     if (nelLessico) return ContrastoDellaNota(*nelLessico, nome);
     AggiungiPropria(parola);
     return {};
-  }
-
-  std::size_t LetterePerVolute() const {
-    std::size_t lettere = 0;
-    for (std::size_t i = 0; i < composizione_.slot.size(); ++i) {
-      if (!problema_.slot[i].aperto) lettere = std::max(lettere, problema_.slot[i].caselle.size());
-    }
-    return lettere;
   }
 
   // Of a wanted word that some layer has.
@@ -357,6 +375,39 @@ std::optional<Composizione> PreparaComposizione(const Cruciverba& cruciverba,
   messaggio = preparazione.Esegui();
   if (!messaggio.empty()) return std::nullopt;
   return std::move(preparazione).Composta();
+}
+
+std::string LettereChieste(const Composizione& composizione, const Slot& slot) {
+  std::string lettere = composizione.griglia.Lettere(slot);
+  for (int k = 1; k <= slot.lunghezza; ++k) {
+    const auto dove = std::ranges::find(composizione.caselle, slot.Cella(k));
+    char& lettera = lettere[static_cast<std::size_t>(k) - 1];
+    if (lettera != CellaVuota || dove == composizione.caselle.end()) continue;
+    const Lettere ammesse =
+        composizione.problema
+            .lettere[static_cast<std::size_t>(dove - composizione.caselle.begin())];
+    if (UnaSola(ammesse)) lettera = static_cast<char>('A' + std::countr_zero(ammesse));
+  }
+  return lettere;
+}
+
+std::string TroppeVolute(const Composizione& composizione) {
+  struct Chieste {
+    int quante = 0;
+    std::string elenco;
+  };
+  std::map<std::size_t, Chieste> perLunghezza;
+  for (const std::string& parola : composizione.problema.volute) {
+    auto& [quante, elenco] = perLunghezza[parola.size()];
+    elenco += Unisci(quante++ > 0 ? ", " : "", parola);
+  }
+  for (const auto& [lunghezza, chieste] : perLunghezza) {
+    const int posti = PostiDi(composizione.problema, lunghezza);
+    if (chieste.quante <= posti) continue;
+    return Unisci("Parole volute di ", lunghezza, " lettere: ", chieste.quante, " (",
+                  chieste.elenco, "); posti di questa lunghezza: ", posti, '.');
+  }
+  return {};
 }
 
 VocabolarioPronto VocabolarioPerVarianti(const Composizione& composizione,

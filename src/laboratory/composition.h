@@ -64,6 +64,13 @@ std::optional<Composizione> PreparaComposizione(const Cruciverba& cruciverba,
                                                 std::string& messaggio,
                                                 const VocabolarioPronto* pronto = nullptr);
 
+/// The letters that stand in a slot or are demanded of it, CellaVuota for a free cell.
+std::string LettereChieste(const Composizione& composizione, const Slot& slot);
+
+/// In one Italian sentence of which length more words are wanted than there are places for, and how
+/// many; empty where all lengths have enough.
+std::string TroppeVolute(const Composizione& composizione);
+
 /// The vocabulary of a composition's choice with the words of all lengths that its grid, and one
 /// with other blacks in it, may have.
 VocabolarioPronto VocabolarioPerVarianti(const Composizione& composizione,

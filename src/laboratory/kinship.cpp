@@ -1,6 +1,9 @@
 #include "laboratory/kinship.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
+#include <span>
 #include <utility>
 
 #include "laboratory/clue_tables.h"
@@ -8,7 +11,36 @@
 namespace telarium {
 namespace {
 
-bool ParolaPiena(Categoria categoria) {
+// Lemmas that are one word. The lexicon has a preposition with each article as a lemma of its own.
+struct UnaParola {
+  Categoria categoria;
+  std::array<std::string_view, 6> lemmi;  // the first one stands for all
+};
+constexpr UnaParola ParoleUniche[] = {
+    {Categoria::Preposizione, {"al", "allo", "alla", "ai", "agli", "alle"}},
+    {Categoria::Preposizione, {"col", "collo", "colla", "coi", "cogli", "colle"}},
+    {Categoria::Preposizione, {"dal", "dallo", "dalla", "dai", "dagli", "dalle"}},
+    {Categoria::Preposizione, {"del", "dello", "della", "dei", "degli", "delle"}},
+    {Categoria::Preposizione, {"nel", "nello", "nella", "nei", "negli", "nelle"}},
+    {Categoria::Aggettivo, {"mio", "miei"}},
+};
+
+// Null for a lemma that is a word by itself.
+const UnaParola* UnicaDi(const LemmaDiCategoria& lemma) {
+  const auto unica = std::ranges::find_if(ParoleUniche, [&](const UnaParola& una) {
+    return una.categoria == lemma.categoria &&
+           std::ranges::find(una.lemmi, lemma.lemma) != una.lemmi.end();
+  });
+  return unica == std::end(ParoleUniche) ? nullptr : unica;
+}
+
+// NOSTRO is one word whether it stands beside a noun or instead of one.
+Categoria DiParentela(Categoria categoria) {
+  return categoria == Categoria::Pronome ? Categoria::Aggettivo : categoria;
+}
+
+// An article has forms too, but of two letters, which are known as notes and pronouns rather.
+bool HaForme(Categoria categoria) {
   switch (categoria) {
     case Categoria::Ignota:
     case Categoria::Sostantivo:
@@ -23,6 +55,19 @@ bool ParolaPiena(Categoria categoria) {
   }
 }
 
+// The lemma by which a reading makes words akin; none for one by which they are not.
+std::optional<LemmaDiCategoria> LemmaDi(std::string_view lemma, Categoria categoria) {
+  if (lemma.empty() || tabelle::LemmaVuoto(lemma)) return std::nullopt;
+  const LemmaDiCategoria uno{lemma, DiParentela(categoria)};
+  if (const UnaParola* const unica = UnicaDi(uno))
+    return LemmaDiCategoria{unica->lemmi.front(), uno.categoria};
+  return HaForme(uno.categoria) ? std::optional(uno) : std::nullopt;
+}
+
+void Aggiungi(const std::optional<LemmaDiCategoria>& lemma, std::vector<LemmaDiCategoria>& lemmi) {
+  if (lemma && std::ranges::find(lemmi, *lemma) == lemmi.end()) lemmi.push_back(*lemma);
+}
+
 // Of a word's place in 32 bits; the length has the others. No layer has so many entries.
 constexpr unsigned BitDelNumero = 24;
 
@@ -34,19 +79,12 @@ bool Precede(const NumeroParola& una, const NumeroParola& altra) {
   return std::pair(una.lunghezza, una.numero) < std::pair(altra.lunghezza, altra.numero);
 }
 
-bool StessoLemma(const LetturaNumerata& una, const LetturaNumerata& altra) {
-  return una.lemma == altra.lemma && una.analisi.categoria == altra.analisi.categoria;
-}
-
 }  // namespace
 
 std::vector<LemmaDiCategoria> LemmiDi(const Parola& parola) {
   std::vector<LemmaDiCategoria> lemmi;
-  for (const auto& [lemma, analisi] : parola.letture) {
-    if (!ParolaPiena(analisi.categoria) || lemma.empty() || tabelle::LemmaVuoto(lemma)) continue;
-    const LemmaDiCategoria uno{lemma, analisi.categoria};
-    if (std::find(lemmi.begin(), lemmi.end(), uno) == lemmi.end()) lemmi.push_back(uno);
-  }
+  for (const auto& [lemma, analisi] : parola.letture)
+    Aggiungi(LemmaDi(lemma, analisi.categoria), lemmi);
   return lemmi;
 }
 
@@ -61,9 +99,6 @@ Parentele::Parentele(Lessico lessico, bool dueLibere)
       lemmario.livello = livello;
       lemmario.file = file;
       lemmario.parole.resize(QuanteVoci(*file));
-      for (const std::string_view vuoto : tabelle::LemmiVuoti()) {
-        if (const auto lemma = file->CercaLemma(vuoto)) lemmario.vuoti.push_back(*lemma);
-      }
     }
     ++livello;
   }
@@ -74,10 +109,13 @@ const Parentele::Lemmario* Parentele::LemmarioDi(std::uint32_t livello) const {
   return lemmario == lemmari_.end() ? nullptr : &*lemmario;
 }
 
-// Whether a reading is among those of LemmiDi.
-bool Parentele::Lemmario::Conta(const LetturaNumerata& lettura) const {
-  return ParolaPiena(lettura.analisi.categoria) &&
-         std::ranges::find(vuoti, lettura.lemma) == vuoti.end();
+// Those of an entry as LemmiDi has them; what `lemmi` held is dropped.
+void Parentele::Lemmario::LeggiLemmi(NumeroVoce voce, std::vector<LemmaDiCategoria>& lemmi) const {
+  lemmi.clear();
+  std::vector<LetturaNumerata> letture;
+  file->LeggiLetture(voce, letture);
+  for (const auto& [lemma, analisi] : letture)
+    Aggiungi(LemmaDi(file->Lemma(lemma), analisi.categoria), lemmi);
 }
 
 std::optional<NumeroParola> Parentele::Lemmario::ParolaDi(NumeroVoce voce) const {
@@ -102,20 +140,11 @@ std::vector<NumeroParola> Parentele::Di(std::string_view parola) const {
   const auto fonte = lessico_.FonteDelleLetture(parola);
   const Lemmario* const suo = fonte ? LemmarioDi(fonte->livello) : nullptr;
   if (!suo || NonParola(static_cast<int>(parola.size()))) return parenti;
-  std::vector<LetturaNumerata> lemmi;
-  suo->file->LeggiLetture(fonte->numero, lemmi);
-  std::erase_if(lemmi, [suo](const LetturaNumerata& lettura) { return !suo->Conta(lettura); });
+  std::vector<LemmaDiCategoria> lemmi;
+  suo->LeggiLemmi(fonte->numero, lemmi);
   for (std::size_t posto = 0; posto < lemmi.size(); ++posto) {
-    // A lemma of several readings stands at the first one's place: the later ones add nothing.
-    for (const Lemmario& lemmario : lemmari_) {
-      LetturaNumerata lettura = lemmi[posto];
-      if (&lemmario != suo) {
-        const auto lemma = lemmario.file->CercaLemma(suo->file->Lemma(lettura.lemma));
-        if (!lemma) continue;
-        lettura.lemma = *lemma;
-      }
-      AggiungiParenti(lemmario, lettura, posto, parenti);
-    }
+    for (const Lemmario& lemmario : lemmari_)
+      AggiungiParenti(lemmario, lemmi[posto], posto, parenti);
   }
   std::ranges::sort(parenti, Precede);
   const auto doppi = std::ranges::unique(parenti);
@@ -124,21 +153,25 @@ std::vector<NumeroParola> Parentele::Di(std::string_view parola) const {
   return parenti;
 }
 
-// Adds the words of a layer that have the lemma of a reading, which is the one at `posto` of the
-// word in question.
-void Parentele::AggiungiParenti(const Lemmario& lemmario, const LetturaNumerata& lettura,
+// Adds the words of a layer that are akin by a lemma, which is the one at `posto` of the word in
+// question.
+void Parentele::AggiungiParenti(const Lemmario& lemmario, const LemmaDiCategoria& lemma,
                                 std::size_t posto, std::vector<NumeroParola>& parenti) const {
-  std::vector<LetturaNumerata> letture;
-  for (const NumeroVoce voce : lemmario.file->FormeDi(lettura.lemma)) {
-    const auto parola = lemmario.ParolaDi(voce);
-    if (!parola) continue;
-    lemmario.file->LeggiLetture(voce, letture);
-    const auto dove = std::ranges::find_if(
-        letture, [&](const LetturaNumerata& una) { return StessoLemma(una, lettura); });
-    if (dove == letture.end()) continue;
-    const auto prima =
-        std::count_if(letture.begin(), dove, [&](const auto& una) { return lemmario.Conta(una); });
-    if (Lega(posto, static_cast<std::size_t>(prima))) parenti.push_back(*parola);
+  const UnaParola* const unica = UnicaDi(lemma);
+  const std::span<const std::string_view> grafie =
+      unica ? std::span(unica->lemmi) : std::span(&lemma.lemma, 1);
+  std::vector<LemmaDiCategoria> lemmi;
+  for (const std::string_view grafia : grafie) {
+    const auto numero = lemmario.file->CercaLemma(grafia);
+    if (!numero) continue;
+    for (const NumeroVoce voce : lemmario.file->FormeDi(*numero)) {
+      const auto parola = lemmario.ParolaDi(voce);
+      if (!parola) continue;
+      lemmario.LeggiLemmi(voce, lemmi);
+      const auto dove = std::ranges::find(lemmi, lemma);
+      const auto altroPosto = static_cast<std::size_t>(dove - lemmi.begin());
+      if (dove != lemmi.end() && Lega(posto, altroPosto)) parenti.push_back(*parola);
+    }
   }
 }
 

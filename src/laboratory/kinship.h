@@ -14,14 +14,16 @@
 namespace telarium {
 
 /// A lemma as a part of speech: CORSO the noun is not the adjective of which CORSA is a form.
+/// Pronouns are adjectives here: the lexicon has MIO as the one, SUE as the other.
 struct LemmaDiCategoria {
   std::string_view lemma;
   Categoria categoria = Categoria::Ignota;
   auto operator<=>(const LemmaDiCategoria&) const = default;
 };
 
-/// The lemmas by which a word may be akin to another one: those of its readings as a noun, an
-/// adjective, a verb or an adverb, the commonest first. Views into the layer of its readings.
+/// The lemmas by which a word may be akin to another one: those of its readings as a part of speech
+/// that has forms, the commonest first. ALLO and ALLE have one that stands for AL and its like.
+/// Views into the layer of its readings.
 std::vector<LemmaDiCategoria> LemmiDi(const Parola& parola);
 
 /// Whether two words are akin by a lemma that is the one and the other among those of LemmiDi, from
@@ -49,16 +51,15 @@ class Parentele {
   struct Lemmario {
     std::uint32_t livello = 0;  // in the lexicon
     const FileLessico* file = nullptr;
-    std::vector<NumeroLemma> vuoti;     // its lemmas by which no words are akin
     std::vector<std::uint32_t> parole;  // by entry its word, length and number in one; 0 for none
 
-    bool Conta(const LetturaNumerata& lettura) const;
+    void LeggiLemmi(NumeroVoce voce, std::vector<LemmaDiCategoria>& lemmi) const;
     std::optional<NumeroParola> ParolaDi(NumeroVoce voce) const;
   };
 
   bool NonParola(int lunghezza) const { return dueLibere_ && lunghezza == MinLunghezzaVoce; }
   const Lemmario* LemmarioDi(std::uint32_t livello) const;
-  void AggiungiParenti(const Lemmario& lemmario, const LetturaNumerata& lettura, std::size_t posto,
+  void AggiungiParenti(const Lemmario& lemmario, const LemmaDiCategoria& lemma, std::size_t posto,
                        std::vector<NumeroParola>& parenti) const;
 
   Lessico lessico_;

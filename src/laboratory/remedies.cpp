@@ -159,6 +159,7 @@ class Tentativi {
   // --- Cells ---
 
   std::vector<Rimedio> DiCasella(const std::vector<Casella>& caselle, std::size_t quanti) {
+    if (Fermo()) return {};
     pronto_ = VocabolarioPerVarianti(composizione_, scelta_.parole, lessico_, copertura_);
     auto libere = Tentate(GenereRimedio::Libera, Date(caselle), quanti);
     // Half of the room is for blacks, as far as there are some.

@@ -262,7 +262,7 @@ std::optional<Analisi> AnalisiDaBit(std::uint32_t bit) {
 
 bool SoloFinita(const std::vector<Lettura>& letture) {
   return !letture.empty() && std::ranges::all_of(letture, [](const Lettura& lettura) {
-    return lettura.analisi.Finita();
+    return lettura.analisi.SoloVerbale();
   });
 }
 

@@ -66,7 +66,7 @@ class Segni {
 };
 
 /// Beside the marks of an entry, where they stand as a number: it can be nothing but a finite verb
-/// form (see SoloFinita).
+/// form or a gerund (see SoloFinita).
 inline constexpr std::uint16_t BitSoloFinita = 128;
 
 // Parts of an analysis. The numbers stand in lexicon files; 0 is "not known" or "none" in each.
@@ -113,6 +113,9 @@ struct Analisi {
 
   /// A finite verb form: anything but infinitive, gerund and participle.
   constexpr bool Finita() const { return modo >= Modo::Indicativo; }
+  /// A verb form that a sentence alone can use: anything but infinitive and participle. Editors
+  /// count a gerund (AMANDO) with the finite forms.
+  constexpr bool SoloVerbale() const { return Finita() || modo == Modo::Gerundio; }
   constexpr bool operator==(const Analisi&) const = default;
 };
 
@@ -140,8 +143,8 @@ struct Voce {
   std::vector<Lettura> letture;  // the commonest first; may be empty
 };
 
-/// Whether an entry can be nothing but a finite verb form: it has readings, and each of them is
-/// one.
+/// Whether an entry can be nothing but a finite verb form or a gerund: it has readings, and each of
+/// them is one.
 bool SoloFinita(const std::vector<Lettura>& letture);
 
 /// The names of the marks that an entry has, in the order of the enumeration, divided by commas.

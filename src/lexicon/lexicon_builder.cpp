@@ -138,7 +138,7 @@ std::string_view Raccolta::AggiungiLetture(std::string_view codici, const std::s
     const auto lemma = proprio ? grafia : DaUtf8Esatto(lemmaUtf8);
     if (!lemma || lemma->empty()) return "un lemma manca o ha un carattere che la code page non ha";
     letture.push_back({lemmi_.NumeroDi(*lemma), BitDi(*analisi)});
-    soloFinita &= analisi->Finita();
+    soloFinita &= analisi->SoloVerbale();
   }
   if (soloFinita) segni.back() |= BitSoloFinita;
   if (letture.size() - capiVoce.back() > MaxLetture) return "le letture sono troppe";

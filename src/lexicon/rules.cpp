@@ -23,7 +23,7 @@ const std::array<Regolamento, 3>& Regolamenti() {
   return regolamenti;
 }
 
-constexpr std::string_view NomiDiGenia[NumGenie] = {"è una forma finita di un verbo"_cp,
+constexpr std::string_view NomiDiGenia[NumGenie] = {"è una forma di verbo finita o un gerundio"_cp,
                                                     "è una parola tronca"_cp, "è un nome"_cp,
                                                     "è una sigla"_cp, "è una parola straniera"_cp};
 

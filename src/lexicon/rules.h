@@ -28,7 +28,7 @@ enum class DueLettere { Corredo, Tutte };
 /// play explains, whatever a layer has. Entries of three letters are nearly all that it is about.
 enum class TreLettere { Parole, Gioco, Tutte };
 
-/// A kind of entry that a set of rules may limit.
+/// A kind of entry that a set of rules may limit. Gerunds count as finite forms.
 enum class Genia { Finita, Tronca, Nome, Sigla, Straniera };
 inline constexpr int NumGenie = 5;
 

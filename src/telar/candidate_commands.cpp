@@ -62,6 +62,11 @@ std::optional<int> TrovaSlot(const Composizione& composizione, const InizioDiPar
   return std::nullopt;
 }
 
+// Who reads the first ones and goes has what was wanted.
+Stato Fermato() {
+  return LettoreAndato() ? Stato::Fatto : Stato::Interrotto;
+}
+
 Stato Vaglia(const Composizione& composizione, const Copertura* copertura, int slot, int quanti,
              const Limiti& limiti) {
   bool qualcuno = false;
@@ -71,7 +76,7 @@ Stato Vaglia(const Composizione& composizione, const Copertura* copertura, int s
         Stampa(composizione, copertura, candidato);
         return std::ferror(stdout) == 0;
       });
-  if (!finito && limiti.ferma.stop_requested()) return Stato::Interrotto;
+  if (!finito && limiti.ferma.stop_requested()) return Fermato();
   if (qualcuno) return Stato::Fatto;
   Avvisa("Nessuna parola adatta.");
   return Stato::Negativo;
@@ -83,14 +88,14 @@ Stato Candidati(const Argomenti& argomenti, PiattaformaConsole& piattaforma) {
   const int quanti = static_cast<int>(std::min<std::int64_t>(
       argomenti.Numero(OpzionePrimi.nome, 1, 50), std::numeric_limits<int>::max()));
   const std::int64_t passi = argomenti.Numero(OpzionePassi.nome, 0, 100'000);
-  const Sorveglianza sorveglianza(piattaforma.ChiUsa());
+  const Sorveglianza sorveglianza(piattaforma.ChiUsa(), {}, LettoreAndato);
   const Limiti limiti = {.passi = passi, .ferma = sorveglianza.Segnale()};
   auto parole = LeggiSceltaParole(argomenti);
   if (!parole || !Apri(argomenti.liberi[0])) return Stato::Fallito;
   const auto lessico = PreparaLessico(*parole);
   if (!lessico) return Stato::Fallito;
   const auto copertura = PreparaCopertura(limiti.ferma);
-  if (sorveglianza.Fermata()) return Stato::Interrotto;
+  if (sorveglianza.Fermata()) return Fermato();
   if (!copertura && parole->definizioni == UsoDefinizioni::Obbligatorie) return Stato::Fallito;
   std::string messaggio;
   const auto composizione = PreparaComposizione(

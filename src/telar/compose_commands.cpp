@@ -98,11 +98,16 @@ std::string ConNumero(const Percorso& uscita, std::size_t numero) {
          Unisci(uscita.stem().string(), '-', numero, uscita.extension().string());
 }
 
-void AvvisaVolute(const std::vector<std::string>& volute) {
-  std::string elenco;
-  for (const std::string& parola : volute)
-    elenco += Unisci(elenco.empty() ? "" : ", ", parola);
-  if (!elenco.empty()) Avvisa(Unisci("Parole volute che non trovano posto: ", elenco, '.'));
+// Why the wanted words for which there is no place have none.
+void AvvisaVolute(const Composizione& composizione, const std::vector<std::string>& volute) {
+  if (volute.empty()) return;
+  std::string perche = TroppeVolute(composizione);
+  if (perche.empty()) {
+    for (const std::string& parola : volute)
+      perche += Unisci(perche.empty() ? "Parole volute che non trovano posto: " : ", ", parola);
+    perche += '.';
+  }
+  Avvisa(perche);
 }
 
 void StampaRimedio(const Rimedio& rimedio) {
@@ -164,7 +169,7 @@ class Esecuzione {
       case Esito::Impossibile:
         if (!ConsegnaParziale(risultato)) return Stato::Fallito;
         Avvisa("Con queste parole e queste richieste lo schema non si può riempire."_cp);
-        AvvisaVolute(risultato.volute);
+        AvvisaVolute(*composizione_, risultato.volute);
         return Stato::Negativo;
       default:
         if (!ConsegnaParziale(risultato)) return Stato::Fallito;
@@ -233,10 +238,7 @@ class Esecuzione {
     StampaEsito(risultato.esito);
     StampaIntero("voci", static_cast<std::uint64_t>(cifre.voci));
     StampaCampi({"punteggio", cifre.media, cifre.minimo});
-    if (risultato.soglia) {
-      const auto& [fino, oltre] = *risultato.soglia;
-      StampaCampi({"provato", std::to_string(fino), oltre ? std::to_string(*oltre) : ""});
-    }
+    if (risultato.soglia) StampaSoglia(*risultato.soglia, cifre);
     StampaIntero("definite", static_cast<std::uint64_t>(cifre.definite));
     StampaIntero("passi", static_cast<std::uint64_t>(proposta.passi));
     StampaDurata("primo", proposta.primo);
@@ -244,12 +246,19 @@ class Esecuzione {
     if (proposta.interrotta) StampaCampi({"interrotto"});
   }
 
+  // Where no score counts there is no lowest one.
+  void StampaSoglia(const SogliaTrovata& soglia, const CifreRiempimento& cifre) const {
+    const bool conta = !cifre.minimo.empty();
+    StampaCampi({"provato", conta ? std::to_string(soglia.fino) : "",
+                 conta && soglia.oltre ? std::to_string(*soglia.oltre) : ""});
+  }
+
   void StampaColpevoli(const RisultatoComposizione& risultato) const {
     for (const Slot& slot : risultato.colpevoli) {
       const auto [colonna, riga] = slot.inizio;
       StampaCampi({"colpevole", std::to_string(composizione_->griglia.Numero(slot.inizio)),
                    Sigla(slot.direzione), std::to_string(colonna), std::to_string(riga),
-                   std::to_string(slot.lunghezza), composizione_->griglia.Lettere(slot)});
+                   std::to_string(slot.lunghezza), LettereChieste(*composizione_, slot)});
     }
   }
 

@@ -9,6 +9,7 @@
 #include "platform/console/console_platform.h"
 #include "platform/program_folder.h"
 #include "telar/command.h"
+#include "telar/output.h"
 #include "telarium_version.h"
 
 // The console companion: reads its arguments, runs the routines of the core, prints.
@@ -199,7 +200,8 @@ int main(int argc, char** argv) {
   } catch (const std::exception& errore) {
     std::fprintf(stderr, "Errore imprevisto: %s\n", errore.what());
   }
-  if (std::fflush(stdout) != 0 || std::ferror(stdout)) {
+  const bool persa = std::fflush(stdout) != 0 || std::ferror(stdout);
+  if (persa && !telar::LettoreAndato()) {
     std::fputs("Errore di scrittura sull'uscita standard.\n", stderr);
     stato = telar::Stato::Fallito;
   }

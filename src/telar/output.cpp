@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <poll.h>
 #include <string>
+#include <unistd.h>
 
 #include "model/cells.h"
 #include "platform/codepage.h"
@@ -27,6 +29,11 @@ void StampaCampi(std::initializer_list<std::string_view> campi) {
   }
   riga.back() = '\n';
   std::fwrite(riga.data(), 1, riga.size(), stdout);
+}
+
+bool LettoreAndato() {
+  pollfd uscita = {STDOUT_FILENO, 0, 0};
+  return ::poll(&uscita, 1, 0) > 0 && (uscita.revents & (POLLERR | POLLHUP)) != 0;
 }
 
 std::string_view Sigla(int direzione) {

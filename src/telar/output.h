@@ -9,6 +9,9 @@ namespace telarium::telar {
 /// by TAB. A TAB or a character of a line break inside a field becomes a blank.
 void StampaCampi(std::initializer_list<std::string_view> campi);
 
+/// Whether nobody reads standard output any more, as behind `| head`.
+bool LettoreAndato();
+
 /// "O" or "V"; nothing for no direction.
 std::string_view Sigla(int direzione);
 

@@ -10,15 +10,17 @@ constexpr std::chrono::milliseconds Intervallo{20};
 
 }  // namespace
 
-Sorveglianza::Sorveglianza(const UtenteConsole& utente, std::optional<Istante> fine)
-    : utente_(utente), fine_(fine) {
+Sorveglianza::Sorveglianza(const UtenteConsole& utente, std::optional<Istante> fine,
+                           std::function<bool()> altro)
+    : utente_(utente), fine_(fine), altro_(std::move(altro)) {
   AscoltaInterruzione();
   Guarda();  // a time of nothing is over before anything begins
   guardia_ = std::jthread([this](std::stop_token basta) { Attendi(std::move(basta)); });
 }
 
 void Sorveglianza::Guarda() {
-  if (utente_.Interrotto() || (fine_ && std::chrono::steady_clock::now() >= *fine_))
+  if (utente_.Interrotto() || (fine_ && std::chrono::steady_clock::now() >= *fine_) ||
+      (altro_ && altro_()))
     richiesta_.request_stop();
 }
 

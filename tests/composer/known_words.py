@@ -1,9 +1,12 @@
 """What the words of one crossword are, by the layers, rules and bans that a person has chosen."""
-from reference import is_finite
+from reference import only_a_verb
 
 LIMITING = {"nome", "sigla", "straniera", "gioco", "tronca"}
 LEMMA_CATEGORIES = {"s", "a", "v", "avv", "num", "np"}
 COMMON_LEMMAS = {"essere", "avere"}
+# Lemmas that are forms of one word.
+ONE_WORD = {(stem + end, "prep"): (stem + "l", "prep") for stem in ("a", "co", "da", "de", "ne")
+            for end in ("l", "llo", "lla", "i", "gli", "lle")} | {("miei", "a"): ("mio", "a")}
 # One in so many; 0 is none.
 SHARES = {
     "severe": {"finita": 0, "tronca": 0, "straniera": 20},
@@ -20,13 +23,14 @@ class Word:
         self.in_kit, self.of_a_list = in_kit, of_a_list
 
     def kinds(self):
-        finite = bool(self.readings) and all(is_finite(code) for code, _ in self.readings)
+        finite = bool(self.readings) and all(only_a_verb(code) for code, _ in self.readings)
         return (self.marks & LIMITING) | ({"finita"} if finite and not self.in_kit else set())
 
     def lemmas(self):
         """Lemmas with their part of speech, that of the commonest reading first."""
-        found = [(lemma, code[0]) for code, lemma in self.readings
-                 if code[0] in LEMMA_CATEGORIES and lemma not in COMMON_LEMMAS]
+        read = [(lemma, "a" if code[0] == "pron" else code[0]) for code, lemma in self.readings]
+        found = [ONE_WORD.get(one, one) for one in read
+                 if one in ONE_WORD or one[1] in LEMMA_CATEGORIES and one[0] not in COMMON_LEMMAS]
         return list(dict.fromkeys(found))
 
 

@@ -30,6 +30,7 @@ struct Planted {
   Texts elsewhere = {};
   bool foreign = false;  // words of three letters are, and two of them may stand
   bool akin = false;     // words of three letters are
+  Texts unclued = {};    // of the words; where there are some the others need a clue
   // Slots in reading order, across before down.
   std::vector<int> guilty = {};
   Texts guiltyWords = {};
@@ -47,8 +48,10 @@ std::shared_ptr<const Vocabolario> WordsOf(const Planted& planted) {
   std::vector<ParolaDaUsare> used;
   for (const std::string& word : words) {
     const bool foreign = planted.foreign && word.size() == 3;
-    used.push_back(
-        {.lettere = word, .pregio = 1, .genie = foreign ? SolaGenia(Genia::Straniera) : Genie{0}});
+    used.push_back({.lettere = word,
+                    .pregio = 1,
+                    .definita = std::ranges::count(planted.unclued, word) == 0,
+                    .genie = foreign ? SolaGenia(Genia::Straniera) : Genie{0}});
     if (word.size() == 3) ofThree.push_back(word);
   }
   Vocabolario::Parentela kin;
@@ -62,6 +65,7 @@ Problema ProblemOf(const Planted& planted) {
   problem.vocabolario = WordsOf(planted);
   problem.volute = planted.wanted;
   problem.altrove = planted.elsewhere;
+  problem.soloDefinite = !planted.unclued.empty();
   if (planted.foreign) problem.alMassimo[static_cast<std::size_t>(Genia::Straniera)] = 2;
   const auto columns = static_cast<int>(planted.rows.front().size());
   const auto rows = static_cast<int>(planted.rows.size());
@@ -133,7 +137,14 @@ INSTANTIATE_TEST_SUITE_P(
                 .words = {"ABCA", "BBCA"},
                 .wanted = {"ABCA"},
                 .guilty = {0},
-                .guiltyWords = {"ABCA"}}),
+                .guiltyWords = {"ABCA"}},
+        Planted{.name = "WantedWordBesideOneWithoutAClue",
+                .rows = {"B...#...."},
+                .words = {"BAAA", "CAAA"},
+                .wanted = {"BAAA", "DDDD"},
+                .unclued = {"BAAA"},
+                .guilty = {1},
+                .guiltyWords = {"DDDD"}}),
     [](const auto& instance) { return instance.param.name; });
 
 TEST_P(PlantedReasons, AreFoundExactly) {

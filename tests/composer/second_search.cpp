@@ -12,8 +12,9 @@ bool MayStand(const SmallCase& small, const Problema& problem, const SlotDaRiemp
   const auto found = small.words.find(letters);
   if (found == small.words.end() || letters.size() != slot.caselle.size()) return false;
   const SmallCase::Word& word = found->second;
-  const bool wanted = std::ranges::find(problem.volute, letters) != problem.volute.end();
-  const bool good = word.score >= slot.minimo && (word.clued || wanted || !problem.soloDefinite);
+  const bool exempt = std::ranges::count(problem.volute, letters) > 0 ||
+                      std::ranges::count(problem.esenti, letters) > 0;
+  const bool good = word.score >= slot.minimo && (word.clued || exempt || !problem.soloDefinite);
   if (!good && !word.own) return false;
   return std::ranges::none_of(problem.altrove, [&](const std::string& other) {
     return other == letters || (!problem.ammetteForme && small.Akin(other, letters));

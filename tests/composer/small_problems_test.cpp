@@ -41,7 +41,6 @@ TEST_P(SmallProblems, AreDecidedAsByASecondSearch) {
     const Riempimento answer = Componi(small.problem, {.seme = seed});
     EXPECT_EQ(answer.esito, expected);
     if (answer.esito == Esito::Riempito) ExpectSound(small, answer);
-    EXPECT_EQ(answer.pesi.size(), small.problem.slot.size());
   }
   // Else the cases say little.
   EXPECT_NEAR(impossible, decided / 2, decided / 3);
@@ -56,6 +55,7 @@ Problema OnlyOf(const Problema& whole, const std::vector<int>& slots,
   for (const int slot : slots)
     part.slot.push_back(whole.slot.at(static_cast<std::size_t>(slot)));
   part.volute = wanted;
+  part.esenti = whole.volute;
   return part;
 }
 

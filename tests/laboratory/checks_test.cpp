@@ -128,16 +128,19 @@ const Planted Cases[] = {
     // --- regola ---
     {.name = "FiniteFormUnderStrictRules",
      .words = {"PORTA 80 v.ind.pres.3s portare", "PESCA 80 v.ind.pres.3s pescare s.fs pesca"},
-     .found = {"regola 1,1 O PORTA (1 orizzontale) è una forma finita di un verbo: le regole "
-               "«severe» non l'ammettono."}},
+     .found =
+         {"regola 1,1 O PORTA (1 orizzontale) è una forma di verbo finita o un gerundio: le regole "
+          "«severe» non l'ammettono."}},
     {.name = "OneInTenTakesTheBestScores",
      .words = {"PORTA 70 v.ind.pres.3s portare", "SALVO 60 v.ind.pres.1s salvare",
                "CINGE 80 v.ind.pres.3s cingere"},
      .rules = "settimanali",
-     .found = {"regola 1,1 O PORTA (1 orizzontale) è una forma finita di un verbo: lo schema ne ha "
+     .found = {"regola 1,1 O PORTA (1 orizzontale) è una forma di verbo finita o un gerundio: lo "
+               "schema ne ha "
                "3, le "
                "regole ne ammettono 1.",
-               "regola 1,3 O SALVO (7 orizzontale) è una forma finita di un verbo: lo schema ne ha "
+               "regola 1,3 O SALVO (7 orizzontale) è una forma di verbo finita o un gerundio: lo "
+               "schema ne ha "
                "3, le "
                "regole ne ammettono 1."}},
     {.name = "TwoLettersUnderFreeRules",

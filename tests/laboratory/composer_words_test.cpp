@@ -25,7 +25,8 @@ class ComposerWordsTest : public TelariumTest {
     own_ = {.proprie = {"AMAVA", "PORTA", "XXXYY", "SOLE", "VZ"}, .vietate = {"MARE", "CANE"}};
   }
 
-  void Choose(std::string_view rules, UsoDefinizioni use) {
+  void Choose(std::string_view rules, UsoDefinizioni use,
+              const Lunghezze& lengths = {0b10'0011'0100}) {
     choice_.regole = *RegolamentoDiNome(rules);
     choice_.definizioni = use;
     std::string cause;
@@ -33,8 +34,7 @@ class ComposerWordsTest : public TelariumTest {
                                   .programma = CartellaProgramma};
     lexicon_ = LessicoDi(choice_, places, cause);
     ASSERT_TRUE(lexicon_) << cause;
-    vocabulary_ = VocabolarioDi(choice_, *lexicon_, &coverage_,
-                                Lunghezze().set(2).set(4).set(5).set(9), own_);
+    vocabulary_ = VocabolarioDi(choice_, *lexicon_, &coverage_, lengths, own_);
   }
 
   // The words to be asked for: a sample of all layers, and those that something is said of.
@@ -131,21 +131,53 @@ TEST_F(ComposerWordsTest, BestWordsComeFirstThoseWithAClueBeforeAllOthers) {
   }
 }
 
+// Whether the check warns of two forms of one word.
+bool CheckTells(const std::string& one, const std::string& other, const Criteri& criteria) {
+  std::vector<std::string> rows(3, std::string(9, '#'));
+  rows[0].replace(0, one.size(), one);
+  rows[2].replace(0, other.size(), other);
+  const Verdetto verdict = Controlla(DrawnCrossword(rows), criteria);
+  return std::ranges::count(verdict.avvisi, Codice::LemmaRipetuto, &Rilievo::codice) > 0;
+}
+
+TEST_F(ComposerWordsTest, AkinAsAnEditorSeesIt) {
+  const struct {
+    const char* one;
+    const char* other;
+    bool akin;
+  } cases[] = {
+      {"ESSO", "ESSA", true},    {"ESSI", "ESSE", true},       {"ALLO", "ALLE", true},
+      {"DEL", "DELLE", true},    {"ALLO", "DALLO", false},     {"NOSTRO", "VOSTRO", false},
+      {"TUO", "TUE", true},      {"MIO", "MIEI", true},        {"QUESTO", "QUESTE", true},
+      {"UNO", "UNA", true},      {"ALTRO", "ALTRA", true},     {"LUI", "LEI", false},
+      {"LA", "IL", false},       {"SECONDO", "SECONDA", true}, {"TRATTI", "TRATTE", false},
+      {"ALPI", "ALPINA", false}, {"DATA", "DATO", false},      {"DATA", "DATE", true},
+      {"NEI", "NEL", true},      {"ALLA", "AGLIO", false},     {"VERSO", "VERSI", true},
+  };
+  Choose("severe", UsoDefinizioni::No, {0b1111'1100});
+  const Criteri criteria = CriteriDi(choice_, *lexicon_, nullptr);
+  for (const auto& [one, other, akin] : cases) {
+    ASSERT_TRUE(vocabulary_->Cerca(other)) << other;
+    std::set<std::string_view> found;
+    for (const NumeroParola relative : vocabulary_->Parenti(one))
+      found.insert(vocabulary_->Parola(relative));
+    EXPECT_EQ(found.contains(other), akin) << one << ' ' << other;
+    EXPECT_EQ(CheckTells(one, other, criteria), akin) << one << ' ' << other;
+  }
+}
+
 TEST_F(ComposerWordsTest, AkinAreTheWordsThatTheCheckTellsOf) {
   for (const std::string_view rules : {"severe", "libere"}) {
     Choose(rules, UsoDefinizioni::No);
     const Criteri criteria = CriteriDi(choice_, *lexicon_, nullptr);
     const auto told = [&](const std::string& one, const std::string& other) {
-      std::vector<std::string> rows(3, std::string(9, '#'));
-      rows[0].replace(0, one.size(), one);
-      rows[2].replace(0, other.size(), other);
-      const Verdetto verdict = Controlla(DrawnCrossword(rows), criteria);
-      return std::ranges::count(verdict.avvisi, Codice::LemmaRipetuto, &Rilievo::codice) > 0;
+      return CheckTells(one, other, criteria);
     };
     const auto& italian = *lexicon_->Livelli().front().strato->ComeFile();
     int pairs = 0;
-    for (const char* const word : {"AMARE", "AMAVA", "CORSO", "CORSA", "PORTA", "VA", "BUONO", "ES",
-                                   "HOTEL", "DARE", "ZZYZX", "SONO", "ERA", "MATTO", "RE"}) {
+    for (const char* const word :
+         {"AMARE", "AMAVA", "CORSO", "CORSA", "PORTA", "VA", "BUONO", "ES", "HOTEL", "DARE",
+          "ZZYZX", "SONO", "ERA", "MATTO", "RE", "MIEI", "DEI"}) {
       std::set<std::string> akin;
       for (const NumeroParola other : vocabulary_->Parenti(word))
         akin.emplace(vocabulary_->Parola(other));

@@ -15,6 +15,7 @@ using Lines = std::vector<std::string>;
 Lessico SmallLexicon() {
   const Lines words = {"RE 90",
                        "ARO 20",
+                       "ARMA 20",
                        "CASA 80",
                        "NOTO 60",
                        "SEGUO 70 v.ind.pres.1s seguire",
@@ -170,7 +171,7 @@ TEST(CrosswordToProblem, DemandsThatContradictEachOtherAreTold) {
   Cruciverba crossword = DrawnCrossword({"C....", ".#.#.", "NOTO.", ".#.#."});
   crossword.laboratorio.Proprio().vietate = {"casa"};
   crossword.laboratorio.Proprio().proprie = {"gatto"};
-  SceltaComposizione scored = Wanting("ARO");
+  SceltaComposizione scored = Wanting("ARMA");
   scored.parole.livelli.fill(30);
   SceltaComposizione clued = Wanting("TAXI");
   clued.parole.definizioni = UsoDefinizioni::Obbligatorie;
@@ -180,10 +181,16 @@ TEST(CrosswordToProblem, DemandsThatContradictEachOtherAreTold) {
   const Contradiction rows[] = {
       {"La parola voluta CASA è vietata.", Wanting("CASA")},
       {"La parola voluta VIETA è vietata.", Wanting("VIETA")},
-      {"La parola voluta SEGUITO è più lunga di tutte le parole da riempire.", Wanting("SEGUITO")},
-      {"La parola voluta SEGUO è una forma finita di un verbo: le regole «severe» non l'ammettono.",
+      {"La parola voluta SEGUITO (7) non ha posto: nessuna parola da completare ha tante lettere.",
+       Wanting("SEGUITO")},
+      {"Le parole volute SEGUITO (7), TRE (3) non hanno posto: nessuna parola da completare ha "
+       "tante "
+       "lettere.",
+       {.parole = {}, .volute = {"CASA", "NOTO", "SEGUITO", "TRE"}}},
+      {"La parola voluta SEGUO è una forma di verbo finita o un gerundio: le regole «severe» non "
+       "l'ammettono.",
        Wanting("SEGUO")},
-      {"La parola voluta ARO ha punteggio 20: il minimo chiesto è 30.", scored},
+      {"La parola voluta ARMA ha punteggio 20: il minimo chiesto è 30.", scored},
       {"La parola voluta TAXI non ha una definizione, che qui ci vuole.", clued},
       {"", Wanting("NOTO")},
       {"", Wanting("GATTO")},

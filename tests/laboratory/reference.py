@@ -12,6 +12,11 @@ def is_finite(code):
     return code[0] == "v" and bool(FINITE & set(code[1:]))  # a conjunction is "cong" too
 
 
+def only_a_verb(code):
+    """What rules count as a finite form: gerunds too."""
+    return is_finite(code) or code[0] == "v" and "ger" in code
+
+
 def folded(text):
     text = unicodedata.normalize("NFD", text.replace("œ", "oe").replace("Œ", "OE").replace("ß", "ss")
                                  .replace("æ", "ae").replace("Æ", "AE").replace("ø", "o").replace("Ø", "O"))
@@ -30,7 +35,7 @@ class Entry:
         self.word = folded(self.spelled)
 
     def only_finite(self):
-        return bool(self.readings) and all(is_finite(code) for code, _ in self.readings)
+        return bool(self.readings) and all(only_a_verb(code) for code, _ in self.readings)
 
     def lemmas(self):
         return {lemma for _, lemma in self.readings}

@@ -99,6 +99,7 @@ TEST(EntryTest, OnlyReadingsThatAreAllFiniteMakeAFiniteForm) {
   const Lettura finita = {"barcare", *InterpretaAnalisi("v.ind.pres.3s")};
   const Lettura nome = {"barca", *InterpretaAnalisi("s.fs")};
   EXPECT_TRUE(SoloFinita({finita, {"barcare", *InterpretaAnalisi("v.fin")}}));
+  EXPECT_TRUE(SoloFinita({{"amare", *InterpretaAnalisi("v.ger")}}));
   EXPECT_FALSE(SoloFinita({finita, nome}));
   EXPECT_FALSE(SoloFinita({}));
 }

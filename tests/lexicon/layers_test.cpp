@@ -210,7 +210,8 @@ TEST(Rules, EachSetRefusesWhatItsTableSays) {
     std::string_view severe, settimanali;
   } rows[] = {
       {Word("ANDAVA", {}, {"v.ind.impf.3s"}),
-       "ANDAVA è una forma finita di un verbo: le regole «severe» non l'ammettono."_cp, ""},
+       "ANDAVA è una forma di verbo finita o un gerundio: le regole «severe» non l'ammettono."_cp,
+       ""},
       {Word("BARCA", {}, {"s.fs", "v.ind.pres.3s"}), "", ""},
       {Word("ANDARE", {}, {"v.inf"}), "", ""},
       {Word("SENZALETTURE"), "", ""},

@@ -1,4 +1,6 @@
+#include <fcntl.h>
 #include <regex>
+#include <unistd.h>
 
 #include "telar/telar_fixture.h"
 
@@ -22,6 +24,18 @@ class TelarCompose : public Telar {
     Write("few", List.substr(0, List.find("aie")));
     Write("clues", "ALA\tF\tVola\nSEI\tD\tMezza dozzina\n");
     Out("enc-crea clues");
+  }
+
+  // "places" with the words of "triples" has as many places as words and one more: a search tries
+  // them in all orders.
+  void WriteEndless() {
+    std::string rows, words;
+    for (char letter = 'a'; letter <= 'l'; ++letter) {
+      rows += "H.H.H.\r\nD*D*D*\r\n";
+      if (letter < 'l') words += Unisci(std::string(3, letter), '\n');
+    }
+    Write("places", Unisci(Head, "03x24\r\n", rows));
+    Write("triples", words);
   }
 
   // The grid of a crossword file, its rows divided by blanks.
@@ -68,7 +82,9 @@ TEST_F(TelarCompose, TellsWhyThereIsNoFillAndLeavesTheOutputAsItWas) {
                            "(rimedio\t.*\n)*passi\t\\d+\nin tutto\t\\d+\\.\\d{3}\n")))
       << none.out;
   EXPECT_EQ(Run("componi square part --lessico few --parziale").status, 3);
-  EXPECT_EQ(Grid("part").size(), 12u);
+  EXPECT_NE(
+      Run("componi square old --lessico words --maschera 1,2,O:.X.").out.find("\t3\t.X.\nrimedio"),
+      std::string::npos);
 }
 
 TEST_F(TelarCompose, EndsWithTheStatusOfWhatHappened) {
@@ -83,6 +99,11 @@ TEST_F(TelarCompose, EndsWithTheStatusOfWhatHappened) {
       {"square part --secondi 0 --parziale", "Interrotto", 4},
       {"square old --vieta ala", "Con queste parole", 3},
       {"square old --vieta ala --vuole ala", "", 1},
+      {"square old --vuole tra,tre,tri,tro,tru,tur,ter",
+       "Con queste parole e queste richieste lo schema non si può riempire.\n"
+       "Parole volute di 3 lettere: 7 (TER, TRA, TRE, TRI, TRO, TRU, TUR); posti di questa "
+       "lunghezza: 6.\n",
+       3},
       {"given old --maschera 1,1,O:.E.", "", 1},
       {"square old --maschera 2,2,O:SEI", "", 1},
       {"manca old", "", 1},
@@ -111,15 +132,7 @@ TEST_F(TelarCompose, EndsWithTheStatusOfWhatHappened) {
 }
 
 TEST_F(TelarCompose, ControlCEndsASearchAndKeepsAFill) {
-  // As many words of three letters as there are places, less one: a search tries them in all
-  // orders.
-  std::string rows, words;
-  for (char letter = 'a'; letter <= 'l'; ++letter) {
-    rows += "H.H.H.\r\nD*D*D*\r\n";
-    if (letter < 'l') words += Unisci(std::string(3, letter), '\n');
-  }
-  Write("places", Unisci(Head, "03x24\r\n", rows));
-  Write("triples", words);
+  WriteEndless();
   const struct {
     const char* call;
     int status;
@@ -153,6 +166,22 @@ TEST_F(TelarCompose, ListsCandidatesWithWhatBecomesOfThem) {
   EXPECT_EQ(Told("candidati square 2 1 O --lessico words", 1),
             "Nella colonna 2, riga 1, non comincia nessuna parola orizzontale.\n");
   EXPECT_NE(Told("candidati square 1 1 X --lessico words", 2), "");
+}
+
+TEST_F(TelarCompose, CandidatesEndQuietlyWhenTheirReaderGoes) {
+  WriteEndless();
+  int ends[2];
+  ASSERT_EQ(::pipe2(ends, O_CLOEXEC), 0);
+  Descrittore reader(ends[0]);
+  const Descrittore writer(ends[1]);
+  call.output = writer.Numero();
+  call.arguments = Split("candidati places 1 1 O --lessico triples --passi 999999999999", ' ');
+  TelarProcess process(call);
+  process.WaitUntil([&] { return fs::exists(InFolder("cache/telarium")); });
+  reader.Chiudi();
+  const TelarResult result = process.WaitForEnd();
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.err, "");
 }
 
 }  // namespace

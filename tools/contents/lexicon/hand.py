@@ -14,6 +14,9 @@ class HandLists:
         self.abbreviations = table(folder / "sigle_lunghe.txt")
         self.three = table(folder / "tre_lettere.tsv")
         self.phrases = table(folder / "locuzioni.txt")
+        self.scores = table(folder / "punteggi.tsv")
+        self.everyday = table(folder / "quotidiane.txt")
+        self.dropped = table(folder / "scartate.txt")
         self.judged = {key: readings_of(fields)
                        for key, fields in table(folder / "ambigue.tsv").items()}
 

@@ -8,8 +8,8 @@ from .knowledge import FINITE, Knowledge, only_finite
 from .lemmas import superlative_lemma
 from .marks import Marks
 from .readings import ending_number
-from .scores import (GUESSED_DISCOUNT, HAND_SCORE, LIST_SHARE, NAME_DISCOUNT, NAME_LEAST, NAME_USE,
-                     Scale, by_frequency, with_lemma)
+from .scores import (EVERYDAY_SCORE, GUESSED_DISCOUNT, HAND_SCORE, LIST_SHARE, NAME_DISCOUNT,
+                     NAME_LEAST, NAME_USE, PLURAL_SCORE, SEEN_SCORE, Scale, by_frequency, with_lemma)
 from .text import SHORTEST, fold, list_order
 
 MOST_READINGS = 6
@@ -42,7 +42,7 @@ class Italian:
         logarithms = [self._logarithm(entry) for entry in entries]
         scale = Scale(logarithms)
         for entry, logarithm in zip(entries, logarithms):
-            entry.score = self._hand_score(entry.folded, scale.points(logarithm))
+            entry.score = self._hand_score(entry, scale.points(logarithm))
         return entries
 
     # ---- which entries
@@ -56,7 +56,8 @@ class Italian:
                  if stem.isalpha() and stem[0].isupper()}
         keys |= {fold(form) for form, choices in readings.table.items()
                  if self._worth_adding(form, choices)}
-        return {key for key in keys if len(key) >= SHORTEST and hand.kind(key) != "via"}
+        return {key for key in keys - hand.dropped.keys()
+                if len(key) >= SHORTEST and hand.kind(key) != "via"}
 
     def _worth_adding(self, form, choices):
         know = self.know
@@ -170,15 +171,25 @@ class Italian:
             logarithm -= GUESSED_DISCOUNT
         return logarithm + LIST_SHARE * self.list_order.get(entry.folded, 0)
 
-    def _hand_score(self, key, score):
+    def _hand_score(self, entry, score):
         """The score that somebody gave by hand; the least of what is in such lists at all."""
-        hand = self.know.hand
-        lists = (hand.three, hand.phrases, hand.names, hand.own_words, hand.abbreviations)
+        hand, key = self.know.hand, entry.folded
+        lists = (hand.scores, hand.three, hand.phrases, hand.names, hand.own_words,
+                 hand.abbreviations)
         given = [row[key][-1] for row in lists if key in row and row[key][-1].isdigit()]
         if given:
             return int(given[0])
+        if key in hand.everyday:
+            return max(score, EVERYDAY_SCORE)
+        if score >= SEEN_SCORE and self._is_everyday_plural(entry):
+            return max(score, PLURAL_SCORE)
         listed = any(key in table for table in (hand.names, hand.abbreviations, hand.phrases))
         return max(score, HAND_SCORE) if listed else score
+
+    def _is_everyday_plural(self, entry):
+        code, lemma = entry.readings[0] if entry.readings else ("", "")
+        return (code in ("s.mp", "s.fp") and fold(lemma) in self.know.hand.everyday
+                and lemma not in self.know.readings.verbs.forms)
 
 
 def kept(weights):

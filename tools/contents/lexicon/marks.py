@@ -9,10 +9,8 @@ WHOLE_COUNT = 300  # occurrences of a lemma that is common enough to be met trun
 TRUNCATED = re.compile("[aeiou][lnrm]$")
 # What looks truncated but has a place of its own in dictionaries.
 WORDS_IN_THEIR_OWN_RIGHT = set(
-    "gran san bel buon quel ben mal fin pur suor tal qual nessun ciascun alcun ognun talun or "
-    "ancor finor fuor ver vuol son han star pulsar dinar marin spin lichen canter caftan kaftan "
-    "mohair salam metil acetil ventun trentun quarantun cinquantun social terrier bustier "
-    "monsignor".split())
+    "san vuol son han star pulsar dinar spin lichen canter caftan kaftan mohair salam metil acetil "
+    "social terrier bustier".split())
 SEVERAL_WORDS = re.compile(r"\w[ '’]\w")
 
 
@@ -95,18 +93,18 @@ class Marks:
         third person; none where it is a word itself."""
         know, table = self.know, self.know.readings.table
         if entry.folded in know.hand.judged:
-            cut = all(lemma in (form + "e", form + "o") and code.startswith(("v.inf", "s", "a."))
-                      for code, lemma in entry.readings)
+            cut = all(lemma.startswith(form) and lemma != form for _, lemma in entry.readings)
             return entry.readings if cut else []
         if know.readings.votes[form] > 1 or any(
                 code[:2] != "v." and sources > 1
                 for (code, _), sources in table.get(form, {}).items()):
             return []
-        long = len(form) > SHORTEST and not know.is_foreign(form)
+        long = len(form) > SHORTEST
         third = [(code, lemma) for code, lemma in table.get(form + "o", ())
-                 if code.startswith("v.ind") and code.endswith("3p")]
+                 if code.startswith(("v.ind", "v.cong")) and code.endswith("3p")]
         if long and third and not entry.readings:
             return third[:1]
+        long = long and not know.is_foreign(form)
         named = form in know.readings.names or any(code == "np" for code, _ in entry.readings)
         for whole in (form + "e", form + "o"):
             common = know.counts.all(form) < know.counts.all(whole) / 2

@@ -16,6 +16,9 @@ LEMMA_WEIGHT = (("v.inf", .45), ("v.part.pass", .2), ("v.part.pres", .1),
                 ("v.ger", .1), ("v", 0), ("a.comp", .1), ("a", .3), ("avv", .2), ("", .35))
 NAME_USE = 0.8  # of a word's occurrences as a name: what does not count for it
 HAND_SCORE = 40  # the least that an entry has that somebody wrote down by hand
+EVERYDAY_SCORE = 60  # the least of a word of home, school and kitchen, which an encyclopedia lacks
+PLURAL_SCORE = 50  # and of its plural,
+SEEN_SCORE = 25  # if that has so many by itself: tuorli, no dormiri
 LIST_SHARE = 0.2  # of a logarithm: what the order of the word list makes among words never seen
 GUESSED_DISCOUNT = 1.5  # of a logarithm: what a form has less whose reading no source has
 NAME_LEAST = 8  # occurrences taken for a name that the list lacks
