@@ -117,6 +117,18 @@ TEST_F(Chronology, AReopenedFileGoesOnWithItsLine) {
   }
 }
 
+TEST_F(Chronology, ChangesBehindAnEarlierStepLeadBackToItsCrosswordAlone) {
+  session->Open("uno");
+  session->Letter({1, 1}, 'X');
+  session->Save("uno");
+  session->Open("due");
+  session->Open("uno");
+  session->History().VaiA(0);
+  session->Letter({2, 1}, 'Y');  // in place of the step at which it was opened
+  session->Letter({3, 1}, 'Z');
+  EXPECT_EQ(After("<<<"), "AYAA uno*, AAAA uno*, BB due");
+}
+
 TEST_F(Chronology, AFileThatAnotherProgramChangedIsTheNextStep) {
   session->Open("uno");
   session->Letter({1, 1}, 'X');
