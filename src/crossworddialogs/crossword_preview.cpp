@@ -1,10 +1,10 @@
 #include "crossworddialogs/crossword_preview.h"
 
 #include <algorithm>
-#include <array>
 
 #include "editor/grid_preview.h"
-#include "model/words.h"
+#include "model/crossword_reader.h"
+#include "model/state.h"
 #include "platform/platform.h"
 #include "platform/text.h"
 
@@ -23,33 +23,34 @@ std::string Dal(std::string_view riga, std::size_t carattere, std::size_t massim
 
 // The cell characters of a grid line; none when one is no cell that a preview shows.
 std::optional<std::string> Caselle(std::string_view riga, int colonne) {
-  const auto schema = RigaDiSchema(riga);
-  if (!schema) return std::nullopt;
   std::string caselle;
-  for (std::size_t p = 0; p < schema->size() && std::ssize(caselle) < colonne; p += 2)
-    caselle += (*schema)[p];
+  for (std::size_t p = 0; p < riga.size() && std::ssize(caselle) < colonne; p += 2)
+    caselle += riga[p];
   if (!std::all_of(caselle.begin(), caselle.end(), CarattereSemplice)) return std::nullopt;
   return caselle;
 }
 
+// Takes the rows that were read, in their order; false when one cannot be shown.
+bool PrendiCaselle(const LetturaDelFile& lettura, AnteprimaCruciverba& anteprima) {
+  const auto& [cruciverba, finoA, guasto] = lettura;
+  const bool interrotta = guasto && guasto->parte == ParteDelFile::Griglia;
+  const int lette = interrotta ? guasto->riga - RigheIntestazione - 1 : cruciverba.righe;
+  for (int r = 0; r < lette; ++r) {
+    auto caselle = Caselle(*cruciverba.griglia[static_cast<std::size_t>(r)], cruciverba.colonne);
+    if (!caselle) return false;
+    anteprima.caselle.push_back(std::move(*caselle));
+  }
+  return !interrotta || guasto->motivo == FineDelFile;
+}
+
 // Takes a preview from the contents of a file; what is wrong with them otherwise.
 std::string_view Interpreta(std::string_view contenuto, AnteprimaCruciverba& anteprima) {
-  constexpr std::string_view formato = "Formato del file non valido!";
-  LettoreDiRighe righe(contenuto);
-  std::array<std::string_view, RigheIntestazione> intestazione;
-  for (std::string_view& riga : intestazione)
-    if (!righe.Prossima(riga)) return formato;
-  const auto& [autore, data, tipo, dimensioni] = intestazione;
-  const auto misure = DimensioniDichiarate(dimensioni);
-  if (!misure) return formato;
-  anteprima.misure = *misure;
-  for (int r = 1; r <= misure->righe; ++r) {
-    std::string_view riga;
-    if (!righe.Prossima(riga)) return NonLeggibile;
-    const auto caselle = Caselle(riga, misure->colonne);
-    if (!caselle) return "Tipo di file non valido!";
-    anteprima.caselle.push_back(*caselle);
-  }
+  const LetturaDelFile lettura = LeggiContenuto(contenuto);
+  if (lettura.finoA < ParteDelFile::Griglia) return "Formato del file non valido!";
+  if (!PrendiCaselle(lettura, anteprima)) return "Tipo di file non valido!";
+  if (lettura.finoA == ParteDelFile::Griglia && lettura.guasto) return NonLeggibile;
+  const auto& [autore, data, tipo, dimensioni] = *lettura.cruciverba.intestazione;
+  anteprima.misure = {lettura.cruciverba.colonne, lettura.cruciverba.righe};
   // The author's data begin with the blank of the label.
   anteprima.autoreDataTipo =
       Unisci(Dal(autore, LunghezzaEtichetta - 1), " - ", Dal(data, LunghezzaEtichetta), " - ",
@@ -62,8 +63,7 @@ std::string_view Interpreta(std::string_view contenuto, AnteprimaCruciverba& ant
 std::string Difetto(const Percorso& nome, std::string_view contenuto,
                     AnteprimaCruciverba& anteprima) {
   const std::string_view difetto = Interpreta(contenuto, anteprima);
-  return ConCausa(difetto, nome,
-                  difetto == NonLeggibile ? "il file finisce prima dello schema" : "");
+  return ConCausa(difetto, nome, difetto == NonLeggibile ? FineDelFile : "");
 }
 
 // Reads a file into a preview; the message about what is wrong otherwise.

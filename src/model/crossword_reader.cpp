@@ -10,7 +10,6 @@
 namespace telarium {
 namespace {
 
-constexpr std::string_view Incompleto = "il file finisce prima dello schema";
 constexpr std::string_view DiUnAltroProgramma = "la riga contiene un byte nullo";
 constexpr std::string_view SenzaDimensioni = "le dimensioni non sono quelle di uno schema";
 constexpr std::string_view CellaSconosciuta = "un carattere non è quello di una casella"_cp;
@@ -56,7 +55,7 @@ class Lettore {
   // The next line of a part that must have it.
   bool Riga(std::string_view& riga) {
     ++numeroRiga_;
-    if (!righe_.Prossima(riga)) return Guasto(Incompleto, numeroRiga_);
+    if (!righe_.Prossima(riga)) return Guasto(FineDelFile, numeroRiga_);
     // A NUL byte is in no text: the file is some other program's.
     if (riga.find('\0') != std::string_view::npos) return Guasto(DiUnAltroProgramma, numeroRiga_);
     return true;

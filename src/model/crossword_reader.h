@@ -28,6 +28,9 @@ struct GuastoDelFile {
   bool Grave() const { return parte != ParteDelFile::Colori; }
 };
 
+/// The reason of a fault when the file ends too early.
+inline constexpr std::string_view FineDelFile = "il file finisce prima dello schema";
+
 struct LetturaDelFile {
   Cruciverba cruciverba;                            // all that was read
   ParteDelFile finoA = ParteDelFile::Intestazione;  // the part that the reading came to

@@ -15,10 +15,12 @@ Documento documento(tavole);
 
 bool Documento::Modifica(std::string_view motivo,
                          const std::function<void(Cruciverba&)>& funzione) {
-  Cruciverba dopo = stato_.cruciverba;
+  Cruciverba prima = stato_.cruciverba;
+  ComeNelFile(prima);  // a new one may not have that form yet
+  Cruciverba dopo = prima;
   funzione(dopo);
   ComeNelFile(dopo);
-  if (dopo == stato_.cruciverba) return false;
+  if (dopo == prima) return false;
   Prendi(std::move(dopo));
   if (!passo_ && osservatore_) osservatore_->Modificato(std::string(motivo));
   return true;

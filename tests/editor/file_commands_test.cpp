@@ -66,6 +66,49 @@ TEST_F(FileCommands, AChangedCrosswordIsAskedForBeforeAnotherOne) {
   user.TakeTexts();
 }
 
+TEST_F(FileCommands, ASaveWritesOverNothingElseUnasked) {
+  Draw({"CASA"});
+  const std::string page = TestoDelCruciverba().value();
+  const Percorso file = WriteFile("uno.tlrm", page);
+  const std::string header = page.substr(0, page.find("].["));
+  const std::string foreign = header + "H.H.H.H.\r\n  1  12-senza fine";
+  const std::string broken = header + "H.H.H.H.\r\n  0  01-fuori\r\n";
+  const auto open = [&] { return ApriFileDiCruciverba(file); };
+  const struct {
+    std::function<void()> before;
+    std::string_view told;  // behind the name of the file; empty: nothing is asked
+  } cases[] = {
+      {[&] { EXPECT_TRUE(open()); }, ""},
+      {[&] { EXPECT_TRUE(open() && ApriTestoDiCruciverba(page)); }, "contiene un altro cruciverba"},
+      {[&] { WriteFile("uno.tlrm", foreign); }, "\xE8 stato cambiato da un altro programma"},
+      {[&] {
+         WriteFile("uno.tlrm", broken);
+         EXPECT_TRUE(open());
+         user.TakeTexts();
+       },
+       "non \xE8 stato letto per intero, e il resto andrebbe perduto"},
+      {[&] { std::filesystem::remove(file); }, ""},
+  };
+  for (const auto& [before, told] : cases) {
+    before();
+    const bool asked = !told.empty();
+    if (asked) user.Answer(Risposta::Annulla);
+    const std::string bytes = asked ? ReadFile(file) : "";
+    window.shown.clear();
+    SalvaCruciverba();
+    EXPECT_EQ(window.shown, asked ? Windows{Modale::TelarSav} : Windows{}) << told;
+    if (!asked) continue;
+    EXPECT_EQ(user.TakeTexts(),
+              std::vector<std::string>{Unisci("Il file ", TestoPercorso(file), ' ', told,
+                                              ": si desidera sovrascriverlo?")});
+    EXPECT_EQ(ReadFile(file), bytes) << told;
+    user.Answer(Risposta::Ok);
+    SalvaCruciverba();
+    user.TakeTexts();
+    EXPECT_EQ(ReadFile(file), TestoDelCruciverba().value()) << told;
+  }
+}
+
 TEST_F(FileCommands, SettingsAndTypefaceHaveTheirWindows) {
   ModoGriglia = ModoModifica;
   RegolaSchema();
