@@ -20,18 +20,18 @@ namespace {
 
 const AzzeramentoDiSottosistema azzeramento([] { ColoreScelto = 0; });
 
-void AttivaStrumento(std::int16_t modo, int puntatore) {
+void AttivaStrumento(std::int16_t modo, Strumento strumento) {
   LaFinestra().NascondiShape1();
   if (ModoGriglia == ModoAnteprima) RidisegnaSchema();
   ModoGriglia = modo;
-  ImpostaPuntatoreMouse(puntatore);
+  PrendiStrumento(strumento);
 }
 
 std::string MotivoDi(std::string_view cosa, Casella casella) {
   return Unisci(cosa, ' ', casella.colonna, ',', casella.riga);
 }
 
-// Turns the cell and commits it; from then on the pointer is that of the tool.
+// Turns the cell and commits it; from then on the tool is the one that does so.
 void Trasforma(Casella casella, bool nera) {
   ImpostaPuntatoreMouse(PuntatoreClessidra);
   AnticipaCasella(casella, nera);
@@ -41,7 +41,7 @@ void Trasforma(Casella casella, bool nera) {
                          });
   ConsolidaSchema();
   IlDocumento().SegnaModificato(true);
-  ImpostaPuntatoreMouse(nera ? PuntatoreCasellaNera : PuntatoreCasellaBianca);
+  PrendiStrumento(nera ? Strumento::CasellaNera : Strumento::CasellaBianca);
   LaFinestra().PremiEdit(false);
 }
 
@@ -135,29 +135,30 @@ void ModificaParolaIndicata(int puntatore) {
 }  // namespace
 
 void AttivaCasellaNera() {
-  AttivaStrumento(ModoCasellaNera, PuntatoreCasellaNera);
+  AttivaStrumento(ModoCasellaNera, Strumento::CasellaNera);
 }
 
 void AttivaCasellaBianca() {
-  AttivaStrumento(ModoCasellaBianca, PuntatoreCasellaBianca);
+  AttivaStrumento(ModoCasellaBianca, Strumento::CasellaBianca);
 }
 
 void PremiSullaSuperficie(TastoMouse tasto, double x, double y) {
   const int puntatore = PuntatoreMouse;
-  const bool strumento = puntatore == PuntatoreCasellaNera || puntatore == PuntatoreCasellaBianca;
+  const Strumento strumento = StrumentoAttivo();
+  const bool conStrumento = strumento != Strumento::Nessuno;
   const bool sinistro = tasto == TastoMouse::Sinistro;
-  if (!strumento && ModoGriglia != ModoModifica) return EntraInModifica();
+  if (!conStrumento && ModoGriglia != ModoModifica) return EntraInModifica();
   LaFinestra().MostraCommand3d15(false);
   if (LatoCasella == 0) return;
   const Casella casella = CasellaSotto(x, y);
   const bool dentro = NelloSchema(casella);
   if (dentro && sinistro && puntatore == PuntatoreFreccia) return Colora(casella);
-  if (!dentro || (!sinistro && !strumento)) {
+  if (!dentro || (!sinistro && !conStrumento)) {
     LaFinestra().TogliLabel1();  // the tool's name holds no longer
     return EntraInModifica();
   }
-  if (strumento && tasto != TastoMouse::Altro) {
-    TrasformaSeDiversa(casella, (puntatore == PuntatoreCasellaNera) == sinistro);
+  if (conStrumento && tasto != TastoMouse::Altro) {
+    TrasformaSeDiversa(casella, (strumento == Strumento::CasellaNera) == sinistro);
     return PassaSullaSuperficie(x, y);  // the tool may be the other one now
   }
   if (ModoGriglia == ModoModifica) ModificaParolaIndicata(puntatore);

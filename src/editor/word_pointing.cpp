@@ -121,8 +121,9 @@ Indicazione IndicazioneDa(Casella casella, bool altoDestra) {
 
 void PassaSullaSuperficie(double x, double y) {
   if (PuntatoreMouse == PuntatoreMano) ImpostaPuntatoreMouse(PuntatoreFreccia);
-  if (PuntatoreMouse == PuntatoreCasellaBianca) return MostraStrumento(" Casella bianca ", x, y);
-  if (PuntatoreMouse == PuntatoreCasellaNera) return MostraStrumento(" Casella nera ", x, y);
+  if (StrumentoAttivo() == Strumento::CasellaBianca)
+    return MostraStrumento(" Casella bianca ", x, y);
+  if (StrumentoAttivo() == Strumento::CasellaNera) return MostraStrumento(" Casella nera ", x, y);
   if (ModoGriglia != ModoModifica) return LaFinestra().TogliLabel1();
   if (LatoCasella == 0) return;
   const Casella casella = CasellaSotto(x, y);
@@ -135,8 +136,7 @@ void PassaSullaSuperficie(double x, double y) {
 
 void PassaSuToolbar1() {
   LaFinestra().TogliLabel1();
-  const bool tenuto = PuntatoreMouse == PuntatoreMano || PuntatoreMouse == PuntatoreCasellaNera ||
-                      PuntatoreMouse == PuntatoreCasellaBianca;
+  const bool tenuto = PuntatoreMouse == PuntatoreMano || StrumentoAttivo() != Strumento::Nessuno;
   if (!tenuto && PuntatoreMouse != PuntatoreFreccia) ImpostaPuntatoreMouse(PuntatoreFreccia);
 }
 

@@ -1,12 +1,10 @@
 #include "model/state.h"
 
 #include "model/documento.h"
-#include "platform/platform.h"
 
 namespace telarium {
 
 std::int16_t ModoGriglia = 0;
-std::int16_t PuntatoreMouse = 0;
 Percorso CartellaProgramma;
 Percorso CartellaIstantanea;
 
@@ -28,16 +26,10 @@ Percorso PercorsoIstantanea() {
 void AzzeraStato() {
   IlDocumento().Azzera();
   ModoGriglia = 0;
-  PuntatoreMouse = 0;
   CartellaProgramma.clear();
   CartellaIstantanea.clear();
   for (auto* uno = primoAzzeramento; uno; uno = uno->prossimo_)
     uno->azzera_();
-}
-
-void ImpostaPuntatoreMouse(int forma) {
-  PuntatoreMouse = static_cast<std::int16_t>(forma);
-  ChiUsa().FormaPuntatore(forma);
 }
 
 }  // namespace telarium

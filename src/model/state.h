@@ -5,8 +5,8 @@
 
 #include "model/boolean.h"
 #include "model/cells.h"
+#include "model/pointer.h"
 #include "model/tables.h"
-#include "platform/user.h"
 
 // The given names: the crossword that is open, which the document holds (model/documento.h) and
 // alone can change, and what is shared about it. Tables count from 1: (column, row), (column, row,
@@ -52,14 +52,11 @@ inline constexpr std::int16_t ModoAggiungiColonna = 3;
 inline constexpr std::int16_t ModoTogliColonna = 4;
 inline constexpr std::int16_t ModoAggiungiRiga = 5;
 inline constexpr std::int16_t ModoTogliRiga = 6;
-inline constexpr std::int16_t ModoCasellaNera = 7;  // the tool itself is told by PuntatoreMouse
+inline constexpr std::int16_t ModoCasellaNera = 7;  // the tool itself is StrumentoAttivo
 inline constexpr std::int16_t ModoCasellaBianca = 8;
 inline constexpr std::int16_t ModoTabella = 20;
 /// What the mouse does on the grid.
 extern std::int16_t ModoGriglia;
-/// Shape of the mouse pointer, a value of platform/user.h, by which the mouse routines decide what
-/// a click means. Set it through ImpostaPuntatoreMouse, which keeps the visible shape in step.
-extern std::int16_t PuntatoreMouse;
 
 // --- Folders ---
 
@@ -77,9 +74,6 @@ Percorso PercorsoIstantanea();
 
 /// Puts every shared variable, also those that a subsystem owns, as at program start.
 void AzzeraStato();
-
-/// Sets PuntatoreMouse and the visible shape.
-void ImpostaPuntatoreMouse(int forma);
 
 /// Registers, by its construction at program start, what AzzeraStato does for the variables that a
 /// subsystem owns: one static object beside their definitions.

@@ -17,7 +17,7 @@ TEST_F(MailTest, SendsTheCrosswordAsItsFileLies) {
   EXPECT_TRUE(machine.mails.empty()) << "nothing is started";
 
   SetName(WriteFile("un \xC3\xA8.tlrm", "x"));
-  ImpostaPuntatoreMouse(PuntatoreCasellaNera);
+  PrendiStrumento(Strumento::CasellaNera);
   MandaSchema();
   EXPECT_EQ(user.TakeTexts(),
             std::vector<std::string>{"Un messaggio con il tuo schema di cruciverba allegato e' "

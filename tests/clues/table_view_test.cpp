@@ -34,7 +34,7 @@ TEST_F(TableView, OpensInItsModeAndNotWithoutAGrid) {
   ApriTabella();
   EXPECT_TRUE(window.shown.empty());
   Draw({"CA"});
-  PuntatoreMouse = PuntatoreOrizzontale;
+  ImpostaPuntatoreMouse(PuntatoreOrizzontale);
   ApriTabella();
   EXPECT_EQ(window.shown, std::vector<Modale>{Modale::TelarBro});
   EXPECT_EQ(ModoGriglia, 20);

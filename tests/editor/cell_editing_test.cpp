@@ -322,7 +322,7 @@ TEST_F(Editing, SizesHaveTheirLimits) {
   };
   for (const auto& [grid, operation, told] : cases) {
     Open(grid);
-    ImpostaPuntatoreMouse(4);
+    PrendiStrumento(Strumento::CasellaNera);
     operation();
     EXPECT_EQ(user.TakeTexts(), Rows{told});
     EXPECT_EQ(Drawing(), grid);

@@ -177,14 +177,14 @@ TEST_F(WordPointing, BesideTheGridNothingIsMeant) {
 
 TEST_F(WordPointing, ToolsTellTheirNameInEveryModeAndTheLogoLeavesNoPointer) {
   ModoGriglia = 8;
-  ImpostaPuntatoreMouse(2);
+  PrendiStrumento(Strumento::CasellaBianca);
   PassaSullaSuperficie(300, 400);
   EXPECT_EQ(window.tip, " Casella bianca ");
   EXPECT_EQ(window.tipLeft, 300);
   EXPECT_EQ(window.tipTop, 412);
   PassaSuToolbar1();
   ExpectOutOfView(2);
-  ImpostaPuntatoreMouse(4);
+  PrendiStrumento(Strumento::CasellaNera);
   PassaSullaSuperficie(1, 1);
   EXPECT_EQ(window.tip, " Casella nera ");
   ImpostaPuntatoreMouse(99);

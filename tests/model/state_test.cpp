@@ -66,13 +66,14 @@ TEST_F(State, ResetPutsEveryVariableAsAtProgramStart) {
   SetName("x");
   MarkModified();
   SetGeometry(7, 7, 7);
+  PrendiStrumento(Strumento::CasellaNera);
   NomeFont = "x";
   ElencoDefinizioni(1) = IndirizzoWeb = "x";
   RigaDiComando = FileComando = "x";
   for (std::int16_t* one :
-       {&ModoGriglia, &PuntatoreMouse, &AltezzaCaratteri, &AltezzaNumeri, &PercentualeRiquadro,
-        &DistanzaDaSpigolo, &DistanzaDaCentro, &SpessoreBordo, &RettangoloParola, &StampaSoluzioni,
-        &TastoSin, &NascondiSoluzioni, &GiaAttivata, &LarghezzaPicture})
+       {&ModoGriglia, &AltezzaCaratteri, &AltezzaNumeri, &PercentualeRiquadro, &DistanzaDaSpigolo,
+        &DistanzaDaCentro, &SpessoreBordo, &RettangoloParola, &StampaSoluzioni, &TastoSin,
+        &NascondiSoluzioni, &GiaAttivata, &LarghezzaPicture})
     *one = 7;
   MouseCol = MouseRiga = ColoreScelto = MostraSuggerimenti = 7;
   const auto changed = Everything();

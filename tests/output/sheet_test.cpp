@@ -341,7 +341,7 @@ TEST_F(SheetTest, TheMouseFindsTheGridOfTheWindowBehindAPrint) {
   EXPECT_EQ(MouseCol, 3);
   EXPECT_EQ(MouseRiga, 1);
   EXPECT_EQ(LatoCasella, side);
-  ImpostaPuntatoreMouse(PuntatoreCasellaNera);
+  PrendiStrumento(Strumento::CasellaNera);
   PremiSullaSuperficie(TastoMouse::Sinistro, x, y);
   EXPECT_EQ(DrawingOfSchema()[0], "AB#");
 }

@@ -213,7 +213,7 @@ QCursor Form1::PuntatoreDelLogo() const {
 void Form1::Esegui(const std::function<void()>& comando) {
   if (occupata_) return;
   EseguiComandoDiFinestra(comando);
-  Toolbar1->MostraStrumento(PuntatoreMouse);
+  Toolbar1->MostraStrumento(StrumentoAttivo());
   if (ComandoInCorso()) return;
   if (std::exchange(misuraCambiata_, false)) CambiataMisura();
   ApriRicevuti();
@@ -435,7 +435,7 @@ bool Form1::eventFilter(QObject* oggetto, QEvent* evento) {
     switch (evento->type()) {
       case QEvent::MouseMove:
         if (PuntatoreMouse != PuntatoreMano) ImpostaPuntatoreMouse(PuntatoreMano);
-        Toolbar1->MostraStrumento(PuntatoreMouse);
+        Toolbar1->MostraStrumento(StrumentoAttivo());
         return true;  // no movement over the surface below
       case QEvent::MouseButtonPress:
         if (static_cast<QMouseEvent*>(evento)->button() == Qt::LeftButton)

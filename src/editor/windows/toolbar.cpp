@@ -76,9 +76,9 @@ QAction& BarraStrumenti::Pulsante(int numero) const {
   return *pulsanti_[static_cast<std::size_t>(numero) - 1];
 }
 
-void BarraStrumenti::MostraStrumento(int puntatore) {
-  Pulsante(PulsanteCasBianca).setChecked(puntatore == PuntatoreCasellaBianca);
-  Pulsante(PulsanteCasNera).setChecked(puntatore == PuntatoreCasellaNera);
+void BarraStrumenti::MostraStrumento(Strumento strumento) {
+  Pulsante(PulsanteCasBianca).setChecked(strumento == Strumento::CasellaBianca);
+  Pulsante(PulsanteCasNera).setChecked(strumento == Strumento::CasellaNera);
 }
 
 QPoint BarraStrumenti::SottoIlPulsante(int numero) const {

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "editor/main_window.h"
+#include "model/pointer.h"
 
 namespace telarium {
 
@@ -22,7 +23,7 @@ class BarraStrumenti : public QToolBar {
   QPoint SottoIlPulsante(int numero) const;
 
   /// Presses the button of the tool that the shape of the pointer stands for, and no other tool's.
-  void MostraStrumento(int puntatore);
+  void MostraStrumento(Strumento strumento);
 
   /// What a pointer movement over the bar calls.
   void QuandoPassaIlMouse(std::function<void()> chiama) { passaIlMouse_ = std::move(chiama); }

@@ -90,7 +90,7 @@ TEST_F(AuxiliaryWindowsTest, TheInformationWindowLeadsToTheConfiguredPages) {
     Click(window.Command1, window.Command3d1);
   };
   ModoGriglia = ModoAnteprima;
-  ImpostaPuntatoreMouse(PuntatoreCasellaNera);
+  PrendiStrumento(Strumento::CasellaNera);
   WhenOpen<Form3>(*form, visit);
   Click(form->StatusBar1);
   EXPECT_EQ(ModoGriglia, ModoModifica) << "the preview is left";

@@ -188,7 +188,7 @@ TEST_F(PrintingTest, WritesNoFileThatIsGivenUpOrCannotBeWritten) {
   EXPECT_TRUE(texts[0].starts_with("Non è possibile scrivere il file "_cp));
 
   StartWith({"CASA"});
-  ImpostaPuntatoreMouse(PuntatoreCasellaNera);
+  PrendiStrumento(Strumento::CasellaNera);
   WhenOpen<QPrintDialog>(*form, [](QPrintDialog& dialog) { dialog.reject(); });
   form->Voce("MenuStampa").trigger();
   EXPECT_EQ(PuntatoreMouse, PuntatoreCasellaNera);
