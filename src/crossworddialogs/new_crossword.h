@@ -2,10 +2,9 @@
 
 #include "platform/files.h"
 
-// What the new-crossword dialogs leave behind: Schema as built here, NumColonne and NumRighe, a
-// cleared Definizione, the snapshot, SchemaModificato 0 and NomeCruciverba NomeMaiSalvato.
-// ColoreCasella stays. The main window takes the crossword over from the snapshot. After a refusal
-// or a failure nothing has changed.
+// What the new-crossword dialogs leave behind: a crossword without clues and colours as the open
+// one, unchanged and named NomeMaiSalvato, and its snapshot. After a refusal or a failure nothing
+// has changed.
 namespace telarium {
 
 inline constexpr int MinCelle = 3;  // of a side of a new grid
