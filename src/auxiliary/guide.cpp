@@ -18,11 +18,22 @@ struct Capitolo {
 };
 
 constexpr Capitolo capitoli[] = {
-    {"FormNew", "nuovo"},        {"FormModels", "nuovo"},    {"Form2", "salvare"},
-    {"TelarSav", "salvare"},     {"Settaggi", "aspetto"},    {"fONTEN", "aspetto"},
-    {"TelarDef", "editor"},      {"TelarBro", "tabella"},    {"telariummdb", "enciclopedia"},
-    {"frmParole", "enctabella"}, {"Form4", "gestione"},      {"Form6", "menuutilita"},
-    {"Form3", "menuaiuto"},      {"frmTip", "suggerimenti"},
+    {"FormNew", "nuovo"},
+    {"FormModels", "nuovo"},
+    {"Form2", "salvare"},
+    {"TelarSav", "salvare"},
+    {"Settaggi", "aspetto"},
+    {"fONTEN", "aspetto"},
+    {"TelarDef", "editor"},
+    {"TelarBro", "tabella"},
+    {"telariummdb", "enciclopedia"},
+    {"frmParole", "enctabella"},
+    {"Form4", "gestione"},
+    {"Form6", "menuutilita"},
+    {"Form3", "menuaiuto"},
+    {"frmTip", "suggerimenti"},
+    {"StoriaDelleModifiche", "cronologia"},
+    {"LavoroNonSalvato", "recupero"},
 };
 
 // A path in an address: each byte that could be a mark there by its code.

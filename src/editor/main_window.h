@@ -25,7 +25,9 @@ enum class Modale {
   Form4,
   Form6,
   frmTip,
-  Form3
+  Form3,
+  StoriaDelleModifiche,
+  LavoroNonSalvato
 };
 
 /// The word rectangle: place and size on the surface in pixels, and its colour.
@@ -81,6 +83,8 @@ class FinestraEditor {
   /// Menu entries by name.
   virtual void AbilitaVoce(std::string_view, bool) {}
   virtual void SpuntaVoce(std::string_view, bool) {}
+  /// What an entry acts on, behind its caption; empty: only the caption.
+  virtual void CompletaVoce(std::string_view, std::string_view) {}
   /// Pops a menu up at the pointer.
   virtual void ApriMenu(std::string_view) {}
   virtual void MettiGraficaAiMenu() {}

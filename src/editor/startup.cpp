@@ -7,6 +7,7 @@
 #include "editor/cell_drawing.h"
 #include "editor/commands.h"
 #include "editor/commit.h"
+#include "editor/history_commands.h"
 #include "editor/main_window.h"
 #include "editor/redraw.h"
 #include "editor/settings.h"
@@ -105,6 +106,7 @@ void MostraAvvio() {
   }
   AggiornaSpunte();
   RiprendiSchema();
+  RiferisciSullaCronologia();
   LaFinestra().MostraPicture1(RigaDiComando.empty());
   LaFinestra().TogliLabel1();
 }
@@ -113,6 +115,7 @@ void AttivaForm1() {
   LaFinestra().MostraCommand3d15(false);
   if (!RigaDiComando.empty() && FileComando.empty()) ApriRigaDiComando();
   if (!GiaAttivata) {
+    OffriLavoroPerso();
     ApriSuggerimenti();
     LaFinestra().CollocaPicture2();
     LaFinestra().MettiGraficaAMenuFile();

@@ -17,6 +17,7 @@
 #include "platform/qt/qt_text.h"
 #include "platform/temporary.h"
 #include "telarium/desktop.h"
+#include "telarium/orderly_end.h"
 #include "telarium/process_age.h"
 #include "telarium/single_instance.h"
 #include "telarium_version.h"
@@ -95,11 +96,17 @@ int EseguiDesktop(QApplication& applicazione, const Percorso& file) {
     PreparaEnciclopedia(CartellaDatiInstallati(), cartella);
   RigaDiComando = file;
   CaricaProgramma(cartella);
+  CronologiaDelDesktop cronologia;
   Form1 form;
   CollegaFinestra(piattaforma, form);
+  const FineOrdinata fineOrdinata([] {
+    AbbandonaIstantanea();
+    TerminaProgramma(Fine::Regolare);
+  });
   DiciTempi(form);
   form.Mostra();
   QTimer::singleShot(0, &form, [&] {  // behind the first activation
+    cronologia.Sfoltisci();
     ricevente = &form;
     for (const Percorso& altro : inAttesa)
       form.RiceviDaFuori(altro);

@@ -77,6 +77,19 @@ class DesktopTest : public TelariumTest {
   }
 };
 
+TEST_F(DesktopTest, ALogoutEndsItInOrder) {
+  const Percorso one = CrosswordFile("uno.tlrm", {"CASA", "...."});
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    const auto program = Start({QStringLiteral("uno.tlrm")});
+    ASSERT_TRUE(Shows(one));
+    ::kill(static_cast<pid_t>(program->processId()), signal);
+    End(*program);
+    EXPECT_EQ(program->exitCode(), 0);
+    EXPECT_FALSE(fs::exists(PercorsoIstantanea()));
+    EXPECT_FALSE(fs::exists(InFolder(".telarium.lock")));
+  }
+}
+
 TEST_F(DesktopTest, HandsTheFileOfASecondStartToTheFirst) {
   const Percorso one = CrosswordFile("uno \xC3\xA8.tlrm", {"CASA", "...."});
   const Percorso two = CrosswordFile("due.tlrm", {"....", "#..."});

@@ -11,21 +11,19 @@
 #include <algorithm>
 #include <utility>
 
-#include "auxiliary/addresses.h"
 #include "clues/import.h"
 #include "editor/activation.h"
 #include "editor/cell_editing.h"
 #include "editor/commands.h"
 #include "editor/file_commands.h"
+#include "editor/history_commands.h"
 #include "editor/redraw.h"
 #include "editor/settings.h"
 #include "editor/startup.h"
 #include "editor/windows/form_commands.h"
-#include "editor/windows/menu_table.h"
 #include "editor/windows/modal_windows.h"
 #include "editor/windows/pictures.h"
 #include "editor/word_pointing.h"
-#include "platform/check.h"
 #include "platform/platform.h"
 #include "platform/qt/qt_colour.h"
 #include "platform/qt/qt_text.h"
@@ -46,21 +44,6 @@ constexpr std::size_t MaxCaratteriLabel1 = 1000;  // a clue from a file can have
 
 constexpr int InPixel(int twip) {
   return (twip + TwipPerPixel - 1) / TwipPerPixel;
-}
-
-// The caption of an entry that has none in the table: it is configured.
-QString TestoConfigurato(std::string_view nome) {
-  struct Testo {
-    std::string_view voce;
-    Indirizzo valore;
-  };
-  constexpr Testo testi[] = {{"MenuPHP", Indirizzo::SitoProdotto},
-                             {"Menui2", Indirizzo::TitoloMenui2},
-                             {"Menui4", Indirizzo::TitoloMenui4}};
-  for (const auto& [voce, valore] : testi) {
-    if (voce == nome) return ComeVoceDiMenu(AQt(ValoreIndirizzo(valore)));
-  }
-  return {};
 }
 
 AzioneDiPulsante AzioneDi(const QAction& pulsante) {
@@ -136,40 +119,6 @@ void Form1::CreaControlli() {
   Area->QuandoCambiaMisura([this] { CambiataMisura(); });
 }
 
-void Form1::CreaMenu() {
-  // The menu that takes the entries of each level.
-  std::vector<QMenu*> menu;
-  const std::span<const VoceDiMenu> voci = VociDelMenu();
-  for (std::size_t i = 0; i < voci.size(); ++i) {
-    const VoceDiMenu& voce = voci[i];
-    const auto livello = static_cast<std::size_t>(voce.livello);
-    menu.resize(livello);
-    const QString testo = voce.testo.empty() ? TestoConfigurato(voce.nome) : AQt(voce.testo);
-    const bool haSottomenu = i + 1 < voci.size() && voci[i + 1].livello > voce.livello;
-    QAction* azione;
-    if (haSottomenu) {
-      menu.push_back(livello == 0 ? menuBar()->addMenu(testo) : menu.back()->addMenu(testo));
-      azione = menu.back()->menuAction();
-    } else if (voce.testo == "-") {
-      azione = menu.back()->addSeparator();
-    } else {
-      azione = menu.back()->addAction(testo);
-      azione->setShortcut(QKeySequence(QLatin1StringView(voce.tasti)));
-      azione->setCheckable(ConSpunta(voce.nome));
-      const ComandoDiForm1 comando = ComandoDellaVoce(voce.nome);
-      connect(azione, &QAction::triggered, this, [this, azione, comando] {
-        // A check mark shows a setting, which only its command changes.
-        if (azione->isCheckable()) azione->toggle();
-        Esegui([this, comando] { comando(*this); });
-      });
-    }
-    azione->setObjectName(QLatin1StringView(voce.nome));
-    voci_[voce.nome] = azione;
-  }
-  for (const std::string_view nome : VociNascoste())
-    Voce(nome).setVisible(false);
-}
-
 void Form1::CollegaPulsanti() {
   for (int numero = 1; numero <= NumPulsanti; ++numero) {
     QAction& pulsante = Toolbar1->Pulsante(numero);
@@ -193,12 +142,6 @@ void Form1::PremutoPulsante(int numero) {
   });
 }
 
-QAction& Form1::Voce(std::string_view nome) const {
-  const auto trovata = voci_.find(nome);
-  Verifica(trovata != voci_.end(), "voce di menu sconosciuta");
-  return *trovata->second;
-}
-
 void Form1::Mostra() {
   setGeometry(screen()->availableGeometry());
   MostraAvvio();
@@ -215,6 +158,7 @@ void Form1::Esegui(const std::function<void()>& comando) {
   EseguiComandoDiFinestra(comando);
   Toolbar1->MostraStrumento(StrumentoAttivo());
   if (ComandoInCorso()) return;
+  EseguiComandoDiFinestra(RiferisciSullaCronologia);
   if (std::exchange(misuraCambiata_, false)) CambiataMisura();
   ApriRicevuti();
 }
@@ -345,30 +289,8 @@ bool Form1::EditPremuto() const {
   return Toolbar1->Pulsante(PulsanteEdit).isChecked();
 }
 
-void Form1::AbilitaVoce(std::string_view nome, bool abilitata) {
-  Voce(nome).setEnabled(abilitata);
-}
-
-void Form1::SpuntaVoce(std::string_view nome, bool spuntata) {
-  Voce(nome).setChecked(spuntata);
-}
-
-void Form1::ApriMenu(std::string_view nome) {
-  Voce(nome).menu()->popup(QCursor::pos());
-}
-
 void Form1::ScriviCommand1(std::string_view testo) {
   Command1->setText(AQt(testo));
-}
-
-void Form1::MettiGraficaAiMenu() {
-  for (const auto& [voce, immagine] : GraficaDeiMenu())
-    Voce(voce).setIcon(Immagine(immagine));
-}
-
-void Form1::MettiGraficaAMenuFile() {
-  for (const auto& [voce, immagine] : GraficaDelMenuFile())
-    Voce(voce).setIcon(Immagine(immagine));
 }
 
 // In a narrow window the buttons need its room.

@@ -89,6 +89,7 @@ class Form1 : public QMainWindow, public FinestraEditor {
   bool EditPremuto() const override;
   void AbilitaVoce(std::string_view nome, bool abilitata) override;
   void SpuntaVoce(std::string_view nome, bool spuntata) override;
+  void CompletaVoce(std::string_view nome, std::string_view oggetto) override;
   void ApriMenu(std::string_view nome) override;
   void ScriviCommand1(std::string_view testo) override;
   void MettiGraficaAiMenu() override;

@@ -10,6 +10,7 @@
 #include "editor/cell_editing.h"
 #include "editor/commands.h"
 #include "editor/file_commands.h"
+#include "editor/history_commands.h"
 #include "editor/resizing.h"
 #include "editor/windows/Form1.h"
 #include "output/interactive_page.h"
@@ -135,6 +136,9 @@ constexpr ComandoDiVoce comandi[] = {
     {"MenuL4", ImpostaLingua<4>},
     {"MenuVis", CommutaSoluzioni},
     {"Menurett", [](Form1&) { CommutaRettangoloParola(); }},
+    {"MenuAnnulla", [](Form1&) { AnnullaModifica(); }},
+    {"MenuRipeti", [](Form1&) { RipetiModifica(); }},
+    {"MenuCronologia", [](Form1&) { MostraCronologia(); }},
     {"MenuAiuto", [](Form1&) { ApriAiuto(); }},
     {"Menusugg", [](Form1&) { ApriSuggerimenti(); }},
     {"menuconsiglia", [](Form1&) { ConsigliaTelarium(); }},

@@ -85,6 +85,11 @@ constexpr VoceDiMenu voci[] = {
     {1, "MenuVis", "&Non visualizzare soluzioni in stampa"},
     {1, "Menurett", "&Visualizza rettangolo parola"},
 
+    {0, "MenuLaboratorio", "&Laboratorio"},
+    {1, "MenuAnnulla", "&Annulla modifica", "Alt+Backspace"},
+    {1, "MenuRipeti", "&Ripeti modifica", "Alt+Shift+Backspace"},
+    {1, "MenuCronologia", "Cronolo&gia..."},
+
     {0, "MenuHelp", "&?"},
     {1, "MenuAiuto", "&Aiuto", "F1"},
     {1, "Menusugg", "&Suggerimenti del giorno ..."},

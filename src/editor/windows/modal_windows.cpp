@@ -17,7 +17,9 @@
 #include "crossworddialogs/windows/FormNew.h"
 #include "crossworddialogs/windows/TelarSav.h"
 #include "dictionary/windows/Form4.h"
+#include "editor/windows/LavoroNonSalvato.h"
 #include "editor/windows/Settaggi.h"
+#include "editor/windows/StoriaDelleModifiche.h"
 #include "platform/check.h"
 
 namespace telarium {
@@ -53,12 +55,20 @@ struct VoceModale {
 };
 
 constexpr VoceModale finestre[] = {
-    {Modale::Settaggi, Mostra<Settaggi>}, {Modale::fONTEN, MostraConservata<fONTEN>},
-    {Modale::FormNew, Mostra<FormNew>},   {Modale::FormModels, Mostra<FormModels>},
-    {Modale::Form2, Mostra<Form2>},       {Modale::TelarSav, Mostra<TelarSav>},
-    {Modale::TelarBro, Mostra<TelarBro>}, {Modale::telariummdb, Mostra<telariummdb>},
-    {Modale::Form4, Mostra<Form4>},       {Modale::Form6, Mostra<Form6>},
-    {Modale::frmTip, Mostra<frmTip>},     {Modale::Form3, Mostra<Form3>},
+    {Modale::Settaggi, Mostra<Settaggi>},
+    {Modale::fONTEN, MostraConservata<fONTEN>},
+    {Modale::FormNew, Mostra<FormNew>},
+    {Modale::FormModels, Mostra<FormModels>},
+    {Modale::Form2, Mostra<Form2>},
+    {Modale::TelarSav, Mostra<TelarSav>},
+    {Modale::TelarBro, Mostra<TelarBro>},
+    {Modale::telariummdb, Mostra<telariummdb>},
+    {Modale::Form4, Mostra<Form4>},
+    {Modale::Form6, Mostra<Form6>},
+    {Modale::frmTip, Mostra<frmTip>},
+    {Modale::Form3, Mostra<Form3>},
+    {Modale::StoriaDelleModifiche, Mostra<StoriaDelleModifiche>},
+    {Modale::LavoroNonSalvato, Mostra<LavoroNonSalvato>},
 };
 
 }  // namespace
