@@ -22,14 +22,17 @@
 
 #include "editor/cell_editing.h"
 #include "editor/geometry.h"
+#include "editor/history_commands.h"
 #include "editor/startup.h"
 #include "editor/windows/Form1.h"
+#include "fixed_platform.h"
+#include "model/documento.h"
 #include "model/state.h"
-#include "platform/common/random_source.h"
 #include "platform/platform.h"
 #include "platform/qt/qt_dialog.h"
 #include "platform/qt/qt_platform.h"
 #include "telarium/desktop.h"
+#include "work_folder.h"
 
 // Takes the pictures of the guide: window_pictures DATA_FOLDER WORK_FOLDER PICTURE_FOLDER
 // They show the real windows, on a screen that nobody sees, in a copy of the data folder that is
@@ -39,36 +42,12 @@
 namespace telarium {
 namespace {
 
-constexpr QSize MainSize(1000, 700);      // logical pixels
-constexpr int Patience = 60'000;          // milliseconds
-constexpr int Glance = 20;                // milliseconds between two looks
-constexpr int ButtonSide = 48;            // pixels, shown at half the size
-constexpr std::uint64_t Seed = 20240305;  // with it a fill of the sample has a dead end
-constexpr std::chrono::year_month_day Today{std::chrono::year(2026), std::chrono::month(11),
-                                            std::chrono::day(23)};
+constexpr QSize MainSize(1000, 700);  // logical pixels
+constexpr int Patience = 60'000;      // milliseconds
+constexpr int Glance = 20;            // milliseconds between two looks
+constexpr int ButtonSide = 48;        // pixels, shown at half the size
 constexpr const char* Sample = "Archivio cruciverba/A tavola.tlrm";
 constexpr const char* SmallSample = "Archivio cruciverba/Primo incontro.tlrm";
-
-// The user's machine without chance, time and network.
-class FixedMachine : public MacchinaQt {
- public:
-  std::chrono::year_month_day Oggi() override { return Today; }
-  double Casuale() override { return random_.Prossimo(); }
-  Prelevato Preleva(const std::string&, const LimitiDiPrelievo&, const ProseguePrelievo&) override {
-    return {};
-  }
-
- private:
-  SorgenteCasuale random_{Seed};
-};
-
-class FixedPlatform : public PiattaformaQt {
- public:
-  Macchina& Sistema() override { return machine_; }
-
- private:
-  FixedMachine machine_;
-};
 
 bool IsBlank(const QImage& image) {
   for (int y = 0; y < image.height(); ++y)
@@ -266,13 +245,16 @@ void TakeMain(Studio& studio) {
   }
 }
 
+void TakeMenu(Studio& studio, const char* name) {
+  QMenu& menu = *studio.form.Voce(name).menu();
+  menu.ensurePolished();
+  menu.resize(menu.sizeHint());
+  studio.Save(menu.grab(), QByteArray(name).toLower().constData());
+}
+
 void TakeMenus(Studio& studio) {
-  for (const char* name : {"MenuFile", "MenuEdit", "MenuUtiliti", "Menupz", "MenuHelp"}) {
-    QMenu& menu = *studio.form.Voce(name).menu();
-    menu.ensurePolished();
-    menu.resize(menu.sizeHint());
-    studio.Save(menu.grab(), QByteArray(name).toLower().constData());
-  }
+  for (const char* name : {"MenuFile", "MenuEdit", "MenuUtiliti", "Menupz", "MenuHelp"})
+    TakeMenu(studio, name);
 }
 
 void TakePreview(Studio& studio) {
@@ -337,6 +319,39 @@ void TakeFillProgress(Studio& studio) {
   if (!taken) studio.Fail("the run did not come to as many words as", "fill_progress");
 }
 
+void MakeBlack(Studio& studio, int column, int row) {
+  studio.Command("MenuCN");
+  QTest::mouseClick(studio.form.Area, Qt::LeftButton, {}, InCell(column, row));
+}
+
+// Some changes, the last of them taken back; then what the next start offers of them.
+void TakeHistory(Studio& studio) {
+  std::chrono::sys_seconds now{
+      std::chrono::seconds(QDate(2026, 11, 23).startOfDay().addSecs(15 * 3600).toSecsSinceEpoch())};
+  const auto clock = [&now] { return now += std::chrono::seconds(40); };
+  const Percorso folder = CartellaProgramma / "cronologia";
+  IlDocumento().SegnaModificato(false);  // nobody is asked whether to save the fill
+  Open(studio, Sample);
+  {
+    Cronologia history(IlDocumento(), folder, clock);
+    ImpostaCronologia(&history);
+    MakeBlack(studio, 3, 2);
+    MakeBlack(studio, 11, 10);
+    studio.Command("MenuAC");
+    studio.Command("MenuTC");
+    MakeBlack(studio, 7, 4);
+    studio.Command("MenuAnnulla");
+    TakeMenu(studio, "MenuLaboratorio");
+    studio.During("MenuCronologia",
+                  [&](QWidget& window) { studio.Save(window, "storiadellemodifiche"); });
+  }
+  Cronologia next(IlDocumento(), folder, clock);
+  ImpostaCronologia(&next);
+  studio.OnWindow([&](QWidget& window) { studio.Save(window, "lavorononsalvato"); });
+  OffriLavoroPerso();
+  ImpostaCronologia(nullptr);
+}
+
 // The form and the platform as in the program, the first activation done. The tips are not wanted
 // at the start, but later by the menu entry.
 void Begin(FixedPlatform& platform, Form1& form) {
@@ -359,39 +374,12 @@ bool TakeAll(const QString& pictures) {
   Form1 form;
   Begin(platform, form);
   Studio studio(platform, form, pictures);
-  for (const auto take : {TakeMain, TakeMenus, TakeMenuWindows, TakePreview, TakeClueEditor,
-                          TakeTableOfEncyclopedia, TakeMessages, TakeDeadEnd, TakeFillProgress})
+  for (const auto take :
+       {TakeMain, TakeMenus, TakeMenuWindows, TakePreview, TakeClueEditor, TakeTableOfEncyclopedia,
+        TakeMessages, TakeDeadEnd, TakeFillProgress, TakeHistory})
     take(studio);
   return !studio.Failed();
 }
-
-bool CopyFolder(const QDir& from, const QDir& to) {
-  if (!to.mkpath(QStringLiteral("."))) return false;
-  for (const QString& name : from.entryList(QDir::Files))
-    if (!QFile::copy(from.filePath(name), to.filePath(name))) return false;
-  for (const QString& name : from.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-    if (!CopyFolder(from.filePath(name), to.filePath(name))) return false;
-  return true;
-}
-
-// A copy of the data folder, as long as this object lives.
-class WorkFolder {
- public:
-  WorkFolder(const QString& name, const QDir& data) : folder_(QDir(name).absolutePath()) {
-    if (folder_.exists()) throw std::runtime_error("there is already " + name.toStdString());
-    if (CopyFolder(data, folder_)) return;
-    folder_.removeRecursively();
-    throw std::runtime_error("cannot copy the data folder to " + name.toStdString());
-  }
-  ~WorkFolder() { folder_.removeRecursively(); }
-  WorkFolder(const WorkFolder&) = delete;
-  WorkFolder& operator=(const WorkFolder&) = delete;
-
-  std::string Path() const { return QFile::encodeName(folder_.path()).toStdString(); }
-
- private:
-  QDir folder_;
-};
 
 // One screen of a usual size, for the platform that shows nothing.
 void DescribeScreen(const QString& file) {

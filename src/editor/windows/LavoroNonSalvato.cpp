@@ -70,7 +70,7 @@ void LavoroNonSalvato::CreaControlli() {
   Recupera = Pulsante(QStringLiteral("Recupera"), QStringLiteral("&Recupera"),
                       QStringLiteral("Apre il cruciverba scelto com'era"), this);
   Recupera->setDefault(true);
-  Elimina = Pulsante(QStringLiteral("Elimina"), QStringLiteral("&Elimina..."),
+  Elimina = Pulsante(QStringLiteral("Elimina"), QStringLiteral("&Elimina"),
                      QStringLiteral("Rinuncia alle modifiche non salvate"), this);
   DecidiDopo = Pulsante(QStringLiteral("DecidiDopo"), QStringLiteral("&Decidi dopo"),
                         QStringLiteral("Lascia tutto com'è, fino al prossimo avvio"), this);
