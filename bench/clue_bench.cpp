@@ -19,6 +19,7 @@
 #include "editor/settings.h"
 #include "median_keeper.h"
 #include "model/crossword_file.h"
+#include "model/documento.h"
 #include "model/words.h"
 #include "offscreen_main.h"
 #include "platform/temporary.h"
@@ -95,7 +96,7 @@ void BM_PlainFetch(benchmark::State& state) {
     for (const ChiaveRiga& key : keys)
       rows.push_back(store->LeggiRiga(key.numero));
     SetClues([&](const Slot& slot) -> std::string {
-      const std::string word = LettereDi(slot);
+      const std::string word = IlDocumento().Derivata().Lettere(slot);
       const auto row = std::find_if(rows.begin(), rows.end(),
                                     [&](const RigaParole& one) { return one.parola == word; });
       if (row == rows.end()) return {};

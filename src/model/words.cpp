@@ -11,13 +11,4 @@ Slot SlotDa(Casella casella, int direzione) {
   return {casella, direzione, static_cast<int>(parola.size())};
 }
 
-std::string LettereDi(const Slot& slot) {
-  std::string lettere;
-  for (int k = 1; k <= slot.lunghezza; ++k) {
-    const Casella cella = slot.Cella(k);
-    lettere += LetteraCasella(cella.colonna, cella.riga);
-  }
-  return lettere;
-}
-
 }  // namespace telarium

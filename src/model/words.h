@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "model/state.h"
 
 // The words of the grid: runs of at least two white cells in a row or a column.
@@ -18,9 +16,6 @@ bool IniziaParola(Casella casella, int direzione);
 
 /// The word that starts at the cell in that direction; its length is that of ParolaCasella.
 Slot SlotDa(Casella casella, int direzione);
-
-/// The characters of the word's cells as they stand in LetteraCasella.
-std::string LettereDi(const Slot& slot);
 
 /// Calls `visita` with each word of the grid: by rows, in a row by columns, at a cell the
 /// horizontal word before the vertical one.

@@ -259,10 +259,19 @@ TEST_F(Chronology, SeveralStrokesOfOneCommandAreOneStep) {
   {
     const PassoUnico step(session->Document(), "Riempimento");
     session->Letter({1, 1}, 'X');
-    session->Letter({2, 1}, 'Y');
+    {
+      const PassoUnico within(session->Document(), "Parola");
+      session->Letter({2, 1}, 'Y');
+    }
+    session->Letter({3, 1}, 'Z');
   }
   EXPECT_EQ(session->History().DaAnnullare(), "Riempimento");
-  EXPECT_EQ(After("<>"), "AAAA uno, XYAA uno*");
+  EXPECT_EQ(After("<>"), "AAAA uno, XYZA uno*");
+  {
+    const PassoUnico step(session->Document(), "Riempimento");
+    session->Open("due");
+  }
+  EXPECT_EQ(session->History().DaAnnullare(), "Apertura di due");
 }
 
 TEST_F(Chronology, TwoProgramsWithOneCrosswordHaveALineEach) {

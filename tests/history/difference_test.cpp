@@ -90,7 +90,7 @@ TEST(CrosswordDifference, NothingPastTheLimitsOfACrosswordIsTaken) {
       "I",
       "X",
       "\x80",
-      Part('N', {2}) + std::string(12, '\xFF'),
+      Part('N', {}) + std::string(12, '\xFF'),
   };
   const Cruciverba small = DrawnCrossword({"CA#", ".B."});
   for (const std::string& one : bad)

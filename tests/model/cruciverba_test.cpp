@@ -103,6 +103,8 @@ TEST(CrosswordValue, AFaultHasItsPartAndItsLine) {
       {Unisci(Head, "].[.D*\nH.\x19.H."), Griglia, 6},
       {Unisci(grid, "  1  11-x\r\n\r\n"), Definizioni, 8},
       {Unisci(grid, "  1  11-x\r\n[Laboratorio]\r\n"), Definizioni, 8},
+      {Unisci(grid, "  0  11-x\r\n"), Definizioni, 7},
+      {Unisci(grid, "  1  01-x\r\n"), Definizioni, 7},
       {Unisci(grid, "[Colori caselle]\r\n0 0\r\n0 x"), Colori, 9},
       {Unisci(grid, "[Colori caselle]\r\nx\r\n[Laboratorio]\r\n", lines, "\r\n", lines),
        ParteDelFile::Laboratorio, 9},
