@@ -8,9 +8,9 @@
 #include "editor/activation.h"
 #include "editor/cell_editing.h"
 #include "editor/commands.h"
-#include "editor/commit.h"
 #include "editor/file_commands.h"
 #include "editor/fill_command.h"
+#include "editor/history_commands.h"
 #include "editor/resizing.h"
 #include "editor/settings.h"
 #include "editor/startup.h"
@@ -18,6 +18,7 @@
 #include "history/chronology.h"
 #include "history/difference.h"
 #include "history/file_state.h"
+#include "model/crossword_file.h"
 #include "model/crossword_writer.h"
 #include "model/documento.h"
 #include "output/web_opening.h"
@@ -98,9 +99,10 @@ class Listener : public OsservatoreDelDocumento {
       : history_(IlDocumento(), folder,
                  [] { return std::chrono::sys_seconds(std::chrono::seconds(1)); }) {
     IlDocumento().Osserva(this);
+    ImpostaCronologia(&history_);
   }
+  ~Listener() override { ImpostaCronologia(nullptr); }
 
-  Cronologia& History() { return history_; }
   Shot Take() const { return {crossword_, DifferenzaTra({}, IlDocumento().Valore())}; }
 
   void Modificato(const std::string& why) override {
@@ -134,17 +136,17 @@ class Listener : public OsservatoreDelDocumento {
   }
 
   void Undo() {
-    if (!undo_.empty()) Move(undo_, redo_, &Cronologia::Annulla);
+    if (!undo_.empty()) Move(undo_, redo_, AnnullaModifica);
   }
   void Redo() {
-    if (!redo_.empty()) Move(redo_, undo_, &Cronologia::Ripeti);
+    if (!redo_.empty()) Move(redo_, undo_, RipetiModifica);
   }
   // Where it leads the plain way does not know the states around.
   void GoTo(int chance) {
     const Linea* line = history_.LineaAperta();
     if (!line) return;
     const std::size_t place = static_cast<std::size_t>(chance) % line->Quanti();
-    history_.VaiA(place);
+    VaiAllaModifica(place);
     Arrive({crossword_, DifferenzaTra({}, (*line)[place].cruciverba)});
     undo_.clear();
     redo_.clear();
@@ -163,11 +165,11 @@ class Listener : public OsservatoreDelDocumento {
     redo_.clear();
   }
 
-  void Move(std::vector<Kept>& from, std::vector<Kept>& to, void (Cronologia::*move)()) {
+  void Move(std::vector<Kept>& from, std::vector<Kept>& to, void (*move)()) {
     const Kept there = from.back();
     from.pop_back();
     to.push_back({there.why, last_});
-    (history_.*move)();
+    move();
     Arrive(there.shot);
   }
 
@@ -178,7 +180,7 @@ class Listener : public OsservatoreDelDocumento {
     EXPECT_EQ(NomeCruciverba, names_[crossword_]);
     const StatoDelDocumento& state = IlDocumento().Stato();
     EXPECT_EQ(SchemaModificato != Falso, DiversoDalFile(state.cruciverba, state.file));
-    if (ConsolidaSchema()) {
+    if (CartellaIstantanea.empty()) {
       EXPECT_EQ(IlDocumento().Istantanea().impronta, ImprontaDi(TestoDelCruciverba().value()));
     }
   }
