@@ -9,10 +9,12 @@
 #include "crossworddialogs/new_crossword.h"
 #include "editor/cell_editing.h"
 #include "editor/commit.h"
+#include "editor/history_commands.h"
 #include "editor/redraw.h"
 #include "editor/startup.h"
 #include "editor/windows/Form1.h"
 #include "median_keeper.h"
+#include "model/documento.h"
 #include "model/words.h"
 #include "offscreen_main.h"
 #include "platform/temporary.h"
@@ -83,6 +85,18 @@ void BM_Click(benchmark::State& state, Form1& form) {
   }
 }
 
+// A whole fill of the largest grid taken back and brought again, each with its redraw.
+void BM_UndoAndRedo(benchmark::State& state, Form1& form) {
+  FullGrid();
+  SetCells([](int c, int r) { return static_cast<char>('A' + (c * r) % 21); });
+  for (auto _ : state) {
+    AnnullaModifica();
+    RipetiModifica();
+    benchmark::DoNotOptimize(form.Area->Superficie().Immagine());
+  }
+  if (CarattereDi(IlDocumento().Valore(), {1, 1}) != 'B') abort();
+}
+
 void OpenModelGrid() {
   if (NuovoDaModello(CartellaProgramma / NomeModelliIniziale, ModelNumber) != EsitoNuovo::Fatto) {
     abort();
@@ -120,6 +134,8 @@ void PrintTable(std::map<std::string, double>& medians) {
   std::printf("| repaint of it | %.2f | under 2 |\n", medians["repaint"]);
   std::printf("| click to screen, a cell of it turns black or white | %.2f | under 30 |\n",
               medians["click"]);
+  std::printf("| undo or redo of a whole fill of it, with the redraw | %.2f | under 16 |\n",
+              medians["undo"] / 2);
   std::printf("| an attempt of the endless run, 13x13: searching | %.2f | |\n", hidden);
   std::printf("| what its painting adds | %.2f | less than the searching |\n", shown - hidden);
 }
@@ -130,6 +146,10 @@ int Main() {
   ImpostaPiattaforma(&platform);
   CaricaProgramma(TELARIUM_DATA_DIR);
   CartellaIstantanea = temporary.Nome();
+  Cronologia history(IlDocumento(), temporary.Nome() / "passi", [] {
+    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+  });
+  ImpostaCronologia(&history);
   Form1 form;
   platform.surface = &form.Area->Superficie();
   platform.hasWindow = true;
@@ -142,6 +162,7 @@ int Main() {
   Register("redraw", [&](benchmark::State& state) { BM_Redraw(state, form); });
   Register("repaint", [&](benchmark::State& state) { BM_Repaint(state, form); });
   Register("click", [&](benchmark::State& state) { BM_Click(state, form); });
+  Register("undo", [&](benchmark::State& state) { BM_UndoAndRedo(state, form); });
   Register("attempts/hidden",
            [&](benchmark::State& state) { BM_Attempts(state, platform, form, false); });
   Register("attempts/shown",
